@@ -1,0 +1,41 @@
+#include "tests/support/ExpectedWarning.h"
+
+#include <QtGlobal>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+QStringList& expectedParts() {
+    static QStringList parts;
+    return parts;
+}
+
+void handleMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
+    const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg;
+    const bool isExpected = std::any_of(expectedParts().cbegin(), expectedParts().cend(),
+                                        [&](const QString& part) { return message.contains(part); });
+    if (isWarning && !isExpected)
+        ADD_FAILURE() << "unexpected warning of the toolkit: " << message.toStdString();
+    else
+        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+    if (type == QtFatalMsg)
+        std::abort();
+}
+
+} // namespace
+
+ExpectedWarning::ExpectedWarning(const QString& part) {
+    expectedParts().append(part);
+}
+
+ExpectedWarning::~ExpectedWarning() {
+    expectedParts().removeLast();
+}
+
+void failOnUnexpectedWarnings() {
+    qInstallMessageHandler(handleMessage);
+}

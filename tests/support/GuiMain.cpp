@@ -1,0 +1,13 @@
+#include "tests/support/ExpectedWarning.h"
+
+#include <QApplication>
+
+#include <gmock/gmock.h>
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    testing::InitGoogleMock(&argc, argv);
+    failOnUnexpectedWarnings();
+    return RUN_ALL_TESTS();
+}
