@@ -1,0 +1,71 @@
+#pragma once
+
+#include "host/Types.h"
+
+#include <cstdint>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+/// A value on its way to or from the database; std::monostate is null.
+///
+/// Results bring numbers of documents (quantities, prices, discounts) and dates as text in the user's locale, ready for
+/// a cell; identifiers and counts come as integers. Text parameters that mean numbers are understood with point or
+/// comma.
+using TDbValue = std::variant<std::monostate, std::int64_t, double, bool, AnsiString>;
+
+struct TDbParam {
+    AnsiString Name;
+    TDbValue Value;
+};
+
+/// One call of a stored procedure. `Params` stand in the order in which the caller touched them; a declared parameter
+/// that is missing here is null. With `Open` the result sets are wanted, without it they are dropped.
+struct TProcedureCall {
+    AnsiString Name;
+    std::vector<TDbParam> Params;
+    bool Open = false;
+};
+
+/// One result set: upper-case column names and rows of as many values.
+struct TResultTable {
+    std::vector<AnsiString> Columns;
+    std::vector<std::vector<TDbValue>> Rows;
+};
+
+/// What a call brought. `Success` is false for a failure that the host chose to report without an error.
+struct TCallResult {
+    bool Success = true;
+    std::vector<TResultTable> Sets;
+    std::vector<TDbParam> Outputs;
+};
+
+/// The parameters that a procedure declares, in its own spelling ("a_DODKID").
+struct TProcedureInfo {
+    std::vector<AnsiString> Inputs;
+    std::vector<AnsiString> Outputs;
+};
+
+/// The host's open database connection. Implemented by the host, once an engine; the module reaches it through
+/// TLiveStoredProc and TLiveQuery only. Names of procedures, parameters and columns are matched without regard to case.
+/// Used on the user-interface thread only.
+class TConnection {
+public:
+    TConnection() = default;
+    TConnection(const TConnection&) = delete;
+    TConnection& operator=(const TConnection&) = delete;
+    virtual ~TConnection();
+
+    /// Throws EDatabaseError naming the procedure when the database has none of that name.
+    virtual TProcedureInfo Describe(const AnsiString& procedure) = 0;
+
+    /// Runs the call in a transaction of its own and fetches all its result sets before it returns.
+    /// Throws EDatabaseError for a refusal (Code() is set), an unknown procedure or parameter, or a lost link.
+    virtual TCallResult Execute(const TProcedureCall& call) = 0;
+
+    /// Runs one reading statement. Throws EDatabaseError.
+    virtual TResultTable Query(const AnsiString& sql) = 0;
+};
+
+/// Whether two database names are the same: ASCII letters without regard to case.
+bool SameDbName(std::string_view left, std::string_view right);

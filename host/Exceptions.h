@@ -1,0 +1,68 @@
+#pragma once
+
+#include "host/Types.h"
+
+#include <exception>
+
+/// The framework's message-carrying base exception. The message is a sentence for the user, in UTF-8.
+///
+/// Every class below has an out-of-line destructor, so that its type information lives in the contract library alone
+/// and an exception thrown in a plug-in is caught by type in the host.
+class Exception : public std::exception {
+public:
+    explicit Exception(AnsiString message);
+    Exception(const Exception&) = default;
+    Exception& operator=(const Exception&) = default;
+    ~Exception() override;
+
+    const char* what() const noexcept override;
+    const AnsiString& Message() const noexcept;
+
+private:
+    AnsiString FMessage;
+};
+
+/// A text does not convert to the wanted type, or a format text and its arguments do not fit.
+class EConvertError : public Exception {
+public:
+    using Exception::Exception;
+    EConvertError(const EConvertError&) = default;
+    EConvertError& operator=(const EConvertError&) = default;
+    ~EConvertError() override;
+};
+
+/// A file could not be read or written.
+class EInOutError : public Exception {
+public:
+    using Exception::Exception;
+    EInOutError(const EInOutError&) = default;
+    EInOutError& operator=(const EInOutError&) = default;
+    ~EInOutError() override;
+};
+
+/// The database refused or failed, or a field, parameter or procedure is missing.
+class EDatabaseError : public Exception {
+public:
+    /// `code` is the database's own refusal code (empty when it gave none): a translation is looked up by it.
+    /// `details` is what an administrator needs (engine, statement, position); it is never shown in front.
+    explicit EDatabaseError(AnsiString message, AnsiString code = {}, AnsiString details = {});
+    EDatabaseError(const EDatabaseError&) = default;
+    EDatabaseError& operator=(const EDatabaseError&) = default;
+    ~EDatabaseError() override;
+
+    const AnsiString& Code() const noexcept;
+    const AnsiString& Details() const noexcept;
+
+private:
+    AnsiString FCode;
+    AnsiString FDetails;
+};
+
+/// A host service was asked for while no host is installed, or the host cannot give it.
+class EHostError : public Exception {
+public:
+    using Exception::Exception;
+    EHostError(const EHostError&) = default;
+    EHostError& operator=(const EHostError&) = default;
+    ~EHostError() override;
+};

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "host/Format.h"
+#include "host/Types.h"
+
+#include <initializer_list>
+#include <string_view>
+
+/// The user's translation of the backslash-separated language key, or `fallback` when there is none, in either case
+/// formatted with `arguments` by Format (also when there are none: "%%" becomes "%"). Needs a current host.
+AnsiString LangStr(std::string_view key, std::initializer_list<TFormatArg> arguments, std::string_view fallback);
+
+/// The field of `text` at `index`, counted from 0, when `separator` parts the fields; empty when there are fewer.
+AnsiString GetWord(std::string_view text, int index, char separator);

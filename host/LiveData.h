@@ -1,0 +1,110 @@
+#pragma once
+
+#include "host/Connection.h"
+#include "host/DataSet.h"
+#include "host/Types.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+/// A parameter of a stored procedure. Input parameters are set before the call, output parameters read after it.
+class TLiveParam {
+public:
+    explicit TLiveParam(AnsiString name);
+
+    const AnsiString& Name() const { return FName; }
+    void SetAsInteger(std::int32_t value);
+    void SetAsFloat(double value);
+    void SetAsBoolean(bool value);
+    void SetAsString(AnsiString value);
+    /// Makes the parameter null.
+    void Clear();
+
+    bool IsNull() const;
+    /// False for null; see TField::AsBoolean.
+    bool AsBoolean() const;
+    const TDbValue& Value() const { return FValue; }
+
+private:
+    friend class TLiveStoredProc;
+    AnsiString FName;
+    TDbValue FValue;
+};
+
+/// The rows that a procedure or query brought, read one after the other. Fields of an empty result are null.
+class TLiveResult {
+public:
+    /// Whether the reading position is behind the last row.
+    bool Eof() const;
+    void Next();
+    /// The value in the current row; null when there is no row. Throws EDatabaseError naming the column when the result
+    /// has none of that name.
+    TField FieldByName(std::string_view column) const;
+    bool HasField(std::string_view column) const;
+
+protected:
+    TLiveResult() = default;
+    ~TLiveResult() = default;
+    void SetTables(std::vector<TResultTable> tables);
+    bool NextTable();
+
+private:
+    const TResultTable* Table() const;
+
+    std::vector<TResultTable> FTables;
+    std::size_t FTable = 0;
+    std::size_t FRow = 0;
+};
+
+/// A stored procedure on the current host's connection, for one call:
+///
+///     TLiveStoredProc proc("NAME");
+///     proc.ParamByName("a_ID").SetAsInteger(id);
+///     proc.Exec(true);
+///     for (; !proc.Eof(); proc.Next()) use(proc.FieldByName("NAZEV").AsString());
+///
+/// Parameters travel in the order in which ParamByName first named them.
+class TLiveStoredProc : public TLiveResult {
+public:
+    /// Needs a current host; the database is not asked yet.
+    explicit TLiveStoredProc(AnsiString name);
+    TLiveStoredProc(const TLiveStoredProc&) = delete;
+    TLiveStoredProc& operator=(const TLiveStoredProc&) = delete;
+    ~TLiveStoredProc();
+
+    /// Throws EDatabaseError when there is no such procedure or it does not declare the name. The reference stays valid
+    /// for the life of the object.
+    TLiveParam& ParamByName(std::string_view name);
+    bool HasParam(std::string_view name);
+
+    /// Runs the procedure; with `open` its first result set is positioned on its first row. False for a failure that
+    /// the host chose not to raise; otherwise a failure throws EDatabaseError.
+    bool Exec(bool open);
+    /// Moves to the next result set; false when there is none.
+    bool Resume();
+
+private:
+    const TProcedureInfo& Info();
+
+    AnsiString FName;
+    std::unique_ptr<TProcedureInfo> FInfo;
+    std::vector<std::unique_ptr<TLiveParam>> FParams;
+};
+
+/// A query of a fixed text on the current host's connection.
+class TLiveQuery : public TLiveResult {
+public:
+    explicit TLiveQuery(AnsiString sql);
+    TLiveQuery(const TLiveQuery&) = delete;
+    TLiveQuery& operator=(const TLiveQuery&) = delete;
+    ~TLiveQuery();
+
+    /// Runs it and stands on the first row.
+    void LiveOpen();
+
+private:
+    AnsiString FSql;
+};

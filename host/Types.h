@@ -1,0 +1,11 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+/// Text as stores, rules, documents, files and database values speak it: UTF-8 bytes without a terminator of their own.
+/// It becomes a toolkit string at the widget boundary and nowhere else.
+using AnsiString = std::string;
+
+/// A calendar moment without a time zone, to the second, as the documents of the host carry it.
+using TDateTime = std::chrono::local_seconds;
