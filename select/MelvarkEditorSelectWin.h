@@ -1,0 +1,102 @@
+#pragma once
+
+#include "host/Types.h"
+#include "host/widgets/Form.h"
+#include "select/SourceTable.h"
+
+class TLibraryManager;
+class TQelPngBitBtn;
+class TQelPngSpeedButton;
+class QCheckBox;
+class QKeyEvent;
+class QLabel;
+class QLineEdit;
+
+/// The selection's own failures.
+class ESelectBox : public Exception {
+public:
+    using Exception::Exception;
+    ESelectBox(const ESelectBox&) = default;
+    ESelectBox& operator=(const ESelectBox&) = default;
+    ~ESelectBox() override;
+};
+
+/// The modal dialog in which the user names the one source from which an editor pre-fills its lines: by typing its
+/// number (a supplier's name) or by picking it from the host's lookup list. On OK the database checks it.
+///
+/// Call one of the seven set-ups after construction, show it modally, and on OK read GetID and the transfer options. It
+/// fills no grid and knows no rule about which source is admissible: the set-ups are rows of SourceTable.
+class TSelectBox : public TForm {
+    Q_OBJECT
+
+public:
+    TSelectBox(TComponent* aOwner, TLibraryManager* aLibraryManager);
+    ~TSelectBox() override;
+
+    /// The id of the chosen source, -1 when none. It falls back to -1 with every change of the text.
+    int GetID() const { return FID; }
+    bool GetPrenesMnozstvi() const;
+    bool GetPrenesCeny() const;
+
+    /// For a delivery note: its id and its supplier's.
+    void DodakSelectFromObjednavka(int aDocID, int aDodvID);
+    void DodakSelectFromDodak(int aDocID, int aDodvID);
+    /// For a supplier order or template: its id, its warehouse's, its supplier's.
+    void DodObjSelectFromObjednavkaVzor(int aDocID, int aSkldID, int aDodvID);
+    void DodObjSelectFromObjednavka(int aDocID, int aSkldID, int aDodvID);
+    void DodObjSelectFromDodak(int aDocID, int aSkldID, int aDodvID);
+    /// A supplier whose price list holds at the moment.
+    void DodObjSelectFromDodCenik(int aDocID, TDateTime aDate);
+    /// A supplier who delivered before the moment; a document that has a supplier offers only that one.
+    void DodObjSelectFromDodavky(int aDocID, const AnsiString& aDodavatel, TDateTime aDate);
+
+    /// The check and the lookup of each set-up: what OK, and what F5 or the button, run. A check throws EDatabaseError
+    /// when the database rejects the source.
+    void DodakSelectFromObjednavkaCheck();
+    void DodakSelectFromObjednavkaShowDlg();
+    void DodakSelectFromDodakCheck();
+    void DodakSelectFromDodakShowDlg();
+    void DodObjSelectFromObjednavkaVzorCheck();
+    void DodObjSelectFromObjednavkaVzorShowDlg();
+    void DodObjSelectFromObjednavkaCheck();
+    void DodObjSelectFromObjednavkaShowDlg();
+    void DodObjSelectFromDodakCheck();
+    void DodObjSelectFromDodakShowDlg();
+    void DodObjSelectFromDodCenikCheck();
+    void DodObjSelectFromDodCenikShowDlg();
+    void DodObjSelectFromDodavkyCheck();
+    void DodObjSelectFromDodavkyShowDlg();
+
+    void OkBtnClick(TObject* Sender);
+    void editSelectChange(TObject* Sender);
+    void editSelectKeyDown(TObject* Sender, QKeyEvent& key);
+    void SelectSpeedButtonClick(TObject* Sender);
+
+protected:
+    void FormCreate();
+    void FormShow() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    using TOperation = void (TSelectBox::*)();
+
+    void BuildControls();
+    void SetUp(const RSourceSetup& setup, const RSourceArguments& arguments, TOperation check, TOperation showDlg);
+    void Check(const RSourceSetup& setup);
+    void ShowDlg(const RSourceSetup& setup);
+
+    TLibraryManager* FLibraryManager;
+    RSourceArguments FArguments;
+    TOperation FCheck = nullptr;
+    TOperation FShowDlg = nullptr;
+    int FID = -1;
+
+    QLabel* lblSelect = nullptr;
+    QLineEdit* editSelect = nullptr;
+    TQelPngSpeedButton* SelectSpeedButton = nullptr;
+    QLabel* lblPrenest = nullptr;
+    QCheckBox* chbMnozstvi = nullptr;
+    QCheckBox* chbCeny = nullptr;
+    TQelPngBitBtn* OkBtn = nullptr;
+    TQelPngBitBtn* CancelBtn = nullptr;
+};
