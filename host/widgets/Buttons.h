@@ -1,0 +1,81 @@
+#pragma once
+
+#include "host/Types.h"
+#include "host/widgets/Vocabulary.h"
+
+#include <QPointer>
+#include <QPushButton>
+#include <QToolButton>
+
+/// A push button with an image and a modal result.
+///
+/// A click sets the form's modal result to the button's, runs the click handler, and then looks at the form's result:
+/// a handler that sets it back to 0 keeps the form open. An error in the handler is shown and keeps the form open too.
+/// Enter on the focused button clicks it.
+class TQelPngBitBtn : public QPushButton {
+    Q_OBJECT
+
+public:
+    explicit TQelPngBitBtn(QWidget* parent);
+
+    AnsiString Caption() const;
+    void SetCaption(const AnsiString& caption);
+    int ModalResult() const { return FModalResult; }
+    void SetModalResult(int result) { FModalResult = result; }
+    void SetOnClick(TNotifyEvent handler) { FOnClick = std::move(handler); }
+    /// The default button of its form is clicked by Enter in any control that does not use the key itself.
+    bool Default() const { return isDefault(); }
+    void SetDefault(bool isDefaultButton) { setDefault(isDefaultButton); }
+    /// A null image removes it.
+    void SetGlyph(const TPngObject& png);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Click();
+
+    int FModalResult = 0;
+    TNotifyEvent FOnClick;
+};
+
+/// A small image button that never takes the focus: the control that had it keeps it during the click.
+class TQelPngSpeedButton : public QToolButton {
+    Q_OBJECT
+
+public:
+    explicit TQelPngSpeedButton(QWidget* parent);
+
+    /// The handler is guarded.
+    void SetOnClick(TNotifyEvent handler) { FOnClick = std::move(handler); }
+    void SetGlyph(const TPngObject& png);
+
+private:
+    TNotifyEvent FOnClick;
+};
+
+/// A button with a caption that drops down an attached popup menu. A menu without a visible item is not opened: it
+/// would block the keyboard unseen.
+class TMenuButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    explicit TMenuButton(QWidget* parent);
+
+    AnsiString Caption() const;
+    /// The text is data (the name of a setting) and is shown letter for letter.
+    void SetCaption(const AnsiString& caption);
+    TPopupMenu* PopupMenu() const;
+    /// The menu is not owned.
+    void SetPopupMenu(TPopupMenu* menu);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void initStyleOption(QStyleOptionButton* option) const override;
+
+private:
+    void DropDown();
+
+    AnsiString FCaption;
+    QPointer<QMenu> FMenu;
+};

@@ -1,0 +1,153 @@
+#pragma once
+
+#include "host/Types.h"
+#include "host/widgets/Vocabulary.h"
+
+#include <QTableView>
+
+#include <functional>
+#include <vector>
+
+class TStringGridModel;
+
+/// How one data cell looks: the text shown (which may differ from the cell's text), its place and weight.
+struct TCellLook {
+    AnsiString Text;
+    Qt::AlignmentFlag Align = Qt::AlignLeft; ///< AlignLeft, AlignHCenter or AlignRight.
+    bool Bold = false;
+};
+
+/// Gives the look of the data cell at a grid column and row (both at least 1). Called while painting: it reads, and
+/// changes nothing.
+using TCellPresentation = std::function<TCellLook(int col, int row)>;
+
+/// The framework's string grid: a table of texts in grid coordinates, where row 0 is the fixed header row and column 0
+/// the fixed, narrow indicator column. Columns are sized and moved with the mouse on the header.
+///
+/// It has no editing of its own: it asks for an editor with EditorWanted, and whoever owns the grid lays a control over
+/// CellRect. Painting never asks. All cells have the same background; the current cell of a focused grid has a thin
+/// frame. Fewer columns than 2 or fewer rows than 2 leave only the fixed ones.
+///
+/// Set the counts first, then texts, widths and the presentation.
+class TStringGrid : public QTableView {
+    Q_OBJECT
+
+public:
+    /// Width of the border around the client area in which CellRect counts, in pixels.
+    static constexpr int c_BorderWidth = 2;
+
+    explicit TStringGrid(QWidget* parent);
+    ~TStringGrid() override;
+
+    int ColCount() const;
+    int RowCount() const;
+    void SetColCount(int count);
+    void SetRowCount(int count);
+    /// What the owner says about fixed columns and rows (0 or 1). The header row and the indicator column are always
+    /// painted as such.
+    int FixedCols() const { return FFixedCols; }
+    int FixedRows() const { return FFixedRows; }
+    void SetFixedCols(int count) { FFixedCols = count; }
+    void SetFixedRows(int count) { FFixedRows = count; }
+
+    /// The text of a cell, header cells included; empty outside the counts, where writing has no effect.
+    const AnsiString& Cells(int col, int row) const;
+    void SetCells(int col, int row, AnsiString text);
+    /// All texts of a column from row 1 on, at once.
+    void SetColumnCells(int col, std::vector<AnsiString> texts);
+
+    /// Whole-column shifts with texts and widths; none of them tells the owner. `col` counts from 1.
+    void InsertColumn(int col);
+    void DeleteColumn(int col);
+    void MoveColumn(int from, int to);
+
+    /// Inner widths and heights of cells in pixels, without the grid line.
+    int ColWidths(int col) const;
+    void SetColWidths(int col, int width);
+    int RowHeight() const;
+    void SetRowHeight(int height);
+
+    /// The current cell. Before a cell was current, the column is 0 and the row the first data row.
+    int Col() const;
+    int Row() const;
+    void SetCol(int col);
+    void SetRow(int row);
+    /// Makes a data cell current and scrolls it into view; other coordinates have no effect.
+    void SetCurrentCell(int col, int row);
+
+    /// The inner rectangle of a cell (header and indicator cells included) in the grid's client area: a control whose
+    /// left is grid left + rect.left() + c_BorderWidth, and top likewise, covers it exactly. Whole also when the cell
+    /// is partly scrolled out; null when nothing of it is in view.
+    QRect CellRect(int col, int row) const;
+    /// The part of the client area in which data cells show.
+    QRect CellsArea() const;
+    /// Scrolls a data cell into view without making it current.
+    void ScrollToCell(int col, int row);
+
+    bool TabStop() const;
+    void SetTabStop(bool stops);
+
+    /// The hint shown when the mouse rests on the grid, headers included. Plain text.
+    AnsiString Hint() const;
+    void SetHint(const AnsiString& hint);
+    /// Takes a hint on the screen away.
+    void CancelHint();
+
+    /// Without one, a cell shows its text at the left, not bold. One that throws is removed and its error reported.
+    void SetPresentation(TCellPresentation presentation);
+    TCellLook Look(int col, int row) const;
+
+    void keyboardSearch(const QString& search) override;
+
+Q_SIGNALS:
+    /// The user dragged the header of column `from` to where `to` stood. The grid has moved texts and width; the owner
+    /// follows with what it keeps by column.
+    void ColumnMoved(int from, int to);
+    /// Cells stand elsewhere: the grid was scrolled or resized, or a column's width changed.
+    void TopLeftChanged();
+    /// The grid has the focus and its current cell changed, was clicked, or the focus just came. Sent from the event
+    /// loop, never from within the cause, and only when the focus is still there.
+    void EditorWanted(int col, int row);
+    /// A mouse button was released. `row` is 0 for the header, also when a press there ended elsewhere (a drag); -1 for
+    /// a coordinate outside the cells.
+    void MouseUp(int col, int row);
+    /// The mouse moved over a cell; -1 for a coordinate outside the cells.
+    void MouseMoved(int col, int row);
+    /// A context menu was asked for at a cell; (0, 0) is the header of the indicator column.
+    void ContextPopup(int col, int row, const QPoint& globalPos);
+    /// Enter was pressed without Ctrl or Alt; the grid itself does nothing with it.
+    void EnterPressed(bool shift);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+private:
+    struct TGridPoint {
+        int Col;
+        int Row;
+    };
+
+    void SetUpHeaders();
+    void WatchMouse();
+    void HandleSectionMoved(int from, int to);
+    void HandleHeaderRelease(const QPoint& position);
+    void WantEditor();
+    void ShowHint(const QPoint& globalPos);
+    /// The cell at a position in the grid widget's own coordinates.
+    TGridPoint CellAt(const QPoint& position) const;
+
+    TStringGridModel* FModel;
+    mutable TCellPresentation FPresentation;
+    AnsiString FHint;
+    int FFixedCols = 0;
+    int FFixedRows = 0;
+    bool FMovingBack = false;
+    bool FEditorRequestQueued = false;
+};

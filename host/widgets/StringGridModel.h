@@ -1,0 +1,52 @@
+#pragma once
+
+#include "host/Types.h"
+
+#include <QAbstractTableModel>
+
+#include <vector>
+
+/// The texts of a string grid, kept by column so that whole columns come, go and move without touching the cells of
+/// the others. Methods with "Grid" coordinates count the header row and the indicator column as 0; to the toolkit's
+/// views the model shows the cells without them, the header row as horizontal header.
+///
+/// It knows nothing of editing, presentation or where the values come from.
+class TStringGridModel : public QAbstractTableModel {
+    Q_OBJECT
+
+public:
+    explicit TStringGridModel(QObject* parent = nullptr);
+
+    /// Grid columns and rows, fixed ones included; never under 1.
+    int ColCount() const { return static_cast<int>(FColumns.size()); }
+    int RowCount() const { return FRowCount; }
+    /// Columns and rows come empty and go at the end.
+    void SetColCount(int count);
+    void SetRowCount(int count);
+
+    /// The text of a grid cell, empty outside the counts.
+    const AnsiString& Cell(int col, int row) const;
+    /// Outside the counts nothing happens.
+    void SetCell(int col, int row, AnsiString text);
+    /// All texts below the header, from grid row 1 on; missing ones are empty, ones too many are dropped.
+    void SetColumn(int col, std::vector<AnsiString> texts);
+
+    /// An empty column comes to stand at grid column `col` (1 to ColCount()).
+    void InsertColumn(int col);
+    /// Takes grid column `col` (1 to ColCount() - 1) out.
+    void DeleteColumn(int col);
+    /// Takes grid column `from` out and puts it in so that it stands at `to`; both at least 1.
+    void MoveColumn(int from, int to);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+private:
+    bool Holds(int col, int row) const;
+
+    std::vector<std::vector<AnsiString>> FColumns; ///< By grid column, then grid row.
+    int FRowCount = 1;
+};

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "host/Types.h"
+
+#include <QString>
+
+#include <string_view>
+
+/// The widget boundary: the one place where UTF-8 text becomes a toolkit string and back.
+namespace melvark {
+
+/// Bytes that are no UTF-8 become the replacement character.
+QString ToQString(std::string_view text);
+AnsiString ToAnsi(const QString& text);
+
+/// A caption that shows `text` letter for letter: an ampersand marks a shortcut letter in captions of buttons, check
+/// boxes and menu items, so each one of `text` is doubled. For captions that are data (column titles, names of
+/// settings); built-in captions carry their marks on purpose and go through ToQString.
+QString PlainCaption(std::string_view text);
+
+} // namespace melvark
