@@ -1,0 +1,40 @@
+#pragma once
+
+#include "host/Connection.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace refhost {
+
+/// A connection to the company's database on one of the engines, with what creating and filling a database needs
+/// beyond the contract. It holds no rule of the business: the rules are in the SQL of each engine.
+///
+/// Made by openDatabase (Databases.h).
+class Database : public TConnection {
+public:
+    ~Database() override;
+
+    /// Whether the company's tables are there.
+    virtual bool hasSchema() = 0;
+
+    /// Creates the tables, views, functions and procedures in one transaction. Throws EDatabaseError, with nothing
+    /// created, when the database has tables already.
+    virtual void createSchema() = 0;
+
+    /// Appends rows to a table, all in one transaction. Each row has one value a column: integers, booleans as 0 or 1,
+    /// decimals as canonical decimal text ("12.5"), dates as "2027-02-01", moments as "2027-02-01 13:45:00".
+    /// Identifiers may be given; those that the database makes afterwards are higher. Throws EDatabaseError.
+    virtual void insertRows(std::string_view table, std::span<const std::string> columns,
+                            std::span<const std::vector<TDbValue>> rows) = 0;
+
+    /// Runs statements that bring no rows, in the engine's own SQL, in one transaction. Throws EDatabaseError.
+    virtual void runScript(std::string_view sql) = 0;
+
+    /// The name of the user whose settings and placements the procedures use.
+    virtual const std::string& user() const = 0;
+};
+
+} // namespace refhost

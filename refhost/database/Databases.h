@@ -1,0 +1,25 @@
+#pragma once
+
+#include "host/FormatSettings.h"
+#include "refhost/database/Database.h"
+
+#include <memory>
+#include <string>
+
+namespace refhost {
+
+/// Whether a database file that is not there yet is made (empty, without a schema) or refused. A server's database is
+/// always expected to be there.
+enum class OpenMode { Existing, Create };
+
+/// Connects to the database that the address names: "sqlite:FILE" or "postgresql:CONNINFO" (key=value words).
+///
+/// `user` is whose settings the procedures use on SQLite; a server takes the connecting role and ignores it.
+/// `settings` give the decimal separator and the date order in which results are written and texts are read.
+/// Throws EDatabaseError, a sentence for the user, when the address names no engine or the database cannot be used:
+/// file missing, locked, read-only, damaged, of another program or another version; server not reachable or the role
+/// refused.
+std::unique_ptr<Database> openDatabase(const std::string& url, const std::string& user, const TFormatSettings& settings,
+                                       OpenMode mode);
+
+} // namespace refhost
