@@ -1,0 +1,5 @@
+#include "host/LibraryManager.h"
+
+TLocalizableForm::~TLocalizableForm() = default;
+
+TLibraryManager::~TLibraryManager() = default;
