@@ -44,5 +44,7 @@ enum class TXMLBlanks { Drop, Keep };
 std::unique_ptr<TXMLTag> ParseXML(std::string_view text, TXMLBlanks blanks = TXMLBlanks::Drop);
 
 /// The tree as one document: UTF-8 declaration, no indentation, line breaks and tabs in texts as character references,
-/// characters that XML cannot hold dropped. What it writes, ParseXML reads back unchanged.
+/// bytes that are no UTF-8 and characters that XML cannot hold dropped. A node's own text comes before its children.
+/// What it writes, ParseXML reads back unchanged, up to 256 levels; a blank text beside children only with
+/// TXMLBlanks::Keep. Throws EConvertError for a node whose name is no XML name.
 AnsiString OutputXMLStr(const TXMLTag& root);
