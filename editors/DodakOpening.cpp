@@ -1,0 +1,54 @@
+#include "editors/DodakOpening.h"
+
+#include "editors/DocumentRows.h"
+#include "editors/EditTypes.h"
+#include "host/LangStr.h"
+
+EDodakEditBox::~EDodakEditBox() = default;
+
+namespace melvark {
+
+namespace {
+
+// The first result set tells the user and the flag, the second the VAT rates. The warehouses have a query of their own,
+// which runs once the procedure stands behind the rates.
+void Init(DodakOpening& opening) {
+    TLiveStoredProc initialisation("MELVARKEDITORDodakInit");
+    initialisation.Exec(true);
+    opening.UserName = initialisation.FieldByName("UZIVATEL").AsString();
+    opening.LocalVat = initialisation.FieldByName("DPHBLIC").AsInteger() == 1;
+    initialisation.Resume();
+    opening.Lists->VatRates = ReadVatRates(initialisation);
+    initialisation.Resume();
+    opening.Lists->Warehouses = ReadWarehouses();
+}
+
+} // namespace
+
+DodakOpening OpenDodak(const AnsiString& editType, int dodkId, int dodvId) {
+    const int fillMode = EditTypeNumber(c_DodakEditType, editType);
+    if (fillMode == 0)
+        throw EDodakEditBox(
+            LangStr("KORDAN30\\MELVARKEDITOR\\INVALIDEDITTYPE", {editType}, "Neplatný typ editace (%s)"));
+    DodakOpening opening{.EditType = editType,
+                         .FillMode = fillMode,
+                         .DodkID = dodkId,
+                         .DodvID = dodvId,
+                         .UserName = {},
+                         .LocalVat = false,
+                         .Lists = std::make_unique<DodakLists>()};
+    Init(opening);
+    return opening;
+}
+
+std::vector<AnsiString> ReadVatRates(TLiveStoredProc& initialisation) {
+    return ReadTexts(initialisation, "NAZEV");
+}
+
+std::vector<AnsiString> ReadWarehouses() {
+    TLiveQuery warehouses("select NAZEV from SKLAD_V order by NAZEV");
+    warehouses.LiveOpen();
+    return ReadTexts(warehouses, "NAZEV");
+}
+
+} // namespace melvark

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "host/Exceptions.h"
+#include "host/LiveData.h"
+#include "host/Types.h"
+
+#include <memory>
+#include <vector>
+
+/// A failure of the delivery note's editor itself: an edit type that it does not know.
+class EDodakEditBox : public Exception {
+public:
+    using Exception::Exception;
+    EDodakEditBox(const EDodakEditBox&) = default;
+    EDodakEditBox& operator=(const EDodakEditBox&) = default;
+    ~EDodakEditBox() override;
+};
+
+namespace melvark {
+
+/// The choices of the list columns. Columns point to them, so that they keep their address for the editor's life.
+struct DodakLists {
+    std::vector<AnsiString> Warehouses;
+    std::vector<AnsiString> VatRates;
+};
+
+/// What must be known of a delivery note's editor before its form can be built.
+struct DodakOpening {
+    AnsiString EditType;
+    int FillMode = 0; ///< Number of the edit type.
+    int DodkID = -1;  ///< The delivery note that is edited.
+    int DodvID = -1;  ///< Its supplier, whose documents alone are offered as sources.
+    AnsiString UserName;
+    bool LocalVat = false;
+    std::unique_ptr<DodakLists> Lists;
+};
+
+/// Checks the edit type, then asks the database for the user, the local-VAT flag and the lists. Throws EDodakEditBox
+/// for an edit type that is not exactly one of c_DodakEditType, before the database is asked; EDatabaseError.
+DodakOpening OpenDodak(const AnsiString& editType, int dodkId, int dodvId);
+
+/// The names of the VAT rates in the procedure's current result set, in the order returned.
+std::vector<AnsiString> ReadVatRates(TLiveStoredProc& initialisation);
+
+/// The names of all warehouses, sorted by the database.
+std::vector<AnsiString> ReadWarehouses();
+
+} // namespace melvark
