@@ -1,0 +1,51 @@
+#pragma once
+
+#include "editors/DocumentRows.h"
+#include "host/FormatSettings.h"
+#include "host/Types.h"
+
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+class TDataGrid;
+
+/// The prices of a delivery note's line. Not a price is worked out here: the database gets the row, the cells that the
+/// clerk changed and the switch, and gives the whole row back.
+namespace melvark {
+
+/// The 19 cells of a row that take part, in the order in which they are sent and read back. "DPH" is a text (the VAT
+/// rate's name), all others are numbers.
+std::span<const std::string_view> DodakPriceKeys();
+
+/// The keys of the row's cells that are marked as modified, each closed by ";", in the order of DodakPriceKeys.
+AnsiString ChangedCells(const DocumentColumns& columns, const TDataGrid& store, int row);
+
+/// A cell's number, written with point or comma; nothing for a blank text. Throws EConvertError, whose message names
+/// the text in the user's language, for a text that is no number (needs a current host).
+std::optional<double> CellNumber(std::string_view text, const TFormatSettings& settings);
+
+struct RecalculationRequest {
+    int Row = 0;                 ///< Store row.
+    AnsiString FocusKey;         ///< Key of the column that was edited.
+    bool RecalculatesAll = true; ///< The form's switch: whether the database may derive the other cells.
+};
+
+/// One cell that a recalculation brought back.
+struct RecalculatedCell {
+    AnsiString Key;
+    AnsiString Text;
+};
+
+/// Has the database recalculate the row and writes what it brings back into the store, unmarked, since the clerk did
+/// not fix these values. Returns the written cells in order, for the grid. Throws EConvertError before the database is
+/// asked when a cell is no number, and EDatabaseError; either leaves the row as it was.
+std::vector<RecalculatedCell> Recalculate(TDataGrid& store, const DocumentColumns& columns,
+                                          const RecalculationRequest& request, const TFormatSettings& settings);
+
+/// Whether the text is a discount: empty, or a number from 0 to 100, both included. Throws EConvertError for a text
+/// that is no number in the locale's writing.
+bool IsDiscount(std::string_view text, const TFormatSettings& settings);
+
+} // namespace melvark
