@@ -1,0 +1,108 @@
+#include "editors/DodakSaving.h"
+
+#include "host/Exceptions.h"
+#include "tests/editors/EditorRules.h"
+
+#include <algorithm>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::SizeIs;
+
+class DodakSaving : public EditorRules {
+protected:
+    bool insertRows() { return melvark::InsertDodakRows(columns(), store_); }
+};
+
+// Every cell holds its own column key, so that the line below reads as "parameter = column"; a key with a comma shows
+// which ones travel as number texts.
+TEST_F(DodakSaving, ARowsParametersStandInTheirOrderWithTheirColumns) {
+    LineCells line;
+    for (const AnsiString& key : dodakKeys())
+        line[key] = key + ",";
+    putLine(0, line);
+    EXPECT_TRUE(insertRows());
+    EXPECT_THAT(host_.connection.calls(),
+                ElementsAre("MELVARKEDITORDodakInsertToTemp("
+                            "a_DOBSID=\"DOBSID,\", a_SKLADPOL=\"SKLADPOL,\", a_SKLAD=\"SKLAD,\", "
+                            "a_MNOZSTVI=\"MNOZSTVI.\", a_DPH=\"DPH,\", a_SLEVA=\"SLEVA.\", "
+                            "a_JEDNCENABSL=\"JEDNCENABSESLEVOU.\", a_JEDNDPHASL=\"JEDNDPHASESLEVOU.\", "
+                            "a_JEDNDPHBSL=\"JEDNDPHBSESLEVOU.\", a_JEDNCENASSL=\"JEDNCENASSESLEVOU.\", "
+                            "a_JEDNCENAB=\"JEDNCENABBEZSLEVY.\", a_JEDNDPHA=\"JEDNDPHABEZSLEVY.\", "
+                            "a_JEDNDPHB=\"JEDNDPHBBEZSLEVY.\", a_JEDNCENAS=\"JEDNCENASBEZSLEVY.\", "
+                            "a_CENABSL=\"CENABSESLEVOU.\", a_DPHASL=\"DPHASESLEVOU.\", a_DPHBSL=\"DPHBSESLEVOU.\", "
+                            "a_CENASSL=\"CENASSESLEVOU.\", a_CENAB=\"CENABBEZSLEVY.\", a_DPHA=\"DPHABEZSLEVY.\", "
+                            "a_DPHB=\"DPHBBEZSLEVY.\", a_CENAS=\"CENASBEZSLEVY.\", "
+                            "a_TRVANLIVOST=\"TRVANLIVOST,\")"));
+}
+
+TEST_F(DodakSaving, AnEmptyGridIsOneRowOfNulls) {
+    store_.SetRowCount(0);
+    EXPECT_TRUE(insertRows());
+    ASSERT_THAT(host_.connection.calls(), SizeIs(1));
+    const AnsiString line = host_.connection.calls().front();
+    EXPECT_EQ(std::count(line.begin(), line.end(), '='), 23);
+    EXPECT_EQ(line.find('"'), AnsiString::npos) << line;
+    std::size_t nulls = 0;
+    for (std::size_t at = line.find("=null"); at != AnsiString::npos; at = line.find("=null", at + 1))
+        ++nulls;
+    EXPECT_EQ(nulls, 23u);
+}
+
+TEST_F(DodakSaving, RowsAreSentFromTheFirstToTheLast) {
+    for (int row = 0; row < 3; ++row)
+        putLine(row, {{"DOBSID", std::to_string(row)}});
+    EXPECT_TRUE(insertRows());
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"0\","), SizeIs(1));
+    EXPECT_TRUE(host_.connection.calls()[1].starts_with("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"1\","));
+    EXPECT_TRUE(host_.connection.calls()[2].starts_with("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"2\","));
+}
+
+TEST_F(DodakSaving, TheUsersColumnOrderAndHiddenColumnsDoNotMatter) {
+    putLine(0, {{"SKLADPOL", "Mléko"}, {"MNOZSTVI", "1,5"}});
+    insertRows();
+    const std::vector<AnsiString> plain = host_.connection.takeCalls();
+    std::reverse(active_.begin(), active_.end());
+    for (RColumn& column : active_)
+        column.Visible = false;
+    std::erase_if(active_, [](const RColumn& column) { return column.Name == "MNOZSTVI"; });
+    insertRows();
+    EXPECT_EQ(host_.connection.calls(), plain);
+}
+
+TEST_F(DodakSaving, AReportedFailureStopsAtOnce) {
+    for (int row = 0; row < 3; ++row)
+        putLine(row, {{"DOBSID", std::to_string(row)}});
+    host_.connection.procedure("MELVARKEDITORDodakInsertToTemp").failsCall(2);
+    EXPECT_FALSE(insertRows());
+    EXPECT_THAT(host_.connection.calls(), SizeIs(2));
+}
+
+TEST_F(DodakSaving, ARefusedRowIsTheDatabasesError) {
+    host_.connection.procedure("MELVARKEDITORDodakInsertToTemp").refusesCall(1, "Sklad Brno neexistuje.");
+    putLine(0, {{"SKLAD", "Brno"}});
+    EXPECT_THROW(insertRows(), EDatabaseError);
+}
+
+TEST_F(DodakSaving, TheClosingCallNamesTheSourcesOrNull) {
+    struct {
+        melvark::DodakSaveTarget target;
+        const char* call;
+    } const cases[] = {
+        {{7, -1, -1}, "MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=null, a_DDOBID_ZDROJ=null)"},
+        {{7, 12, -1}, "MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=12, a_DDOBID_ZDROJ=null)"},
+        {{7, -1, 31}, "MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=null, a_DDOBID_ZDROJ=31)"},
+    };
+    for (const auto& row : cases) {
+        EXPECT_TRUE(melvark::TakeOverDodakRows(row.target));
+        EXPECT_THAT(host_.connection.takeCalls(), ElementsAre(row.call));
+    }
+}
+
+TEST_F(DodakSaving, AFailedClosingCallIsAFailedSave) {
+    host_.connection.procedure("MELVARKEDITORDodakTempUloz").failsCall(1);
+    EXPECT_FALSE(melvark::TakeOverDodakRows({7, -1, -1}));
+}
+
+} // namespace
