@@ -14,6 +14,8 @@ template <class... Functions>
 struct Readings : Functions... {
     using Functions::operator()...;
 };
+template <class... Functions>
+Readings(Functions...) -> Readings<Functions...>;
 
 [[noreturn]] void RefuseReading(const TField& field, const char* wanted) {
     throw EConvertError("Hodnota „" + field.AsString() + "“ pole " + field.Name() + " není " + wanted + ".");

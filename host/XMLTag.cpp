@@ -14,7 +14,7 @@
 namespace {
 
 constexpr std::size_t c_MaxDepth = 256;
-constexpr std::size_t c_MaxSize = 16 * 1024 * 1024;
+constexpr std::size_t c_MaxSize = std::size_t{16} * 1024 * 1024;
 constexpr std::string_view c_Declaration = R"(<?xml version="1.0" encoding="UTF-8"?>)";
 
 struct ParserDeleter {
