@@ -42,22 +42,22 @@ using TIsEditable = std::function<bool(int aCol, int aRow)>;
 /// The record owns none of what it points to: the menu item belongs to the menu, the editor to the form, the values to
 /// whoever made the column.
 struct RColumn {
-    AnsiString Name;    ///< The key, unique within an editor ("MNOZSTVI").
-    AnsiString Caption; ///< The header's text, and that of the menu item of a hidden column.
-    AnsiString Hint;    ///< Shown over the header; empty for none.
+    AnsiString Name = {};    ///< The key, unique within an editor ("MNOZSTVI").
+    AnsiString Caption = {}; ///< The header's text, and that of the menu item of a hidden column.
+    AnsiString Hint = {};    ///< Shown over the header; empty for none.
     TColumnAlign Align = caLeft;
     bool Visible = false; ///< False when the user has hidden the column.
     TEditable Editable = eAuto;
     TColumnType ColumnType = ctNormal;
-    std::int32_t Width = 100; ///< Pixels at 96 dpi.
-    AnsiString DisplayFormat; ///< Format text for showing a value ("%m"); empty shows the value as stored.
+    std::int32_t Width = 100;      ///< Pixels at 96 dpi.
+    AnsiString DisplayFormat = {}; ///< Format text for showing a value ("%m"); empty shows the value as stored.
     TColumnsDataType DataType = cdtString;
     QAction* HiddenMenuItem = nullptr; ///< The item that shows the hidden column again; null while it is not hidden.
     /// The column of the cell store that holds the values, whatever the order of the grid; -1 for none.
     std::int32_t DataColumn = -1;
     QWidget* Editor = nullptr; ///< The column's own in-place editor, made by the form for a column with values.
     const std::vector<AnsiString>* Values = nullptr; ///< The choices of a list column; null for free text.
-    TColumnCallback Callback;
+    TColumnCallback Callback = {};
 };
 
 /// A record of the given fields, nothing added. Callers pass null for the editor and the menu item, which the form
