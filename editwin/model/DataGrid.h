@@ -2,6 +2,7 @@
 
 #include "host/Types.h"
 
+#include <utility>
 #include <vector>
 
 /// The empty root of the cell store's classes. It has no virtual functions: a cell costs no more than its text.
@@ -15,7 +16,8 @@ public:
 
     /// Takes the value and marks the cell, even when the text is the same as before.
     void SetValue(AnsiString value);
-    const AnsiString& GetValue() const { return FValue; }
+    const AnsiString& GetValue() const& { return FValue; }
+    AnsiString GetValue() && { return std::move(FValue); }
 
     bool Modified = false;
 

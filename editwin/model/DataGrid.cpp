@@ -1,0 +1,119 @@
+#include "editwin/model/DataGrid.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <stdexcept>
+#include <utility>
+
+namespace {
+
+std::size_t AsSize(int index) {
+    return static_cast<std::size_t>(index);
+}
+
+} // namespace
+
+TDataGridCell::TDataGridCell(AnsiString value) : FValue(std::move(value)) {}
+
+void TDataGridCell::SetValue(AnsiString value) {
+    FValue = std::move(value);
+    Modified = true;
+}
+
+void TDataGrid::SetRowCount(int n) {
+    if (n < FRowCount) {
+        EmptyCells(0, n - 1);
+    }
+    FRowCount = std::max(n, 1);
+}
+
+void TDataGrid::SetColCount(int n) {
+    if (n < FColCount) {
+        EmptyCells(n - 1, 0);
+    }
+    FColCount = std::max(n, 1);
+}
+
+void TDataGrid::SetCells(int col, int row, AnsiString value) {
+    TDataGridCell cell = TakeCell(col, row);
+    cell.SetValue(std::move(value));
+    PutCell(col, row, std::move(cell));
+}
+
+const AnsiString& TDataGrid::GetCells(int col, int row) const {
+    static const AnsiString empty;
+    return HasCell(col, row) ? FColumns[AsSize(col)].Values[AsSize(row)] : empty;
+}
+
+void TDataGrid::SetModified(int col, int row, bool flag) {
+    if (!flag && !HasCell(col, row)) {
+        return;
+    }
+    TDataGridCell cell = TakeCell(col, row);
+    cell.Modified = flag;
+    PutCell(col, row, std::move(cell));
+}
+
+bool TDataGrid::GetModified(int col, int row) const {
+    return HasCell(col, row) && FColumns[AsSize(col)].Modified[AsSize(row)];
+}
+
+void TDataGrid::SetCellWithNoChange(int col, int row, AnsiString value) {
+    const bool modified = GetModified(col, row);
+    SetCells(col, row, std::move(value));
+    if (!modified) {
+        SetModified(col, row, false);
+    }
+}
+
+void TDataGrid::ResetModified() {
+    for (std::size_t col = 0; col < std::min(AsSize(FColCount), FColumns.size()); ++col) {
+        std::vector<bool>& marks = FColumns[col].Modified;
+        std::fill_n(marks.begin(), std::min(AsSize(FRowCount), marks.size()), false);
+    }
+}
+
+bool TDataGrid::HasCell(int col, int row) const {
+    return col >= 0 && AsSize(col) < FColumns.size() && row >= 0 &&
+           AsSize(row) < FColumns[AsSize(col)].Present.size() && FColumns[AsSize(col)].Present[AsSize(row)];
+}
+
+/// The cell moved out of its column, which is made long enough to take it back; an empty one that is not marked when
+/// the position holds none.
+TDataGridCell TDataGrid::TakeCell(int col, int row) {
+    if (col < 0 || row < 0) {
+        throw std::out_of_range("a cell store has no negative coordinates");
+    }
+    if (AsSize(col) >= FColumns.size()) {
+        FColumns.resize(AsSize(col) + 1);
+    }
+    TColumn& column = FColumns[AsSize(col)];
+    if (AsSize(row) >= column.Values.size()) {
+        column.Values.resize(AsSize(row) + 1);
+        column.Present.resize(AsSize(row) + 1);
+        column.Modified.resize(AsSize(row) + 1);
+    }
+    TDataGridCell cell(std::move(column.Values[AsSize(row)]));
+    cell.Modified = column.Modified[AsSize(row)];
+    return cell;
+}
+
+void TDataGrid::PutCell(int col, int row, TDataGridCell cell) {
+    TColumn& column = FColumns[AsSize(col)];
+    column.Present[AsSize(row)] = true;
+    column.Modified[AsSize(row)] = cell.Modified;
+    column.Values[AsSize(row)] = std::move(cell).GetValue();
+}
+
+/// Empties the positions from the given column and row up to the last counted ones.
+void TDataGrid::EmptyCells(int firstCol, int firstRow) {
+    for (int col = std::max(firstCol, 0); col < FColCount && AsSize(col) < FColumns.size(); ++col) {
+        TColumn& column = FColumns[AsSize(col)];
+        const std::size_t end = std::min(AsSize(FRowCount), column.Values.size());
+        for (std::size_t row = AsSize(std::max(firstRow, 0)); row < end; ++row) {
+            column.Values[row] = AnsiString();
+            column.Present[row] = false;
+            column.Modified[row] = false;
+        }
+    }
+}
