@@ -25,10 +25,10 @@ struct AppliedColumnSettings {
 /// name. Everything that the document does not say is taken from `defaults`.
 ///
 /// Columns that the document names come first, in its order, then the rest in built-in order. Unknown names, columns
-/// without a name and foreign elements are skipped, as is a repeated name, **except that of the first column placed**,
-/// which is placed again; the list keeps its length, so that such a repeat pushes out the last of the rest, and names
-/// for which there is no room any more are skipped. A text that is empty, not well-formed or another document gives the
-/// built-in layout.
+/// without a name and foreign elements are skipped, as is a repeated name, **except the first repeat of the column
+/// placed first**, which is placed once more. The list keeps its length: such a repeat pushes out the last of the rest,
+/// and a name for which there is no room any more is skipped. A text that is empty, not well-formed or another document
+/// gives the built-in layout.
 ///
 /// An editor that shows no switch must ignore `Recalculation`.
 AppliedColumnSettings ReadColumnSettings(std::string_view document, std::span<const RColumn> previous,
