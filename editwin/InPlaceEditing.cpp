@@ -1,0 +1,290 @@
+#include "editwin/InPlaceEditing.h"
+
+#include "editwin/GridComboBox.h"
+#include "editwin/model/EditExceptions.h"
+#include "editwin/model/ValueChecks.h"
+#include "host/HostServices.h"
+#include "host/widgets/Fonts.h"
+#include "host/widgets/Guard.h"
+#include "host/widgets/StringGrid.h"
+#include "host/widgets/Text.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QRect>
+#include <QRegion>
+#include <QScopeGuard>
+
+#include <utility>
+
+namespace melvark {
+
+InPlaceEditing::InPlaceEditing(GridEditing& editing, QWidget& form, std::function<void(const AnsiString&)> showErrorBox)
+    : FEditing(editing), FForm(form), FShowErrorBox(std::move(showErrorBox)), FSharedEdit(new QLineEdit(&form)) {
+    FSharedEdit->setObjectName(u"SharedEdit"_qs);
+    FSharedEdit->setFont(GridFont());
+    FSharedEdit->hide();
+}
+
+void InPlaceEditing::CreateListEditors() {
+    for (RColumn& column : FEditing.Defaults) {
+        if (!column.Values)
+            continue;
+        auto* const combo = new TGridComboBox(&FForm);
+        combo->setObjectName(u"GridComboBox"_qs + ToQString(column.Name));
+        combo->setFont(GridFont());
+        combo->SetItems(*column.Values);
+        column.Editor = combo;
+    }
+}
+
+std::vector<QWidget*> InPlaceEditing::Editors() const {
+    std::vector<QWidget*> editors{FSharedEdit};
+    for (const RColumn& column : FEditing.Defaults) {
+        if (column.Editor)
+            editors.push_back(column.Editor);
+    }
+    return editors;
+}
+
+void InPlaceEditing::ShowEditor(int col, int row, Reach reach) {
+    if (!HideEditor())
+        return;
+    TStringGrid& grid = FEditing.Grid;
+    const RColumn* const column = FEditing.ColumnAt(col);
+    if (!column || row < 1 || row >= grid.RowCount() || !MayOpen(*column, reach, FEditing.Rule, col, row))
+        return;
+    grid.SetCurrentCell(col, row);
+    FEditCol = col;
+    FEditRow = row;
+    if (auto* const combo = qobject_cast<TGridComboBox*>(column->Editor)) {
+        combo->SelectText(grid.Cells(col, row));
+        FActive = combo;
+    } else {
+        FSharedEdit->setText(ToQString(grid.Cells(col, row)));
+        FSharedEdit->setModified(false);
+        FSharedEdit->selectAll();
+        FActive = FSharedEdit;
+    }
+    LayEditor();
+    FActive->show();
+    FActive->raise();
+    FActive->setFocus(Qt::OtherFocusReason);
+}
+
+bool InPlaceEditing::HideEditor() {
+    if (FCommitting)
+        return false;
+    if (!FActive || FActive->isHidden())
+        return true;
+    FCommitting = true;
+    const auto finish = qScopeGuard([this] {
+        FCommitting = false;
+        FCheckWanted = false;
+    });
+    try {
+        if (Commit()) {
+            CloseEditor();
+            if (FOpenWanted)
+                QueueSettle();
+            return true;
+        }
+        ReturnToEditCell();
+    } catch (const EBadValue& refusal) {
+        ReturnToEditCell();
+        FShowErrorBox(refusal.Message());
+        ReturnToEditCell();
+    } catch (...) {
+        ReturnToEditCell();
+        throw;
+    }
+    return false;
+}
+
+bool InPlaceEditing::Commit() {
+    const RColumn* const column = FEditing.ColumnAt(FEditCol);
+    if (!column)
+        return true;
+    if (const auto* const combo = qobject_cast<const TGridComboBox*>(FActive))
+        return CommitText(*column, combo->SelectedText(), combo->HasChanged());
+    return CommitText(*column, CheckedText(*column), FSharedEdit->isModified());
+}
+
+AnsiString InPlaceEditing::CheckedText(const RColumn& column) const {
+    const AnsiString text = ToAnsi(FSharedEdit->text());
+    switch (column.DataType) {
+    case cdtInt:
+        return CheckInt(FSharedEdit, text);
+    case cdtFlt:
+        return CheckFloat(FSharedEdit, text);
+    case cdtDate:
+        return CheckDate(FSharedEdit, text);
+    case cdtString:
+    case cdtType:
+        break;
+    }
+    return text;
+}
+
+bool InPlaceEditing::CommitText(const RColumn& column, const AnsiString& text, bool isChanged) {
+    FEditing.Grid.SetCells(FEditCol, FEditRow, text);
+    if (!isChanged)
+        return true;
+    FEditing.Store.SetCells(column.DataColumn, FEditing.StoreRow(FEditRow), text);
+    // A copy: the callback may change the column list.
+    const TColumnCallback callback = column.Callback;
+    return !callback || callback(FEditCol, FEditRow, text);
+}
+
+void InPlaceEditing::CloseEditor() {
+    QWidget* const editor = std::exchange(FActive, nullptr);
+    if (!editor)
+        return;
+    // Left to itself, the toolkit would hand the focus of a hidden control to whatever comes next.
+    if (FForm.focusWidget() == editor)
+        FEditing.Grid.setFocus(Qt::OtherFocusReason);
+    editor->hide();
+}
+
+void InPlaceEditing::DropEditor() {
+    FCheckWanted = false;
+    FOpenWanted = false;
+    if (QWidget* const editor = std::exchange(FActive, nullptr))
+        editor->hide();
+}
+
+void InPlaceEditing::ReturnToEditCell() {
+    FOpenWanted = false;
+    if (!FActive)
+        return;
+    FEditing.Grid.SetCurrentCell(FEditCol, FEditRow);
+    LayEditor();
+    FActive->setFocus(Qt::OtherFocusReason);
+}
+
+void InPlaceEditing::GoNextEditable() {
+    const TStringGrid& grid = FEditing.Grid;
+    OpenFirst(NextEditableCell({grid.ColCount(), grid.RowCount()}, {grid.Col(), grid.Row()},
+                               [this](int col, int row) { return MayStop(col, row); }));
+}
+
+void InPlaceEditing::GoPrevEditable() {
+    const TStringGrid& grid = FEditing.Grid;
+    OpenFirst(PreviousEditableCell({grid.ColCount(), grid.RowCount()}, {grid.Col(), grid.Row()},
+                                   [this](int col, int row) { return MayStop(col, row); }));
+}
+
+bool InPlaceEditing::MayStop(int col, int row) const {
+    const RColumn* const column = FEditing.ColumnAt(col);
+    return column && MayOpen(*column, Reach::ByTraversal, FEditing.Rule, col, row);
+}
+
+void InPlaceEditing::OpenFirst(std::optional<GridPosition> cell) {
+    if (cell)
+        ShowEditor(cell->Col, cell->Row, Reach::ByTraversal);
+}
+
+void InPlaceEditing::CheckWhenSettled(const QWidget* editor) {
+    if (editor != FActive || FCommitting)
+        return;
+    FCheckWanted = true;
+    QueueSettle();
+}
+
+void InPlaceEditing::OpenWhenSettled() {
+    FOpenWanted = true;
+    QueueSettle();
+}
+
+void InPlaceEditing::QueueSettle() {
+    if (std::exchange(FSettleQueued, true))
+        return;
+    QMetaObject::invokeMethod(
+        this, [this] { Settle(); }, Qt::QueuedConnection);
+}
+
+void InPlaceEditing::Settle() {
+    FSettleQueued = false;
+    // A running commit sees to what is wanted when it ends.
+    if (FCommitting)
+        return;
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+        qApp->installEventFilter(this);
+        return;
+    }
+    const bool checks = std::exchange(FCheckWanted, false) && FActive && FForm.focusWidget() != FActive;
+    const bool opens = std::exchange(FOpenWanted, false);
+    Guarded([&] {
+        if (checks && !HideEditor())
+            return;
+        const TStringGrid& grid = FEditing.Grid;
+        if (opens && grid.hasFocus())
+            ShowEditor(grid.Col(), grid.Row(), Reach::BySelection);
+    });
+}
+
+bool InPlaceEditing::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease && QGuiApplication::mouseButtons() == Qt::NoButton) {
+        qApp->removeEventFilter(this);
+        QueueSettle();
+    }
+    return false;
+}
+
+void InPlaceEditing::EditorToCell(QWidget& editor, const QRect& rect) const {
+    const QPoint gridPosition = FEditing.Grid.mapTo(&FForm, QPoint(0, 0));
+    const QPoint border(TStringGrid::c_BorderWidth, TStringGrid::c_BorderWidth);
+    editor.setGeometry(QRect(gridPosition + rect.topLeft() + border, rect.size()));
+}
+
+void InPlaceEditing::LayEditor() {
+    if (!FActive)
+        return;
+    const QRect rect = FEditing.Grid.CellRect(FEditCol, FEditRow);
+    const QRect shown = rect & FEditing.Grid.CellsArea();
+    if (shown.isEmpty()) {
+        // An empty mask would mean none; this one lies outside, so that nothing of the editor shows.
+        FActive->setMask(QRegion(-1, -1, 1, 1));
+        return;
+    }
+    EditorToCell(*FActive, rect);
+    if (shown == rect)
+        FActive->clearMask();
+    else
+        FActive->setMask(shown.translated(-rect.topLeft()));
+}
+
+namespace {
+
+/// Runs a check; a refusal gives the focus back to a visible edit box first.
+template <class Check>
+AnsiString Checked(QWidget* sender, Check check) {
+    try {
+        return check();
+    } catch (const EBadValue&) {
+        if (auto* const edit = qobject_cast<QLineEdit*>(sender); edit && edit->isVisible())
+            edit->setFocus(Qt::OtherFocusReason);
+        throw;
+    }
+}
+
+} // namespace
+
+AnsiString InPlaceEditing::CheckInt(QWidget* sender, const AnsiString& value) const {
+    return Checked(sender, [&] { return melvark::CheckInt(value); });
+}
+
+AnsiString InPlaceEditing::CheckFloat(QWidget* sender, const AnsiString& value) const {
+    return Checked(sender, [&] { return melvark::CheckFloat(value, CurrentHost().FormatSettings()); });
+}
+
+AnsiString InPlaceEditing::CheckDate(QWidget* sender, const AnsiString& value) const {
+    const THostServices& host = CurrentHost();
+    return Checked(sender, [&] {
+        const auto today = std::chrono::floor<std::chrono::days>(CurrentHost().Now());
+        return melvark::CheckDate(value, host.FormatSettings(), std::chrono::year_month_day(today));
+    });
+}
+
+} // namespace melvark
