@@ -1,0 +1,126 @@
+#include "editwin/ColumnMenu.h"
+
+#include "editwin/InPlaceEditing.h"
+#include "editwin/model/ColumnList.h"
+#include "host/widgets/Guard.h"
+#include "host/widgets/StringGrid.h"
+#include "host/widgets/Text.h"
+
+#include <QAction>
+#include <QMenu>
+
+#include <algorithm>
+#include <utility>
+
+namespace melvark {
+
+ColumnMenu::ColumnMenu(GridEditing& editing, InPlaceEditing& keeper, const Items& items)
+    : FEditing(editing), FKeeper(keeper), FItems(items) {}
+
+void ColumnMenu::OpenAt(int col, int row, const QPoint& globalPos) {
+    FPopupColumn = row == 0 ? std::max(col, 0) : 0;
+    if (row == 0)
+        FItems.Menu.popup(globalPos);
+}
+
+void ColumnMenu::PrepareItems() {
+    const RColumn* const column = FEditing.ColumnAt(FPopupColumn);
+    FItems.Hide.setEnabled(column);
+    CheckEditability(column && column->ColumnType == ctNormal ? column : nullptr);
+}
+
+void ColumnMenu::CheckEditability(const RColumn* column) {
+    const std::pair<QAction&, TEditable> items[] = {
+        {FItems.Automatic, eAuto}, {FItems.Manual, eManual}, {FItems.None, eNone}};
+    for (const auto& [item, editable] : items) {
+        item.setEnabled(column);
+        item.setChecked(column && column->Editable == editable);
+    }
+}
+
+void ColumnMenu::SetEditability(TEditable editable) {
+    const bool isEdited = FKeeper.ActiveEditor() && FKeeper.EditCol() == FPopupColumn;
+    const bool closes = editable == eNone && isEdited;
+    RColumn* const column = FEditing.ColumnAt(FPopupColumn);
+    if (column && (!closes || FKeeper.HideEditor())) {
+        column->Editable = editable;
+        if (closes)
+            FEditing.Grid.SetCurrentCell(FKeeper.EditCol(), FKeeper.EditRow());
+    }
+    // The click has moved the check mark by itself, also when nothing was changed.
+    PrepareItems();
+}
+
+void ColumnMenu::HidePopupColumn() {
+    if (!FKeeper.HideEditor())
+        return;
+    const int index = VisibleColumnIndex(FEditing.Active, FPopupColumn);
+    if (index < 0)
+        return;
+    const int place = PlaceOfHiddenItem(FEditing.Active, index);
+    RColumn& column = FEditing.Active[static_cast<std::size_t>(index)];
+    column.HiddenMenuItem = MakeHiddenItem(column);
+    FItems.HiddenColumns.insertAction(FItems.HiddenColumns.actions().value(place), column.HiddenMenuItem);
+    UpdateSubmenu();
+    FEditing.Grid.DeleteColumn(FPopupColumn);
+    FEditing.Grid.SetFixedCols(FEditing.Grid.ColCount() > 1 ? 1 : 0);
+    column.Visible = false;
+}
+
+void ColumnMenu::ShowColumnOf(const QAction* item) {
+    if (!FKeeper.HideEditor())
+        return;
+    const auto column = std::find_if(FEditing.Active.begin(), FEditing.Active.end(),
+                                     [item](const RColumn& candidate) { return candidate.HiddenMenuItem == item; });
+    if (!item || column == FEditing.Active.end())
+        return;
+    const int place = PlaceOfShownColumn(FEditing.Active, static_cast<int>(column - FEditing.Active.begin()));
+    FEditing.Grid.InsertColumn(place);
+    FEditing.Grid.SetFixedCols(1);
+    column->Visible = true;
+    FEditing.Grid.SetCells(place, 0, column->Caption);
+    FEditing.Grid.SetColWidths(place, column->Width);
+    FEditing.FillGridColumn(place);
+    QAction* const shownItem = std::exchange(column->HiddenMenuItem, nullptr);
+    FItems.HiddenColumns.removeAction(shownItem);
+    // Later: the item may be the very sender of this call.
+    shownItem->deleteLater();
+    UpdateSubmenu();
+}
+
+void ColumnMenu::RebuildHiddenItems() {
+    FItems.HiddenColumns.clear();
+    for (RColumn& column : FEditing.Active) {
+        column.HiddenMenuItem = IsHiddenByUser(column) ? MakeHiddenItem(column) : nullptr;
+        if (column.HiddenMenuItem)
+            FItems.HiddenColumns.addAction(column.HiddenMenuItem);
+    }
+    UpdateSubmenu();
+}
+
+QAction* ColumnMenu::MakeHiddenItem(const RColumn& column) {
+    auto* const item = new QAction(PlainCaption(column.Caption), &FItems.HiddenColumns);
+    item->setObjectName(u"HiddenColumn"_qs + ToQString(column.Name));
+    ConnectGuarded(item, &QAction::triggered, this, [this, item] { ShowColumnOf(item); });
+    return item;
+}
+
+void ColumnMenu::UpdateSubmenu() {
+    FItems.HiddenColumns.menuAction()->setEnabled(!FItems.HiddenColumns.isEmpty());
+}
+
+void ColumnMenu::FollowMovedColumn(int from, int to) {
+    melvark::MoveColumn(FEditing.Active, from, to);
+    FKeeper.SetEditCol(FEditing.Grid.Col());
+    FKeeper.LayEditor();
+}
+
+void ColumnMenu::CaptureWidths() {
+    for (int col = 1; col < FEditing.Grid.ColCount(); ++col) {
+        if (RColumn* const column = FEditing.ColumnAt(col))
+            column->Width = FEditing.Grid.ColWidths(col);
+    }
+    FKeeper.LayEditor();
+}
+
+} // namespace melvark

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "editwin/GridEditing.h"
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+class QPoint;
+
+namespace melvark {
+
+class InPlaceEditing;
+
+/// What the user does to columns with the mouse on the header: the menu that hides them, shows them again and sets
+/// their editability, the dragged order and the dragged widths. It changes the active columns and the grid together;
+/// the store is only read. Every command that takes the edited cell away first asks the keeper to commit.
+class ColumnMenu : public QObject {
+    Q_OBJECT
+
+public:
+    /// The menus and items are the form's.
+    struct Items {
+        QMenu& Menu;
+        QAction& Hide;
+        QAction& Automatic;
+        QAction& Manual;
+        QAction& None;
+        QMenu& HiddenColumns;
+    };
+
+    ColumnMenu(GridEditing& editing, InPlaceEditing& keeper, const Items& items);
+
+    /// A right click at a grid cell. Only the header row has the menu; elsewhere the popup column becomes 0.
+    void OpenAt(int col, int row, const QPoint& globalPos);
+    /// Enables and checks the items for the popup column; called each time before the menu shows.
+    void PrepareItems();
+
+    /// "Needitovatelný" on the edited column changes nothing when its value is refused.
+    void SetEditability(TEditable editable);
+    void HidePopupColumn();
+    /// Shows the column again that `item` stands for, and destroys the item.
+    void ShowColumnOf(const QAction* item);
+    /// Fills the submenu anew from the active columns.
+    void RebuildHiddenItems();
+
+    /// The grid moved the column at `from` to `to`.
+    void FollowMovedColumn(int from, int to);
+    /// Every shown column takes the width of its grid column.
+    void CaptureWidths();
+
+    /// The grid column under the last right click; 0 for none.
+    int PopupColumn() const { return FPopupColumn; }
+
+private:
+    QAction* MakeHiddenItem(const RColumn& column);
+    void CheckEditability(const RColumn* column);
+    void UpdateSubmenu();
+
+    GridEditing& FEditing;
+    InPlaceEditing& FKeeper;
+    Items FItems;
+    int FPopupColumn = 0;
+};
+
+} // namespace melvark
