@@ -1,0 +1,59 @@
+#include "editwin/WindowPlacement.h"
+
+#include "editwin/model/WindowPlacementDocument.h"
+#include "host/LiveData.h"
+#include "host/widgets/Form.h"
+
+#include <QWindowStateChangeEvent>
+
+namespace melvark {
+
+WindowPlacementKeeper::WindowPlacementKeeper(TForm& form, std::int32_t editType) : FForm(form), FEditType(editType) {
+    form.installEventFilter(this);
+}
+
+void WindowPlacementKeeper::Load() {
+    FForm.CenterOnScreen();
+    TLiveStoredProc proc("MELVARKEDITORNASTAVENINactiNastaveniOkna");
+    proc.ParamByName("a_TYPEDITACE").SetAsInteger(FEditType);
+    proc.Exec(true);
+    const TField document = proc.FieldByName("DATA");
+    if (document.IsNull())
+        return;
+    const QRect current = FForm.geometry();
+    const auto placement =
+        ReadWindowPlacement(document.AsString(), {current.x(), current.y(), current.width(), current.height(),
+                                                  FForm.windowState().testFlag(Qt::WindowMaximized)});
+    if (!placement)
+        return;
+    FForm.setGeometry(placement->Left, placement->Top, placement->Width, placement->Height);
+    FForm.setWindowState(placement->Maximized ? Qt::WindowMaximized : Qt::WindowNoState);
+}
+
+void WindowPlacementKeeper::Save() const {
+    const QRect rect = NormalRect();
+    TLiveStoredProc proc("MELVARKEDITORNASTAVENIUlozNastaveniOkna");
+    proc.ParamByName("a_TYPEDITACE").SetAsInteger(FEditType);
+    proc.ParamByName("a_DATA").SetAsString(WriteWindowPlacement(
+        {rect.x(), rect.y(), rect.width(), rect.height(), FForm.windowState().testFlag(Qt::WindowMaximized)}));
+    proc.Exec(false);
+}
+
+/// The toolkit's normal geometry is wrong for one state only: a maximised window that was minimised.
+QRect WindowPlacementKeeper::NormalRect() const {
+    const Qt::WindowStates state = FForm.windowState();
+    if (state.testFlag(Qt::WindowMaximized) && state.testFlag(Qt::WindowMinimized) && FRectBeforeMaximizing.isValid())
+        return FRectBeforeMaximizing;
+    return FForm.normalGeometry();
+}
+
+bool WindowPlacementKeeper::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::WindowStateChange) {
+        const Qt::WindowStates before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
+        if (FForm.windowState() == Qt::WindowMaximized && !before.testFlag(Qt::WindowMinimized))
+            FRectBeforeMaximizing = FForm.normalGeometry();
+    }
+    return false;
+}
+
+} // namespace melvark
