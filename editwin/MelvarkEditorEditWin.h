@@ -1,0 +1,171 @@
+#pragma once
+
+#include "editwin/Autosave.h"
+#include "editwin/ColumnMenu.h"
+#include "editwin/EditBoxControls.h"
+#include "editwin/EditorEvents.h"
+#include "editwin/EditorKeys.h"
+#include "editwin/GridEditing.h"
+#include "editwin/GridPresentation.h"
+#include "editwin/InPlaceEditing.h"
+#include "editwin/SettingsMenu.h"
+#include "editwin/WindowPlacement.h"
+#include "editwin/model/Column.h"
+#include "host/Types.h"
+#include "host/widgets/Form.h"
+
+#include <cstdint>
+#include <functional>
+#include <span>
+
+class QKeyEvent;
+class TLibraryManager;
+
+/// What tells one kind of editor from another.
+struct TEditBoxKind {
+    std::int32_t EditType = 0;   ///< Under this number the window's placement is filed.
+    std::int32_t TypeOffset = 0; ///< EditType + TypeOffset is the number of the named column settings.
+    /// The parts of the temporary file's name: editor, source of the lines, user.
+    AnsiString FirstNamePart;
+    AnsiString SecondNamePart;
+    AnsiString UserName;
+};
+
+/// The window in which the items of one document are edited: a grid of items over a cell store, in-place editors, a
+/// column menu, a settings menu and the buttons OK, "OK+Další" and Cancel.
+///
+/// A document editor derives from it: its constructor hands in the columns, fills the store, installs its hooks, clears
+/// the modified marks and calls Constructed() last; then it is shown with ShowModal. This class knows no document: what
+/// is saved, recalculated or editable comes in through the hooks and the columns' callbacks.
+///
+/// Most members are one line that calls the helper that has the state and the rule. The columns' value lists must
+/// outlive the form. Works with a null library manager; needs a current host.
+class TEditBox : public TForm, public TEditBoxControls {
+    Q_OBJECT
+
+public:
+    /// Builds the form over `columns` and loads the column settings. No callback and no hook is called during
+    /// construction.
+    TEditBox(TComponent* owner, TLibraryManager* libraryManager, std::int32_t editType, AnsiString firstNamePart,
+             std::int32_t editTypeOffset, AnsiString secondNamePart, AnsiString userName,
+             std::span<const RColumn> columns);
+    ~TEditBox() override;
+
+    void SetTitle(const AnsiString& text) { SetCaption(text); }
+    void SetTopButtonPanelVisibility(bool visible);
+    bool GetPrepocetCen() const;
+
+    /// Error icon; returns the box's result.
+    int ShowErrorBox(const AnsiString& text);
+    /// Question with Yes and No; returns c_ResultYes or c_ResultNo.
+    int ShowConfirmDialog(const AnsiString& text);
+    /// Clears the database's table of rows being saved.
+    void ResetTable();
+
+    /// Runs the save hook; false without one.
+    bool SaveData();
+    /// Runs the hook that writes the temporary file, if there is one.
+    void SaveDataToTempFile();
+    /// The document editor's rule for a grid cell; true without one.
+    bool IsEditable(int aCol, int aRow) const;
+
+    // Columns: grid columns count from 1, see model/ColumnList. A look-up that finds nothing gives the blank record.
+    static constexpr auto ColumnProperties = &::ColumnProperties;
+    int GetVisibleColumnIndex(int n) const;
+    RColumn GetVisibleColumn(int n) const;
+    int GetColumnByName(const AnsiString& name) const;
+    bool IsValidColumnName(const AnsiString& name) const;
+    /// Falls back to the default column when the active list lacks the name.
+    RColumn GetColumnSettings(const AnsiString& name) const;
+    RColumn GetDataColumn(int dataIndex) const;
+    int RowToDataGridRow(int row) const;
+    const std::vector<RColumn>& ActiveColumns() const { return FEditing.Active; }
+    const std::vector<RColumn>& DefaultColumns() const { return FEditing.Defaults; }
+    TDataGrid& DataGrid() { return FEditing.Store; }
+    const TDataGrid& DataGrid() const { return FEditing.Store; }
+
+    void InitGrid();
+    void InitColumns();
+    void ApplyColumnsSettingsToGrid();
+
+    // In-place editing: see InPlaceEditing.
+    void ShowEditor(int aCol, int aRow, bool bySelection);
+    bool HideEditor();
+    void EditorToCell(TControl* editor, const QRect& rect);
+    void GoNextEditable();
+    void GoPrevEditable();
+    AnsiString CheckInt(TControl* sender, const AnsiString& value) const;
+    AnsiString CheckFloat(TControl* sender, const AnsiString& value) const;
+    AnsiString CheckDate(TControl* sender, const AnsiString& value) const;
+    /// The editor that lies over a cell; null when none is open.
+    TControl* ActiveEditor() const { return FKeeper.ActiveEditor(); }
+    int EditCol() const { return FKeeper.EditCol(); }
+    int EditRow() const { return FKeeper.EditRow(); }
+
+    void LoadColumnsSettingsList();
+    void LoadLastColumnsSettings();
+    void LoadColumnsSettingsFromXml(const AnsiString& xml);
+    std::int32_t SettingsId() const { return FSettings.SettingsId(); }
+    void LoadWindowSettings();
+    void SaveWindowSettings();
+
+    // Event handlers, named after control and event.
+    void OkBtnClick(TObject* Sender);
+    void CancelBtnClick(TObject* Sender);
+    bool EditorKeyDown(TControl* Sender, const QKeyEvent& event);
+    bool EditorKeyPress(TControl* Sender, const QKeyEvent& event);
+    void EditorExit(TControl* Sender);
+    void StringGridEnter(TControl* Sender);
+    void StringGridExit(TControl* Sender);
+    TCellLook StringGridDrawCell(int col, int row) const;
+    void StringGridMouseMove(int col, int row);
+    void StringGridMouseUp(int col, int row);
+    void StringGridContextPopup(int col, int row, const QPoint& globalPos);
+    void StringGridColumnMoved(int from, int to);
+    void StringGridTopLeftChanged();
+    void ColumnsPopupMenuPopup(TObject* Sender);
+    void SkrytSloupecClick(TObject* Sender);
+    void EditovatelnySloupecAutomatickyClick(TObject* Sender);
+    void EditovatelnySloupecVyberemClick(TObject* Sender);
+    void NeeditovatelnySloupecClick(TObject* Sender);
+    void ShowGridColumn(TObject* Sender);
+    void AutoSave(TObject* Sender);
+
+protected:
+    /// Called by SaveData: true when everything was saved and the form may close with OK.
+    void SetOnSaveData(std::function<bool()> hook) { FOnSaveData = std::move(hook); }
+    void SetOnSaveDataToTempFile(std::function<void()> hook) { FOnSaveDataToTempFile = std::move(hook); }
+    void SetOnIsEditable(TIsEditable hook) { FEditing.Rule = std::move(hook); }
+    TLibraryManager* LibraryManager() const { return FLibraryManager; }
+    const TEditBoxKind& Kind() const { return FKind; }
+
+    void FormShow() override;
+    void FormClose() override;
+    /// Runs only for a form whose most derived constructor ended.
+    void FormDestroy();
+
+private:
+    /// Makes the controls before the helpers that refer to them.
+    TEditBoxControls& CreateControls();
+    void FormCreate();
+    void ConnectEditors();
+    void ConnectGrid();
+    void ConnectMenus();
+    bool RunCommand(melvark::EditorCommand command);
+
+    TLibraryManager* FLibraryManager;
+    TEditBoxKind FKind;
+    std::function<bool()> FOnSaveData;
+    std::function<void()> FOnSaveDataToTempFile;
+
+    melvark::GridEditing FEditing;
+    melvark::InPlaceEditing FKeeper;
+    melvark::GridPresentation FPresentation;
+    melvark::ColumnMenu FColumnMenu;
+    melvark::SettingsMenu FSettings;
+    melvark::WindowPlacementKeeper FPlacement;
+    melvark::Autosave FAutosave;
+    melvark::EditorEvents FEditorEvents;
+    melvark::EditorEvents FButtonEvents;
+    melvark::EditorEvents FFurtherButtonEvents;
+};
