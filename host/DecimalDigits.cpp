@@ -31,8 +31,6 @@ void Increment(AnsiString& digits) {
 DecimalDigits ToDecimalDigits(double value) {
     if (!std::isfinite(value))
         throw EConvertError("Hodnota není konečné číslo.");
-    if (value == 0)
-        return {};
 
     // The shortest digits come as d[.ddd]e±xx; the fixed notation of the library pads large numbers with binary noise.
     std::array<char, 32> buffer{};

@@ -71,8 +71,7 @@ bool TLiveResult::Eof() const {
 }
 
 void TLiveResult::Next() {
-    if (!Eof())
-        ++FRow;
+    ++FRow;
 }
 
 TField TLiveResult::FieldByName(std::string_view column) const {

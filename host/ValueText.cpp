@@ -163,8 +163,6 @@ std::optional<TDateTime> ReadMoment(std::string_view text, TDateOrder order, cha
     const TDateTime midnight = std::chrono::local_days(*date);
     if (text.empty())
         return midnight;
-    if (LeadingBlank(text) == 0)
-        return std::nullopt;
     SkipBlanks(text);
     const std::optional<std::chrono::seconds> time = ReadTime(text);
     return time ? std::optional(midnight + *time) : std::nullopt;

@@ -234,6 +234,16 @@ TEST_F(LiveStoredProcTest, LetsARefusalThroughWithItsCode) {
     EXPECT_TRUE(proc.Eof());
 }
 
+TEST_F(LiveStoredProcTest, KeepsNoRowsOfBeforeWhenRefused) {
+    connection().answer.Sets = {Table{{"A"}, {{integer(1)}}}};
+    TLiveStoredProc proc("Uloz");
+    proc.Exec(true);
+    ASSERT_FALSE(proc.Eof());
+    connection().fails = true;
+    EXPECT_THROW(proc.Exec(true), EDatabaseError);
+    EXPECT_TRUE(proc.Eof());
+}
+
 TEST(LiveStoredProc, NeedsAHost) {
     EXPECT_THROW(TLiveStoredProc("Uloz"), EHostError);
 }

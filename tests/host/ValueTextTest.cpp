@@ -124,6 +124,7 @@ TEST(TextToDateTime, ReadsStoredMoments) {
         {"1.2.2027 12:00:00:00", std::nullopt, ""},
         {"1.2.2027 12:00 h", std::nullopt, ""},
         {"1.2.202712:00", std::nullopt, "no blank between"},
+        {"2027-02-01T12:00", std::nullopt, "no blank between"},
         {"31.4.2027 12:00", std::nullopt, ""},
         {"12:00", std::nullopt, "no date"},
         {"", std::nullopt, ""},
