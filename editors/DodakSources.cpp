@@ -4,15 +4,16 @@
 
 namespace melvark {
 
-void FillFromOrder(TDataGrid& store, const DocumentColumns& columns, int dodkId, const DodakSource& source) {
+void FillFromOrder(TDataGrid& store, const DocumentColumns& columns, int dodkId, int orderId) {
     TLiveStoredProc lines("MELVARKEDITORDodakGetPolozkyByObjednavka");
     lines.ParamByName("a_DODKID").SetAsInteger(dodkId);
-    lines.ParamByName("a_DDOBID").SetAsInteger(source.OrderID);
+    lines.ParamByName("a_DDOBID").SetAsInteger(orderId);
     lines.Exec(true);
     FillStore(store, columns, lines);
 }
 
-void FillFromDeliveryNote(TDataGrid& store, const DocumentColumns& columns, int dodkId, const DodakSource& source) {
+void FillFromDeliveryNote(TDataGrid& store, const DocumentColumns& columns, int dodkId,
+                          const DeliveryNoteSource& source) {
     TLiveStoredProc lines("MELVARKEDITORDodakGetPolozkyByDodak");
     SetIdentifier(lines.ParamByName("a_DODKIDMASTER"), source.DeliveryNoteID);
     lines.ParamByName("a_DODKID").SetAsInteger(dodkId);

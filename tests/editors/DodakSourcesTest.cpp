@@ -9,7 +9,7 @@ using testing::ElementsAre;
 class DodakSources : public EditorRules {};
 
 TEST_F(DodakSources, AnOrdersLinesCarryTheirOrderLine) {
-    melvark::FillFromOrder(store_, columns(), 7, {.OrderID = 31});
+    melvark::FillFromOrder(store_, columns(), 7, 31);
     EXPECT_THAT(host_.connection.calls(),
                 ElementsAre("MELVARKEDITORDodakGetPolozkyByObjednavka(a_DODKID=7, a_DDOBID=31) open"));
     EXPECT_EQ(cell(0, "DOBSID"), "501");

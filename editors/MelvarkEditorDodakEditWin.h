@@ -1,0 +1,54 @@
+#pragma once
+
+#include "editors/DocumentRows.h"
+#include "editors/DodakOpening.h"
+#include "editors/EditTypes.h"
+#include "editwin/MelvarkEditorEditWin.h"
+
+#include <vector>
+
+/// The editor of a delivery note's lines: the base editor with the delivery note's columns, filled from a source that
+/// the user names, each changed price recalculated by the database, saved through the row store.
+///
+/// Constructed for one delivery note, shown modally once by its workflow, and freed. It refreshes no screen. What the
+/// rules are stands beside it: DodakColumns, DodakSources, DodakPrices, DodakSaving.
+class TDodakEditBox : public TEditBox {
+    Q_OBJECT
+
+public:
+    /// `aEditType` is one of c_DodakEditType, `aID` the delivery note, `aDodvID` its supplier. Throws EDodakEditBox for
+    /// any other edit type, EEditBoxCanceled when the user cancels the source or the master check answers no, and
+    /// EDatabaseError.
+    TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, const AnsiString& aEditType, int aID,
+                  int aDodvID);
+    ~TDodakEditBox() override;
+
+    /// Has the database recalculate the row of the changed cell (grid coordinates); always true. Throws EConvertError
+    /// for a cell that is no number and EDatabaseError, either before anything in the row has changed.
+    bool PrepocetCen(int aCol, int aRow, const AnsiString& aValue);
+    /// Whether the value is a discount; shows why it is not. Throws EConvertError for a text that is no number.
+    bool KontrolaSlevy(int aCol, int aRow, const AnsiString& aValue);
+    /// Stores all rows; false when the database reports failure. Throws EDatabaseError.
+    bool SaveData();
+
+private:
+    /// Builds the form on what was read before it.
+    TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, melvark::DodakOpening opening);
+
+    static std::vector<RColumn> LoadDefaultColumnsSettings(const melvark::DodakOpening& opening, TDodakEditBox* form);
+    static bool CheckMasterDodak(int aDodkID);
+
+    void FillGrid(int aFillMode);
+    void FillByOrder();
+    void FillByDeliveryNote();
+    void FillByTemplate();
+    void FillGridFromObjednavka();
+    void FillGridFromDodak(bool aPrenesMnozstvi, bool aPrenesCeny);
+    void FillGridFromSablona(bool aPrenesMnozstvi, bool aPrenesCeny);
+
+    melvark::DocumentColumns Columns() const;
+
+    melvark::DodakOpening FOpening;
+    int FOrderID = c_NullValue;        ///< The source supplier order, once one was chosen.
+    int FDeliveryNoteID = c_NullValue; ///< The source delivery note, once one was chosen.
+};
