@@ -1,16 +1,16 @@
 #pragma once
 
+#include "host/Exceptions.h"
 #include "host/Types.h"
 #include "host/widgets/Form.h"
+#include "host/widgets/Vocabulary.h"
 #include "select/SourceTable.h"
 
+class QKeyEvent;
+class QLayout;
 class TLibraryManager;
 class TQelPngBitBtn;
 class TQelPngSpeedButton;
-class QCheckBox;
-class QKeyEvent;
-class QLabel;
-class QLineEdit;
 
 /// The selection's own failures.
 class ESelectBox : public Exception {
@@ -69,7 +69,8 @@ public:
 
     void OkBtnClick(TObject* Sender);
     void editSelectChange(TObject* Sender);
-    void editSelectKeyDown(TObject* Sender, QKeyEvent& key);
+    /// F5 opens the list, Esc cancels; true when the key was one of them.
+    bool editSelectKeyDown(TObject* Sender, const QKeyEvent& key);
     void SelectSpeedButtonClick(TObject* Sender);
 
 protected:
@@ -80,7 +81,9 @@ protected:
 private:
     using TOperation = void (TSelectBox::*)();
 
-    void BuildControls();
+    void CreateControls();
+    QLayout* CreateMainPanel();
+    QLayout* CreateButtonPanel();
     void SetUp(const RSourceSetup& setup, const RSourceArguments& arguments, TOperation check, TOperation showDlg);
     void Check(const RSourceSetup& setup);
     void ShowDlg(const RSourceSetup& setup);
@@ -91,12 +94,12 @@ private:
     TOperation FShowDlg = nullptr;
     int FID = -1;
 
-    QLabel* lblSelect = nullptr;
-    QLineEdit* editSelect = nullptr;
+    TLabel* lblSelect = nullptr;
+    TEdit* editSelect = nullptr;
     TQelPngSpeedButton* SelectSpeedButton = nullptr;
-    QLabel* lblPrenest = nullptr;
-    QCheckBox* chbMnozstvi = nullptr;
-    QCheckBox* chbCeny = nullptr;
+    TLabel* lblPrenest = nullptr;
+    TCheckBox* chbMnozstvi = nullptr;
+    TCheckBox* chbCeny = nullptr;
     TQelPngBitBtn* OkBtn = nullptr;
     TQelPngBitBtn* CancelBtn = nullptr;
 };

@@ -78,15 +78,14 @@ struct TextCase {
 
 const TextCase c_Texts[] = {
     {c_DodakFromObjednavka, "ORDERSELECTION=Výběr objednávky", "ORDERNUMBER=Číslo objednávky:",
-     "MELVARKEDITORDodakCheckZdrojObjednavka", "a_DODKIDMASTER a_CISLO a_DDOBID",
-     "Kordan3:DODOBJEDNAVKA.Normal CISLO"},
+     "MELVARKEDITORDodakCheckZdrojObjednavka", "a_DODKIDMASTER a_CISLO a_DDOBID", "Kordan3:DODOBJEDNAVKA.Normal CISLO"},
     {c_DodakFromDodak, "DELIVERYNOTESELECTION=Výběr dodacího listu", "DELIVERYNOTENUMBER=Číslo dodacího listu:",
      "MELVARKEDITORDodakCheckZdrojDodak", "a_DODKIDMASTER a_DODAKCISLO a_DODKID", "Kordan3:DODAK.Normal CISLO"},
     {c_DodObjFromObjednavkaVzor, "ORDERPATTERNSELECTION=Výběr vzoru objednávky",
      "ORDERPATTERNNUMBER=Číslo vzoru objednávky:", "MELVARKEDITORDodObjCheckZdrojObjednavkaVzor",
      "a_DDOBIDMASTER a_CISLO a_DDOBID", "Kordan3:DODOBJEDNAVKAVZOR.Normal CISLO"},
-    {c_DodObjFromObjednavka, "ORDERSELECTION=Výběr objednávky", "ORDERNUMBER=Číslo objednávky:",
-     "MELVARKEDITORDodObjCheckZdrojObjednavka", "a_DDOBIDMASTER a_CISLO a_DDOBID",
+    {c_DodObjFromObjednavka, "ORDERSELECTION=Výběr objednávky",
+     "ORDERNUMBER=Číslo objednávky:", "MELVARKEDITORDodObjCheckZdrojObjednavka", "a_DDOBIDMASTER a_CISLO a_DDOBID",
      "Kordan3:DODOBJEDNAVKA.Normal CISLO"},
     {c_DodObjFromDodak, "DELIVERYNOTESELECTION=Výběr dodacího listu", "DELIVERYNOTENUMBER=Číslo dodacího listu:",
      "MELVARKEDITORDodObjCheckZdrojDodak", "a_DDOBIDMASTER a_CISLO a_DODKID", "Kordan3:DODAK.Normal CISLO"},

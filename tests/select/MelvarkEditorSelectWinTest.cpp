@@ -1,0 +1,282 @@
+#include "select/MelvarkEditorSelectWin.h"
+
+#include "tests/support/RecordingHost.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using std::chrono::local_days;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr TDateTime c_Midnight = local_days{std::chrono::year{2027} / 2 / 1};
+
+/// The dialog of delivery note 7 of supplier 5 on a recording host whose order check answers with id 42.
+class SelectBox : public testing::Test {
+protected:
+    SelectBox() {
+        host.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka")
+            .inputs({"a_DODKIDMASTER", "a_CISLO", "a_DDOBID"})
+            .returns({TResultTable{{"ID"}, {{std::int64_t{42}}}}});
+        host.connection.procedure("MELVARKEDITORDodakCheckZdrojDodak")
+            .inputs({"a_DODKIDMASTER", "a_DODAKCISLO", "a_DODKID"})
+            .returns({TResultTable{{"ID"}, {{std::int64_t{43}}}}});
+        host.connection.procedure("MELVARKEDITORDodObjCheckZdrojDodavky")
+            .inputs({"a_DDOBIDMASTER", "a_JMENO", "a_DODVID"})
+            .returns({TResultTable{{"ID"}, {{std::int64_t{44}}}}});
+    }
+
+    /// Shows the dialog modally, runs `use` once it has the focus, cancels it if that left it open; the modal result.
+    int showAnd(TSelectBox& box, const std::function<void()>& use) {
+        QTimer::singleShot(0, &box, [&] {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+            use();
+            QTimer::singleShot(0, &box, [&] {
+                leftOpen = box.isVisible() && box.ModalResult() == 0;
+                if (leftOpen)
+                    box.Close();
+            });
+        });
+        return box.ShowModal();
+    }
+
+    static QLineEdit* edit(TSelectBox& box) { return box.findChild<QLineEdit*>(QStringLiteral("editSelect")); }
+    static QLabel* label(TSelectBox& box, const char* name) {
+        return box.findChild<QLabel*>(QString::fromLatin1(name));
+    }
+    static QCheckBox* option(TSelectBox& box, const char* name) {
+        return box.findChild<QCheckBox*>(QString::fromLatin1(name));
+    }
+    static void click(TSelectBox& box, const char* button) {
+        QTest::mouseClick(box.findChild<QAbstractButton*>(QString::fromLatin1(button)), Qt::LeftButton);
+    }
+
+    RecordingHost host;
+    TScopedHost scope{host};
+    RecordingLibraryManager manager;
+    bool leftOpen = false;
+};
+
+TEST_F(SelectBox, ATypedNumberIsResolvedByTheDatabase) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    const int result = showAnd(box, [&] {
+        QTest::keyClicks(edit(box), QStringLiteral("OV1"));
+        QTest::keyClick(edit(box), Qt::Key_Return);
+    });
+    EXPECT_EQ(result, c_ResultOk);
+    EXPECT_EQ(box.GetID(), 42);
+    EXPECT_THAT(host.connection.calls(),
+                ElementsAre("MELVARKEDITORDodakCheckZdrojObjednavka(a_DODKIDMASTER=7, a_CISLO=\"OV1\", "
+                            "a_DDOBID=null) open"));
+}
+
+TEST_F(SelectBox, APickedRowTravelsByItsId) {
+    manager.lookupAnswers = {TLookupPick{"OV1", "11"}};
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    const int result = showAnd(box, [&] {
+        QTest::keyClick(edit(box), Qt::Key_F5);
+        EXPECT_EQ(edit(box)->text(), QStringLiteral("OV1"));
+        EXPECT_EQ(box.GetID(), 11);
+        click(box, "OkBtn");
+    });
+    EXPECT_EQ(result, c_ResultOk);
+    EXPECT_THAT(manager.lookups(),
+                ElementsAre("Kordan3:DODOBJEDNAVKA.Normal CISLO _ID "
+                            "[V_MELVARKEDITORDodakCheckZdrojObjednavka(_ID, _SKLDID, _DODVID, 7, 5, _DODANO)=1]"));
+    EXPECT_THAT(host.connection.calls(), ElementsAre("MELVARKEDITORDodakCheckZdrojObjednavka(a_DODKIDMASTER=7, "
+                                                     "a_CISLO=\"OV1\", a_DDOBID=11) open"));
+    EXPECT_EQ(box.GetID(), 42);
+}
+
+TEST_F(SelectBox, OneMoreCharacterAfterAPickLetsTheTextDecideAlone) {
+    manager.lookupAnswers = {TLookupPick{"OV1", "11"}};
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    showAnd(box, [&] {
+        click(box, "SelectSpeedButton");
+        QTest::keyClicks(edit(box), QStringLiteral("2"));
+        EXPECT_EQ(box.GetID(), -1);
+        click(box, "OkBtn");
+    });
+    EXPECT_THAT(host.connection.calls(),
+                ElementsAre("MELVARKEDITORDodakCheckZdrojObjednavka(a_DODKIDMASTER=7, a_CISLO=\"OV12\", "
+                            "a_DDOBID=null) open"));
+}
+
+TEST_F(SelectBox, EscapeInTheEditCancelsWithoutACheck) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    const int result = showAnd(box, [&] { QTest::keyClick(edit(box), Qt::Key_Escape); });
+    EXPECT_EQ(result, c_ResultCancel);
+    EXPECT_FALSE(leftOpen);
+    EXPECT_THAT(host.connection.calls(), IsEmpty());
+    EXPECT_EQ(box.GetID(), -1);
+}
+
+TEST_F(SelectBox, AnEmptyEditIsCheckedAsAnEmptyTextAndNoId) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    showAnd(box, [&] { click(box, "OkBtn"); });
+    EXPECT_THAT(
+        host.connection.calls(),
+        ElementsAre("MELVARKEDITORDodakCheckZdrojObjednavka(a_DODKIDMASTER=7, a_CISLO=\"\", a_DDOBID=null) open"));
+}
+
+TEST_F(SelectBox, ARefusedSourceKeepsTheDialogOpenWithItsTextAndTheFocusInTheEdit) {
+    host.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka").refusesCall(1, "Objednávka neexistuje.");
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    const int result = showAnd(box, [&] {
+        QTest::keyClicks(edit(box), QStringLiteral("OV9"));
+        click(box, "OkBtn");
+        EXPECT_TRUE(edit(box)->hasFocus());
+        EXPECT_EQ(edit(box)->text(), QStringLiteral("OV9"));
+    });
+    EXPECT_TRUE(leftOpen);
+    EXPECT_EQ(result, c_ResultCancel);
+    EXPECT_THAT(host.errors(), ElementsAre("Objednávka neexistuje."));
+    EXPECT_EQ(box.GetID(), -1);
+}
+
+TEST_F(SelectBox, ARefusedSourceCanBeCorrectedAndConfirmed) {
+    host.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka").refusesCall(1, "Objednávka neexistuje.");
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    const int result = showAnd(box, [&] {
+        QTest::keyClicks(edit(box), QStringLiteral("OV"));
+        QTest::keyClick(edit(box), Qt::Key_Return);
+        QTest::keyClicks(edit(box), QStringLiteral("1"));
+        QTest::keyClick(edit(box), Qt::Key_Return);
+    });
+    EXPECT_EQ(result, c_ResultOk);
+    EXPECT_EQ(box.GetID(), 42);
+}
+
+TEST_F(SelectBox, ACancelledListChangesNothing) {
+    manager.lookupAnswers = {TLookupPick{"OV1", "11"}, std::nullopt};
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    showAnd(box, [&] {
+        QTest::keyClick(edit(box), Qt::Key_F5);
+        QTest::keyClick(edit(box), Qt::Key_F5);
+        EXPECT_EQ(box.GetID(), 11);
+        EXPECT_EQ(edit(box)->text(), QStringLiteral("OV1"));
+    });
+}
+
+TEST_F(SelectBox, APickedKeyThatIsNoNumberLeavesNoId) {
+    manager.lookupAnswers = {TLookupPick{"OV1", "x"}};
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    showAnd(box, [&] {
+        QTest::keyClick(edit(box), Qt::Key_F5);
+        EXPECT_EQ(box.GetID(), -1);
+        EXPECT_EQ(edit(box)->text(), QStringLiteral("OV1"));
+    });
+}
+
+TEST_F(SelectBox, WithoutALibraryManagerTheListStaysShutAndTypingWorks) {
+    TSelectBox box(nullptr, nullptr);
+    box.DodakSelectFromObjednavka(7, 5);
+    const int result = showAnd(box, [&] {
+        QTest::keyClick(edit(box), Qt::Key_F5);
+        click(box, "SelectSpeedButton");
+        QTest::keyClicks(edit(box), QStringLiteral("OV1"));
+        QTest::keyClick(edit(box), Qt::Key_Return);
+    });
+    EXPECT_EQ(result, c_ResultOk);
+    EXPECT_EQ(box.GetID(), 42);
+}
+
+TEST_F(SelectBox, BeforeASetUpOkAsksNobody) {
+    TSelectBox box(nullptr, &manager);
+    const int result = showAnd(box, [&] { click(box, "OkBtn"); });
+    EXPECT_EQ(result, c_ResultOk);
+    EXPECT_THAT(host.connection.calls(), IsEmpty());
+    EXPECT_THAT(manager.localizedSections(), ElementsAre("KORDAN30\\MelvarkEditorSelectWin"));
+}
+
+TEST_F(SelectBox, AnOrderAsSourceOffersNoTransferOptions) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    showAnd(box, [&] {
+        EXPECT_EQ(box.Caption(), "Výběr objednávky");
+        EXPECT_EQ(label(box, "lblSelect")->text(), QStringLiteral("Číslo objednávky:"));
+        EXPECT_FALSE(label(box, "lblPrenest")->isVisible());
+        EXPECT_FALSE(option(box, "chbMnozstvi")->isVisible());
+        EXPECT_FALSE(option(box, "chbCeny")->isVisible());
+    });
+}
+
+TEST_F(SelectBox, ADeliveryNoteAsSourceOffersBothOptionsChecked) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromDodak(7, 5);
+    const int result = showAnd(box, [&] {
+        EXPECT_TRUE(label(box, "lblPrenest")->isVisible());
+        EXPECT_TRUE(option(box, "chbMnozstvi")->isVisible() && option(box, "chbMnozstvi")->isChecked());
+        EXPECT_TRUE(option(box, "chbCeny")->isVisible() && option(box, "chbCeny")->isChecked());
+        QTest::keyClick(option(box, "chbCeny"), Qt::Key_Space);
+        click(box, "OkBtn");
+    });
+    EXPECT_EQ(result, c_ResultOk);
+    EXPECT_EQ(box.GetID(), 43);
+    EXPECT_TRUE(box.GetPrenesMnozstvi());
+    EXPECT_FALSE(box.GetPrenesCeny());
+}
+
+TEST_F(SelectBox, DeliveriesOfADocumentWithASupplierOfferOnlyThatOne) {
+    TSelectBox box(nullptr, &manager);
+    box.DodObjSelectFromDodavky(7, "Mlékárna Olšany", c_Midnight);
+    showAnd(box, [&] {
+        EXPECT_EQ(edit(box)->text(), QStringLiteral("Mlékárna Olšany"));
+        EXPECT_FALSE(edit(box)->isEnabled());
+        EXPECT_FALSE(box.findChild<QToolButton*>(QStringLiteral("SelectSpeedButton"))->isEnabled());
+        EXPECT_TRUE(option(box, "chbMnozstvi")->isVisible());
+        EXPECT_FALSE(option(box, "chbMnozstvi")->isChecked());
+        EXPECT_FALSE(option(box, "chbCeny")->isVisible());
+        click(box, "OkBtn");
+    });
+    EXPECT_THAT(host.connection.calls(), ElementsAre("MELVARKEDITORDodObjCheckZdrojDodavky(a_DDOBIDMASTER=7, "
+                                                     "a_JMENO=\"Mlékárna Olšany\", a_DODVID=null) open"));
+}
+
+TEST_F(SelectBox, DeliveriesOfADocumentWithoutASupplierLetTheClerkPickOne) {
+    manager.lookupAnswers = {TLookupPick{"Mlékárna Olšany", "3"}};
+    TSelectBox box(nullptr, &manager);
+    box.DodObjSelectFromDodavky(7, "", c_Midnight);
+    showAnd(box, [&] {
+        EXPECT_TRUE(edit(box)->isEnabled());
+        QTest::keyClick(edit(box), Qt::Key_F5);
+    });
+    EXPECT_EQ(box.GetID(), 3);
+    EXPECT_THAT(manager.lookups(), ElementsAre("Kordan3:DODAVATEL.Normal JMENO _ID "
+                                               "[V_MELVARKEDITORDodObjCheckZdrojDodavky(_ID, 7, -1, -1, "
+                                               "'1.2.2027 00:00:00', "
+                                               "V_GetGlobalParam('SKLAD','POCETMESICUDODAVEK'))=1]"));
+}
+
+TEST_F(SelectBox, ImagesAreLoadedWhenItIsShown) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromDodak(7, 5);
+    EXPECT_THAT(host.images(), IsEmpty());
+    showAnd(box, [&] { EXPECT_THAT(host.images(), ElementsAre("ENGINE/RUKA", "ENGINE/OK", "ENGINE/CANCEL")); });
+}
+
+TEST_F(SelectBox, TheFocusIsInTheEditWhenItOpens) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromDodak(7, 5);
+    showAnd(box, [&] { EXPECT_TRUE(edit(box)->hasFocus()); });
+}
+
+} // namespace
