@@ -1,0 +1,56 @@
+#include "tests/database/Engines.h"
+
+#include "refhost/database/Databases.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+namespace refhost {
+
+namespace {
+
+/// A folder of the test program for its database files, deleted at its end.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "melvark-database-XXXXXX").string();
+        if (mkdtemp(pattern.data()) == nullptr)
+            throw std::runtime_error("no temporary folder could be made");
+        path_ = pattern;
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder() {
+        std::error_code ignored; // the system cleans its temporary folder too
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    const std::filesystem::path& path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+std::string newSQLiteUrl() {
+    static const TemporaryFolder folder;
+    static int count = 0;
+    return "sqlite:" + (folder.path() / ("company" + std::to_string(++count) + ".db")).string();
+}
+
+} // namespace
+
+std::string engineName(Engine engine) {
+    return engine == Engine::SQLite ? "SQLite" : "PostgreSQL";
+}
+
+std::unique_ptr<Database> newDatabase(Engine engine) {
+    if (engine == Engine::PostgreSQL)
+        throw std::logic_error("no server");
+    auto database = openDatabase(newSQLiteUrl(), "novakova", TFormatSettings::Czech(), OpenMode::Create);
+    database->createSchema();
+    return database;
+}
+
+} // namespace refhost

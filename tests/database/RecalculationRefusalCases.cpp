@@ -1,0 +1,71 @@
+#include "tests/database/RecalculationCases.h"
+
+namespace refhost {
+
+std::span<const RecalculationRefusal> refusalCases() {
+    static const RecalculationRefusal cases[] = {
+        {"AnUnknownRate",
+         {.Focus = "JEDNCENABBEZSLEVY", .Rate = "19 %", .UnitBefore = "100 - - -"},
+         "ML110",
+         "Sazba DPH „19 %“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH."},
+        {"ARateIsKnownByItsExactName",
+         {.Focus = "JEDNCENABBEZSLEVY", .Rate = "21%", .UnitBefore = "100 - - -"},
+         "ML110",
+         "Sazba DPH „21%“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH."},
+        {"AnUnknownRateOfARowWithoutPrices",
+         {.Focus = "MNOZSTVI", .Rate = "19 %", .Quantity = "2"},
+         "ML110",
+         "Sazba DPH „19 %“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH."},
+        {"TheRateIsJudgedBeforeTheDiscount",
+         {.Focus = "MNOZSTVI", .Rate = "x", .Discount = "101", .UnitBefore = "100 - - -"},
+         "ML110",
+         "Sazba DPH „x“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH."},
+        {"ADiscountAboveAHundred",
+         {.Focus = "JEDNCENABBEZSLEVY", .Discount = "100,01", .UnitBefore = "100 - - -"},
+         "ML111",
+         "Sleva 100,01 % není přípustná. Zadejte slevu od 0 do 100 %."},
+        {"ADiscountIsJudgedAsItWasTyped", // it would round to 100
+         {.Focus = "JEDNCENABBEZSLEVY", .Discount = "100,001", .UnitBefore = "100 - - -"},
+         "ML111",
+         "Sleva 100,001 % není přípustná. Zadejte slevu od 0 do 100 %."},
+        {"ANegativeDiscount",
+         {.Focus = "MNOZSTVI", .Discount = "-0,01", .UnitBefore = "100 - - -"},
+         "ML111",
+         "Sleva -0,01 % není přípustná. Zadejte slevu od 0 do 100 %."},
+        {"ADiscountOfARowWithoutPrices",
+         {.Focus = "SLEVA", .Discount = "150"},
+         "ML111",
+         "Sleva 150 % není přípustná. Zadejte slevu od 0 do 100 %."},
+        {"VatTypedAtZeroRateWithoutAPrice",
+         {.Focus = "JEDNDPHABEZSLEVY", .Rate = "0 %", .UnitBefore = "- 21 - -"},
+         "ML112",
+         "Cenu bez DPH nelze dopočítat z daně při sazbě 0 %. Zadejte nejprve cenu bez DPH."},
+        {"VatTypedWithoutARateAndAPrice",
+         {.Focus = "DPHASESLEVOU", .Rate = "", .Quantity = "2", .TotalAfter = "- 21 - 100"},
+         "ML112",
+         "Cenu bez DPH nelze dopočítat z daně při sazbě 0 %. Zadejte nejprve cenu bez DPH."},
+        {"LocalVatTypedWhileTheCompanyHasNone",
+         {.Focus = "JEDNDPHBSESLEVOU", .UnitAfter = "- - 2 -"},
+         "ML112",
+         "Cenu bez DPH nelze dopočítat z daně při sazbě 0 %. Zadejte nejprve cenu bez DPH."},
+        {"AUnitPriceThatIsNoNumber",
+         {.Focus = "MNOZSTVI", .UnitAfter = "- - - 12x"},
+         "ML001",
+         "Jednotková cena „12x“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku."},
+        {"ATotalWithAnExponent",
+         {.Focus = "MNOZSTVI", .TotalBefore = "1e3 - - -"},
+         "ML001",
+         "Celková cena „1e3“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku."},
+        {"ADiscountThatIsNoNumber",
+         {.Focus = "MNOZSTVI", .Discount = "nan", .UnitBefore = "100 - - -"},
+         "ML001",
+         "Sleva „nan“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku."},
+        {"AQuantityThatIsNoNumberWithTheSwitchOff", // it has no canonical text
+         {.Focus = "MNOZSTVI", .Quantity = "１２", .UnitBefore = "100 - - -", .Recalculate = false},
+         "ML001",
+         "Množství „１２“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku."},
+    };
+    return cases;
+}
+
+} // namespace refhost
