@@ -1,0 +1,40 @@
+#pragma once
+
+#include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/ParameterValues.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace refhost {
+
+/// A procedure or function of the embedded engine: SQL statements under a header of comments that declares what they
+/// take and bring. The header lines:
+///
+///     -- in: a_DODKID integer            one a line, in order; integer, boolean or text (text when not said)
+///     -- out: a_OBNOVDATA                a select of just these columns sets the output parameters
+///     -- returns: NAZEV, ID              the columns of a result set, one line a set, in order
+///     -- after failure: staging refused  a failure closes the save that is under way until its rows are emptied
+///     -- include: recalculation          (anywhere) the text of parts/recalculation.sql stands here
+///
+/// This class reads the text only; SQLiteProcedure runs it.
+struct SqlScript {
+    struct Parameter {
+        std::string Name;
+        ParameterKind Kind = ParameterKind::Text;
+    };
+
+    std::string Name;
+    std::vector<Parameter> Inputs;
+    std::vector<std::string> Outputs;
+    std::vector<std::vector<std::string>> Results;
+    bool FailureRefusesStaging = false;
+    std::string Text;
+};
+
+/// Reads a file of `files`, which also holds the parts that it includes. Throws std::logic_error, naming the file, for
+/// a header line or part that does not exist: a mistake in our own files.
+SqlScript readSqlScript(const SqlFile& file, std::span<const SqlFile> files);
+
+} // namespace refhost
