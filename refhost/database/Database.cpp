@@ -1,0 +1,7 @@
+#include "refhost/database/Database.h"
+
+namespace refhost {
+
+Database::~Database() = default;
+
+} // namespace refhost

@@ -1,0 +1,215 @@
+#include "refhost/database/SQLiteConnection.h"
+
+#include "refhost/database/DecimalFunctions.h"
+#include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/SQLiteFunctions.h"
+
+#include <algorithm>
+
+namespace refhost {
+
+namespace {
+
+/// Marks our files ("MLVR"), so that no other program's data is taken for ours.
+constexpr std::int64_t c_ApplicationId = 0x4D4C5652;
+/// Raised with every change of the tables or views.
+constexpr std::int64_t c_SchemaVersion = 1;
+
+constexpr const char* c_RefuseStaging = "update temp.STAGING set STATE = 'refused'";
+
+std::string lowerAscii(std::string_view name) {
+    std::string lower(name);
+    std::ranges::transform(lower, lower.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return lower;
+}
+
+const SqlFile* findProcedure(std::string_view name) {
+    for (const SqlFile& file : sqliteFiles())
+        if (file.Path.starts_with("procedures/") && SameDbName(sqlObjectName(file), name))
+            return &file;
+    return nullptr;
+}
+
+/// The texts of all files of a folder, one after the other.
+std::string folderText(std::string_view folder) {
+    std::string text;
+    for (const SqlFile& file : sqliteFiles())
+        if (file.Path.starts_with(folder))
+            text.append(file.Text).append("\n");
+    return text;
+}
+
+std::string insertStatement(std::string_view table, std::span<const std::string> columns) {
+    std::string names;
+    std::string places;
+    for (const std::string& column : columns) {
+        names += (names.empty() ? "" : ", ") + column;
+        places += places.empty() ? "?" : ", ?";
+    }
+    return "insert into " + std::string(table) + " (" + names + ") values (" + places + ")";
+}
+
+/// Leaves reading only as the access of what is prepared in its scope.
+class ReadingOnly {
+public:
+    explicit ReadingOnly(SQLiteSession& session) : session_(session) {
+        session_.setAccess(SQLiteSession::Access::ReadingOnly);
+    }
+    ReadingOnly(const ReadingOnly&) = delete;
+    ReadingOnly& operator=(const ReadingOnly&) = delete;
+    ~ReadingOnly() { session_.setAccess(SQLiteSession::Access::Everything); }
+
+private:
+    SQLiteSession& session_;
+};
+
+[[noreturn]] void refuseQuery(const AnsiString& sql) {
+    throw EDatabaseError("Dotaz není jedním čtecím příkazem: „" + shownText(sql) + "“. Zadejte jeden příkaz select.",
+                         "ML920");
+}
+
+} // namespace
+
+SQLiteConnection::SQLiteConnection(const std::string& file, const std::string& user, const TFormatSettings& settings,
+                                   bool create)
+    : session_(file, user, settings, create) {
+    checkOwner();
+    registerFunctions();
+    createSessionTables();
+    if (hasSchema())
+        useWriteAheadLog();
+}
+
+SQLiteConnection::~SQLiteConnection() = default;
+
+std::int64_t SQLiteConnection::pragma(const std::string& name) {
+    const std::string sql = "pragma " + name;
+    std::string_view text = sql;
+    SQLiteStatement statement(session_, text);
+    return statement.step() ? std::get<std::int64_t>(statement.value(0)) : 0;
+}
+
+void SQLiteConnection::checkOwner() {
+    const std::int64_t applicationId = pragma("application_id");
+    const bool isEmpty = applicationId == 0 && pragma("page_count") == 0;
+    if (sqlite3_db_readonly(session_.handle(), "main") == 1)
+        session_.fail(SQLITE_READONLY, "open");
+    if (!isEmpty && applicationId != c_ApplicationId)
+        throw EDatabaseError("Soubor „" + session_.file() + "“ patří jinému programu. Zvolte jiný soubor.", "ML913");
+    if (!isEmpty && pragma("user_version") != c_SchemaVersion)
+        throw EDatabaseError("Databáze „" + session_.file() +
+                                 "“ je jiné verze než tento program. Použijte program, který ji vytvořil.",
+                             "ML914");
+}
+
+void SQLiteConnection::registerFunctions() {
+    registerValueFunctions(session_);
+    registerCzech(session_);
+    registerDecimalFunctions(session_.handle());
+    for (const SqlFile& file : sqliteFiles())
+        if (file.Path.starts_with("functions/"))
+            functions_.push_back(std::make_unique<SQLiteScriptFunction>(session_, readSqlScript(file, sqliteFiles())));
+}
+
+void SQLiteConnection::createSessionTables() {
+    session_.execute(folderText("session/"));
+}
+
+void SQLiteConnection::useWriteAheadLog() {
+    std::string_view sql = "pragma journal_mode = wal";
+    SQLiteStatement statement(session_, sql);
+    statement.step();
+}
+
+bool SQLiteConnection::hasSchema() {
+    return pragma("application_id") == c_ApplicationId;
+}
+
+void SQLiteConnection::createSchema() {
+    if (hasSchema())
+        throw EDatabaseError("Databáze „" + session_.file() + "“ už tabulky má. Zvolte prázdný soubor.", "ML921");
+    useWriteAheadLog();
+    SQLiteTransaction transaction(session_, SQLiteTransaction::Kind::Writing);
+    session_.execute(folderText("tables.sql"));
+    session_.execute(folderText("views/"));
+    session_.execute("pragma application_id = " + std::to_string(c_ApplicationId));
+    session_.execute("pragma user_version = " + std::to_string(c_SchemaVersion));
+    transaction.commit();
+}
+
+void SQLiteConnection::insertRows(std::string_view table, std::span<const std::string> columns,
+                                  std::span<const std::vector<TDbValue>> rows) {
+    SQLiteTransaction transaction(session_, SQLiteTransaction::Kind::Writing);
+    const std::string insert = insertStatement(table, columns);
+    std::string_view sql = insert;
+    SQLiteStatement statement(session_, sql);
+    for (const std::vector<TDbValue>& row : rows) {
+        const SQLiteStatementUse use(statement);
+        for (std::size_t i = 0; i < row.size(); ++i)
+            statement.bind(static_cast<int>(i) + 1, row[i]);
+        statement.step();
+    }
+    transaction.commit();
+}
+
+void SQLiteConnection::runScript(std::string_view sql) {
+    SQLiteTransaction transaction(session_, SQLiteTransaction::Kind::Writing);
+    session_.execute(std::string(sql));
+    transaction.commit();
+}
+
+SQLiteProcedure& SQLiteConnection::procedure(const AnsiString& name) {
+    const std::string key = lowerAscii(name);
+    if (const auto prepared = procedures_.find(key); prepared != procedures_.end())
+        return *prepared->second;
+    const SqlFile* file = findProcedure(name);
+    if (file == nullptr)
+        throw EDatabaseError("Databáze nemá proceduru „" + shownText(name) + "“. Obraťte se na správce.", "ML918");
+    if (!hasSchema())
+        throw EDatabaseError("Databáze „" + session_.file() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
+    auto prepared = std::make_unique<SQLiteProcedure>(session_, readSqlScript(*file, sqliteFiles()));
+    return *procedures_.emplace(key, std::move(prepared)).first->second;
+}
+
+TProcedureInfo SQLiteConnection::Describe(const AnsiString& name) {
+    return procedure(name).info();
+}
+
+TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
+    SQLiteProcedure& called = procedure(call.Name);
+    try {
+        SQLiteTransaction transaction(session_, called.isWriting() ? SQLiteTransaction::Kind::Writing
+                                                                   : SQLiteTransaction::Kind::Reading);
+        TCallResult result = called.run(call);
+        transaction.commit();
+        return result;
+    } catch (const EDatabaseError&) {
+        // The rollback took back what the call itself could have noted.
+        if (called.script().FailureRefusesStaging)
+            session_.execute(c_RefuseStaging);
+        throw;
+    }
+}
+
+TResultTable SQLiteConnection::Query(const AnsiString& sql) {
+    parameterValue(ParameterKind::Text, "sql", sql);
+    std::string_view text = sql;
+    const ReadingOnly access(session_);
+    try {
+        std::vector<SQLiteStatement> statements = prepareStatements(session_, text);
+        if (statements.size() != 1 || statements.front().columnCount() == 0)
+            refuseQuery(sql);
+        SQLiteStatement& statement = statements.front();
+        TResultTable table{statement.columns(), {}};
+        while (statement.step())
+            table.Rows.push_back(statement.row());
+        return table;
+    } catch (const EDatabaseError& error) {
+        if (error.Details().starts_with("SQLite " + std::to_string(SQLITE_AUTH)))
+            refuseQuery(sql);
+        throw;
+    }
+}
+
+} // namespace refhost

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "host/FormatSettings.h"
+#include "refhost/database/Database.h"
+#include "refhost/database/SQLiteProcedure.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace refhost {
+
+/// The company's database in one file. Its procedures are the scripts of refhost/database/sqlite, which are part of the
+/// program; the file holds tables and views only.
+///
+/// Each procedure is prepared at its first call and kept. A call runs in one transaction of its own, a writing one in
+/// an immediate transaction, so that two users' saves follow one another; one waits for the other for some seconds and
+/// then gives up with a sentence.
+class SQLiteConnection : public Database {
+public:
+    /// Opens the file and checks whose it is; with `create` it may be missing. Throws EDatabaseError.
+    SQLiteConnection(const std::string& file, const std::string& user, const TFormatSettings& settings, bool create);
+    ~SQLiteConnection() override;
+
+    TProcedureInfo Describe(const AnsiString& procedure) override;
+    TCallResult Execute(const TProcedureCall& call) override;
+    TResultTable Query(const AnsiString& sql) override;
+
+    bool hasSchema() override;
+    void createSchema() override;
+    void insertRows(std::string_view table, std::span<const std::string> columns,
+                    std::span<const std::vector<TDbValue>> rows) override;
+    void runScript(std::string_view sql) override;
+    const std::string& user() const override { return session_.user(); }
+
+private:
+    void checkOwner();
+    void registerFunctions();
+    void createSessionTables();
+    void useWriteAheadLog();
+    std::int64_t pragma(const std::string& name);
+    SQLiteProcedure& procedure(const AnsiString& name);
+
+    SQLiteSession session_; // First: statements of functions and procedures are gone before it closes.
+    std::vector<std::unique_ptr<SQLiteScriptFunction>> functions_;
+    std::map<std::string, std::unique_ptr<SQLiteProcedure>> procedures_; ///< By lower-case name.
+};
+
+} // namespace refhost

@@ -1,0 +1,232 @@
+#include "refhost/database/SQLiteFunctions.h"
+
+#include "host/ValueText.h"
+#include "refhost/database/Decimal.h"
+#include "refhost/database/ParameterValues.h"
+#include "refhost/database/SQLiteCall.h"
+
+#include <algorithm>
+#include <chrono>
+#include <ctime>
+#include <stdexcept>
+
+namespace refhost {
+
+namespace {
+
+using std::chrono::year_month_day;
+
+constexpr std::size_t c_MostWholeDigits = 15;
+constexpr std::size_t c_MostDecimals = 50;
+
+std::string labelled(const SQLiteCall& call, const std::string& text) {
+    return call.text(1).value_or("Hodnota") + " „" + shownText(text) + "“";
+}
+
+/// The number of digits before and after the point of a canonical decimal.
+std::pair<std::size_t, std::size_t> digitCounts(std::string_view decimal) {
+    if (decimal.starts_with('-'))
+        decimal.remove_prefix(1);
+    const std::size_t point = decimal.find('.');
+    if (point == std::string_view::npos)
+        return {decimal.size(), 0};
+    return {point, decimal.size() - point - 1};
+}
+
+void refuse(const SQLiteCall& call) {
+    throw EDatabaseError(call.text(1).value_or(std::string()), call.text(0).value_or(std::string()));
+}
+
+void parseNumber(const SQLiteCall& call) {
+    const auto text = call.text(0);
+    if (!text || TrimText(*text).empty())
+        return;
+    const auto number = TextToDecimalText(*text);
+    if (!number)
+        throw EDatabaseError(
+            labelled(call, *text) + " není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku.", "ML001");
+    const auto [whole, decimals] = digitCounts(*number);
+    if (whole > c_MostWholeDigits || decimals > c_MostDecimals)
+        throw EDatabaseError(labelled(call, *text) +
+                                 " je příliš dlouhé číslo. Zapište nejvýše 15 číslic před desetinnou čárkou a 50 za "
+                                 "ní.",
+                             "ML005");
+    if (call.count() > 2 && decimals > static_cast<std::size_t>(call.integer(2)))
+        throw EDatabaseError(labelled(call, *text) + " má příliš mnoho desetinných míst. Zapište nejvýše " +
+                                 std::to_string(call.integer(2)) + ".",
+                             "ML006");
+    call.give(*number);
+}
+
+TDateTime now() {
+    const std::time_t moment = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    std::tm local{};
+    localtime_r(&moment, &local);
+    const year_month_day date(std::chrono::year(local.tm_year + 1900),
+                              std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
+                              std::chrono::day(static_cast<unsigned>(local.tm_mday)));
+    return std::chrono::local_days(date) + std::chrono::hours(local.tm_hour) + std::chrono::minutes(local.tm_min) +
+           std::chrono::seconds(local.tm_sec);
+}
+
+year_month_day dateOf(TDateTime moment) {
+    return year_month_day(std::chrono::floor<std::chrono::days>(moment));
+}
+
+/// The settings whose dates and moments are ISO texts.
+const TFormatSettings& isoSettings() {
+    static const TFormatSettings settings;
+    return settings;
+}
+
+/// ISO with all leading zeros, so that the texts of moments sort as the moments do.
+std::string isoDate(year_month_day date) {
+    const auto padded = [](std::string digits, std::size_t length) {
+        return digits.insert(0, length - std::min(length, digits.size()), '0');
+    };
+    return padded(std::to_string(static_cast<int>(date.year())), 4) + "-" +
+           padded(std::to_string(static_cast<unsigned>(date.month())), 2) + "-" +
+           padded(std::to_string(static_cast<unsigned>(date.day())), 2);
+}
+
+std::string isoMoment(TDateTime moment) {
+    const std::string text = DateTimeToText(moment, isoSettings());
+    return isoDate(dateOf(moment)) + text.substr(text.find(' '));
+}
+
+/// Reads what the database itself stored.
+TDateTime storedMoment(const std::string& text) {
+    if (const auto moment = TextToDateTime(text, isoSettings()))
+        return *moment;
+    throw std::invalid_argument("not a stored date: " + text);
+}
+
+[[noreturn]] void refuseDate(const SQLiteCall& call, const std::string& text) {
+    throw EDatabaseError(labelled(call, text) + " není datum. Zapište existující den, měsíc a rok.", "ML002");
+}
+
+void parseDate(const SQLiteCall& call) {
+    const auto text = call.text(0);
+    if (!text || TrimText(*text).empty())
+        return;
+    const auto date = TextToDate(*text, call.session().settings(), dateOf(now()));
+    if (!date)
+        refuseDate(call, *text);
+    call.give(isoDate(*date));
+}
+
+void parseMoment(const SQLiteCall& call) {
+    const auto text = call.text(0);
+    if (!text || TrimText(*text).empty())
+        return;
+    const auto moment = TextToDateTime(*text, call.session().settings());
+    if (!moment)
+        refuseDate(call, *text);
+    call.give(isoMoment(*moment));
+}
+
+void asInteger(const SQLiteCall& call) {
+    if (const auto text = call.text(0))
+        if (const auto number = TextToInt(*text))
+            call.give(*number);
+}
+
+void typed(const SQLiteCall& call) {
+    if (const auto text = call.text(0))
+        if (const std::string trimmed(TrimText(*text)); !trimmed.empty())
+            call.give(trimmed);
+}
+
+void shown(const SQLiteCall& call) {
+    if (const auto text = call.text(0))
+        call.give(shownText(*text));
+}
+
+std::string withSeparator(std::string decimal, const TFormatSettings& settings) {
+    if (const std::size_t point = decimal.find('.'); point != std::string::npos)
+        decimal[point] = settings.DecimalSeparator;
+    return decimal;
+}
+
+void numberText(const SQLiteCall& call) {
+    if (const auto decimal = call.text(0))
+        call.give(withSeparator(canonicalDecimal(*decimal), call.session().settings()));
+}
+
+void totalText(const SQLiteCall& call) {
+    if (const auto decimal = call.text(0))
+        call.give(withSeparator(fixedDecimal(*decimal, 2), call.session().settings()));
+}
+
+void dateText(const SQLiteCall& call) {
+    if (const auto date = call.text(0))
+        call.give(DateToText(dateOf(storedMoment(*date)), call.session().settings()));
+}
+
+void momentText(const SQLiteCall& call) {
+    if (const auto moment = call.text(0))
+        call.give(DateTimeToText(storedMoment(*moment), call.session().settings()));
+}
+
+void monthsBefore(const SQLiteCall& call) {
+    const auto text = call.text(0);
+    if (!text || !call.text(1))
+        return;
+    const year_month_day sought = dateOf(storedMoment(*text)) - std::chrono::months(call.integer(1));
+    call.give(isoDate(sought.ok() ? sought : year_month_day(sought.year() / sought.month() / std::chrono::last)));
+}
+
+void today(const SQLiteCall& call) {
+    call.give(isoDate(dateOf(now())));
+}
+
+void nowMoment(const SQLiteCall& call) {
+    call.give(isoMoment(now()));
+}
+
+void currentUserName(const SQLiteCall& call) {
+    call.give(call.session().user());
+}
+
+struct Entry {
+    const char* Name;
+    int Arguments;
+    void (*Call)(sqlite3_context*, int, sqlite3_value**);
+};
+
+// None is declared deterministic: the engine would evaluate a call with constant arguments once at the start of a
+// statement, and a refusal would come for rows that the statement never reaches.
+constexpr Entry c_Functions[] = {
+    {"refuse", 2, sqliteFunction<refuse>},
+    {"parse_number", 1, sqliteFunction<parseNumber>},
+    {"parse_number", 2, sqliteFunction<parseNumber>},
+    {"parse_number", 3, sqliteFunction<parseNumber>},
+    {"parse_date", 1, sqliteFunction<parseDate>},
+    {"parse_date", 2, sqliteFunction<parseDate>},
+    {"parse_moment", 1, sqliteFunction<parseMoment>},
+    {"as_integer", 1, sqliteFunction<asInteger>},
+    {"typed", 1, sqliteFunction<typed>},
+    {"shown", 1, sqliteFunction<shown>},
+    {"number_text", 1, sqliteFunction<numberText>},
+    {"total_text", 1, sqliteFunction<totalText>},
+    {"date_text", 1, sqliteFunction<dateText>},
+    {"moment_text", 1, sqliteFunction<momentText>},
+    {"months_before", 2, sqliteFunction<monthsBefore>},
+    {"today", 0, sqliteFunction<today>},
+    {"now_moment", 0, sqliteFunction<nowMoment>},
+    {"current_user_name", 0, sqliteFunction<currentUserName>},
+};
+
+} // namespace
+
+void registerValueFunctions(SQLiteSession& session) {
+    for (const Entry& entry : c_Functions) {
+        const int status =
+            sqlite3_create_function_v2(session.handle(), entry.Name, entry.Arguments, SQLITE_UTF8 | SQLITE_INNOCUOUS,
+                                       &session, entry.Call, nullptr, nullptr, nullptr);
+        if (status != SQLITE_OK)
+            session.fail(status, entry.Name);
+    }
+}
+
+} // namespace refhost

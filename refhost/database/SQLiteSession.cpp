@@ -1,0 +1,96 @@
+#include "refhost/database/SQLiteSession.h"
+
+#include "refhost/database/SQLiteErrors.h"
+
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace refhost {
+
+namespace {
+
+/// How long a call waits for another user's save before it gives up.
+constexpr int c_BusyMilliseconds = 5000;
+
+/// A missing folder or file has a sentence of its own: the engine would only say that it cannot open the file.
+void checkPlace(const std::string& file, bool create) {
+    std::error_code error;
+    const std::filesystem::path path(file);
+    const std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
+    if (!std::filesystem::is_directory(folder, error))
+        throw EDatabaseError(
+            "Složka „" + folder.string() + "“ pro databázi neexistuje. Vytvořte ji, nebo zvolte jinou.", "ML915");
+    if (std::filesystem::is_directory(path, error))
+        throw EDatabaseError("„" + file + "“ je složka, ne soubor databáze. Zvolte jiný soubor.", "ML915");
+    if (!create && !std::filesystem::exists(path, error))
+        throw EDatabaseError("Soubor databáze „" + file + "“ neexistuje. Zvolte jiný, nebo databázi vytvořte.",
+                             "ML915");
+}
+
+bool isReading(int action) {
+    return action == SQLITE_SELECT || action == SQLITE_READ || action == SQLITE_FUNCTION || action == SQLITE_RECURSIVE;
+}
+
+bool isWriting(int action) {
+    return action == SQLITE_INSERT || action == SQLITE_UPDATE || action == SQLITE_DELETE;
+}
+
+} // namespace
+
+SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, bool create)
+    : file_(std::move(file)), user_(std::move(user)), settings_(settings) {
+    checkPlace(file_, create);
+    sqlite3* opened = nullptr;
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | (create ? SQLITE_OPEN_CREATE : 0);
+    const int status = sqlite3_open_v2(file_.c_str(), &opened, flags, nullptr);
+    handle_.reset(opened);
+    if (status != SQLITE_OK)
+        fail(status, "open");
+    sqlite3_busy_timeout(handle(), c_BusyMilliseconds);
+    sqlite3_db_config(handle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle(), SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_set_authorizer(handle(), authorize, this);
+    execute("pragma foreign_keys = on");
+    execute("pragma temp_store = memory");
+}
+
+void SQLiteSession::execute(const std::string& sql) {
+    const int status = sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr);
+    if (status != SQLITE_OK)
+        fail(status, sql);
+}
+
+void SQLiteSession::fail(int code, std::string_view statement) {
+    if (const auto failure = std::exchange(failure_, std::nullopt))
+        throw *failure;
+    throw sqliteError(code, handle(), file_, statement);
+}
+
+bool SQLiteSession::takeWrites() {
+    return std::exchange(writes_, false);
+}
+
+int SQLiteSession::authorize(void* session, int action, const char* /*first*/, const char* /*second*/,
+                             const char* database, const char* /*trigger*/) {
+    auto& self = *static_cast<SQLiteSession*>(session);
+    if (isWriting(action) && database != nullptr && std::string_view(database) == "main")
+        self.writes_ = true;
+    return self.access_ == Access::Everything || isReading(action) ? SQLITE_OK : SQLITE_DENY;
+}
+
+SQLiteTransaction::SQLiteTransaction(SQLiteSession& session, Kind kind) : session_(session) {
+    session_.execute(kind == Kind::Writing ? "begin immediate" : "begin");
+}
+
+SQLiteTransaction::~SQLiteTransaction() {
+    // The engine may have rolled back by itself; a rollback that fails leaves nothing that could be done here.
+    if (sqlite3_get_autocommit(session_.handle()) == 0)
+        sqlite3_exec(session_.handle(), "rollback", nullptr, nullptr, nullptr);
+}
+
+void SQLiteTransaction::commit() {
+    session_.execute("commit");
+}
+
+} // namespace refhost
