@@ -1,0 +1,9 @@
+-- Refuses a row without a stock item (ML042) or with one that does not exist (ML043).
+--
+-- in: name
+
+select case
+           when :name is null then refuse('ML042', 'Řádek nemá skladovou položku. Doplňte ji, nebo řádek vyprázdněte.')
+           when :name not in (select NAZEV from SKLADPOL)
+               then refuse('ML043', 'Skladová položka „' || shown(:name) || '“ neexistuje. Vyberte jinou.')
+       end;

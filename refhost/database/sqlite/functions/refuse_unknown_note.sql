@@ -1,0 +1,7 @@
+-- Refuses a delivery note that does not exist (ML010); null is none.
+--
+-- in: id
+
+select refuse('ML010', 'Dodací list s identifikátorem ' || coalesce(:id, 'NULL')
+                           || ' neexistuje. Obnovte seznam a vyberte jiný.')
+where not exists (select 1 from DODAK where ID = :id);

@@ -1,0 +1,113 @@
+-- Checks one row of a delivery note and keeps it for the closing call. Texts come as they stand in the editor's cells; a
+-- row without any is ignored. An empty warehouse is the note's own, an empty VAT rate none.
+--
+-- Refusals: ML040, ML041 no save is under way; ML042, ML043 item; ML044 warehouse; ML110 VAT rate; ML049, ML050 order
+-- line; ML001, ML005, ML006 numbers; ML111 discount; ML002 shelf life; ML052 a total that its quantity and unit price
+-- do not give.
+--
+-- in: a_DOBSID
+-- in: a_SKLADPOL
+-- in: a_SKLAD
+-- in: a_MNOZSTVI
+-- in: a_DPH
+-- in: a_SLEVA
+-- in: a_JEDNCENABSL
+-- in: a_JEDNDPHASL
+-- in: a_JEDNDPHBSL
+-- in: a_JEDNCENASSL
+-- in: a_JEDNCENAB
+-- in: a_JEDNDPHA
+-- in: a_JEDNDPHB
+-- in: a_JEDNCENAS
+-- in: a_CENABSL
+-- in: a_DPHASL
+-- in: a_DPHBSL
+-- in: a_CENASSL
+-- in: a_CENAB
+-- in: a_DPHA
+-- in: a_DPHB
+-- in: a_CENAS
+-- in: a_TRVANLIVOST
+-- after failure: staging refused
+
+select refuse_closed_staging() as refusal;
+
+delete from NOTE_SENT;
+
+insert into NOTE_SENT (DOBSID, SKLADPOL, SKLAD, DPH, MNOZSTVI, SLEVA,
+                       JEDNCENABSL, JEDNDPHASL, JEDNDPHBSL, JEDNCENASSL, JEDNCENAB, JEDNDPHA, JEDNDPHB, JEDNCENAS,
+                       CENABSL, DPHASL, DPHBSL, CENASSL, CENAB, DPHA, DPHB, CENAS, TRVANLIVOST)
+values (typed(:a_DOBSID), typed(:a_SKLADPOL), typed(:a_SKLAD), typed(:a_DPH), typed(:a_MNOZSTVI), typed(:a_SLEVA),
+        typed(:a_JEDNCENABSL), typed(:a_JEDNDPHASL), typed(:a_JEDNDPHBSL), typed(:a_JEDNCENASSL),
+        typed(:a_JEDNCENAB), typed(:a_JEDNDPHA), typed(:a_JEDNDPHB), typed(:a_JEDNCENAS),
+        typed(:a_CENABSL), typed(:a_DPHASL), typed(:a_DPHBSL), typed(:a_CENASSL),
+        typed(:a_CENAB), typed(:a_DPHA), typed(:a_DPHB), typed(:a_CENAS), typed(:a_TRVANLIVOST));
+
+delete from NOTE_SENT
+where coalesce(DOBSID, SKLADPOL, SKLAD, DPH, MNOZSTVI, SLEVA,
+               JEDNCENABSL, JEDNDPHASL, JEDNDPHBSL, JEDNCENASSL, JEDNCENAB, JEDNDPHA, JEDNDPHB, JEDNCENAS,
+               CENABSL, DPHASL, DPHBSL, CENASSL, CENAB, DPHA, DPHB, CENAS, TRVANLIVOST) is null;
+
+select refuse_unknown_item(SKLADPOL) as refusal from NOTE_SENT;
+
+select refuse_unknown_warehouse(SKLAD) as refusal from NOTE_SENT;
+
+select refuse('ML110', 'Sazba DPH „' || shown(DPH) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.') as refusal
+from NOTE_SENT
+where DPH is not null and DPH not in (select NAZEV from DPH);
+
+select refuse('ML049', 'Řádek objednávky „' || shown(DOBSID)
+                           || '“ neexistuje. Načtěte položky z objednávky znovu.') as refusal
+from NOTE_SENT
+where DOBSID is not null
+  and not exists (select 1
+                  from DODOBJPOL p
+                  join DODOBJEDNAVKA o on o.ID = p.DDOBID and o.VZOR = 0
+                  where p.ID = as_integer(NOTE_SENT.DOBSID));
+
+select refuse('ML050', 'Řádek objednávky „' || shown(DOBSID) || '“ je pro jinou položku než „' || shown(SKLADPOL)
+                           || '“. Načtěte položky z objednávky znovu.') as refusal
+from NOTE_SENT
+join DODOBJPOL p on p.ID = as_integer(DOBSID)
+join SKLADPOL i on i.ID = p.SKLPID
+where i.NAZEV <> SKLADPOL;
+
+insert into NOTE_STAGED (DOBSID, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA,
+                         JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, JEDNCENASSESLEVOU,
+                         JEDNCENABBEZSLEVY, JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY,
+                         CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU,
+                         CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, CENASBEZSLEVY)
+select as_integer(DOBSID),
+       (select ID from SKLADPOL where NAZEV = SENT.SKLADPOL),
+       (select ID from SKLAD where NAZEV = SENT.SKLAD),
+       (select ID from DPH where NAZEV = SENT.DPH),
+       coalesce(parse_number(MNOZSTVI, 'Množství', 6), '0'), parse_number(SLEVA, 'Sleva', 2),
+       parse_number(JEDNCENABSL, 'Jednotková cena', 6), parse_number(JEDNDPHASL, 'Jednotková cena', 6),
+       parse_number(JEDNDPHBSL, 'Jednotková cena', 6), parse_number(JEDNCENASSL, 'Jednotková cena', 6),
+       parse_number(JEDNCENAB, 'Jednotková cena', 6), parse_number(JEDNDPHA, 'Jednotková cena', 6),
+       parse_number(JEDNDPHB, 'Jednotková cena', 6), parse_number(JEDNCENAS, 'Jednotková cena', 6),
+       parse_number(CENABSL, 'Celková cena', 2), parse_number(DPHASL, 'Celková cena', 2),
+       parse_number(DPHBSL, 'Celková cena', 2), parse_number(CENASSL, 'Celková cena', 2),
+       parse_number(CENAB, 'Celková cena', 2), parse_number(DPHA, 'Celková cena', 2),
+       parse_number(DPHB, 'Celková cena', 2), parse_number(CENAS, 'Celková cena', 2)
+from NOTE_SENT as SENT;
+
+select refuse('ML111', 'Sleva ' || number_text(SLEVA) || ' % není přípustná. Zadejte slevu od 0 do 100 %.') as refusal
+from NOTE_STAGED
+where PLACE = (select max(PLACE) from NOTE_STAGED) and (dec_cmp(SLEVA, 0) < 0 or dec_cmp(SLEVA, 100) > 0);
+
+update NOTE_STAGED
+set TRVANLIVOST = parse_date(SENT.TRVANLIVOST, 'Trvanlivost')
+from NOTE_SENT as SENT
+where PLACE = (select max(PLACE) from NOTE_STAGED);
+
+-- Prices are rounded to their decimals, so that a total may differ from quantity times unit price by that much.
+select refuse('ML052', 'Celková cena ' || total_text(CENA) || ' položky „' || shown(i.NAZEV)
+                           || '“ neodpovídá množství ' || number_text(MNOZSTVI) || ' krát jednotkové ceně '
+                           || number_text(JEDNCENA) || '. Opravte jednu z nich.') as refusal
+from NOTE_PAIR
+join SKLADPOL i on i.ID = SKLPID
+where PLACE = (select max(PLACE) from NOTE_STAGED)
+  and dec_cmp(dec_abs(dec_sub(dec_mul(MNOZSTVI, JEDNCENA), CENA)),
+              dec_add('0.02', dec_mul(dec_abs(MNOZSTVI), '0.000002'))) > 0
+order by ORDINAL;

@@ -1,0 +1,5 @@
+-- Begins a save: empties this session's rows and opens them for new ones. Refuses nothing.
+
+delete from NOTE_STAGED;
+delete from ORDER_STAGED;
+update STAGING set STATE = 'open';

@@ -1,0 +1,61 @@
+-- The rows of a save that is under way. They belong to the session: a second connection of the same user has its own.
+
+-- One row, the state of the save: 'closed' until its rows are emptied, then 'open'; 'refused' after a failure, until the
+-- rows are emptied again.
+create temp table STAGING (STATE text not null);
+insert into STAGING (STATE) values ('closed');
+
+-- The row of a delivery note as it was sent: blanks are gone, empty texts are null.
+create temp table NOTE_SENT (
+    DOBSID text, SKLADPOL text, SKLAD text, DPH text, MNOZSTVI text, SLEVA text,
+    JEDNCENABSL text, JEDNDPHASL text, JEDNDPHBSL text, JEDNCENASSL text,
+    JEDNCENAB text, JEDNDPHA text, JEDNDPHB text, JEDNCENAS text,
+    CENABSL text, DPHASL text, DPHBSL text, CENASSL text,
+    CENAB text, DPHA text, DPHB text, CENAS text,
+    TRVANLIVOST text
+);
+
+-- Checked rows of a delivery note, in the order in which they came.
+create temp table NOTE_STAGED (
+    PLACE integer primary key,
+    DOBSID integer, SKLPID integer, SKLDID integer, DPHID integer, MNOZSTVI text, SLEVA text,
+    JEDNCENABSESLEVOU text, JEDNDPHASESLEVOU text, JEDNDPHBSESLEVOU text, JEDNCENASSESLEVOU text,
+    JEDNCENABBEZSLEVY text, JEDNDPHABEZSLEVY text, JEDNDPHBBEZSLEVY text, JEDNCENASBEZSLEVY text,
+    CENABSESLEVOU text, DPHASESLEVOU text, DPHBSESLEVOU text, CENASSESLEVOU text,
+    CENABBEZSLEVY text, DPHABEZSLEVY text, DPHBBEZSLEVY text, CENASBEZSLEVY text,
+    TRVANLIVOST text
+);
+
+-- The rows that become lines: those with a quantity.
+create temp view NOTE_LINE as
+select * from NOTE_STAGED where MNOZSTVI <> '0';
+
+-- Each unit price beside the total that it has to give, where a row has both, in the order in which a clash is reported.
+create temp view NOTE_PAIR (PLACE, ORDINAL, SKLPID, MNOZSTVI, JEDNCENA, CENA) as
+select PLACE, ORDINAL, SKLPID, MNOZSTVI, UNIT, TOTAL
+from (select PLACE, 1 as ORDINAL, SKLPID, MNOZSTVI, JEDNCENABSESLEVOU as UNIT, CENABSESLEVOU as TOTAL from NOTE_LINE
+      union all select PLACE, 2, SKLPID, MNOZSTVI, JEDNDPHASESLEVOU, DPHASESLEVOU from NOTE_LINE
+      union all select PLACE, 3, SKLPID, MNOZSTVI, JEDNDPHBSESLEVOU, DPHBSESLEVOU from NOTE_LINE
+      union all select PLACE, 4, SKLPID, MNOZSTVI, JEDNCENASSESLEVOU, CENASSESLEVOU from NOTE_LINE
+      union all select PLACE, 5, SKLPID, MNOZSTVI, JEDNCENABBEZSLEVY, CENABBEZSLEVY from NOTE_LINE
+      union all select PLACE, 6, SKLPID, MNOZSTVI, JEDNDPHABEZSLEVY, DPHABEZSLEVY from NOTE_LINE
+      union all select PLACE, 7, SKLPID, MNOZSTVI, JEDNDPHBBEZSLEVY, DPHBBEZSLEVY from NOTE_LINE
+      union all select PLACE, 8, SKLPID, MNOZSTVI, JEDNCENASBEZSLEVY, CENASBEZSLEVY from NOTE_LINE)
+where UNIT is not null and TOTAL is not null;
+
+-- The row of an order or template as it was sent, likewise.
+create temp table ORDER_SENT (SKLADPOL text, SKLAD text, DODAVATEL text, POPIS text, KOMENTAR text);
+
+-- Its quantities: SLOT 0 the main unit, 1 and 2 the secondary ones.
+create temp table ORDER_SENT_QUANTITY (
+    SLOT integer primary key, LABEL text, MNOZSTVI text, SKPLID text, JEDNOTKY text
+);
+
+-- Checked rows, one for each quantity that is not empty or 0.
+create temp table ORDER_STAGED (
+    PLACE integer primary key,
+    SKLPID integer, SKPLID integer, SKLDID integer, DODVID integer, MNOZSTVI text, POPIS text, KOMENTAR text
+);
+
+-- Into which order each supplier's rows go (null: rows without a supplier).
+create temp table ORDER_TARGET (DODVID integer, DDOBID integer);
