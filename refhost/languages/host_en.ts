@@ -1,0 +1,379 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="cs">
+<context>
+    <name></name>
+    <message id="MELVARKHOST\MAIN\TITLE">
+        <source>Melvark – nákup a sklad</source>
+        <translation>Melvark – purchasing and stock</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\FILE">
+        <source>&amp;Soubor</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\DOCUMENT">
+        <source>&amp;Doklad</source>
+        <translation>&amp;Document</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\VIEW">
+        <source>&amp;Zobrazit</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\REFRESH">
+        <source>&amp;Obnovit</source>
+        <translation>&amp;Refresh</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\QUIT">
+        <source>&amp;Konec</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\INSERTLINES">
+        <source>&amp;Vložit položky</source>
+        <translation>&amp;Insert lines</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\INSERTLINESHINT">
+        <source>Hromadně vloží položky do vybraného dokladu (F8)</source>
+        <translation>Inserts lines into the selected document in bulk (F8)</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\SEARCH">
+        <source>&amp;Hledat</source>
+        <translation>&amp;Search</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\USER">
+        <source>Uživatel: %1</source>
+        <translation>User: %1</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\DATABASE">
+        <source>Databáze: %1</source>
+        <translation>Database: %1</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\PLUGINMISSING">
+        <source>Vkládání položek není k dispozici. %1</source>
+        <translation>Inserting lines is not available. %1</translation>
+    </message>
+    <message id="MELVARKHOST\SCREEN\DODAK">
+        <source>Dodací listy</source>
+        <translation>Delivery notes</translation>
+    </message>
+    <message id="MELVARKHOST\SCREEN\DODOBJ">
+        <source>Objednávky</source>
+        <translation>Orders</translation>
+    </message>
+    <message id="MELVARKHOST\SCREEN\DODOBJVZOR">
+        <source>Vzory objednávek</source>
+        <translation>Order templates</translation>
+    </message>
+    <message id="MELVARKHOST\SCREEN\LINES">
+        <source>Položky dokladu %1</source>
+        <translation>Lines of document %1</translation>
+    </message>
+    <message id="MELVARKHOST\SCREEN\NODOCUMENT">
+        <source>Není vybrán žádný doklad</source>
+        <translation>No document is selected</translation>
+    </message>
+    <message id="MELVARKHOST\SCREEN\DOCUMENTLIST">
+        <source>Seznam dokladů</source>
+        <translation>List of documents</translation>
+    </message>
+    <message id="MELVARKHOST\SCREEN\LINELIST">
+        <source>Položky dokladu</source>
+        <translation>Lines of the document</translation>
+    </message>
+    <message id="MELVARKHOST\SCREEN\UNKNOWN">
+        <source>Obrazovka „%1“ neexistuje. Možnosti jsou DODAK, DODOBJ a DODOBJVZOR.</source>
+        <translation>There is no screen “%1”. The screens are DODAK, DODOBJ and DODOBJVZOR.</translation>
+    </message>
+    <message id="MELVARKHOST\SCREEN\UNKNOWNDOCUMENT">
+        <source>Doklad s číslem záznamu %1 na této obrazovce není.</source>
+        <translation>This screen has no document with record number %1.</translation>
+    </message>
+    <message id="MELVARKHOST\LIST\SEARCHPLACEHOLDER">
+        <source>Hledejte psaním…</source>
+        <translation>Type to search…</translation>
+    </message>
+    <message id="MELVARKHOST\LIST\SEARCHNAME">
+        <source>Hledaný text</source>
+        <translation>Searched text</translation>
+    </message>
+    <message id="MELVARKHOST\LIST\ROWCOUNT">
+        <source>%1 z %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="MELVARKHOST\LOOKUP\TITLE">
+        <source>Výběr ze seznamu</source>
+        <translation>Choose from the list</translation>
+    </message>
+    <message id="MELVARKHOST\LOOKUP\LIST">
+        <source>Nabízené záznamy</source>
+        <translation>Offered records</translation>
+    </message>
+    <message id="MELVARKHOST\LOOKUP\PICK">
+        <source>&amp;Vybrat</source>
+        <translation>&amp;Choose</translation>
+    </message>
+    <message id="MELVARKHOST\LOOKUP\CANCEL">
+        <source>&amp;Zrušit</source>
+        <translation>C&amp;ancel</translation>
+    </message>
+    <message id="MELVARKHOST\LOOKUP\EMPTY">
+        <source>Seznam neobsahuje žádný vhodný záznam.</source>
+        <translation>The list has no suitable record.</translation>
+    </message>
+    <message id="MELVARKHOST\LOOKUP\UNKNOWN">
+        <source>Seznam „%1“ tento program nemá.</source>
+        <translation>This program has no list “%1”.</translation>
+    </message>
+    <message id="MELVARKHOST\LOOKUP\NOCOLUMN">
+        <source>Seznam „%1“ nemá sloupec %2.</source>
+        <translation>The list “%1” has no column %2.</translation>
+    </message>
+    <message id="MELVARKHOST\BOX\ERROR">
+        <source>Chyba</source>
+        <translation>Error</translation>
+    </message>
+    <message id="MELVARKHOST\BOX\QUESTION">
+        <source>Potvrzení</source>
+        <translation>Confirmation</translation>
+    </message>
+    <message id="MELVARKHOST\BOX\NOTE">
+        <source>Upozornění</source>
+        <translation>Note</translation>
+    </message>
+    <message id="MELVARKHOST\ERROR\DETAILS">
+        <source>&amp;Podrobnosti</source>
+        <translation>&amp;Details</translation>
+    </message>
+    <message id="MELVARKHOST\ERROR\DETAILSNAME">
+        <source>Podrobnosti chyby</source>
+        <translation>Details of the error</translation>
+    </message>
+    <message id="MELVARKHOST\ERROR\COPY">
+        <source>&amp;Kopírovat</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message id="MELVARKHOST\ERROR\CLOSE">
+        <source>&amp;Zavřít</source>
+        <translation>C&amp;lose</translation>
+    </message>
+    <message id="MELVARKHOST\ERROR\UNEXPECTED">
+        <source>Nastala neočekávaná chyba. Program běží dál, poslední krok se neprovedl.</source>
+        <translation>An unexpected error occurred. The program goes on, the last step was not done.</translation>
+    </message>
+    <message id="MELVARKHOST\ERROR\CODE">
+        <source>Kód: %1</source>
+        <translation>Code: %1</translation>
+    </message>
+    <message id="MELVARKHOST\ERROR\ORIGINAL">
+        <source>Původní znění: %1</source>
+        <translation>Original wording: %1</translation>
+    </message>
+    <message id="MELVARKHOST\ERROR\KIND">
+        <source>Druh: %1</source>
+        <translation>Kind: %1</translation>
+    </message>
+    <message id="MELVARKHOST\PLUGIN\NOTFOUND">
+        <source>Modul „%1“ nebyl nalezen. Nainstalujte jej znovu vedle programu.</source>
+        <translation>The module “%1” was not found. Install it again beside the program.</translation>
+    </message>
+    <message id="MELVARKHOST\PLUGIN\UNLOADABLE">
+        <source>Modul „%1“ nelze načíst. Nainstalujte jej znovu. (%2)</source>
+        <translation>The module “%1” cannot be loaded. Install it again. (%2)</translation>
+    </message>
+    <message id="MELVARKHOST\PLUGIN\NOENTRY">
+        <source>Soubor „%1“ není modulem tohoto programu: chybí v něm vstupní bod %2.</source>
+        <translation>The file “%1” is no module of this program: it lacks the entry point %2.</translation>
+    </message>
+    <message id="MELVARKHOST\PLUGIN\VERSION">
+        <source>Modul „%1“ je pro jinou verzi programu (%2 místo %3). Nainstalujte jeho verzi vydanou s tímto programem.</source>
+        <translation>The module “%1” is for another version of the program (%2 instead of %3). Install the module that was released with this program.</translation>
+    </message>
+    <message id="MELVARKHOST\PLUGIN\START">
+        <source>Modul „%1“ se nepodařilo spustit. (%2)</source>
+        <translation>The module “%1” could not be started. (%2)</translation>
+    </message>
+    <message id="MELVARKHOST\PLUGIN\NOCLASS">
+        <source>Modul „%1“ neobsahuje třídu %2.</source>
+        <translation>The module “%1” does not contain the class %2.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\CISLO">
+        <source>Číslo</source>
+        <translation>Number</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\NAZEV">
+        <source>Název</source>
+        <translation>Name</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JMENO">
+        <source>Jméno</source>
+        <translation>Name</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\ICO">
+        <source>IČO</source>
+        <translation>Company ID</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\MESTO">
+        <source>Město</source>
+        <translation>Town</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\DATUM">
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\OBJEDNANIDC">
+        <source>Objednáno</source>
+        <translation>Ordered</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\DODAVATEL">
+        <source>Dodavatel</source>
+        <translation>Supplier</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\SKLAD">
+        <source>Sklad</source>
+        <translation>Warehouse</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\STAV">
+        <source>Stav</source>
+        <translation>State</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\POCETPOLOZEK">
+        <source>Položek</source>
+        <translation>Lines</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\CENACELKEM">
+        <source>Cena celkem</source>
+        <translation>Total price</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\NADRIZENA">
+        <source>Nadřízená skupina</source>
+        <translation>Parent group</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\PORADI">
+        <source>Pořadí</source>
+        <translation>Position</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\SKUPSPOL1">
+        <source>Skupina 1</source>
+        <translation>Group 1</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\SKUPSPOL2">
+        <source>Skupina 2</source>
+        <translation>Group 2</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\SKUPSPOL3">
+        <source>Skupina 3</source>
+        <translation>Group 3</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\SKLADPOL">
+        <source>Skladová položka</source>
+        <translation>Stock item</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\MNOZSTVI">
+        <source>Množství</source>
+        <translation>Quantity</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JEDNOTKY">
+        <source>Jednotky</source>
+        <translation>Unit</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\DODANO">
+        <source>Dodáno</source>
+        <translation>Delivered</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\DPH">
+        <source>Sazba DPH</source>
+        <translation>VAT rate</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\SLEVA">
+        <source>Sleva %</source>
+        <translation>Discount %</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JEDNCENABSESLEVOU">
+        <source>Jedn. cena bez DPH se sl.</source>
+        <translation>Unit price excl. VAT after disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JEDNDPHASESLEVOU">
+        <source>Jedn. DPH se sl.</source>
+        <translation>Unit VAT after disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JEDNDPHBSESLEVOU">
+        <source>Jedn. místní DPH se sl.</source>
+        <translation>Unit local VAT after disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JEDNCENASSESLEVOU">
+        <source>Jedn. cena s DPH se sl.</source>
+        <translation>Unit price incl. VAT after disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JEDNCENABBEZSLEVY">
+        <source>Jedn. cena bez DPH bez sl.</source>
+        <translation>Unit price excl. VAT before disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JEDNDPHABEZSLEVY">
+        <source>Jedn. DPH bez sl.</source>
+        <translation>Unit VAT before disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JEDNDPHBBEZSLEVY">
+        <source>Jedn. místní DPH bez sl.</source>
+        <translation>Unit local VAT before disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\JEDNCENASBEZSLEVY">
+        <source>Jedn. cena s DPH bez sl.</source>
+        <translation>Unit price incl. VAT before disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\CENABSESLEVOU">
+        <source>Cena bez DPH se sl.</source>
+        <translation>Price excl. VAT after disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\DPHASESLEVOU">
+        <source>DPH se sl.</source>
+        <translation>VAT after disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\DPHBSESLEVOU">
+        <source>Místní DPH se sl.</source>
+        <translation>Local VAT after disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\CENASSESLEVOU">
+        <source>Cena s DPH se sl.</source>
+        <translation>Price incl. VAT after disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\CENABBEZSLEVY">
+        <source>Cena bez DPH bez sl.</source>
+        <translation>Price excl. VAT before disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\DPHABEZSLEVY">
+        <source>DPH bez sl.</source>
+        <translation>VAT before disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\DPHBBEZSLEVY">
+        <source>Místní DPH bez sl.</source>
+        <translation>Local VAT before disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\CENASBEZSLEVY">
+        <source>Cena s DPH bez sl.</source>
+        <translation>Price incl. VAT before disc.</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\TRVANLIVOST">
+        <source>Trvanlivost</source>
+        <translation>Best before</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\DOBSID">
+        <source>Řádek objednávky</source>
+        <translation>Order line</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\POPIS">
+        <source>Popis</source>
+        <translation>Description</translation>
+    </message>
+    <message id="MELVARKHOST\COLUMN\KOMENTAR">
+        <source>Komentář</source>
+        <translation>Comment</translation>
+    </message>
+    <message id="MELVARKHOST\STATE|otevřený">
+        <source>otevřený</source>
+        <translation>open</translation>
+    </message>
+    <message id="MELVARKHOST\STATE|uzavřený">
+        <source>uzavřený</source>
+        <translation>closed</translation>
+    </message>
+</context>
+</TS>
