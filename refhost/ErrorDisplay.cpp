@@ -1,0 +1,66 @@
+#include "refhost/ErrorDisplay.h"
+
+#include "host/Exceptions.h"
+#include "refhost/Languages.h"
+
+#include <ostream>
+
+namespace refhost {
+
+namespace {
+
+void addLine(std::string& lines, const std::string& line) {
+    if (line.empty())
+        return;
+    if (!lines.empty())
+        lines += '\n';
+    lines += line;
+}
+
+std::string fillIn(const Languages& languages, const HostText& text, const std::string& value) {
+    return languages.label(text).arg(QString::fromStdString(value)).toStdString();
+}
+
+ErrorReport describeDatabaseError(const EDatabaseError& error, const Languages& languages) {
+    ErrorReport report{.sentence = error.Message(), .details = {}};
+    if (!error.Code().empty()) {
+        const auto translated = languages.translation("MELVARKHOST\\REFUSAL\\" + error.Code(), error.Message());
+        if (translated) {
+            report.sentence = *translated;
+            addLine(report.details, fillIn(languages, texts::errorOriginal, error.Message()));
+        }
+        addLine(report.details, fillIn(languages, texts::errorCode, error.Code()));
+    }
+    addLine(report.details, error.Details());
+    return report;
+}
+
+} // namespace
+
+ErrorReport describeError(const std::exception_ptr& error, const Languages& languages) {
+    try {
+        std::rethrow_exception(error);
+    } catch (const EDatabaseError& databaseError) {
+        return describeDatabaseError(databaseError, languages);
+    } catch (const Exception& exception) {
+        return {.sentence = exception.Message(), .details = {}};
+    } catch (const std::exception& exception) {
+        return {.sentence = languages.text(texts::errorUnexpected),
+                .details = fillIn(languages, texts::errorKind, exception.what())};
+    } catch (...) {
+        return {.sentence = languages.text(texts::errorUnexpected), .details = {}};
+    }
+}
+
+ErrorDisplay::~ErrorDisplay() = default;
+
+StreamErrorDisplay::StreamErrorDisplay(std::ostream& stream) : stream_(stream) {}
+
+void StreamErrorDisplay::show(const ErrorReport& report) {
+    stream_ << report.sentence << '\n';
+    if (!report.details.empty())
+        stream_ << report.details << '\n';
+    stream_.flush();
+}
+
+} // namespace refhost
