@@ -1,0 +1,93 @@
+#include "refhost/PackageLoader.h"
+
+#include "host/ClassRegistry.h"
+#include "host/Exceptions.h"
+#include "host/LibraryItem.h"
+#include "refhost/Languages.h"
+
+#include <QFileInfo>
+#include <QLibrary>
+
+#include <array>
+
+namespace refhost {
+
+namespace {
+
+constexpr std::array c_packageFolders{u"", u"/../lib/melvark"};
+const QString c_packageFile = QStringLiteral("/MelvarkEditor.so");
+
+template <typename... Values>
+[[noreturn]] void refuse(const Languages& languages, const HostText& text, const Values&... values) {
+    throw EHostError(languages.label(text).arg(QString::fromStdString(values)...).toStdString());
+}
+
+/// The library with all its symbols bound, so that a part that does not fit shows itself now and not in use.
+void load(QLibrary& library, const std::string& name, const Languages& languages) {
+    if (!QFileInfo::exists(library.fileName()))
+        refuse(languages, texts::pluginNotFound, name);
+    library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
+    if (!library.load())
+        refuse(languages, texts::pluginUnloadable, name, library.errorString().toStdString());
+}
+
+template <typename Function>
+Function resolve(QLibrary& library, const char* symbol, const std::string& name, const Languages& languages) {
+    const QFunctionPointer address = library.resolve(symbol);
+    if (!address)
+        refuse(languages, texts::pluginNoEntry, name, std::string(symbol));
+    return reinterpret_cast<Function>(address);
+}
+
+} // namespace
+
+Package::Package(const std::string& file, const Languages& languages)
+    : name_(QFileInfo(QString::fromStdString(file)).fileName().toStdString()), languages_(languages) {
+    QLibrary library(QString::fromStdString(file));
+    load(library, name_, languages);
+    checkDescription(resolve<TGetPackageInfoTable>(library, c_GetPackageInfoTableSymbol, name_, languages));
+    const auto finalize = resolve<TFinalizePackage>(library, c_FinalizeSymbol, name_, languages);
+    initialize(resolve<TInitializePackage>(library, c_InitializeSymbol, name_, languages));
+    finalize_ = finalize;
+}
+
+Package::~Package() {
+    if (finalize_)
+        finalize_();
+}
+
+void Package::checkDescription(TGetPackageInfoTable describe) const {
+    const TPackageInfo* info = describe();
+    if (!info)
+        refuse(languages_, texts::pluginNoEntry, name_, std::string(c_GetPackageInfoTableSymbol));
+    if (info->ContractVersion != c_ContractVersion)
+        refuse(languages_, texts::pluginVersion, name_, std::to_string(info->ContractVersion),
+               std::to_string(c_ContractVersion));
+}
+
+void Package::initialize(TInitializePackage start) const {
+    try {
+        start();
+    } catch (const std::exception& error) {
+        refuse(languages_, texts::pluginStart, name_, std::string(error.what()));
+    }
+}
+
+std::unique_ptr<TLibraryItem> Package::createItem(const std::string& className, const TClassRegistry& registry,
+                                                  TLibraryManager* libraryManager) const {
+    if (!registry.Contains(className))
+        refuse(languages_, texts::pluginNoClass, name_, className);
+    return registry.Create(className, libraryManager);
+}
+
+std::string findPackage(const std::string& programFolder) {
+    const QString folder = QString::fromStdString(programFolder);
+    for (const char16_t* place : c_packageFolders) {
+        const QString file = folder + QString::fromUtf16(place) + c_packageFile;
+        if (QFileInfo::exists(file))
+            return file.toStdString();
+    }
+    return (folder + c_packageFile).toStdString();
+}
+
+} // namespace refhost
