@@ -1,0 +1,131 @@
+#include "refhost/tables/ResultTable.h"
+
+#include "refhost/tables/ResultModel.h"
+#include "refhost/tables/ResultOrder.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace refhost {
+
+namespace {
+
+constexpr std::string_view c_keyColumn = "_ID";
+/// Widths follow the first rows only: measuring thousands would cost more than a too narrow column is worth.
+constexpr int c_measuredRows = 40;
+constexpr int c_widestColumn = 320;
+constexpr int c_cellPadding = 12;
+
+} // namespace
+
+ResultTable::ResultTable(const TFormatSettings& settings, const Languages& languages, QWidget* parent)
+    : QTableView(parent), model_(new ResultModel(settings, languages, this)), order_(new ResultOrder(*model_, this)) {
+    setModel(order_);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setSortingEnabled(true);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + c_cellPadding / 2);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setResizeContentsPrecision(c_measuredRows);
+    connect(this, &QAbstractItemView::doubleClicked, this, &ResultTable::rowActivated);
+}
+
+void ResultTable::setTable(TResultTable table, std::string_view firstColumn) {
+    const std::string key = currentKey();
+    const int row = currentIndex().row();
+    const auto columnsBefore = model_->shownColumns();
+    model_->setTable(std::move(table), firstColumn);
+    if (model_->shownColumns() != columnsBefore)
+        fitColumns();
+    if (key.empty() || !selectKey(key))
+        keepSomeRowCurrent(row);
+    Q_EMIT currentRowChanged();
+}
+
+void ResultTable::fitColumns() {
+    resizeColumnsToContents();
+    for (int column = 0; column < order_->columnCount(); ++column)
+        setColumnWidth(column, std::min(columnWidth(column) + c_cellPadding, c_widestColumn));
+}
+
+void ResultTable::sortBy(std::string_view column, Qt::SortOrder order) {
+    if (const auto shown = model_->shownColumn(column))
+        sortByColumn(*shown, order);
+}
+
+void ResultTable::setSearch(const QString& typed) {
+    const int row = currentIndex().row();
+    order_->setSearch(typed);
+    if (!currentIndex().isValid())
+        keepSomeRowCurrent(row);
+    scrollTo(currentIndex());
+}
+
+std::optional<int> ResultTable::currentRow() const {
+    const QModelIndex current = currentIndex();
+    if (!current.isValid())
+        return std::nullopt;
+    return order_->mapToSource(current).row();
+}
+
+bool ResultTable::selectKey(const std::string& key) {
+    for (int row = 0; row < order_->rowCount(); ++row) {
+        const int sourceRow = order_->mapToSource(order_->index(row, 0)).row();
+        if (model_->text(sourceRow, c_keyColumn) == key) {
+            selectShownRow(row);
+            return true;
+        }
+    }
+    return false;
+}
+
+void ResultTable::selectFirst() {
+    keepSomeRowCurrent(0);
+}
+
+std::string ResultTable::currentKey() const {
+    const auto row = currentRow();
+    return row ? model_->text(*row, c_keyColumn) : std::string();
+}
+
+int ResultTable::shownRowCount() const {
+    return order_->rowCount();
+}
+
+/// The row that took the place of the one that is gone, or the last one.
+void ResultTable::keepSomeRowCurrent(int wantedRow) {
+    if (order_->rowCount() > 0)
+        selectShownRow(std::clamp(wantedRow, 0, order_->rowCount() - 1));
+}
+
+void ResultTable::selectShownRow(int row) {
+    const int column = std::max(currentIndex().column(), 0);
+    setCurrentIndex(order_->index(row, column));
+    scrollTo(currentIndex());
+}
+
+void ResultTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (current.row() != previous.row() || current.isValid() != previous.isValid())
+        Q_EMIT currentRowChanged();
+}
+
+void ResultTable::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && currentIndex().isValid())
+        Q_EMIT rowActivated();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+} // namespace refhost
