@@ -1,0 +1,24 @@
+#include "refhost/lookup/LookupQuery.h"
+
+#include "host/Exceptions.h"
+#include "refhost/Languages.h"
+
+#include <QRegularExpression>
+
+namespace refhost {
+
+std::string lookupQuery(std::string_view form, std::string_view condition, const Languages& languages) {
+    // Only letters, digits and underscores: what stands here becomes the name of a view.
+    static const QRegularExpression pattern(QStringLiteral("\\AKordan3:([A-Za-z0-9_]+)\\.([A-Za-z0-9_]+)\\z"));
+    const QString identifier = QString::fromUtf8(form.data(), static_cast<qsizetype>(form.size()));
+    const QRegularExpressionMatch match = pattern.match(identifier);
+    if (!match.hasMatch())
+        throw EHostError(languages.label(texts::lookupUnknown).arg(identifier).toStdString());
+    std::string sql =
+        "select * from " + u"%1_%2_V"_qs.arg(match.captured(1), match.captured(2)).toUpper().toStdString();
+    if (!condition.empty())
+        sql += " where " + std::string(condition);
+    return sql;
+}
+
+} // namespace refhost
