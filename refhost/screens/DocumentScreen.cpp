@@ -1,0 +1,107 @@
+#include "refhost/screens/DocumentScreen.h"
+
+#include "host/widgets/Guard.h"
+#include "refhost/Languages.h"
+#include "refhost/screens/Screens.h"
+#include "refhost/tables/ResultModel.h"
+#include "refhost/tables/ResultTable.h"
+#include "refhost/tables/SearchableTable.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+namespace refhost {
+
+namespace {
+
+constexpr int c_margin = 12;
+constexpr int c_spacing = 8;
+
+} // namespace
+
+DocumentScreen::DocumentScreen(const ScreenDefinition& definition, TConnection& connection,
+                               const TFormatSettings& settings, const Languages& languages, QWidget* parent)
+    : QWidget(parent),
+      definition_(definition),
+      connection_(connection),
+      settings_(settings),
+      languages_(languages),
+      documents_(new SearchableTable(settings, languages, this)),
+      linesTitle_(new QLabel(this)),
+      lines_(new ResultTable(settings, languages, this)) {
+    setObjectName(QString::fromLatin1(definition.code.data(), static_cast<qsizetype>(definition.code.size())));
+    documents_->table().setObjectName(u"documentsTable");
+    documents_->table().setAccessibleName(languages.label(texts::documentList));
+    lines_->setObjectName(u"linesTable");
+    lines_->setAccessibleName(languages.label(texts::lineList));
+    linesTitle_->setObjectName(u"linesTitle");
+    linesTitle_->setTextFormat(Qt::PlainText);
+    QFont titleFont = linesTitle_->font();
+    titleFont.setBold(true);
+    linesTitle_->setFont(titleFont);
+    setFocusProxy(documents_);
+
+    auto* below = new QWidget(this);
+    auto* belowLayout = new QVBoxLayout(below);
+    belowLayout->setContentsMargins(0, c_spacing, 0, 0);
+    belowLayout->setSpacing(c_spacing);
+    belowLayout->addWidget(linesTitle_);
+    belowLayout->addWidget(lines_, 1);
+
+    auto* splitter = new QSplitter(Qt::Vertical, this);
+    splitter->setObjectName(u"splitter");
+    splitter->setChildrenCollapsible(false);
+    splitter->addWidget(documents_);
+    splitter->addWidget(below);
+    splitter->setStretchFactor(0, 3);
+    splitter->setStretchFactor(1, 2);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(c_margin, c_margin, c_margin, c_margin);
+    layout->addWidget(splitter);
+
+    melvark::ConnectGuarded(&documents_->table(), &ResultTable::currentRowChanged, this, &DocumentScreen::showLines);
+}
+
+void DocumentScreen::refresh() {
+    {
+        const QScopedValueRollback refreshing(refreshing_, true);
+        documents_->table().setTable(readDocuments(connection_, definition_));
+        documents_->updateCount();
+        if (!sorted_) {
+            documents_->table().sortBy(definition_.sortColumn, definition_.sortOrder);
+            documents_->table().selectFirst();
+            sorted_ = true;
+        }
+    }
+    showLines();
+}
+
+void DocumentScreen::showLines() {
+    if (refreshing_)
+        return;
+    const ResultTable& documents = documents_->table();
+    const auto row = documents.currentRow();
+    if (!row) {
+        linesTitle_->setText(languages_.label(texts::noDocument));
+        lines_->setTable({});
+        return;
+    }
+    const QString number = QString::fromStdString(documents.result().text(*row, "CISLO"));
+    linesTitle_->setText(languages_.label(texts::documentLines).arg(number));
+    lines_->setTable(readLines(connection_, definition_, dataSet().FieldByName("_ID").AsInteger()));
+}
+
+DocumentDataSet DocumentScreen::dataSet() const {
+    const ResultTable& documents = documents_->table();
+    return {documents.result().table(), documents.currentRow(), settings_};
+}
+
+void DocumentScreen::startSearch() {
+    documents_->search().setFocus(Qt::ShortcutFocusReason);
+    documents_->search().selectAll();
+}
+
+} // namespace refhost

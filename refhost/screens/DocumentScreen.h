@@ -1,0 +1,52 @@
+#pragma once
+
+#include "host/Connection.h"
+#include "host/FormatSettings.h"
+#include "refhost/screens/DocumentDataSet.h"
+
+#include <QWidget>
+
+class QLabel;
+
+namespace refhost {
+
+class Languages;
+class ResultTable;
+class SearchableTable;
+struct ScreenDefinition;
+
+/// One document screen: the documents above, the stored lines of the current one below. It only reads; what changes a
+/// document is a library item, which gets dataSet() and after which the screen is refreshed.
+class DocumentScreen : public QWidget {
+    Q_OBJECT
+public:
+    DocumentScreen(const ScreenDefinition& definition, TConnection& connection, const TFormatSettings& settings,
+                   const Languages& languages, QWidget* parent);
+
+    const ScreenDefinition& definition() const { return definition_; }
+
+    /// Reads the documents and the current one's lines again; the current document stays current. Throws
+    /// EDatabaseError.
+    void refresh();
+
+    /// The current document, or an empty dataset.
+    DocumentDataSet dataSet() const;
+
+    /// Puts the cursor into the search line.
+    void startSearch();
+
+private:
+    void showLines();
+
+    const ScreenDefinition& definition_;
+    TConnection& connection_;
+    TFormatSettings settings_;
+    const Languages& languages_;
+    SearchableTable* documents_;
+    QLabel* linesTitle_;
+    ResultTable* lines_;
+    bool sorted_ = false;
+    bool refreshing_ = false;
+};
+
+} // namespace refhost
