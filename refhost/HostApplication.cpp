@@ -1,0 +1,40 @@
+#include "refhost/HostApplication.h"
+
+#include "refhost/ErrorDisplay.h"
+#include "refhost/Languages.h"
+#include "refhost/Trace.h"
+
+#include <QDateTime>
+
+#include <cstdio>
+
+namespace refhost {
+
+TDateTime systemNow() {
+    const QDateTime now = QDateTime::currentDateTime();
+    return TDateTime(std::chrono::seconds(now.toSecsSinceEpoch() + now.offsetFromUtc()));
+}
+
+HostApplication::HostApplication(Parts parts)
+    : parts_(std::move(parts)), tracingConnection_(parts_.connection, parts_.trace) {}
+
+std::optional<AnsiString> HostApplication::Translation(std::string_view key, std::string_view builtIn) const {
+    return parts_.languages.translation(key, builtIn);
+}
+
+std::string_view HostApplication::ImageData(std::string_view image, std::string_view group) const {
+    return images_.data(image, group);
+}
+
+void HostApplication::ShowError(std::exception_ptr error) noexcept {
+    try {
+        const ErrorReport report = describeError(error, parts_.languages);
+        parts_.trace.error(report.sentence);
+        parts_.errors.show(report);
+    } catch (...) {
+        // Without memory or a display there is only one place left to say it.
+        std::fputs("An error could not be shown.\n", stderr);
+    }
+}
+
+} // namespace refhost

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "host/HostServices.h"
+#include "refhost/Images.h"
+#include "refhost/TracingConnection.h"
+
+#include <functional>
+
+namespace refhost {
+
+class ErrorDisplay;
+class Languages;
+class Trace;
+
+/// Tells the local time.
+using Clock = std::function<TDateTime()>;
+TDateTime systemNow();
+
+/// The services that this host gives to a module. It owns none of its parts: who starts the host makes them and
+/// installs this with TScopedHost.
+class HostApplication : public THostServices {
+public:
+    struct Parts {
+        TConnection& connection;
+        TFormatSettings settings;
+        const Languages& languages;
+        Trace& trace;
+        ErrorDisplay& errors;
+        Clock clock = systemNow;
+    };
+
+    explicit HostApplication(Parts parts);
+
+    /// The database as the module sees it: every call is traced.
+    TConnection& Connection() override { return tracingConnection_; }
+    const TFormatSettings& FormatSettings() const override { return parts_.settings; }
+    std::optional<AnsiString> Translation(std::string_view key, std::string_view builtIn) const override;
+    std::string_view ImageData(std::string_view image, std::string_view group) const override;
+    TDateTime Now() const override { return parts_.clock(); }
+    void ShowError(std::exception_ptr error) noexcept override;
+
+private:
+    Parts parts_;
+    TracingConnection tracingConnection_;
+    Images images_;
+};
+
+} // namespace refhost

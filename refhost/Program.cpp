@@ -1,0 +1,87 @@
+#include "refhost/Program.h"
+
+#include "refhost/CompanyDatabase.h"
+#include "refhost/ErrorDialog.h"
+#include "refhost/Languages.h"
+#include "refhost/Trace.h"
+#include "refhost/WindowedHost.h"
+#include "refhost/commands/DataCommands.h"
+
+#include <QApplication>
+
+#include <exception>
+#include <iostream>
+
+namespace refhost {
+
+namespace {
+
+constexpr int c_failed = 2;
+
+TFormatSettings formatSettings(const CommandLine& commandLine) {
+    return commandLine.locale == "en_GB" ? TFormatSettings::English() : TFormatSettings::Czech();
+}
+
+bool hasWindows(Command command) {
+    return command == Command::OpenHost || command == Command::Execute;
+}
+
+int runInWindows(const CommandLine& commandLine, const Languages& languages, Trace& trace) {
+    const TFormatSettings settings = formatSettings(commandLine);
+    const auto database = openCompanyDatabase(commandLine, settings);
+    WindowedHost host(commandLine, *database, settings, languages, trace);
+    return commandLine.command == Command::Execute ? host.executeOnce() : host.openMainWindow();
+}
+
+void runWithoutWindows(const CommandLine& commandLine, const Languages& languages) {
+    const TFormatSettings settings = formatSettings(commandLine);
+    if (commandLine.command == Command::CreateDatabase) {
+        createCompanyDatabase(commandLine, settings);
+        return;
+    }
+    const auto database = openCompanyDatabase(commandLine, settings);
+    runDataCommand(commandLine, {.connection = *database,
+                                 .settings = settings,
+                                 .languages = languages,
+                                 .input = std::cin,
+                                 .output = std::cout});
+}
+
+/// A host that cannot even open was started by a click as often as from a terminal, so that it says why in both places.
+int reportFailure(const CommandLine& commandLine, const Languages& languages) {
+    const ErrorReport report = describeError(std::current_exception(), languages);
+    StreamErrorDisplay(std::cerr).show(report);
+    if (commandLine.command == Command::OpenHost)
+        DialogErrorDisplay(languages).show(report);
+    return c_failed;
+}
+
+int runCommand(const CommandLine& commandLine, const Languages& languages) {
+    try {
+        Trace trace(commandLine.traceFile.empty() ? nullptr : openTraceFile(commandLine.traceFile));
+        if (hasWindows(commandLine.command))
+            return runInWindows(commandLine, languages, trace);
+        runWithoutWindows(commandLine, languages);
+        return 0;
+    } catch (...) {
+        return reportFailure(commandLine, languages);
+    }
+}
+
+} // namespace
+
+int runProgram(const CommandLine& commandLine, int& argc, char** argv) {
+    Languages languages(commandLine.language);
+    if (!hasWindows(commandLine.command))
+        return runCommand(commandLine, languages);
+
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication application(argc, argv);
+    // A dialog may be the only window for a while; closing it must not end the program.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setApplicationDisplayName(languages.label(texts::applicationTitle));
+    languages.installToolkitTexts(application);
+    return runCommand(commandLine, languages);
+}
+
+} // namespace refhost

@@ -1,0 +1,71 @@
+#include "refhost/WindowedHost.h"
+
+#include "host/Exceptions.h"
+#include "refhost/CompanyDatabase.h"
+#include "refhost/Languages.h"
+#include "refhost/screens/DocumentDataSet.h"
+#include "refhost/screens/MainWindow.h"
+#include "refhost/screens/Screens.h"
+
+#include <QApplication>
+
+namespace refhost {
+
+namespace {
+
+constexpr const char* c_itemClass = "TMelvarkEditor";
+
+} // namespace
+
+WindowedHost::WindowedHost(const CommandLine& commandLine, Database& database, const TFormatSettings& settings,
+                           const Languages& languages, Trace& trace)
+    : commandLine_(commandLine),
+      database_(database),
+      settings_(settings),
+      languages_(languages),
+      errors_(languages),
+      services_({.connection = database,
+                 .settings = settings,
+                 .languages = languages,
+                 .trace = trace,
+                 .errors = errors_,
+                 .clock = systemNow}),
+      scope_(services_),
+      manager_({.connection = database, .settings = settings, .languages = languages, .trace = trace}) {}
+
+void WindowedHost::loadModule() {
+    package_.emplace(findPackage(QApplication::applicationDirPath().toStdString()), languages_);
+    item_ = package_->createItem(c_itemClass, services_.Classes(), &manager_);
+}
+
+int WindowedHost::openMainWindow() {
+    MainWindowParts parts{.connection = database_,
+                          .settings = settings_,
+                          .languages = languages_,
+                          .user = database_.user(),
+                          .database = databaseLabel(commandLine_),
+                          .insertLines = {},
+                          .moduleMissing = {}};
+    try {
+        loadModule();
+        parts.insertLines = [this](const std::string& params, TDataSet& dataSet) {
+            return item_->Execute(params, &dataSet, nullptr);
+        };
+    } catch (const EHostError& error) {
+        parts.moduleMissing = error.Message();
+    }
+    MainWindow window(std::move(parts));
+    QObject::connect(&window, &MainWindow::closed, qApp, &QCoreApplication::quit);
+    window.start();
+    window.show();
+    return QApplication::exec();
+}
+
+int WindowedHost::executeOnce() {
+    loadModule();
+    const TResultTable table = readDocument(database_, screenOfParams(commandLine_.subject), commandLine_.document);
+    DocumentDataSet dataSet(table, table.Rows.empty() ? std::nullopt : std::optional(0), settings_);
+    return item_->Execute(commandLine_.subject, &dataSet, nullptr) ? 0 : 1;
+}
+
+} // namespace refhost

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "host/FormatSettings.h"
+#include "host/LibraryItem.h"
+#include "refhost/CommandLine.h"
+#include "refhost/ErrorDialog.h"
+#include "refhost/HostApplication.h"
+#include "refhost/HostLibraryManager.h"
+#include "refhost/PackageLoader.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace refhost {
+
+class Database;
+class Languages;
+class Trace;
+
+/// The running host of the commands with windows: installs its services, loads the module, and opens the main window or
+/// the item editor alone. The toolkit's application object exists before it and outlives it.
+class WindowedHost {
+public:
+    WindowedHost(const CommandLine& commandLine, Database& database, const TFormatSettings& settings,
+                 const Languages& languages, Trace& trace);
+
+    /// Shows the main window until it is closed. A module that is missing or broken is told there, and the host stays
+    /// usable without it.
+    int openMainWindow();
+
+    /// Calls the library item once on one document, without the main window. Returns the exit status: 0 when it
+    /// returned true, 1 when false. Throws what leaves the item, and EHostError when the module cannot be loaded.
+    int executeOnce();
+
+private:
+    /// Throws EHostError, naming the reason, when the module cannot be loaded.
+    void loadModule();
+
+    const CommandLine& commandLine_;
+    Database& database_;
+    TFormatSettings settings_;
+    const Languages& languages_;
+    DialogErrorDisplay errors_;
+    HostApplication services_;
+    TScopedHost scope_;
+    HostLibraryManager manager_;
+    std::optional<Package> package_;
+    std::unique_ptr<TLibraryItem> item_;
+};
+
+} // namespace refhost
