@@ -82,8 +82,8 @@ where RECALC_PRICE.LINE = L.LINE and RECALC_PRICE.LEVEL = L.TRUTH_LEVEL and RECA
 -- Nothing leads back from a discount of 100 %: the price before it stays, where there is one.
 update RECALC_PRICE
 set GIVEN = 1,
-    DPHA = case when TRUTH_KIND = 'CENAS' then DPHA else dec_div(dec_mul(CENAB, RATE_A), 100, DECIMALS) end,
-    DPHB = case when TRUTH_KIND = 'CENAS' then DPHB else dec_div(dec_mul(CENAB, RATE_L), 100, DECIMALS) end
+    DPHA = dec_div(dec_mul(CENAB, RATE_A), 100, DECIMALS),
+    DPHB = dec_div(dec_mul(CENAB, RATE_L), 100, DECIMALS)
 from RECALC_LINE as L
 where RECALC_PRICE.LINE = L.LINE and LEVEL = TRUTH_LEVEL and SIDE <> TRUTH_SIDE and SIDE_DIVISOR is null
   and case TRUTH_KIND when 'CENAS' then CENAS else CENAB end is not null;
