@@ -58,7 +58,8 @@ public:
     void SetPosition(TPosition position) { FPosition = position; }
     void SetConstraints(const TSizeConstraints& constraints);
     void SetCloseOnEscape(bool closes) { FCloseOnEscape = closes; }
-    /// Moves the form so that it stands in the middle of its screen; odd rests go toward zero.
+    /// Moves the form so that it stands in the middle of its screen, not counting the window manager's frame, which is
+    /// not known before the form appears; odd rests go toward zero.
     void CenterOnScreen();
 
     /// Visits Caption and Hint of the form ("Form") and of its named controls and menu items; empty texts are left out.

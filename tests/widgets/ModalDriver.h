@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <gtest/gtest.h>
+
+/// Acts on the next modal window while the code under test is blocked in it: waits until a modal window of the object
+/// name (any when empty) is active, then runs the action once. A window that does not come is a failure, and whatever
+/// modal window is there then is closed, so that the test ends.
+class ModalDriver : public QObject {
+public:
+    ModalDriver(QString name, std::function<void(QWidget&)> action)
+        : name_(std::move(name)), action_(std::move(action)) {
+        QObject::connect(&timer_, &QTimer::timeout, this, [this] { look(); });
+        timer_.start(5);
+        waited_.start();
+    }
+
+    bool hasActed() const { return hasActed_; }
+
+private:
+    void look() {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (modal && (name_.isEmpty() || modal->objectName() == name_) && modal->isVisible()) {
+            timer_.stop();
+            hasActed_ = true;
+            action_(*modal);
+        } else if (waited_.hasExpired(5000)) {
+            timer_.stop();
+            ADD_FAILURE() << "no modal window named '" << name_.toStdString() << "' appeared";
+            if (modal)
+                modal->close();
+        }
+    }
+
+    QString name_;
+    std::function<void(QWidget&)> action_;
+    QTimer timer_;
+    QElapsedTimer waited_;
+    bool hasActed_ = false;
+};
