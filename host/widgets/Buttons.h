@@ -76,6 +76,5 @@ protected:
 private:
     void DropDown();
 
-    AnsiString FCaption;
     QPointer<QMenu> FMenu;
 };

@@ -11,8 +11,8 @@ namespace melvark {
 /// Lets `edit` have Alt together with one of the keys as an ordinary key press while it has the focus.
 ///
 /// A shortcut letter in a caption ("&po zadání") takes its Alt key away from the focused edit and activates its own
-/// control. Where a form gives that Alt key another meaning in an edit, the edit claims it here and handles the key
-/// press; the caption's shortcut then does not act. A key of the numeric pad is claimed by its digit.
+/// control. Where a form gives that Alt key another meaning in an edit, the edit claims it here; the caption's shortcut
+/// then does not act. Whoever claims a key also handles and consumes its key press: an edit would type the letter.
 void ClaimAltKeys(QWidget& edit, std::initializer_list<Qt::Key> keys);
 
 } // namespace melvark

@@ -1,0 +1,128 @@
+#include "host/widgets/Buttons.h"
+
+#include "host/widgets/Form.h"
+#include "host/widgets/Guard.h"
+#include "host/widgets/Text.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPixmap>
+#include <QStyleOptionButton>
+
+#include <algorithm>
+
+using namespace melvark;
+
+namespace {
+
+template <class Button>
+void ShowGlyph(Button& button, const QPixmap& png) {
+    button.setIcon(QIcon(png));
+    if (!png.isNull())
+        button.setIconSize(png.size());
+}
+
+bool IsEnter(const QKeyEvent& event) {
+    return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
+           (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+} // namespace
+
+TQelPngBitBtn::TQelPngBitBtn(QWidget* parent) : QPushButton(parent) {
+    setAutoDefault(false);
+    connect(this, &QPushButton::clicked, this, &TQelPngBitBtn::Click);
+}
+
+AnsiString TQelPngBitBtn::Caption() const {
+    return ToAnsi(text());
+}
+
+void TQelPngBitBtn::SetCaption(const AnsiString& caption) {
+    setText(ToQString(caption));
+}
+
+void TQelPngBitBtn::SetGlyph(const TPngObject& png) {
+    ShowGlyph(*this, png);
+}
+
+void TQelPngBitBtn::keyPressEvent(QKeyEvent* event) {
+    if (IsEnter(*event))
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void TQelPngBitBtn::Click() {
+    const QPointer<TForm> form = qobject_cast<TForm*>(window());
+    if (form)
+        form->KeepModalResult(FModalResult);
+    try {
+        if (FOnClick)
+            FOnClick(this);
+    } catch (...) {
+        if (form)
+            form->KeepModalResult(0);
+        ReportError(std::current_exception());
+    }
+    if (form)
+        form->LookAtModalResult();
+}
+
+TQelPngSpeedButton::TQelPngSpeedButton(QWidget* parent) : QToolButton(parent) {
+    setFocusPolicy(Qt::NoFocus);
+    ConnectGuarded(this, &QToolButton::clicked, this, [this] {
+        if (FOnClick)
+            FOnClick(this);
+    });
+}
+
+void TQelPngSpeedButton::SetGlyph(const TPngObject& png) {
+    ShowGlyph(*this, png);
+}
+
+TMenuButton::TMenuButton(QWidget* parent) : QPushButton(parent) {
+    setAutoDefault(false);
+    connect(this, &QPushButton::clicked, this, &TMenuButton::DropDown);
+}
+
+AnsiString TMenuButton::Caption() const {
+    return ToAnsi(text().replace(QStringLiteral("&&"), QStringLiteral("&")));
+}
+
+void TMenuButton::SetCaption(const AnsiString& caption) {
+    setText(PlainCaption(caption));
+}
+
+TPopupMenu* TMenuButton::PopupMenu() const {
+    return FMenu;
+}
+
+void TMenuButton::SetPopupMenu(TPopupMenu* menu) {
+    FMenu = menu;
+    updateGeometry();
+    update();
+}
+
+void TMenuButton::keyPressEvent(QKeyEvent* event) {
+    if (IsEnter(*event) || event->key() == Qt::Key_Down)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void TMenuButton::initStyleOption(QStyleOptionButton* option) const {
+    QPushButton::initStyleOption(option);
+    if (FMenu)
+        option->features |= QStyleOptionButton::HasMenu;
+}
+
+void TMenuButton::DropDown() {
+    if (!FMenu)
+        return;
+    const auto items = FMenu->actions();
+    const bool hasVisible = std::any_of(items.begin(), items.end(),
+                                        [](const QAction* item) { return item->isVisible() && !item->isSeparator(); });
+    if (hasVisible)
+        FMenu->popup(mapToGlobal(rect().bottomLeft()));
+}
