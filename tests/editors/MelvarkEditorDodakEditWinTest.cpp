@@ -1,0 +1,478 @@
+#include "editors/MelvarkEditorDodakEditWin.h"
+
+#include "editwin/model/EditExceptions.h"
+#include "host/LibraryManager.h"
+#include "select/MelvarkEditorSelectWin.h"
+#include "tests/editors/DodakEditorFixture.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFrame>
+#include <QMenu>
+#include <QPushButton>
+
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+// ---- Opening ----
+
+class DodakEditorOpening : public DodakEditorFixture {};
+
+TEST_F(DodakEditorOpening, AsksTheDatabaseInItsOrder) {
+    const auto editor = open();
+    EXPECT_THAT(host_.connection.calls(),
+                ElementsAre("MELVARKEDITORDodakInit() open", "select NAZEV from SKLAD_V order by NAZEV",
+                            "MELVARKEDITORNASTAVENIGetList(a_TYPEDITACE=3) open",
+                            "MELVARKEDITORNASTAVENINactiDef(a_TYPEDITACE=3) open",
+                            "MELVARKEDITORDodakCheckMaster(a_DODKID=7)",
+                            "MELVARKEDITORDodakGetPolozkyByDodak(a_DODKIDMASTER=null, a_DODKID=7, "
+                            "a_PRENESMNOZSTVI=true, a_PRENESCENY=true) open"));
+}
+
+TEST_F(DodakEditorOpening, ShowsItsTitleAndThePricePanel) {
+    const auto editor = open();
+    EXPECT_EQ(editor->Caption(), "Vložení položek dodacího listu");
+    EXPECT_TRUE(melvark::Visible(*editor->TopPanel));
+    EXPECT_TRUE(editor->GetPrepocetCen());
+}
+
+TEST_F(DodakEditorOpening, LeavesNoCellModified) {
+    const auto editor = open();
+    ASSERT_EQ(editor->DataGrid().GetRowCount(), 2);
+    EXPECT_EQ(stored(*editor, 1, "SKLADPOL"), "Mléko");
+    for (const RColumn& column : editor->DefaultColumns()) {
+        EXPECT_FALSE(isModified(*editor, 1, column.Name)) << column.Name;
+        EXPECT_FALSE(isModified(*editor, 2, column.Name)) << column.Name;
+    }
+}
+
+TEST_F(DodakEditorOpening, ASourceWithoutRowsGivesOneEmptyRow) {
+    scriptDodakEditor(host_.connection, {});
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        EXPECT_EQ(editor->StringGrid->RowCount(), 2) << "the header and one row";
+        EXPECT_EQ(row(*editor, 1, {"SKLADPOL", "MNOZSTVI"}), " | ");
+        EXPECT_EQ(openAt(*editor), "MNOZSTVI in row 1");
+    });
+}
+
+TEST_F(DodakEditorOpening, AnUnknownEditTypeIsRefused) {
+    EXPECT_THROW(open("dodak"), EDodakEditBox);
+    EXPECT_THAT(host_.connection.calls(), IsEmpty());
+}
+
+TEST_F(DodakEditorOpening, ARefusedMasterCheckIsTheDatabasesError) {
+    host_.connection.procedure("MELVARKEDITORDodakCheckMaster").refusesCall(1, "Dodací list 7 je uzavřen.");
+    try {
+        open();
+        FAIL() << "no error";
+    } catch (const EDatabaseError& error) {
+        EXPECT_EQ(error.Message(), "Dodací list 7 je uzavřen.");
+    }
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"), IsEmpty()) << "nothing is filled";
+}
+
+TEST_F(DodakEditorOpening, AMasterCheckThatAnswersNoIsAQuietCancel) {
+    host_.connection.procedure("MELVARKEDITORDodakCheckMaster").failsCall(1);
+    try {
+        open();
+        FAIL() << "no error";
+    } catch (const EEditBoxCanceled& canceled) {
+        EXPECT_EQ(canceled.Message(), "Canceled");
+    }
+    EXPECT_THAT(manager_.boxes(), IsEmpty());
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"), IsEmpty());
+}
+
+TEST_F(DodakEditorOpening, AMissingProcedureIsTheDatabasesError) {
+    for (const char* procedure : {"MELVARKEDITORDodakInit", "MELVARKEDITORNASTAVENINactiDef",
+                                  "MELVARKEDITORDodakCheckMaster", "MELVARKEDITORDodakGetPolozkyByDodak"}) {
+        scriptDodakEditor(host_.connection);
+        host_.connection.dropProcedure(procedure);
+        EXPECT_THROW(open(), EDatabaseError) << procedure;
+    }
+}
+
+TEST_F(DodakEditorOpening, ListColumnsOfferWarehousesAndRates) {
+    const auto editor = open();
+    const auto choices = [&](const char* key) {
+        const auto* combo = qobject_cast<QComboBox*>(editor->GetColumnSettings(key).Editor);
+        std::vector<AnsiString> texts;
+        for (int index = 0; combo && index < combo->count(); ++index)
+            texts.push_back(combo->itemText(index).toStdString());
+        return texts;
+    };
+    EXPECT_THAT(choices("SKLAD"), ElementsAre("Brno", "Praha"));
+    EXPECT_THAT(choices("DPH"), ElementsAre("21 %", "12 %", "0 %"));
+}
+
+TEST_F(DodakEditorOpening, LocalVatColumnsAreHiddenOnesThatTheClerkMayShowOnlyWithLocalVat) {
+    const auto hiddenColumns = [](const TDodakEditBox& editor) {
+        std::vector<AnsiString> captions;
+        for (const QAction* item : editor.SkryteSloupce->actions())
+            captions.push_back(item->text().toStdString());
+        return captions;
+    };
+    const auto without = open();
+    showAnd(*without, [&] { EXPECT_THAT(hiddenColumns(*without), IsEmpty()); });
+    scriptInit(host_.connection, "1");
+    const auto with = open();
+    showAnd(*with, [&] {
+        EXPECT_THAT(hiddenColumns(*with), ElementsAre("Jedn.místní DPH se sl.", "Jedn.místní DPH bez sl.",
+                                                      "Místní DPH se sl.", "Místní DPH bez sl."));
+    });
+}
+
+// ---- The source dialogs ----
+
+class DodakEditorSource : public DodakEditorFixture {
+protected:
+    DodakEditorSource() {
+        host_.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka")
+            .inputs({"a_DODKIDMASTER", "a_CISLO", "a_DDOBID"})
+            .returns({TResultTable{{"ID"}, {{std::int64_t{31}}}}});
+        host_.connection.procedure("MELVARKEDITORDodakCheckZdrojDodak")
+            .inputs({"a_DODKIDMASTER", "a_DODAKCISLO", "a_DODKID"})
+            .returns({TResultTable{{"ID"}, {{std::int64_t{12}}}}});
+    }
+
+    static void typeNumber(QWidget& dialog, const char* number) {
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("editSelect")), QString::fromUtf8(number));
+    }
+    static void press(QWidget& dialog, const char* button) {
+        QTest::mouseClick(dialog.findChild<QPushButton*>(QString::fromUtf8(button)), Qt::LeftButton);
+    }
+    static void uncheck(QWidget& dialog, const char* option) {
+        dialog.findChild<QCheckBox*>(QString::fromUtf8(option))->click();
+    }
+};
+
+TEST_F(DodakEditorSource, AnOrdersLinesAreFilledAndTheOrderIsNamedInTheSave) {
+    ModalDriver dialog({}, [](QWidget& box) {
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Výběr objednávky"));
+        typeNumber(box, "OV17");
+        press(box, "OkBtn");
+    });
+    const auto editor = open("DODOBJ");
+    EXPECT_THAT(host_.connection.calls(),
+                ElementsAre("MELVARKEDITORDodakInit() open", "select NAZEV from SKLAD_V order by NAZEV",
+                            "MELVARKEDITORNASTAVENIGetList(a_TYPEDITACE=1) open",
+                            "MELVARKEDITORNASTAVENINactiDef(a_TYPEDITACE=1) open",
+                            "MELVARKEDITORDodakCheckMaster(a_DODKID=7)",
+                            "MELVARKEDITORDodakCheckZdrojObjednavka(a_DODKIDMASTER=7, a_CISLO=\"OV17\", "
+                            "a_DDOBID=null) open",
+                            "MELVARKEDITORDodakGetPolozkyByObjednavka(a_DODKID=7, a_DDOBID=31) open"));
+    EXPECT_EQ(stored(*editor, 2, "DOBSID"), "502");
+
+    EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "", Qt::Key_Return, Qt::ControlModifier); }), c_ResultOk);
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakTempUloz"),
+                ElementsAre("MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=null, a_DDOBID_ZDROJ=31)"));
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakInsertToTemp").front(), HasSubstr("a_DOBSID=\"501\""));
+}
+
+TEST_F(DodakEditorSource, AnotherDeliveryNotesLinesAreFilledAsTheOptionsSay) {
+    ModalDriver dialog({}, [](QWidget& box) {
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Výběr dodacího listu"));
+        typeNumber(box, "DL3");
+        uncheck(box, "chbCeny");
+        press(box, "OkBtn");
+    });
+    const auto editor = open("DODAK");
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"),
+                ElementsAre("MELVARKEDITORDodakGetPolozkyByDodak(a_DODKIDMASTER=12, a_DODKID=7, "
+                            "a_PRENESMNOZSTVI=true, a_PRENESCENY=false) open"));
+    EXPECT_EQ(stored(*editor, 1, "DOBSID"), "");
+
+    EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "", Qt::Key_Return, Qt::ControlModifier); }), c_ResultOk);
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakTempUloz"),
+                ElementsAre("MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=12, a_DDOBID_ZDROJ=null)"));
+}
+
+TEST_F(DodakEditorSource, TheListOffersThisSuppliersDocumentsOnly) {
+    manager_.lookupAnswers.push_back(TLookupPick{"OV17", "33"});
+    ModalDriver dialog({}, [](QWidget& box) {
+        QTest::keyClick(box.findChild<QLineEdit*>(QStringLiteral("editSelect")), Qt::Key_F5);
+        press(box, "OkBtn");
+    });
+    open("DODOBJ");
+    EXPECT_THAT(manager_.lookups(),
+                ElementsAre("Kordan3:DODOBJEDNAVKA.Normal CISLO _ID "
+                            "[V_MELVARKEDITORDodakCheckZdrojObjednavka(_ID, _SKLDID, _DODVID, 7, 40, _DODANO)=1]"));
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakCheckZdroj"), ElementsAre(HasSubstr("a_DDOBID=33)")));
+}
+
+TEST_F(DodakEditorSource, ACancelledSelectionCancelsTheEditor) {
+    for (const char* editType : {"DODOBJ", "DODAK"}) {
+        ModalDriver dialog({}, [](QWidget& box) { press(box, "CancelBtn"); });
+        EXPECT_THROW(open(editType), EEditBoxCanceled) << editType;
+    }
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"), IsEmpty());
+}
+
+TEST_F(DodakEditorSource, ARefusedSourceStaysInTheDialogUntilItIsCancelled) {
+    host_.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka").refusesCall(1, "Objednávka X neexistuje.");
+    expectedErrors_ = {"Objednávka X neexistuje."};
+    ModalDriver dialog({}, [](QWidget& box) {
+        typeNumber(box, "X");
+        press(box, "OkBtn");
+        EXPECT_TRUE(box.isVisible());
+        press(box, "CancelBtn");
+    });
+    EXPECT_THROW(open("DODOBJ"), EEditBoxCanceled);
+}
+
+TEST_F(DodakEditorSource, AClosedDocumentIsRefusedBeforeTheDialogIsShown) {
+    host_.connection.procedure("MELVARKEDITORDodakCheckMaster").refusesCall(1, "Dodací list 7 je uzavřen.");
+    EXPECT_THROW(open("DODOBJ"), EDatabaseError);
+}
+
+// ---- Recalculation ----
+
+class DodakEditorPrices : public DodakEditorFixture {
+protected:
+    void databaseReturns(std::vector<AnsiString> keys, std::vector<AnsiString> texts) {
+        host_.connection.procedure("MELVARKEDITORDodakVypocetCen").returns({resultTable(keys, {texts})});
+    }
+};
+
+TEST_F(DodakEditorPrices, ATypedQuantityIsRecalculatedInStoreAndGrid) {
+    databaseReturns({"CENABSESLEVOU", "MNOZSTVI"}, {"228,00", "12"});
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        ASSERT_EQ(openAt(*editor), "MNOZSTVI in row 1");
+        type(*editor, "12");
+        EXPECT_THAT(host_.connection.calls(),
+                    ElementsAre(AllOf(StartsWith("MELVARKEDITORDodakVypocetCen(a_ZMENENEBUNKY=\"MNOZSTVI;\", "
+                                                 "a_PREPOCETCEN=true, a_FOCUS=\"MNOZSTVI\", "),
+                                      HasSubstr("a_JEDNCENABSESLEVOU=19, "), HasSubstr("a_CENABSESLEVOU=190, "),
+                                      HasSubstr("a_DPH=\"12 %\", a_SLEVA=5, a_MNOZSTVI=12) open"))));
+        EXPECT_EQ(row(*editor, 1, {"MNOZSTVI", "CENABSESLEVOU"}), "12 | 228,00");
+        EXPECT_EQ(stored(*editor, 1, "CENABSESLEVOU"), "228,00");
+        EXPECT_TRUE(isModified(*editor, 1, "MNOZSTVI"));
+        EXPECT_FALSE(isModified(*editor, 1, "CENABSESLEVOU")) << "the database worked it out";
+        EXPECT_EQ(row(*editor, 2, {"CENABSESLEVOU"}), "") << "the next row is untouched";
+        EXPECT_EQ(openAt(*editor), "JEDNCENABSESLEVOU in row 1");
+    });
+}
+
+TEST_F(DodakEditorPrices, WhatWasRecalculatedIsNotSentAsChanged) {
+    databaseReturns({"CENABSESLEVOU", "JEDNCENABSESLEVOU", "MNOZSTVI"}, {"228,00", "19", "12"});
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        type(*editor, "12");
+        type(*editor, "20");
+        EXPECT_THAT(host_.connection.calls(),
+                    ElementsAre(HasSubstr("a_ZMENENEBUNKY=\"MNOZSTVI;\""),
+                                AllOf(HasSubstr("a_ZMENENEBUNKY=\"JEDNCENABSESLEVOU;MNOZSTVI;\""),
+                                      HasSubstr("a_FOCUS=\"JEDNCENABSESLEVOU\""))));
+    });
+}
+
+TEST_F(DodakEditorPrices, AHiddenColumnIsRecalculatedInTheStoreOnly) {
+    host_.connection.procedure("MELVARKEDITORNASTAVENINactiDef")
+        .returns({resultTable({"ID", "DATA"}, {{"5", "<settings><columns><column><name>CENABSESLEVOU</name>"
+                                                     "<visible>0</visible></column></columns></settings>"}})});
+    databaseReturns({"CENABSESLEVOU"}, {"228,00"});
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        ASSERT_EQ(editor->GetColumnByName("CENABSESLEVOU"), 0);
+        type(*editor, "12");
+        EXPECT_EQ(stored(*editor, 1, "CENABSESLEVOU"), "228,00");
+        EXPECT_EQ(editor->StringGrid->Cells(0, 1), "") << "the indicator column stays empty";
+    });
+}
+
+TEST_F(DodakEditorPrices, TheSwitchTravelsWithEachCall) {
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        QTest::keyClick(editor->ActiveEditor(), Qt::Key_C, Qt::AltModifier);
+        EXPECT_FALSE(editor->GetPrepocetCen());
+        type(*editor, "12");
+        QTest::keyClick(editor->ActiveEditor(), Qt::Key_P, Qt::AltModifier);
+        type(*editor, "20");
+        EXPECT_THAT(host_.connection.calls(), ElementsAre(HasSubstr("a_PREPOCETCEN=false, a_FOCUS=\"MNOZSTVI\""),
+                                                          HasSubstr("a_PREPOCETCEN=true, a_FOCUS=\"JEDNCENAB")));
+    });
+}
+
+TEST_F(DodakEditorPrices, AnUntouchedCellIsNotRecalculated) {
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        type(*editor, "");
+        EXPECT_THAT(host_.connection.calls(), IsEmpty());
+        EXPECT_FALSE(isModified(*editor, 1, "MNOZSTVI"));
+    });
+}
+
+TEST_F(DodakEditorPrices, ALinkLostInTheRecalculationIsReportedOnceAndTheTypedTextStays) {
+    host_.connection.procedure("MELVARKEDITORDodakVypocetCen").refusesCall(1, "Spojení s databází bylo přerušeno.");
+    expectedErrors_ = {"Spojení s databází bylo přerušeno."};
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        type(*editor, "12");
+        EXPECT_EQ(openAt(*editor), "MNOZSTVI in row 1") << "the editor stays open";
+        EXPECT_EQ(row(*editor, 1, {"MNOZSTVI", "CENABSESLEVOU"}), "12 | 190,00");
+    });
+}
+
+TEST_F(DodakEditorPrices, APriceCellThatIsNoNumberIsReportedWithoutACall) {
+    scriptDodakEditor(host_.connection, {{{"SKLADPOL", "Mléko"}, {"CENASBEZSLEVY", "sto"}}});
+    expectedErrors_ = {"Hodnota sto není desetinné číslo"};
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        type(*editor, "12");
+        EXPECT_THAT(host_.connection.calls(), IsEmpty());
+    });
+}
+
+// ---- The discount ----
+
+class DodakEditorDiscount : public DodakEditorFixture {
+protected:
+    DodakEditorDiscount() { makeDiscountEditable(); }
+};
+
+TEST_F(DodakEditorDiscount, OutOfRangeIsRefusedAndStaysInItsCell) {
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        ASSERT_EQ(openAt(*editor), "SLEVA in row 1");
+        type(*editor, "100,01");
+        EXPECT_THAT(manager_.boxes(), ElementsAre("16: Neplatná hodnota slevy"));
+        EXPECT_EQ(openAt(*editor), "SLEVA in row 1");
+        EXPECT_EQ(row(*editor, 1, {"SLEVA"}), "100,01");
+        EXPECT_EQ(stored(*editor, 1, "SLEVA"), "100,01");
+        EXPECT_THAT(host_.connection.calls(), IsEmpty());
+    });
+}
+
+TEST_F(DodakEditorDiscount, WithinRangeIsAcceptedWithoutARecalculation) {
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        type(*editor, "100");
+        EXPECT_EQ(openAt(*editor), "MNOZSTVI in row 1");
+        EXPECT_THAT(host_.connection.calls(), IsEmpty());
+        type(*editor, "3");
+        EXPECT_THAT(host_.connection.calls(), ElementsAre(AllOf(HasSubstr("a_ZMENENEBUNKY=\"SLEVA;MNOZSTVI;\""),
+                                                                HasSubstr("a_SLEVA=100, a_MNOZSTVI=3"))));
+    });
+}
+
+TEST_F(DodakEditorDiscount, ARefusedDiscountIsNotSaved) {
+    const auto editor = open();
+    EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "-5", Qt::Key_Return, Qt::ControlModifier); }), c_ResultCancel);
+    EXPECT_TRUE(wasLeftOpen_);
+    EXPECT_THAT(manager_.boxes(), SizeIs(1));
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodak"), IsEmpty());
+}
+
+TEST_F(DodakEditorDiscount, WithoutALibraryManagerTheApplicationsBoxTells) {
+    ModalDriver box(QStringLiteral("MessageBox"), [](QWidget& shown) {
+        EXPECT_EQ(shown.windowTitle(), QStringLiteral("Chyba"));
+        QTest::keyClick(&shown, Qt::Key_Return);
+    });
+    TDodakEditBox editor(qApp, nullptr, "SABLONA", 7, 40);
+    showAnd(editor, [&] {
+        type(editor, "101");
+        EXPECT_EQ(openAt(editor), "SLEVA in row 1");
+    });
+    EXPECT_TRUE(box.hasActed());
+}
+
+// ---- Saving ----
+
+class DodakEditorSaving : public DodakEditorFixture {
+protected:
+    std::vector<AnsiString> names(const std::vector<AnsiString>& lines) {
+        std::vector<AnsiString> found;
+        for (const AnsiString& line : lines)
+            found.push_back(line.substr(0, line.find('(')));
+        return found;
+    }
+};
+
+TEST_F(DodakEditorSaving, EmptiesStagesTakesOverAndClosesWithOk) {
+    const auto editor = open();
+    EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "1,5", Qt::Key_Return, Qt::ControlModifier); }), c_ResultOk);
+    EXPECT_FALSE(wasLeftOpen_);
+    EXPECT_THAT(names(host_.connection.calls()),
+                ElementsAre("MELVARKEDITORDodakVypocetCen", "MELVARKEDITORResetTemp", "MELVARKEDITORDodakInsertToTemp",
+                            "MELVARKEDITORDodakInsertToTemp", "MELVARKEDITORDodakTempUloz",
+                            "MELVARKEDITORNASTAVENIUlozNastaveniOkna"));
+    EXPECT_THAT(host_.connection.calls()[2],
+                AllOf(StartsWith("MELVARKEDITORDodakInsertToTemp(a_DOBSID=null, a_SKLADPOL=\"Mléko\", "
+                                 "a_SKLAD=\"Praha\", a_MNOZSTVI=\"1.5\", a_DPH=\"12 %\", a_SLEVA=\"5\", "),
+                      HasSubstr("a_CENABSL=\"190.00\""), HasSubstr("a_TRVANLIVOST=\"15.2.2027\")")));
+    EXPECT_EQ(host_.connection.calls()[4],
+              "MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=null, a_DDOBID_ZDROJ=null)");
+}
+
+TEST_F(DodakEditorSaving, TheOkButtonSavesToo) {
+    const auto editor = open();
+    const int result = showAnd(
+        *editor, [&] { QTest::mouseClick(editor->findChild<QPushButton*>(QStringLiteral("OkBtn")), Qt::LeftButton); });
+    EXPECT_EQ(result, c_ResultOk);
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakTempUloz"), SizeIs(1));
+}
+
+TEST_F(DodakEditorSaving, ARefusedLineKeepsTheEditorOpenWithEverythingTyped) {
+    host_.connection.procedure("MELVARKEDITORDodakInsertToTemp").refusesCall(2, "Sklad Brno neexistuje.");
+    expectedErrors_ = {"Sklad Brno neexistuje."};
+    const auto editor = open();
+    const int result = showAnd(*editor, [&] {
+        type(*editor, "12", Qt::Key_Return, Qt::ControlModifier);
+        EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakTempUloz"), IsEmpty());
+        EXPECT_TRUE(editor->isVisible());
+        EXPECT_EQ(row(*editor, 1, {"SKLADPOL", "MNOZSTVI"}), "Mléko | 12");
+        // The next try empties the staged rows first, so that none is stored twice.
+        host_.connection.takeCalls();
+        QTest::mouseClick(editor->findChild<QPushButton*>(QStringLiteral("OkBtn")), Qt::LeftButton);
+    });
+    EXPECT_EQ(result, c_ResultOk);
+    EXPECT_EQ(names(host_.connection.calls()).front(), "MELVARKEDITORResetTemp");
+}
+
+TEST_F(DodakEditorSaving, AReportedFailureKeepsTheEditorOpen) {
+    struct {
+        const char* procedure;
+        std::size_t closingCalls;
+    } const cases[] = {{"MELVARKEDITORDodakInsertToTemp", 0}, {"MELVARKEDITORDodakTempUloz", 1}};
+    for (const auto& failing : cases) {
+        scriptDodakEditor(host_.connection);
+        host_.connection.procedure(failing.procedure).failsCall(1);
+        const auto editor = open();
+        EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "", Qt::Key_Return, Qt::ControlModifier); }), c_ResultCancel);
+        EXPECT_TRUE(wasLeftOpen_) << failing.procedure;
+        EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakTempUloz"), SizeIs(failing.closingCalls));
+        host_.connection.dropProcedure(failing.procedure);
+    }
+}
+
+TEST_F(DodakEditorSaving, CancelAndTheCloseBoxStoreNothing) {
+    const std::function<void(TDodakEditBox&)> ways[] = {
+        [](TDodakEditBox& editor) {
+            QTest::mouseClick(editor.findChild<QPushButton*>(QStringLiteral("CancelBtn")), Qt::LeftButton);
+        },
+        [](TDodakEditBox& editor) { editor.close(); },
+    };
+    for (const auto& leave : ways) {
+        const auto editor = open();
+        EXPECT_EQ(showAnd(*editor,
+                          [&] {
+                              QTest::keyClicks(editor->ActiveEditor(), QStringLiteral("abc"));
+                              leave(*editor);
+                          }),
+                  c_ResultCancel);
+        EXPECT_FALSE(wasLeftOpen_);
+        EXPECT_THAT(manager_.boxes(), IsEmpty()) << "a half-typed value is dropped unasked";
+        EXPECT_THAT(names(host_.connection.calls()), ElementsAre("MELVARKEDITORNASTAVENIUlozNastaveniOkna"));
+    }
+}
+
+} // namespace
