@@ -1,0 +1,49 @@
+#pragma once
+
+#include "editors/MelvarkEditorDodakEditWin.h"
+#include "host/DataSet.h"
+#include "main/MelvarkEditorMain.h"
+#include "tests/support/DodakScripts.h"
+#include "tests/support/RecordingHost.h"
+#include "tests/widgets/ModalDriver.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <map>
+
+/// A screen's dataset with one document, or none.
+class FakeDataSet : public TDataSet {
+public:
+    std::map<AnsiString, TDbValue, std::less<>> fields{{"_ID", std::int64_t{7}}, {"_DODVID", std::int64_t{40}}};
+    bool isEmpty = false;
+
+    bool IsEmpty() const override { return isEmpty; }
+    std::optional<TField> FindField(std::string_view name) const override {
+        const auto found = fields.find(name);
+        if (found == fields.end())
+            return std::nullopt;
+        return TField(found->first, found->second, TFormatSettings::Czech());
+    }
+};
+
+/// The library item on a recording host whose delivery note 7 of supplier 40 can be edited.
+class LibraryItemFixture : public testing::Test {
+protected:
+    LibraryItemFixture() { scriptDodakEditor(host_.connection); }
+    void TearDown() override { EXPECT_THAT(host_.errors(), testing::IsEmpty()); }
+
+    static std::size_t editorsAlive() {
+        std::size_t count = 0;
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            count += qobject_cast<const TDodakEditBox*>(window) ? 1 : 0;
+        return count;
+    }
+
+    RecordingHost host_;
+    TScopedHost scope_{host_};
+    RecordingLibraryManager manager_;
+    FakeDataSet dataSet_;
+    TMelvarkEditor item_{&manager_};
+};
