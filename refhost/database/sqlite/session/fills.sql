@@ -7,8 +7,8 @@ create temp table NOTE_FILL (
     DOBSID integer, SKLPID integer, SKLDID integer, DPHID integer, MNOZSTVI text, SOURCEID integer, CENA text, SLEVA text
 );
 
--- Rows of an order or template in their order. SKPLID is the unit of the quantity.
+-- Rows of an order or template in their order. UNITID is the unit of the quantity.
 create temp table ORDER_FILL (
     LINE integer primary key,
-    SKLPID integer, SKLDID integer, DODVID integer, SKPLID integer, MNOZSTVI text, POPIS text, KOMENTAR text
+    ITEMID integer, SKLDID integer, DODVID integer, UNITID integer, MNOZSTVI text, POPIS text, KOMENTAR text
 );

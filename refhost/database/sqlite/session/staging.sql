@@ -46,16 +46,16 @@ where UNIT is not null and TOTAL is not null;
 -- The row of an order or template as it was sent, likewise.
 create temp table ORDER_SENT (SKLADPOL text, SKLAD text, DODAVATEL text, POPIS text, KOMENTAR text);
 
--- Its quantities: SLOT 0 the main unit, 1 and 2 the secondary ones.
+-- Its three quantities with their units, in the order of the editor's columns.
 create temp table ORDER_SENT_QUANTITY (
     SLOT integer primary key, LABEL text, MNOZSTVI text, SKPLID text, JEDNOTKY text
 );
 
--- Checked rows, one for each quantity that is not empty or 0.
+-- Checked quantities that are not 0, each of which becomes a line, in the order in which they came.
 create temp table ORDER_STAGED (
     PLACE integer primary key,
-    SKLPID integer, SKPLID integer, SKLDID integer, DODVID integer, MNOZSTVI text, POPIS text, KOMENTAR text
+    SKLPID integer, UNITID integer, SKLDID integer, DODVID integer, MNOZSTVI text, POPIS text, KOMENTAR text
 );
 
--- Into which order each supplier's rows go (null: rows without a supplier).
+-- Into which order the lines of each supplier go; a null supplier is that of lines without one.
 create temp table ORDER_TARGET (DODVID integer, DDOBID integer);

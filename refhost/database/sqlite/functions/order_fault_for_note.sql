@@ -1,0 +1,19 @@
+-- Why an order cannot be the source of a delivery note: the code of the refusal, null when it can. An identifier that is
+-- null, 0 or negative is none and restricts nothing; so does an order without a supplier.
+--
+-- `skldid`, `dodvid` and `delivered` (1: nothing is left to deliver) are the order's, `supplier` is the note's.
+--
+-- in: id
+-- in: skldid
+-- in: dodvid
+-- in: note
+-- in: supplier
+-- in: delivered
+
+select case
+           when not exists (select 1 from DODOBJEDNAVKA where ID = :id and VZOR = 0) then 'ML021'
+           when :note > 0 and not exists (select 1 from DODAK where ID = :note) then 'ML010'
+           when :dodvid > 0 and :supplier > 0 and :dodvid <> :supplier then 'ML024'
+           when :skldid > 0 and :skldid <> (select SKLDID from DODAK where ID = :note) then 'ML025'
+           when :delivered = 1 then 'ML026'
+       end;

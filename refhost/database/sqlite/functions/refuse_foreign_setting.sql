@@ -1,0 +1,10 @@
+-- Refuses to change a column setting that the user cannot see (ML060) or that another user shares (ML061).
+--
+-- in: id
+
+select refuse_unknown_setting(:id);
+
+select refuse('ML061', 'Nastavení „' || shown(s.NAZEV) || '“ patří jinému uživateli. Uložte si je jako nové.')
+from EDITORNASTAVENI s
+join UZIVATEL u on u.ID = s.UZIVID
+where s.ID = :id and u.JMENO <> current_user_name();

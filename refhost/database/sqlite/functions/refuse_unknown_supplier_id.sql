@@ -1,0 +1,6 @@
+-- Refuses a source supplier that does not exist (ML021); null is none.
+--
+-- in: id
+
+select refuse('ML021', 'Dodavatel „' || coalesce(:id, 'NULL') || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
+where not exists (select 1 from DODAVATEL where ID = :id);
