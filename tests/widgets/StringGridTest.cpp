@@ -1,0 +1,387 @@
+#include "host/widgets/StringGrid.h"
+
+#include "tests/support/RecordingHost.h"
+#include "tests/widgets/GridForm.h"
+
+#include <QContextMenuEvent>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+class StringGridTest : public GridForm, public testing::Test {};
+
+} // namespace
+
+TEST_F(StringGridTest, StartsWithNarrowIndicatorAndTwentyPixelRows) {
+    const TStringGrid fresh(nullptr);
+    EXPECT_EQ(fresh.ColWidths(0), 10);
+    EXPECT_EQ(fresh.RowHeight(), 20);
+    EXPECT_EQ(fresh.ColCount(), 1);
+    EXPECT_EQ(fresh.RowCount(), 1);
+}
+
+TEST_F(StringGridTest, BeforeACellWasCurrentTheColumnIsZeroAndTheRowTheFirstDataRow) {
+    EXPECT_EQ(grid.Col(), 0);
+    EXPECT_EQ(grid.Row(), 1);
+    grid.SetRowCount(1);
+    EXPECT_EQ(grid.Row(), 0);
+}
+
+TEST_F(StringGridTest, ColAndRowMoveTheCurrentCell) {
+    grid.SetCurrentCell(2, 3);
+    EXPECT_EQ(grid.Col(), 2);
+    EXPECT_EQ(grid.Row(), 3);
+    grid.SetCol(3);
+    grid.SetRow(1);
+    EXPECT_EQ(grid.Col(), 3);
+    EXPECT_EQ(grid.Row(), 1);
+    grid.SetCurrentCell(0, 1); // fixed cells are never current
+    grid.SetCurrentCell(1, 0);
+    grid.SetCurrentCell(99, 1);
+    EXPECT_EQ(grid.Col(), 3);
+    EXPECT_EQ(grid.Row(), 1);
+}
+
+TEST_F(StringGridTest, CellRectsCountInTheClientAreaWithinTheBorder) {
+    show();
+    // Indicator 10 + line, columns of 100, 150 and 200, each with its line.
+    EXPECT_EQ(grid.CellRect(0, 1).left(), 0);
+    EXPECT_EQ(grid.CellRect(0, 1).width(), 10);
+    EXPECT_EQ(grid.CellRect(1, 1).left(), 11);
+    EXPECT_EQ(grid.CellRect(2, 1).left(), 11 + 101);
+    EXPECT_EQ(grid.CellRect(2, 1).width(), 150);
+    EXPECT_EQ(grid.CellRect(0, 0).topLeft(), QPoint(0, 0));
+    EXPECT_EQ(grid.CellRect(2, 2).top() - grid.CellRect(2, 1).top(), 21);
+    EXPECT_EQ(grid.CellRect(2, 1).height(), 20);
+    EXPECT_TRUE(grid.CellRect(4, 1).isNull());
+    EXPECT_TRUE(grid.CellRect(1, 99).isNull());
+}
+
+TEST_F(StringGridTest, AControlLaidOverACellRectCoversTheCellExactly) {
+    show();
+    const QRect rect = grid.CellRect(2, 3);
+    const QPoint corner = grid.pos() + rect.topLeft() + QPoint(TStringGrid::c_BorderWidth, TStringGrid::c_BorderWidth);
+    const QRect drawn = grid.visualRect(grid.model()->index(2, 1));
+    EXPECT_EQ(QRect(corner, rect.size()), QRect(grid.viewport()->mapTo(&form, drawn.topLeft()), drawn.size()));
+}
+
+TEST_F(StringGridTest, ACellOutOfViewHasNoRect) {
+    fill(3, 100);
+    show();
+    EXPECT_FALSE(grid.CellRect(1, 1).isNull());
+    EXPECT_TRUE(grid.CellRect(1, 100).isNull());
+    grid.ScrollToCell(1, 100);
+    EXPECT_TRUE(grid.CellRect(1, 1).isNull());
+    EXPECT_FALSE(grid.CellRect(1, 100).isNull());
+    EXPECT_FALSE(grid.CellRect(1, 0).isNull()) << "the header row does not scroll";
+    EXPECT_EQ(grid.Col(), 0) << "scrolling makes nothing current";
+}
+
+TEST_F(StringGridTest, WholeColumnsTakeTheirWidthsAlong) {
+    grid.MoveColumn(1, 3);
+    EXPECT_EQ(headerText(), "B:150|C:200|A:100");
+    grid.DeleteColumn(1);
+    EXPECT_EQ(headerText(), "C:200|A:100");
+    grid.InsertColumn(2);
+    grid.SetColWidths(2, 30);
+    EXPECT_EQ(headerText(), "C:200|:30|A:100");
+    EXPECT_EQ(grid.Cells(3, 2), "A2");
+}
+
+TEST_F(StringGridTest, TheCurrentCellFollowsItsColumn) {
+    grid.SetCurrentCell(1, 2);
+    grid.MoveColumn(1, 3);
+    EXPECT_EQ(grid.Col(), 3);
+    EXPECT_EQ(grid.Row(), 2);
+}
+
+TEST_F(StringGridTest, DraggingAHeaderMovesTextsAndWidthAndTellsOnce) {
+    show();
+    QSignalSpy moved(&grid, &TStringGrid::ColumnMoved);
+    dragHeader(headerCenter(1), headerCenter(3) + QPoint(20, 0));
+    ASSERT_EQ(moved.count(), 1);
+    EXPECT_EQ(moved.at(0).at(0).toInt(), 1);
+    EXPECT_EQ(moved.at(0).at(1).toInt(), 3);
+    EXPECT_EQ(headerText(), "B:150|C:200|A:100");
+    EXPECT_EQ(grid.Cells(3, 1), "A1");
+    EXPECT_TRUE(sectionsStandInOrder());
+}
+
+TEST_F(StringGridTest, DraggingAHeaderBackMovesItBack) {
+    show();
+    dragHeader(headerCenter(1), headerCenter(3) + QPoint(20, 0));
+    dragHeader(headerCenter(3), headerCenter(1) - QPoint(20, 0));
+    EXPECT_EQ(headerText(), "A:100|B:150|C:200");
+    EXPECT_TRUE(sectionsStandInOrder());
+}
+
+TEST_F(StringGridTest, AWidthDraggedToAPlaceBelowTheHeaderIsTakenBeforeTheReleaseIsTold) {
+    show();
+    QList<int> widths;
+    QObject::connect(&grid, &TStringGrid::MouseUp, &grid, [&](int, int row) {
+        EXPECT_EQ(row, 0);
+        widths.append(grid.ColWidths(1));
+    });
+    const QPoint edge(grid.horizontalHeader()->sectionViewportPosition(1) - 1, 8);
+    dragHeader(edge, edge + QPoint(40, 90));
+    EXPECT_EQ(widths, QList<int>{140});
+}
+
+TEST_F(StringGridTest, AReleaseOverACellTellsTheCell) {
+    show();
+    QSignalSpy released(&grid, &TStringGrid::MouseUp);
+    click(2, 3);
+    ASSERT_EQ(released.count(), 1);
+    EXPECT_EQ(released.at(0), (QList<QVariant>{2, 3}));
+}
+
+TEST_F(StringGridTest, AClickOnAHeaderMakesNothingCurrent) {
+    show();
+    QTest::mouseClick(grid.horizontalHeader()->viewport(), Qt::LeftButton, {}, headerCenter(2));
+    EXPECT_EQ(grid.Col(), 0);
+}
+
+TEST_F(StringGridTest, AClickOnACellAsksForItsEditorLater) {
+    show();
+    QSignalSpy wanted(&grid, &TStringGrid::EditorWanted);
+    click(2, 3);
+    EXPECT_EQ(wanted.count(), 0) << "never from within the cause";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return wanted.count() > 0; }));
+    EXPECT_EQ(wanted.count(), 1);
+    EXPECT_EQ(wanted.at(0), (QList<QVariant>{2, 3}));
+}
+
+TEST_F(StringGridTest, AClickOnTheCurrentCellAsksAgain) {
+    show();
+    click(2, 3);
+    settle();
+    QSignalSpy wanted(&grid, &TStringGrid::EditorWanted);
+    click(2, 3);
+    settle();
+    EXPECT_EQ(wanted.count(), 1);
+}
+
+TEST_F(StringGridTest, AnArrowKeyAsksForTheEditorOfTheNewCell) {
+    show();
+    click(1, 1);
+    settle();
+    QSignalSpy wanted(&grid, &TStringGrid::EditorWanted);
+    QTest::keyClick(&grid, Qt::Key_Right);
+    settle();
+    ASSERT_EQ(wanted.count(), 1);
+    EXPECT_EQ(wanted.at(0), (QList<QVariant>{2, 1}));
+}
+
+TEST_F(StringGridTest, GettingTheFocusAsksForTheEditorOfTheCurrentCell) {
+    grid.SetCurrentCell(3, 2);
+    show();
+    other.setFocus();
+    settle();
+    QSignalSpy wanted(&grid, &TStringGrid::EditorWanted);
+    grid.setFocus();
+    settle();
+    ASSERT_EQ(wanted.count(), 1);
+    EXPECT_EQ(wanted.at(0), (QList<QVariant>{3, 2}));
+}
+
+TEST_F(StringGridTest, WithoutTheFocusAMovedCurrentCellAsksForNothing) {
+    show();
+    other.setFocus();
+    settle();
+    QSignalSpy wanted(&grid, &TStringGrid::EditorWanted);
+    grid.SetCurrentCell(2, 2);
+    settle();
+    EXPECT_EQ(wanted.count(), 0);
+}
+
+TEST_F(StringGridTest, ARequestLapsesWhenTheFocusLeavesBeforeIt) {
+    show();
+    QSignalSpy wanted(&grid, &TStringGrid::EditorWanted);
+    click(2, 3);
+    other.setFocus();
+    settle();
+    EXPECT_EQ(wanted.count(), 0);
+}
+
+TEST_F(StringGridTest, PaintingAsksForNothing) {
+    show();
+    click(2, 3);
+    settle();
+    QSignalSpy wanted(&grid, &TStringGrid::EditorWanted);
+    grid.grab();
+    grid.viewport()->repaint();
+    settle();
+    EXPECT_EQ(wanted.count(), 0);
+}
+
+TEST_F(StringGridTest, OnlyTheLeftButtonMovesTheCurrentCell) {
+    show();
+    click(1, 1);
+    QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, cellCenter(3, 3));
+    EXPECT_EQ(grid.Col(), 1);
+    EXPECT_EQ(grid.Row(), 1);
+}
+
+TEST_F(StringGridTest, EnterIsToldWithTheStateOfShift) {
+    show();
+    grid.setFocus();
+    QList<bool> shifts;
+    QObject::connect(&grid, &TStringGrid::EnterPressed, &grid, [&](bool shift) { shifts.append(shift); });
+    QTest::keyClick(&grid, Qt::Key_Return);
+    QTest::keyClick(&grid, Qt::Key_Enter, Qt::KeypadModifier);
+    QTest::keyClick(&grid, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClick(&grid, Qt::Key_Return, Qt::ControlModifier); // the form's key, not the grid's
+    EXPECT_EQ(shifts, (QList<bool>{false, false, true}));
+}
+
+TEST_F(StringGridTest, TabLeavesTheGrid) {
+    show();
+    click(1, 1);
+    QTest::keyClick(&grid, Qt::Key_Tab);
+    EXPECT_TRUE(other.hasFocus());
+    EXPECT_EQ(grid.Col(), 1);
+}
+
+TEST_F(StringGridTest, WithoutTabStopTheGridIsReachedByMouseOnly) {
+    show();
+    grid.SetTabStop(false);
+    EXPECT_FALSE(grid.TabStop());
+    other.setFocus();
+    QTest::keyClick(&other, Qt::Key_Tab);
+    EXPECT_FALSE(grid.hasFocus());
+    click(1, 1);
+    EXPECT_TRUE(grid.hasFocus());
+    other.setFocus();
+    grid.SetTabStop(true);
+    QTest::keyClick(&other, Qt::Key_Tab);
+    EXPECT_TRUE(grid.hasFocus());
+}
+
+TEST_F(StringGridTest, TypingALetterDoesNotSearch) {
+    show();
+    click(1, 1);
+    QTest::keyClick(&grid, 'c');
+    EXPECT_EQ(grid.Col(), 1);
+    EXPECT_EQ(grid.Row(), 1);
+}
+
+namespace {
+
+struct MenuPlace {
+    const char* name;
+    QWidget* (*part)(TStringGrid&);
+    QPoint (*position)(GridForm&);
+    int col;
+    int row;
+};
+
+class StringGridMenuTest : public GridForm, public testing::TestWithParam<MenuPlace> {};
+
+QWidget* headerPart(TStringGrid& grid) {
+    return grid.horizontalHeader()->viewport();
+}
+
+QWidget* cellsPart(TStringGrid& grid) {
+    return grid.viewport();
+}
+
+} // namespace
+
+TEST_P(StringGridMenuTest, IsToldWithItsGridCell) {
+    show();
+    QSignalSpy popups(&grid, &TStringGrid::ContextPopup);
+    QWidget* part = GetParam().part(grid);
+    const QPoint position = GetParam().position(*this);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, position, part->mapToGlobal(position));
+    QCoreApplication::sendEvent(part, &event);
+    ASSERT_EQ(popups.count(), 1);
+    EXPECT_EQ(popups.at(0).at(0).toInt(), GetParam().col);
+    EXPECT_EQ(popups.at(0).at(1).toInt(), GetParam().row);
+    EXPECT_EQ(popups.at(0).at(2).toPoint(), part->mapToGlobal(position));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Places, StringGridMenuTest,
+    testing::Values(MenuPlace{"IndicatorHeader", [](TStringGrid& grid) -> QWidget* { return cornerOf(grid); },
+                              [](GridForm&) { return QPoint(5, 5); }, 0, 0},
+                    MenuPlace{"IndicatorCell", [](TStringGrid& grid) { return grid.verticalHeader()->viewport(); },
+                              [](GridForm&) { return QPoint(5, 30); }, 0, 2},
+                    MenuPlace{"Header", headerPart, [](GridForm& form) { return form.headerCenter(2); }, 2, 0},
+                    MenuPlace{"RightOfTheLastHeader", headerPart, [](GridForm&) { return QPoint(470, 5); }, -1, 0},
+                    MenuPlace{"Cell", cellsPart, [](GridForm& form) { return form.cellCenter(2, 3); }, 2, 3},
+                    MenuPlace{"BelowTheLastRow", cellsPart, [](GridForm&) { return QPoint(20, 150); }, 1, -1}),
+    [](const auto& instance) { return std::string(instance.param.name); });
+
+TEST_F(StringGridTest, TheMouseOverHeadersAndCellsIsTold) {
+    show();
+    QList<QPoint> places;
+    QObject::connect(&grid, &TStringGrid::MouseMoved, &grid, [&](int col, int row) { places.append({col, row}); });
+    hover(*grid.horizontalHeader()->viewport(), headerCenter(2));
+    hover(*grid.viewport(), cellCenter(3, 1));
+    hover(*cornerOf(grid), QPoint(4, 4));
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(grid.viewport(), &leave);
+    EXPECT_EQ(places, (QList<QPoint>{{2, 0}, {3, 1}, {0, 0}, {-1, -1}}));
+}
+
+TEST_F(StringGridTest, ScrollingResizingAndSizingAColumnAreTold) {
+    fill(3, 100);
+    show();
+    QSignalSpy changed(&grid, &TStringGrid::TopLeftChanged);
+    grid.verticalScrollBar()->setValue(5);
+    EXPECT_EQ(changed.count(), 1);
+    grid.SetColWidths(1, 77);
+    EXPECT_GE(changed.count(), 2);
+    changed.clear();
+    form.resize(form.width() + 50, form.height());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return changed.count() > 0; }));
+}
+
+TEST_F(StringGridTest, TheCurrentCellHasTheBackgroundOfAllCells) {
+    show();
+    click(2, 3);
+    grid.selectAll();
+    const QImage image = grid.grab().toImage();
+    const QPoint border(TStringGrid::c_BorderWidth, TStringGrid::c_BorderWidth);
+    // Near the right end of the cell, inside its frame, where no text stands.
+    const auto background = [&](int col, int row) {
+        const QRect cell = grid.CellRect(col, row).translated(border);
+        return image.pixel(cell.right() - 8, cell.center().y());
+    };
+    EXPECT_EQ(background(2, 3), background(1, 1));
+    EXPECT_EQ(background(2, 3), grid.palette().color(QPalette::Base).rgb());
+}
+
+TEST_F(StringGridTest, ACellWithoutPresentationShowsItsText) {
+    const TCellLook look = grid.Look(2, 1);
+    EXPECT_EQ(look.Text, "B1");
+    EXPECT_EQ(look.Align, Qt::AlignLeft);
+    EXPECT_FALSE(look.Bold);
+}
+
+TEST_F(StringGridTest, ThePresentationDecidesWhatIsShownNotWhatIsStored) {
+    grid.SetPresentation([this](int col, int row) {
+        return TCellLook{.Text = grid.Cells(col, row) + " Kč", .Align = Qt::AlignRight, .Bold = true};
+    });
+    EXPECT_EQ(grid.Look(2, 1).Text, "B1 Kč");
+    EXPECT_EQ(grid.Cells(2, 1), "B1");
+}
+
+TEST_F(StringGridTest, AFailingPresentationIsReportedOnceAndTheTextsStayVisible) {
+    RecordingHost host;
+    const TScopedHost scope(host);
+    show();
+    grid.SetPresentation([](int, int) -> TCellLook { throw Exception("Formát nelze použít"); });
+    grid.grab();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !host.errors().empty(); }));
+    grid.grab();
+    settle();
+    EXPECT_THAT(host.errors(), ElementsAre("Formát nelze použít"));
+    EXPECT_EQ(grid.Look(1, 1).Text, "A1");
+}
