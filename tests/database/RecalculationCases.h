@@ -9,27 +9,27 @@ namespace refhost {
 /// The row of an editor as a call of the recalculation gets it, in Czech texts. A row of prices is "B A L S": without
 /// VAT, the VAT, the local VAT, with VAT, "-" for an empty cell; an empty text is four empty cells.
 struct RecalculationInput {
-    const char* Focus = "";
-    const char* Changed = "";
-    const char* Rate = "21 %";
-    const char* Discount = "";
-    const char* Quantity = "";
-    const char* UnitBefore = "";
-    const char* UnitAfter = "";
-    const char* TotalBefore = "";
-    const char* TotalAfter = "";
+    std::string Focus = {};
+    std::string Changed = {};
+    std::string Rate = "21 %";
+    std::string Discount = {};
+    std::string Quantity = {};
+    std::string UnitBefore = {};
+    std::string UnitAfter = {};
+    std::string TotalBefore = {};
+    std::string TotalAfter = {};
     bool LocalVat = false; ///< Whether the company has local VAT on; its rate is 2 %.
     bool Recalculate = true;
 };
 
 /// What comes back. Discount and quantity are as sent unless given here; the rate always is.
 struct RecalculationOutput {
-    const char* UnitBefore = "";
-    const char* UnitAfter = "";
-    const char* TotalBefore = "";
-    const char* TotalAfter = "";
-    std::optional<const char*> Discount = {};
-    std::optional<const char*> Quantity = {};
+    std::string UnitBefore = {};
+    std::string UnitAfter = {};
+    std::string TotalBefore = {};
+    std::string TotalAfter = {};
+    std::optional<std::string> Discount = {};
+    std::optional<std::string> Quantity = {};
 };
 
 /// One row worked out by hand; the remark says how its figures come about. B, A, L and S are the prices as above, S and

@@ -240,6 +240,28 @@ std::span<const RecalculationCase> focusCases() {
           .UnitAfter = "100 21 0 121",
           .TotalBefore = "300,00 63,00 0,00 363,00",
           .TotalAfter = "300,00 63,00 0,00 363,00"}},
+        {"TypedTotalVatKeepsWhatStandsBesideItInTwoDecimals",
+         "B 100,005 counts as 100,01, L 2,004 as 2,00 and the typed 21,004 as 21,00: S 123,01; no discount, one "
+         "piece.",
+         {.Focus = "DPHABEZSLEVY", .Quantity = "1", .TotalBefore = "100,005 21,004 2,004 -", .LocalVat = true},
+         {.UnitBefore = "100,01 21 2 123,01",
+          .UnitAfter = "100,01 21 2 123,01",
+          .TotalBefore = "100,01 21,00 2,00 123,01",
+          .TotalAfter = "100,01 21,00 2,00 123,01"}},
+        {"TypedTotalVatDerivesTheEmptyLocalVat",
+         "L 0,25·0,02 = 0,005 to 0,01; S 0,25 + 0,05 + 0,01; the unit carries each part as it is.",
+         {.Focus = "DPHABEZSLEVY", .Quantity = "1", .TotalBefore = "0,25 0,05 - -", .LocalVat = true},
+         {.UnitBefore = "0,25 0,05 0,01 0,31",
+          .UnitAfter = "0,25 0,05 0,01 0,31",
+          .TotalBefore = "0,25 0,05 0,01 0,31",
+          .TotalAfter = "0,25 0,05 0,01 0,31"}},
+        {"TypedTotalLocalVatDerivesTheEmptyVat",
+         "A 0,5·0,21 = 0,105 to 0,11; S 0,5 + 0,11 + 0,02.",
+         {.Focus = "DPHBBEZSLEVY", .Quantity = "1", .TotalBefore = "0,5 - 0,02 -", .LocalVat = true},
+         {.UnitBefore = "0,5 0,11 0,02 0,63",
+          .UnitAfter = "0,5 0,11 0,02 0,63",
+          .TotalBefore = "0,50 0,11 0,02 0,63",
+          .TotalAfter = "0,50 0,11 0,02 0,63"}},
     };
     return cases;
 }

@@ -1,6 +1,9 @@
 #include "tests/database/RecalculationLine.h"
 
+#include <optional>
 #include <sstream>
+#include <stdexcept>
+#include <utility>
 #include <vector>
 
 namespace refhost {
@@ -8,7 +11,7 @@ namespace refhost {
 namespace {
 
 TDbValue cellValue(const std::string& text) {
-    if (text.empty() || text == "-")
+    if (text.empty())
         return {};
     return text;
 }
@@ -20,20 +23,35 @@ std::string shownValue(const TDbValue& value) {
     return text != nullptr ? *text : "(not a text)";
 }
 
-void addPrices(TProcedureCall& call, const PriceRow& row, const char* prices) {
-    std::istringstream words(prices);
-    for (const char* key : row.Keys) {
-        std::string word;
-        words >> word;
-        call.Params.push_back({"a_" + std::string(key), cellValue(word)});
-    }
+const std::string& pricesOf(const RecalculationInput& input, std::size_t row) {
+    const std::array<const std::string*, 4> rows{&input.UnitBefore, &input.UnitAfter, &input.TotalAfter,
+                                                 &input.TotalBefore};
+    return *rows.at(row);
 }
 
-std::string orEmptyRow(const char* prices) {
-    return *prices == '\0' ? "- - - -" : prices;
+std::array<std::string, 4> words(const std::string& prices) {
+    std::istringstream stream(prices);
+    std::array<std::string, 4> words;
+    for (std::string& word : words)
+        stream >> word;
+    return words;
 }
-std::string orNone(const char* text) {
-    return *text == '\0' ? "-" : text;
+
+/// The row of prices and the place in it that a key names.
+std::optional<std::pair<std::size_t, std::size_t>> positionOf(std::string_view key) {
+    for (std::size_t row = 0; row < c_PriceRows.size(); ++row)
+        for (std::size_t place = 0; place < 4; ++place)
+            if (c_PriceRows[row].Keys[place] == key)
+                return std::pair(row, place);
+    return std::nullopt;
+}
+
+std::string orEmptyRow(const std::string& prices) {
+    return prices.empty() ? "- - - -" : prices;
+}
+
+std::string orNone(const std::string& text) {
+    return text.empty() ? "-" : text;
 }
 
 std::string joinedText(const std::array<std::string, 4>& prices, const std::string& rate, const std::string& discount,
@@ -46,15 +64,26 @@ std::string joinedText(const std::array<std::string, 4>& prices, const std::stri
 
 } // namespace
 
+bool isPriceKey(std::string_view key) {
+    return positionOf(key).has_value();
+}
+
+std::string priceText(const RecalculationInput& input, std::string_view key) {
+    const auto position = positionOf(key);
+    if (!position)
+        throw std::out_of_range("no price: " + std::string(key));
+    const std::string word = words(pricesOf(input, position->first)).at(position->second);
+    return word == "-" ? "" : word;
+}
+
 TProcedureCall recalculationCall(const RecalculationInput& input) {
     TProcedureCall call{"MELVARKEDITORDodakVypocetCen", {}, true};
-    call.Params.push_back({"a_ZMENENEBUNKY", AnsiString(input.Changed)});
+    call.Params.push_back({"a_ZMENENEBUNKY", input.Changed});
     call.Params.push_back({"a_PREPOCETCEN", input.Recalculate});
-    call.Params.push_back({"a_FOCUS", AnsiString(input.Focus)});
-    addPrices(call, c_PriceRows[0], input.UnitBefore);
-    addPrices(call, c_PriceRows[1], input.UnitAfter);
-    addPrices(call, c_PriceRows[2], input.TotalAfter);
-    addPrices(call, c_PriceRows[3], input.TotalBefore);
+    call.Params.push_back({"a_FOCUS", input.Focus});
+    for (const PriceRow& row : c_PriceRows)
+        for (const char* key : row.Keys)
+            call.Params.push_back({"a_" + std::string(key), cellValue(priceText(input, key))});
     call.Params.push_back({"a_DPH", cellValue(input.Rate)});
     call.Params.push_back({"a_SLEVA", cellValue(input.Discount)});
     call.Params.push_back({"a_MNOZSTVI", cellValue(input.Quantity)});

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 namespace refhost {
 
@@ -20,6 +21,11 @@ inline constexpr std::array<PriceRow, 4> c_PriceRows{{
     {"total after", {"CENABSESLEVOU", "DPHASESLEVOU", "DPHBSESLEVOU", "CENASSESLEVOU"}},
     {"total before", {"CENABBEZSLEVY", "DPHABEZSLEVY", "DPHBBEZSLEVY", "CENASBEZSLEVY"}},
 }};
+
+bool isPriceKey(std::string_view key);
+
+/// The text of a price cell of the row, empty for an empty cell. Throws std::out_of_range for a key that is none.
+std::string priceText(const RecalculationInput& input, std::string_view key);
 
 /// The call that an editor makes for the row, with all its parameters; an empty cell is null.
 TProcedureCall recalculationCall(const RecalculationInput& input);

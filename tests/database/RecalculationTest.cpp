@@ -1,5 +1,6 @@
 #include "host/Exceptions.h"
 #include "tests/database/Engines.h"
+#include "tests/database/RecalculationCompany.h"
 #include "tests/database/RecalculationLine.h"
 
 #include <algorithm>
@@ -29,29 +30,9 @@ public:
         std::unique_ptr<Database>& database = companies[engine];
         if (!database) {
             database = newDatabase(engine);
-            addParameters(*database);
+            addRecalculationCompany(*database);
         }
         return *database;
-    }
-
-    static void switchLocalVat(Database& database, bool on) {
-        database.runScript(std::string("update GLOBALPARAM set HODNOTA = '") + (on ? "1" : "0") +
-                           "' where SEKCE = 'DPH' and NAZEV = 'DPHBLIC'");
-    }
-
-private:
-    static void addParameters(Database& database) {
-        const std::vector<std::string> rateColumns{"NAZEV", "SAZBA", "PLATIOD", "PLATIDO"};
-        const TDbValue none;
-        const std::vector<std::vector<TDbValue>> rates{{"21 %", "21", "2013-01-01", none},
-                                                       {"12 %", "12", "2024-01-01", none},
-                                                       {"0 %", "0", "2000-01-01", none},
-                                                       {"15 %", "15", "2013-01-01", "2023-12-31"}};
-        database.insertRows("DPH", rateColumns, rates);
-        database.runScript("delete from GLOBALPARAM where SEKCE = 'DPH'");
-        const std::vector<std::string> columns{"SEKCE", "NAZEV", "HODNOTA"};
-        const std::vector<std::vector<TDbValue>> parameters{{"DPH", "DPHBLIC", "0"}, {"DPH", "SAZBADPHB", "2"}};
-        database.insertRows("GLOBALPARAM", columns, parameters);
     }
 };
 
@@ -62,7 +43,7 @@ class RecalculationOn : public testing::TestWithParam<Engine> {};
 TEST_P(Recalculation, GivesTheLineWorkedOutByHand) {
     const auto& [engine, row] = GetParam();
     Database& database = Company::on(engine);
-    Company::switchLocalVat(database, row.Given.LocalVat);
+    switchLocalVat(database, row.Given.LocalVat);
 
     const TCallResult result = database.Execute(recalculationCall(row.Given));
 
@@ -72,7 +53,7 @@ TEST_P(Recalculation, GivesTheLineWorkedOutByHand) {
 TEST_P(RecalculationRefused, SaysWhyInWords) {
     const auto& [engine, row] = GetParam();
     Database& database = Company::on(engine);
-    Company::switchLocalVat(database, row.Given.LocalVat);
+    switchLocalVat(database, row.Given.LocalVat);
 
     try {
         database.Execute(recalculationCall(row.Given));
@@ -85,7 +66,7 @@ TEST_P(RecalculationRefused, SaysWhyInWords) {
 
 TEST_P(RecalculationOn, ARefusedLineLeavesNothingToTheNextCall) {
     Database& database = Company::on(GetParam());
-    Company::switchLocalVat(database, false);
+    switchLocalVat(database, false);
     const RecalculationInput refused{.Focus = "JEDNCENABBEZSLEVY", .Rate = "19 %", .UnitBefore = "100 - - -"};
     EXPECT_THROW(database.Execute(recalculationCall(refused)), EDatabaseError);
 
@@ -95,7 +76,7 @@ TEST_P(RecalculationOn, ARefusedLineLeavesNothingToTheNextCall) {
 
 TEST_P(RecalculationOn, FloatingPointCountsAsItsShortestDecimal) {
     Database& database = Company::on(GetParam());
-    Company::switchLocalVat(database, false);
+    switchLocalVat(database, false);
     TProcedureCall call = recalculationCall({.Focus = "JEDNCENABBEZSLEVY", .Quantity = "1"});
     // The nearest binary number is 1.00499999999999989…, which alone would round to 1,00.
     std::ranges::find(call.Params, "a_JEDNCENABBEZSLEVY", &TDbParam::Name)->Value = 1.005;
@@ -117,7 +98,7 @@ TEST_P(RecalculationOn, ParametersThatWereNotSetAreEmptyCells) {
 
 TEST_P(RecalculationOn, PointAndCommaAreBothUnderstood) {
     Database& database = Company::on(GetParam());
-    Company::switchLocalVat(database, false);
+    switchLocalVat(database, false);
     const TProcedureCall call = recalculationCall(
         {.Focus = "JEDNCENABBEZSLEVY", .Discount = "12.5", .Quantity = " 3,0 ", .UnitBefore = "1000.50 - - -"});
 
