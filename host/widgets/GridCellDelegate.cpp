@@ -3,8 +3,7 @@
 #include "host/widgets/Text.h"
 
 #include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
+#include <QStyleOptionViewItem>
 
 #include <cmath>
 
@@ -24,11 +23,12 @@ QString OneLine(QString text) {
     return text;
 }
 
-void DrawFocusFrame(QPainter& painter, const QStyleOptionViewItem& option) {
-    QStyleOptionFocusRect frame;
-    frame.QStyleOption::operator=(option);
-    frame.backgroundColor = option.palette.color(QPalette::Base);
-    option.widget->style()->drawPrimitive(QStyle::PE_FrameFocusRect, &frame, &painter, option.widget);
+/// Drawn by hand: a style shows its own focus frame only after the keyboard moved the focus.
+void DrawFocusFrame(QPainter& painter, const QRect& cell) {
+    QPen pen = painter.pen();
+    pen.setStyle(Qt::DotLine);
+    painter.setPen(pen);
+    painter.drawRect(cell.adjusted(0, 0, -1, -1));
 }
 
 } // namespace
@@ -63,7 +63,7 @@ void GridCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     const QPoint origin = CellTextOrigin(option.rect, metrics.horizontalAdvance(text), look.Align);
     painter->drawText(origin + QPoint(0, metrics.ascent()), text);
     if (option.state.testFlag(QStyle::State_HasFocus))
-        DrawFocusFrame(*painter, option);
+        DrawFocusFrame(*painter, option.rect);
     painter->restore();
 }
 

@@ -358,6 +358,19 @@ TEST_F(StringGridTest, TheCurrentCellHasTheBackgroundOfAllCells) {
     EXPECT_EQ(background(2, 3), grid.palette().color(QPalette::Base).rgb());
 }
 
+TEST_F(StringGridTest, AFocusedGridFramesItsCurrentCell) {
+    show();
+    click(2, 3);
+    const QPoint border(TStringGrid::c_BorderWidth, TStringGrid::c_BorderWidth);
+    const auto leftEdge = [&](int col, int row) {
+        const QRect cell = grid.CellRect(col, row).translated(border);
+        return grid.grab(QRect(cell.topLeft(), QSize(1, cell.height()))).toImage();
+    };
+    EXPECT_NE(leftEdge(2, 3), leftEdge(2, 2));
+    other.setFocus();
+    EXPECT_EQ(leftEdge(2, 3), leftEdge(2, 2));
+}
+
 TEST_F(StringGridTest, ACellWithoutPresentationShowsItsText) {
     const TCellLook look = grid.Look(2, 1);
     EXPECT_EQ(look.Text, "B1");
