@@ -54,6 +54,7 @@ void TEditBoxControls::BuildIn(TForm& form) {
     BuildTopPanel();
     StringGrid = Named(new TStringGrid(MainPanel), u"StringGrid"_qs);
     StringGrid->SetRowHeight(c_RowHeight);
+    StringGrid->SetFixedRows(1);
     StringGrid->SetTabStop(false);
     ButtonPanel = Named(new QFrame(&form), u"ButtonPanel"_qs);
     BuildButtons();

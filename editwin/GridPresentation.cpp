@@ -33,7 +33,6 @@ void GridPresentation::ApplyColumns() {
     grid.SetColCount(1 + VisibleColumnCount(FEditing.Active));
     grid.SetFixedCols(grid.ColCount() > 1 ? 1 : 0);
     grid.SetRowCount(1 + std::max(FEditing.Store.GetRowCount(), 1));
-    grid.SetFixedRows(1);
     for (int col = 1; col < grid.ColCount(); ++col) {
         const RColumn& column = *FEditing.ColumnAt(col);
         grid.SetCells(col, 0, column.Caption);
