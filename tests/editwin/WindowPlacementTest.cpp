@@ -1,0 +1,75 @@
+#include "host/widgets/StringGrid.h"
+#include "tests/editwin/TestEditBox.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include <gmock/gmock.h>
+
+class WindowPlacement : public EditBoxTest {
+protected:
+    void storedIs(const AnsiString& document) {
+        host.connection.procedure("MELVARKEDITORNASTAVENINactiNastaveniOkna").returns({{{"DATA"}, {{document}}}});
+    }
+
+    /// Where the form stands when it is centred at its design size, half pixels going toward zero.
+    QRect centred() {
+        const QSize screen = QGuiApplication::primaryScreen()->size();
+        const QSize size(std::max(790, form->minimumWidth()), std::max(400, form->minimumHeight()));
+        return QRect(QPoint((screen.width() - size.width()) / 2, (screen.height() - size.height()) / 2), size);
+    }
+
+    AnsiString lastSave() {
+        const auto calls = host.connection.callsOf("MELVARKEDITORNASTAVENIUlozNastaveniOkna");
+        return calls.empty() ? "" : calls.back();
+    }
+};
+
+TEST_F(WindowPlacement, WithoutARecordTheFormIsCentredAtItsDesignSize) {
+    open();
+    EXPECT_EQ(form->geometry(), centred());
+}
+
+TEST_F(WindowPlacement, AStoredRectangleIsTakenOver) {
+    storedIs("<window><left>33</left><top>44</top><width>900</width><height>500</height><maximized>0</maximized>"
+             "</window>");
+    open();
+    EXPECT_EQ(form->geometry(), QRect(33, 44, 900, 500));
+}
+
+TEST_F(WindowPlacement, ASizeBelowTheLeastGivesTheLeast) {
+    storedIs("<window><left>31</left><top>42</top><width>100</width><height>50</height></window>");
+    open();
+    EXPECT_EQ(form->geometry(), QRect(QPoint(31, 42), centred().size()));
+}
+
+TEST_F(WindowPlacement, WhatTheDocumentDoesNotSayStaysCentred) {
+    storedIs("<window><maximized>0</maximized></window>");
+    open();
+    EXPECT_EQ(form->geometry(), centred());
+}
+
+TEST_F(WindowPlacement, ABadNumberKeepsTheCurrentValue) {
+    storedIs("<window><left>vlevo</left><top>44</top><width>9e2</width><height>500</height></window>");
+    open();
+    EXPECT_EQ(form->geometry(), QRect(centred().left(), 44, centred().width(), 500));
+}
+
+TEST_F(WindowPlacement, AForeignOrDamagedDocumentLeavesTheFormCentred) {
+    for (const char* const document : {"", "<okno><left>1</left></okno>", "<window><left>1</left>"}) {
+        storedIs(document);
+        open();
+        EXPECT_EQ(form->geometry(), centred()) << document;
+    }
+}
+
+TEST_F(WindowPlacement, ClosingStoresTheRectangleUnderTheEditTypeAlone) {
+    open();
+    form->setGeometry(50, 60, 1000, 600);
+    settle();
+    form->close();
+    const AnsiString line = lastSave();
+    EXPECT_THAT(line, testing::StartsWith("MELVARKEDITORNASTAVENIUlozNastaveniOkna(a_TYPEDITACE=30, a_DATA="));
+    EXPECT_THAT(line, testing::HasSubstr("<window><left>50</left><top>60</top><width>1000</width><height>600</height>"
+                                         "<maximized>0</maximized></window>"));
+}
