@@ -15,5 +15,9 @@
         <source>&amp;Ne</source>
         <translation>&amp;No</translation>
     </message>
+    <message id="KORDAN30\MelvarkEditorSelectWin\CancelBtn\Caption">
+        <source>&amp;Zrušit</source>
+        <translation>&amp;Cancel</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,94 @@
+#include "refhost/ErrorDialog.h"
+
+#include "refhost/Languages.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace refhost {
+
+namespace {
+
+class ErrorDialogTest : public testing::Test {
+protected:
+    void open(const ErrorReport& report) {
+        dialog_ = std::make_unique<ErrorDialog>(report, languages_, nullptr);
+        dialog_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
+    }
+
+    template <typename Widget>
+    Widget* find(const char16_t* name) const {
+        return dialog_->findChild<Widget*>(QString::fromUtf16(name));
+    }
+
+    Languages languages_{"cs"};
+    std::unique_ptr<ErrorDialog> dialog_;
+};
+
+const ErrorReport c_report{.sentence = "Doklad je <uzavřený>.", .details = "Kód: ML003"};
+
+TEST_F(ErrorDialogTest, ShowsTheSentenceLetterForLetterAndFoldsTheDetailsAway) {
+    open(c_report);
+
+    EXPECT_EQ(dialog_->windowTitle(), u"Chyba");
+    EXPECT_EQ(find<QLabel>(u"errorSentence")->text(), u"Doklad je <uzavřený>.");
+    EXPECT_EQ(find<QLabel>(u"errorSentence")->textFormat(), Qt::PlainText);
+    EXPECT_FALSE(find<QPlainTextEdit>(u"errorDetails")->isVisible());
+}
+
+TEST_F(ErrorDialogTest, EnterClosesIt) {
+    open(c_report);
+    EXPECT_TRUE(find<QPushButton>(u"closeButton")->hasFocus());
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+
+    EXPECT_FALSE(dialog_->isVisible());
+}
+
+TEST_F(ErrorDialogTest, EscapeClosesIt) {
+    open(c_report);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog_->isVisible());
+}
+
+TEST_F(ErrorDialogTest, TheDetailsUnfoldByKeyAndFoldAgain) {
+    open(c_report);
+    const QPlainTextEdit& details = *find<QPlainTextEdit>(u"errorDetails");
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_P, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return details.isVisible(); })); // a button shows for a moment that it is down
+    EXPECT_EQ(details.toPlainText(), u"Kód: ML003");
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_P, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !details.isVisible(); }));
+}
+
+TEST_F(ErrorDialogTest, TheCopyKeyCopiesSentenceAndDetails) {
+    open(c_report);
+    QApplication::clipboard()->clear();
+
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+
+    EXPECT_EQ(QApplication::clipboard()->text(), u"Doklad je <uzavřený>.\n\nKód: ML003");
+}
+
+TEST_F(ErrorDialogTest, WithoutDetailsThereIsNoButtonForThem) {
+    open({.sentence = "Server neodpovídá.", .details = {}});
+    QApplication::clipboard()->clear();
+
+    QTest::mouseClick(find<QPushButton>(u"copyButton"), Qt::LeftButton);
+
+    EXPECT_EQ(find<QPushButton>(u"detailsButton"), nullptr);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"Server neodpovídá.");
+}
+
+} // namespace
+
+} // namespace refhost

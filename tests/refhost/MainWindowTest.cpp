@@ -1,0 +1,321 @@
+#include "refhost/screens/MainWindow.h"
+
+#include "host/DataSet.h"
+#include "host/Exceptions.h"
+#include "refhost/Languages.h"
+#include "refhost/tables/ResultModel.h"
+#include "refhost/tables/ResultTable.h"
+#include "tests/refhost/ScreenRows.h"
+#include "tests/support/RecordingHost.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace refhost {
+
+namespace {
+
+using testing::ElementsAre;
+
+const std::string c_documentsQuery = "select * from SCREEN_DODAK_V order by _ID";
+
+class MainWindowTest : public testing::Test {
+protected:
+    MainWindowTest() {
+        host_.connection.answerQuery(c_documentsQuery, deliveryNotes());
+        host_.connection.answerQuery("select * from SCREEN_DODOBJ_V order by _ID",
+                                     {.Columns = {"_ID", "CISLO"}, .Rows = {{std::int64_t{9}, AnsiString("OB-1")}}});
+        host_.connection.answerQuery("select * from SCREEN_DODOBJVZOR_V order by _ID",
+                                     {.Columns = {"_ID", "CISLO"}, .Rows = {}});
+        for (const int document : {101, 102, 103})
+            host_.connection.answerQuery(linesQuery("DODAK", document), linesOf(document));
+        host_.connection.answerQuery(linesQuery("DODOBJ", 9), linesOf(9));
+        insertLines_ = [this](const std::string& params, TDataSet& dataSet) {
+            executed_.push_back(params + " " + dataSet.FieldByName("_ID").AsString());
+            return changed_;
+        };
+    }
+
+    static std::string linesQuery(const std::string& screen, int document) {
+        return "select * from SCREEN_" + screen + "_LINES_V where _DOCID = " + std::to_string(document) +
+               " order by PORADI, _ID";
+    }
+
+    void open(const std::string& moduleMissing = {}) {
+        window_ =
+            std::make_unique<MainWindow>(MainWindowParts{.connection = host_.connection,
+                                                         .settings = settings_,
+                                                         .languages = languages_,
+                                                         .user = "novakova",
+                                                         .database = "/data/firma.sqlite",
+                                                         .insertLines = moduleMissing.empty() ? insertLines_ : nullptr,
+                                                         .moduleMissing = moduleMissing});
+        window_->start();
+        window_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+        host_.connection.takeCalls();
+    }
+
+    QWidget& screen() const { return *window_->findChild<QTabWidget*>(u"screens"_qs)->currentWidget(); }
+    ResultTable& documents() const { return *screen().findChild<ResultTable*>(u"documentsTable"_qs); }
+    QAbstractItemModel& shownDocuments() const { return *static_cast<QTableView&>(documents()).model(); }
+    ResultTable& lines() const { return *screen().findChild<ResultTable*>(u"linesTable"_qs); }
+    QLineEdit& search() const { return *screen().findChild<QLineEdit*>(u"searchEdit"_qs); }
+    QString linesTitle() const { return screen().findChild<QLabel*>(u"linesTitle"_qs)->text(); }
+    static void press(int key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
+    }
+
+    RecordingHost host_;
+    TScopedHost scope_{host_};
+    TFormatSettings settings_ = TFormatSettings::Czech();
+    Languages languages_{"cs"};
+    std::function<bool(const std::string&, TDataSet&)> insertLines_;
+    std::vector<std::string> executed_;
+    bool changed_ = false;
+    std::unique_ptr<MainWindow> window_;
+};
+
+TEST_F(MainWindowTest, OpensOnTheDeliveryNotesNewestFirstWithTheCursorInThem) {
+    open();
+
+    EXPECT_TRUE(documents().hasFocus());
+    EXPECT_EQ(rowText(shownDocuments(), 0), "DL-9 | 1.2.2027 | Železárny | otevřený | 2");
+    EXPECT_EQ(rowText(shownDocuments(), 2), "DL-10 | 31.12.2026 | Čapek | uzavřený | 10");
+    EXPECT_EQ(documents().currentKey(), "101");
+    EXPECT_EQ(linesTitle(), u"Položky dokladu DL-9");
+    EXPECT_EQ(rowText(lines().result(), 0), "1 | Položka dokladu 101 | 1,5");
+}
+
+TEST_F(MainWindowTest, TheLinesFollowTheCurrentDocument) {
+    open();
+
+    press(Qt::Key_Down);
+
+    EXPECT_EQ(documents().currentKey(), "103");
+    EXPECT_EQ(linesTitle(), u"Položky dokladu DL-11");
+    EXPECT_EQ(rowText(lines().result(), 0), "1 | Položka dokladu 103 | 1,5");
+    EXPECT_THAT(host_.connection.takeCalls(), ElementsAre(linesQuery("DODAK", 103))); // once
+}
+
+TEST_F(MainWindowTest, MovingSidewaysReadsNothing) {
+    open();
+    press(Qt::Key_Right);
+    EXPECT_THAT(host_.connection.takeCalls(), ElementsAre());
+}
+
+TEST_F(MainWindowTest, TypingInTheDocumentsSearchesAndEscapeShowsThemAllAgain) {
+    open();
+
+    QTest::keyClicks(QApplication::focusWidget(), u"capek"_qs); // the first key moves the cursor to the search line
+    EXPECT_EQ(search().text(), u"capek");
+    EXPECT_EQ(shownDocuments().rowCount(), 1);
+    EXPECT_EQ(linesTitle(), u"Položky dokladu DL-10");
+    EXPECT_EQ(screen().findChild<QLabel*>(u"countLabel"_qs)->text(), u"1 z 3");
+
+    press(Qt::Key_Escape);
+    EXPECT_EQ(shownDocuments().rowCount(), 3);
+    EXPECT_EQ(documents().currentKey(), "102"); // what was found stays current
+}
+
+TEST_F(MainWindowTest, ASearchThatMatchesNothingLeavesNoDocumentAndNoLines) {
+    open();
+
+    search().setFocus();
+    QTest::keyClicks(&search(), u"nikde"_qs);
+
+    EXPECT_EQ(linesTitle(), u"Není vybrán žádný doklad");
+    EXPECT_EQ(lines().result().rowCount(), 0);
+}
+
+TEST_F(MainWindowTest, ARefreshKeepsTheCurrentDocumentAndTheOrder) {
+    open();
+    press(Qt::Key_Down);
+    TResultTable changed = deliveryNotes();
+    changed.Rows.insert(changed.Rows.begin(), changed.Rows[0]);
+    changed.Rows[0][0] = std::int64_t{104};
+    changed.Rows[0][1] = AnsiString("DL-12");
+    changed.Rows[0][2] = AnsiString("2.2.2027");
+    host_.connection.answerQuery(c_documentsQuery, changed);
+    host_.connection.takeCalls();
+
+    press(Qt::Key_F5);
+
+    EXPECT_EQ(rowText(shownDocuments(), 0), "DL-12 | 2.2.2027 | Železárny | otevřený | 2");
+    EXPECT_EQ(documents().currentKey(), "103");
+    EXPECT_THAT(host_.connection.takeCalls(), ElementsAre(c_documentsQuery, linesQuery("DODAK", 103)));
+}
+
+TEST_F(MainWindowTest, ARefreshAfterWhichTheDocumentIsGoneTakesItsNeighbour) {
+    open();
+    press(Qt::Key_Down);
+    TResultTable changed = deliveryNotes();
+    changed.Rows.erase(changed.Rows.begin() + 2);
+    host_.connection.answerQuery(c_documentsQuery, changed);
+
+    press(Qt::Key_F5);
+
+    EXPECT_EQ(documents().currentKey(), "102");
+    EXPECT_EQ(linesTitle(), u"Položky dokladu DL-10");
+}
+
+TEST_F(MainWindowTest, TheOtherScreensAreReachedByKeyAndReadWhenTheyComeForward) {
+    open();
+
+    press(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(screen().objectName(), u"DODOBJ");
+    EXPECT_TRUE(documents().hasFocus());
+    EXPECT_THAT(host_.connection.takeCalls(),
+                ElementsAre("select * from SCREEN_DODOBJ_V order by _ID", linesQuery("DODOBJ", 9)));
+
+    press(Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(screen().objectName(), u"DODOBJVZOR");
+    EXPECT_EQ(linesTitle(), u"Není vybrán žádný doklad");
+
+    press(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(screen().objectName(), u"DODAK");
+}
+
+TEST_F(MainWindowTest, TheKeyInsertsLinesIntoTheCurrentDocumentOfTheScreen) {
+    open();
+    press(Qt::Key_Down);
+    press(Qt::Key_F8);
+    press(Qt::Key_2, Qt::ControlModifier);
+    press(Qt::Key_F8);
+
+    EXPECT_THAT(executed_, ElementsAre("DODAK 103", "DODOBJ 9"));
+}
+
+TEST_F(MainWindowTest, TheButtonAndTheMenuInsertLinesToo) {
+    open();
+    QAction& action = *window_->findChild<QAction*>(u"insertLinesAction"_qs);
+    QWidget* button = window_->findChild<QToolBar*>(u"tools"_qs)->widgetForAction(&action);
+
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_THAT(executed_, ElementsAre("DODAK 101"));
+
+    press(Qt::Key_D, Qt::AltModifier); // opens the menu "Doklad"
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_V);
+    EXPECT_THAT(executed_, ElementsAre("DODAK 101", "DODAK 101"));
+}
+
+TEST_F(MainWindowTest, ChangedLinesAreShownAndTheDocumentStaysCurrent) {
+    open();
+    press(Qt::Key_Down);
+    changed_ = true;
+    host_.connection.takeCalls();
+
+    press(Qt::Key_F8);
+
+    EXPECT_EQ(documents().currentKey(), "103");
+    EXPECT_THAT(host_.connection.takeCalls(), ElementsAre(c_documentsQuery, linesQuery("DODAK", 103)));
+}
+
+TEST_F(MainWindowTest, NothingIsReadAgainWhenNothingChanged) {
+    open();
+    press(Qt::Key_F8);
+    EXPECT_THAT(host_.connection.takeCalls(), ElementsAre());
+}
+
+TEST_F(MainWindowTest, AnErrorOfTheItemIsShownAndTheWindowGoesOn) {
+    insertLines_ = [](const std::string&, TDataSet&) -> bool { throw EDatabaseError("Doklad je uzavřený."); };
+    open();
+
+    press(Qt::Key_F8);
+
+    EXPECT_THAT(host_.errors(), ElementsAre("Doklad je uzavřený."));
+    press(Qt::Key_Down);
+    EXPECT_EQ(documents().currentKey(), "103");
+}
+
+TEST_F(MainWindowTest, AnErrorOfARefreshIsShownAndWhatWasReadStays) {
+    open();
+    host_.connection.refuseQuery(c_documentsQuery, "Spojení se ztratilo.");
+
+    press(Qt::Key_F5);
+
+    EXPECT_THAT(host_.errors(), ElementsAre("Spojení se ztratilo."));
+    EXPECT_EQ(shownDocuments().rowCount(), 3);
+}
+
+TEST_F(MainWindowTest, AMissingModuleIsToldAndTheScreensWork) {
+    open("Modul „MelvarkEditor.so“ nebyl nalezen.");
+
+    EXPECT_EQ(window_->findChild<QLabel*>(u"moduleNotice"_qs)->text(),
+              u"Vkládání položek není k dispozici. Modul „MelvarkEditor.so“ nebyl nalezen.");
+    EXPECT_FALSE(window_->findChild<QAction*>(u"insertLinesAction"_qs)->isEnabled());
+    press(Qt::Key_F8);
+    EXPECT_THAT(executed_, ElementsAre());
+    press(Qt::Key_Down);
+    EXPECT_EQ(documents().currentKey(), "103");
+}
+
+TEST_F(MainWindowTest, TheStatusBarNamesUserAndDatabase) {
+    open();
+    EXPECT_EQ(window_->findChild<QLabel*>(u"userLabel"_qs)->text(), u"Uživatel: novakova");
+    EXPECT_EQ(window_->findChild<QLabel*>(u"databaseLabel"_qs)->text(), u"Databáze: /data/firma.sqlite");
+}
+
+TEST_F(MainWindowTest, ClosingItSaysSo) {
+    open();
+    int closed = 0;
+    QObject::connect(window_.get(), &MainWindow::closed, [&] { ++closed; });
+
+    press(Qt::Key_Q, Qt::ControlModifier);
+
+    EXPECT_EQ(closed, 1);
+    EXPECT_FALSE(window_->isVisible());
+}
+
+/// The letters that captions of the texts give to the keyboard, each once.
+void expectUniqueMnemonics(const QList<QAction*>& actions) {
+    std::set<QString> letters;
+    for (const QAction* action : actions) {
+        const qsizetype mark = action->text().indexOf(u'&');
+        const QString letter = mark >= 0 ? action->text().mid(mark + 1, 1).toLower() : QString();
+        EXPECT_FALSE(letter.isEmpty()) << action->text().toStdString();
+        EXPECT_TRUE(letters.insert(letter).second) << action->text().toStdString();
+    }
+}
+
+class MainWindowLanguage : public testing::TestWithParam<const char*> {};
+
+TEST_P(MainWindowLanguage, EveryMenuEntryHasALetterOfItsOwn) {
+    RecordingHost host;
+    const TFormatSettings settings = TFormatSettings::Czech();
+    const Languages languages(GetParam());
+    const MainWindow window({.connection = host.connection,
+                             .settings = settings,
+                             .languages = languages,
+                             .user = {},
+                             .database = {},
+                             .insertLines = {},
+                             .moduleMissing = {}});
+
+    expectUniqueMnemonics(window.menuBar()->actions());
+    for (const QAction* menu : window.menuBar()->actions()) {
+        QList<QAction*> entries = menu->menu()->actions();
+        entries.removeIf([](const QAction* action) { return action->isSeparator(); });
+        expectUniqueMnemonics(entries);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, MainWindowLanguage, testing::Values("cs", "en"),
+                         [](const auto& row) { return row.param; });
+
+} // namespace
+
+} // namespace refhost

@@ -1,0 +1,126 @@
+#include "refhost/tables/ResultModel.h"
+
+#include "refhost/Languages.h"
+#include "refhost/tables/ResultOrder.h"
+#include "tests/refhost/ScreenRows.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QPalette>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace refhost {
+
+namespace {
+
+using testing::ElementsAre;
+
+class ResultModelTest : public testing::Test {
+protected:
+    std::vector<std::string> rows(const QAbstractItemModel& model) const {
+        std::vector<std::string> result;
+        for (int row = 0; row < model.rowCount(); ++row)
+            result.push_back(rowText(model, row));
+        return result;
+    }
+
+    std::string header() const {
+        QStringList titles;
+        for (int column = 0; column < model_.columnCount(); ++column)
+            titles.append(model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        return titles.join(u" | "_qs).toStdString();
+    }
+
+    Languages languages_{"cs"};
+    ResultModel model_{TFormatSettings::Czech(), languages_, nullptr};
+    ResultOrder order_{model_, nullptr};
+    QAbstractItemModelTester modelTester_{&model_, QAbstractItemModelTester::FailureReportingMode::Warning};
+    QAbstractItemModelTester orderTester_{&order_, QAbstractItemModelTester::FailureReportingMode::Warning};
+};
+
+TEST_F(ResultModelTest, ShowsTheColumnsForPeopleUnderCzechTitles) {
+    model_.setTable(deliveryNotes());
+
+    EXPECT_EQ(header(), "Číslo | Datum | Dodavatel | Stav | Položek");
+    EXPECT_THAT(rows(model_),
+                ElementsAre("DL-9 | 1.2.2027 | Železárny | otevřený | 2", "DL-10 | 31.12.2026 | Čapek | uzavřený | 10",
+                            "DL-11 | 15.1.2027 | Chládek | otevřený | 0"));
+}
+
+TEST_F(ResultModelTest, PutsTheDisplayColumnFirstAndKeepsTheOthersInOrder) {
+    model_.setTable(deliveryNotes(), "DODAVATEL");
+
+    EXPECT_EQ(header(), "Dodavatel | Číslo | Datum | Stav | Položek");
+    EXPECT_THAT(model_.shownColumns(), ElementsAre("DODAVATEL", "CISLO", "DATUM", "STAV", "POCETPOLOZEK"));
+}
+
+TEST_F(ResultModelTest, KeepsHiddenColumnsReachableByNameWithoutRegardToCase) {
+    model_.setTable(deliveryNotes());
+
+    EXPECT_EQ(model_.text(1, "_id"), "102");
+    EXPECT_EQ(model_.text(1, "NENI"), "");
+    EXPECT_TRUE(model_.hasColumn("_OTEVRENO"));
+    EXPECT_EQ(model_.shownColumn("_OTEVRENO"), std::nullopt);
+}
+
+TEST_F(ResultModelTest, AlignsNumbersRightAndEverythingElseLeft) {
+    model_.setTable(deliveryNotes());
+
+    EXPECT_TRUE(model_.data(model_.index(0, 4), Qt::TextAlignmentRole).value<Qt::Alignment>() & Qt::AlignRight);
+    EXPECT_TRUE(model_.data(model_.index(0, 1), Qt::TextAlignmentRole).value<Qt::Alignment>() & Qt::AlignLeft);
+}
+
+TEST_F(ResultModelTest, GreysClosedDocumentsOnly) {
+    model_.setTable(deliveryNotes());
+
+    EXPECT_FALSE(model_.data(model_.index(0, 0), Qt::ForegroundRole).isValid());
+    EXPECT_EQ(model_.data(model_.index(1, 0), Qt::ForegroundRole).value<QColor>(),
+              QApplication::palette().color(QPalette::Disabled, QPalette::Text));
+}
+
+TEST_F(ResultModelTest, TranslatesStatesAndTitles) {
+    const Languages english("en");
+    ResultModel model(TFormatSettings::English(), english, nullptr);
+    model.setTable(deliveryNotes());
+
+    EXPECT_EQ(rowText(model, 1), "DL-10 | 31.12.2026 | Čapek | closed | 10");
+    EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).toString(), u"Number");
+}
+
+TEST_F(ResultModelTest, SortsByWhatTheValuesMean) {
+    model_.setTable(deliveryNotes());
+
+    order_.sort(1, Qt::DescendingOrder);
+    EXPECT_EQ(order_.index(0, 0).data().toString(), u"DL-9"); // the latest date, not the highest text
+    order_.sort(4, Qt::AscendingOrder);
+    EXPECT_EQ(order_.index(2, 0).data().toString(), u"DL-10"); // ten is more than two
+    order_.sort(2, Qt::AscendingOrder);
+    EXPECT_EQ(order_.index(1, 2).data().toString(), u"Chládek"); // between Č and Ž
+}
+
+TEST_F(ResultModelTest, SearchesTheShownColumnsOnly) {
+    model_.setTable(deliveryNotes());
+
+    order_.setSearch(u"zeleza 2027"_qs);
+    EXPECT_THAT(rows(order_), ElementsAre("DL-9 | 1.2.2027 | Železárny | otevřený | 2"));
+    order_.setSearch(u"102"_qs); // a record number, which nobody sees
+    EXPECT_EQ(order_.rowCount(), 0);
+    order_.setSearch({});
+    EXPECT_EQ(order_.rowCount(), 3);
+}
+
+TEST_F(ResultModelTest, TakesANewResultWithOtherColumns) {
+    model_.setTable(deliveryNotes());
+    order_.sort(4, Qt::AscendingOrder);
+    order_.setSearch(u"d"_qs);
+
+    model_.setTable({.Columns = {"NAZEV"}, .Rows = {{AnsiString("Voda")}, {AnsiString("Šrouby")}}});
+
+    EXPECT_THAT(rows(order_), ElementsAre("Voda"));
+}
+
+} // namespace
+
+} // namespace refhost
