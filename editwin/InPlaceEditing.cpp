@@ -9,8 +9,8 @@
 #include "host/widgets/StringGrid.h"
 #include "host/widgets/Text.h"
 
+#include <QApplication>
 #include <QEvent>
-#include <QGuiApplication>
 #include <QLineEdit>
 #include <QRect>
 #include <QRegion>
@@ -209,7 +209,7 @@ void InPlaceEditing::Settle() {
     // A running commit sees to what is wanted when it ends.
     if (FCommitting)
         return;
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) {
+    if (QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget()) {
         qApp->installEventFilter(this);
         return;
     }
@@ -225,7 +225,8 @@ void InPlaceEditing::Settle() {
 }
 
 bool InPlaceEditing::eventFilter(QObject*, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonRelease && QGuiApplication::mouseButtons() == Qt::NoButton) {
+    // A released button or a closed menu; Settle looks whether it was the last.
+    if (event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::Hide) {
         qApp->removeEventFilter(this);
         QueueSettle();
     }

@@ -20,9 +20,9 @@ namespace melvark {
 /// store, and sees to it that a refused value is neither lost nor reported twice.
 ///
 /// A cell is left in many ways. Keys and commands call HideEditor themselves and stop when it is refused. A focus that
-/// goes elsewhere only asks for a check (CheckWhenSettled), which runs from the event loop with all mouse buttons up:
-/// a box shown inside the focus event, or between press and release, would break the click that caused it. The grid
-/// asks for an editor in the same way (OpenWhenSettled).
+/// goes elsewhere only asks for a check (CheckWhenSettled), which runs from the event loop with all mouse buttons up
+/// and all menus closed: a box shown inside the focus event, between press and release, or over a menu, would break the
+/// click that caused it. The grid asks for an editor in the same way (OpenWhenSettled).
 ///
 /// It does not watch the editors' events itself: the form connects EditorEvents.
 class InPlaceEditing : public QObject {
@@ -83,7 +83,6 @@ private:
     bool MayStop(int col, int row) const;
     void QueueSettle();
     void Settle();
-    void SettleOnRelease();
 
     GridEditing& FEditing;
     QWidget& FForm;
