@@ -1,0 +1,142 @@
+#include "tests/session/HostSession.h"
+
+#include "refhost/database/Databases.h"
+#include "tests/session/TinyCompany.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <algorithm>
+#include <regex>
+#include <stdexcept>
+
+namespace {
+
+constexpr int c_LimitMs = 20000;
+
+QString hostProgram() {
+    return QCoreApplication::applicationDirPath() + QStringLiteral("/melvark-host");
+}
+
+std::vector<std::string> linesOf(const QByteArray& text) {
+    std::vector<std::string> lines;
+    for (const QByteArray& line : text.split('\n')) {
+        if (!line.isEmpty())
+            lines.push_back(line.toStdString());
+    }
+    return lines;
+}
+
+[[noreturn]] void fail(const QString& what) {
+    throw std::runtime_error(what.toStdString());
+}
+
+} // namespace
+
+HostSession::HostSession() {
+    tinycompany::create(folder_.filePath(QStringLiteral("tiny.db")).toStdString());
+    host_.setProcessChannelMode(QProcess::SeparateChannels);
+}
+
+HostSession::~HostSession() {
+    if (host_.state() != QProcess::NotRunning)
+        kill();
+}
+
+QStringList HostSession::withDatabase(const QStringList& arguments) const {
+    return QStringList{QStringLiteral("--database"),
+                       QStringLiteral("sqlite:") + folder_.filePath(QStringLiteral("tiny.db")),
+                       QStringLiteral("--user"), QStringLiteral("novakova")} +
+           arguments;
+}
+
+void HostSession::start(const QStringList& arguments) {
+    host_.start(
+        hostProgram(),
+        withDatabase(QStringList{QStringLiteral("--trace"), folder_.filePath(QStringLiteral("trace"))} + arguments));
+    if (!host_.waitForStarted(c_LimitMs))
+        fail(QStringLiteral("the host did not start"));
+}
+
+void HostSession::startEditor(const QString& params, int document) {
+    start({QStringLiteral("--execute"), params, QStringLiteral("--document"), QString::number(document)});
+}
+
+int HostSession::finish() {
+    if (!host_.waitForFinished(c_LimitMs))
+        fail(QStringLiteral("the host did not end"));
+    standardError_ = host_.readAllStandardError().toStdString();
+    return host_.exitStatus() == QProcess::NormalExit ? host_.exitCode() : -1;
+}
+
+void HostSession::kill() {
+    host_.kill();
+    host_.waitForFinished(c_LimitMs);
+}
+
+bool HostSession::isRunning() const {
+    return host_.state() == QProcess::Running;
+}
+
+void HostSession::runTool(const QStringList& arguments) const {
+    QProcess tool;
+    tool.start(QStringLiteral("xdotool"), arguments);
+    if (!tool.waitForFinished(c_LimitMs) || tool.exitCode() != 0)
+        fail(QStringLiteral("xdotool ") + arguments.join(u' ') + QStringLiteral(": ") +
+             QString::fromUtf8(tool.readAllStandardError()));
+}
+
+void HostSession::waitForWindow(const QString& title) {
+    runTool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
+             QStringLiteral("--name"), QStringLiteral("^") + title + QStringLiteral("$"),
+             QStringLiteral("windowactivate"), QStringLiteral("--sync")});
+}
+
+void HostSession::type(const QString& text) {
+    runTool({QStringLiteral("type"), QStringLiteral("--delay"), QStringLiteral("50"), QStringLiteral("--"), text});
+}
+
+void HostSession::press(const QStringList& keys) {
+    runTool(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("50")} + keys);
+}
+
+void HostSession::pickFirstRow() {
+    waitForWindow(QStringLiteral("Výběr ze seznamu"));
+    press({QStringLiteral("Return")});
+}
+
+void HostSession::waitForTrace(const std::string& text, int count) {
+    const auto isThere = [&] {
+        const auto lines = trace();
+        return std::ranges::count_if(lines, [&](const auto& line) { return line.find(text) != line.npos; }) >= count;
+    };
+    if (!QTest::qWaitFor(isThere, c_LimitMs))
+        fail(QStringLiteral("the trace never had ") + QString::fromStdString(text));
+}
+
+std::vector<std::string> HostSession::trace() const {
+    QFile file(folder_.filePath(QStringLiteral("trace")));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    static const std::regex time(",\"ms\":[0-9.e+-]+");
+    std::vector<std::string> lines = linesOf(file.readAll());
+    for (std::string& line : lines)
+        line = std::regex_replace(line, time, "");
+    return lines;
+}
+
+std::vector<std::string> HostSession::ask(const QStringList& arguments) const {
+    QProcess command;
+    command.start(hostProgram(), withDatabase(arguments));
+    if (!command.waitForFinished(c_LimitMs) || command.exitCode() != 0)
+        fail(QString::fromUtf8(command.readAllStandardError()));
+    return linesOf(command.readAllStandardOutput());
+}
+
+void HostSession::changeDatabase(const std::string& sql) const {
+    refhost::openDatabase("sqlite:" + folder_.filePath(QStringLiteral("tiny.db")).toStdString(), "dvorak",
+                          TFormatSettings::Czech(), refhost::OpenMode::Existing)
+        ->runScript(sql);
+}

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <string>
+#include <vector>
+
+/// A whole session as a clerk has it: the real host with the real module on a database of its own, driven through the
+/// display's keys, watched through the trace and the command line. Needs a display with a window manager.
+///
+/// Every wait has a limit; running into it fails the test at once.
+class HostSession {
+public:
+    /// Makes the tiny company.
+    HostSession();
+    HostSession(const HostSession&) = delete;
+    HostSession& operator=(const HostSession&) = delete;
+    /// Ends a host that is still running.
+    ~HostSession();
+
+    /// Starts the host with further arguments, the trace on.
+    void start(const QStringList& arguments);
+    void startEditor(const QString& params, int document);
+    /// Waits until the host has ended; its exit status.
+    int finish();
+    /// Ends the host without asking, as a power failure would.
+    void kill();
+    bool isRunning() const;
+
+    /// Waits for a visible window of that title and gives it the focus.
+    void waitForWindow(const QString& title);
+    /// Types the text, letter by letter.
+    void type(const QString& text);
+    /// Presses keys, named as X names them: "Return", "ctrl+Return", "shift+Return", "Escape".
+    void press(const QStringList& keys);
+    /// Waits for the host's lookup list and picks its first row.
+    void pickFirstRow();
+    /// Waits until the trace has so many lines that contain the text.
+    void waitForTrace(const std::string& text, int count = 1);
+
+    /// The trace so far, one line a call, without the time that each took.
+    std::vector<std::string> trace() const;
+    /// What a command of the host prints, one line each, without the module.
+    std::vector<std::string> ask(const QStringList& arguments) const;
+    std::string standardError() const { return standardError_; }
+
+    /// Runs one statement on the session's database from outside, as another clerk's work would.
+    void changeDatabase(const std::string& sql) const;
+
+private:
+    QStringList withDatabase(const QStringList& arguments) const;
+    void runTool(const QStringList& arguments) const;
+
+    QTemporaryDir folder_;
+    QProcess host_;
+    std::string standardError_;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <filesystem>
+
+/// A company small enough to know by heart, so that what a session asks and stores can be worked out by hand:
+///
+/// one supplier, one warehouse, one VAT rate of 21 %, two items, each priced by its last delivery.
+///
+///   delivery note 1, closed: 2 × Mouka at 10,00 before VAT, and 5 × Cukr at 20,00 with a discount of 10 %
+///   delivery note 2, open and empty: the document of the sessions
+///   order 1, open: 4 × Mouka and 3 × Cukr, nothing delivered
+namespace tinycompany {
+
+inline constexpr int c_ClosedNote = 1;
+inline constexpr int c_OpenNote = 2;
+inline constexpr int c_Order = 1;
+inline constexpr const char* c_OrderNumber = "OV2027-000001";
+inline constexpr const char* c_ClosedNoteNumber = "DL1";
+
+/// Makes the company in a new SQLite file.
+void create(const std::filesystem::path& file);
+
+} // namespace tinycompany
