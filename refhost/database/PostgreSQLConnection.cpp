@@ -1,0 +1,161 @@
+#include "refhost/database/PostgreSQLConnection.h"
+
+#include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/PostgreSQLErrors.h"
+#include "refhost/database/PostgreSQLRows.h"
+#include "refhost/database/PostgreSQLSchema.h"
+#include "refhost/database/SqlScript.h"
+
+#include <algorithm>
+
+namespace refhost {
+
+namespace {
+
+/// How often a call is begun before the user hears that the others are in the way.
+constexpr int c_MostAttempts = 5;
+
+std::string lowerAscii(std::string_view name) {
+    std::string lower(name);
+    std::ranges::transform(lower, lower.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return lower;
+}
+
+/// Whether the procedure is a step of a save: a failure of it closes the save until its rows are emptied.
+bool belongsToSave(std::string_view name) {
+    return std::ranges::any_of(postgresqlFiles(), [name](const SqlFile& file) {
+        return file.Path.starts_with("procedures/") && SameDbName(sqlObjectName(file), name) &&
+               readSqlScript(file, postgresqlFiles()).FailureRefusesStaging;
+    });
+}
+
+std::string joined(std::span<const std::string> names) {
+    std::string list;
+    for (const std::string& name : names)
+        list += (list.empty() ? "" : ", ") + name;
+    return list;
+}
+
+/// Identifiers that were given lie below those that the table makes from now on.
+void raiseSequence(PostgreSQLSession& session, const std::string& table) {
+    session.execute("select setval(pg_get_serial_sequence('melvark." + table + "', 'id'), max(ID)) from melvark." +
+                    table);
+}
+
+[[noreturn]] void refuseQuery(const AnsiString& sql) {
+    throw EDatabaseError("Dotaz není jedním čtecím příkazem: „" + shownText(sql) + "“. Zadejte jeden příkaz select.",
+                         "ML920");
+}
+
+} // namespace
+
+PostgreSQLConnection::PostgreSQLConnection(const std::string& address, const TFormatSettings& settings)
+    : session_(address, settings) {
+    hasSchema(); // another program's is refused at once
+}
+
+void PostgreSQLConnection::restoreLink() {
+    if (!session_.isLost())
+        return;
+    procedures_.clear();
+    session_.reconnect();
+}
+
+bool PostgreSQLConnection::hasSchema() {
+    restoreLink();
+    return hasPostgreSQLSchema(session_);
+}
+
+void PostgreSQLConnection::createSchema() {
+    restoreLink();
+    createPostgreSQLSchema(session_);
+}
+
+void PostgreSQLConnection::insertRows(std::string_view table, std::span<const std::string> columns,
+                                      std::span<const std::vector<TDbValue>> rows) {
+    restoreLink();
+    const std::string name = lowerAscii(table);
+    PostgreSQLTransaction transaction(session_, PostgreSQLTransaction::Kind::Writing);
+    session_.copy("copy melvark." + name + " (" + joined(columns) + ") from stdin", rows);
+    if (std::ranges::any_of(columns, [](const std::string& column) { return SameDbName(column, "ID"); }))
+        raiseSequence(session_, name);
+    transaction.commit();
+}
+
+void PostgreSQLConnection::runScript(std::string_view sql) {
+    restoreLink();
+    PostgreSQLTransaction transaction(session_, PostgreSQLTransaction::Kind::Writing);
+    session_.execute(std::string(sql));
+    transaction.commit();
+}
+
+void PostgreSQLConnection::runBuiltInScript(std::string_view path) {
+    runScript(builtInScript(path, postgresqlFiles()).Text);
+}
+
+const PostgreSQLProcedure& PostgreSQLConnection::procedure(const AnsiString& name) {
+    const std::string key = lowerAscii(name);
+    if (const auto known = procedures_.find(key); known != procedures_.end())
+        return known->second;
+    parameterValue(ParameterKind::Text, "procedure", name);
+    auto found = PostgreSQLProcedure::find(session_, name);
+    if (!found && !hasSchema())
+        throw EDatabaseError("Databáze „" + session_.database() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
+    if (!found)
+        throw EDatabaseError("Databáze nemá proceduru „" + shownText(name) + "“. Obraťte se na správce.", "ML918");
+    return procedures_.emplace(key, *std::move(found)).first->second;
+}
+
+TProcedureInfo PostgreSQLConnection::Describe(const AnsiString& name) {
+    restoreLink();
+    return procedure(name).info();
+}
+
+TCallResult PostgreSQLConnection::executeAgainstConflicts(const TProcedureCall& call) {
+    for (int attempt = 1;; ++attempt) {
+        try {
+            return procedure(call.Name).run(session_, call);
+        } catch (const EPostgreSQLError& error) {
+            if (!error.isConflict() || attempt == c_MostAttempts)
+                throw;
+        }
+    }
+}
+
+TCallResult PostgreSQLConnection::Execute(const TProcedureCall& call) {
+    const bool isStep = belongsToSave(call.Name);
+    if (!isStep)
+        restoreLink();
+    try {
+        return executeAgainstConflicts(call);
+    } catch (const EDatabaseError&) {
+        // The rollback took back what the call itself could have noted.
+        if (isStep)
+            refuseStaging();
+        throw;
+    }
+}
+
+void PostgreSQLConnection::refuseStaging() {
+    if (!session_.isLost())
+        session_.execute("select set_config('melvark.staging', 'refused', false) "
+                         "where current_setting('melvark.staging', true) = 'open'");
+}
+
+TResultTable PostgreSQLConnection::Query(const AnsiString& sql) {
+    parameterValue(ParameterKind::Text, "sql", sql);
+    restoreLink();
+    try {
+        const PostgreSQLTransaction transaction(session_, PostgreSQLTransaction::Kind::Reading);
+        if (PQnfields(session_.describe(sql).get()) == 0)
+            refuseQuery(sql);
+        return resultTable(session_.executeDescribed(sql).get());
+    } catch (const EPostgreSQLError& error) {
+        if (error.isNoReadingStatement())
+            refuseQuery(sql);
+        throw;
+    }
+}
+
+} // namespace refhost

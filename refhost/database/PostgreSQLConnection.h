@@ -1,0 +1,45 @@
+#pragma once
+
+#include "refhost/database/Database.h"
+#include "refhost/database/PostgreSQLProcedure.h"
+#include "refhost/database/PostgreSQLSession.h"
+
+#include <map>
+#include <string>
+
+namespace refhost {
+
+/// The company's database on a server. Its procedures are functions of the server's schema "melvark", made by
+/// createSchema from the files of refhost/database/postgresql; the user is the role that connects.
+///
+/// Each procedure is looked up and prepared at its first call in a session. A call is a transaction of its own; one
+/// that the server gives up for another user's is tried again a few times. A lost session is opened anew by the next
+/// call, save by one that belongs to a save under way: its rows went with the session.
+class PostgreSQLConnection : public Database {
+public:
+    /// `address` are words as the server's client library takes them. Throws EDatabaseError.
+    PostgreSQLConnection(const std::string& address, const TFormatSettings& settings);
+
+    TProcedureInfo Describe(const AnsiString& procedure) override;
+    TCallResult Execute(const TProcedureCall& call) override;
+    TResultTable Query(const AnsiString& sql) override;
+
+    bool hasSchema() override;
+    void createSchema() override;
+    void insertRows(std::string_view table, std::span<const std::string> columns,
+                    std::span<const std::vector<TDbValue>> rows) override;
+    void runScript(std::string_view sql) override;
+    void runBuiltInScript(std::string_view path) override;
+    const std::string& user() const override { return session_.user(); }
+
+private:
+    const PostgreSQLProcedure& procedure(const AnsiString& name);
+    TCallResult executeAgainstConflicts(const TProcedureCall& call);
+    void refuseStaging();
+    void restoreLink();
+
+    PostgreSQLSession session_;
+    std::map<std::string, PostgreSQLProcedure> procedures_; ///< By lower-case name.
+};
+
+} // namespace refhost

@@ -1,0 +1,232 @@
+#include "refhost/database/PostgreSQLSession.h"
+
+#include "refhost/database/ParameterValues.h"
+#include "refhost/database/PostgreSQLErrors.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <new>
+#include <poll.h>
+#include <vector>
+
+namespace refhost {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+constexpr milliseconds c_OpeningTime{10000};
+
+/// What every session needs beside the user's formats: unqualified names are the company's, another user's save is
+/// waited for as long as on the embedded engine, and short calls are not compiled.
+constexpr const char* c_SetUp = "set search_path = melvark, pg_temp;"
+                                "set datestyle = 'ISO, YMD';"
+                                "set lock_timeout = '5s';"
+                                "set jit = off;"
+                                "set client_min_messages = error;"
+                                "set standard_conforming_strings = on;";
+
+const char* dateOrder(TDateOrder order) {
+    switch (order) {
+    case TDateOrder::DayMonthYear:
+        return "DMY";
+    case TDateOrder::MonthDayYear:
+        return "MDY";
+    case TDateOrder::YearMonthDay:
+        break;
+    }
+    return "YMD";
+}
+
+/// The value of a word of the address; empty when it is not given.
+std::string addressWord(const PQconninfoOption* options, std::string_view keyword) {
+    for (const PQconninfoOption* option = options; option->keyword != nullptr; ++option)
+        if (keyword == option->keyword && option->val != nullptr)
+            return option->val;
+    return {};
+}
+
+/// Waits until the link can be read or written; false when the time is over.
+bool waitForLink(PGconn* connection, PostgresPollingStatusType wanted, steady_clock::time_point deadline) {
+    const auto left = std::chrono::duration_cast<milliseconds>(deadline - steady_clock::now());
+    pollfd link{PQsocket(connection), static_cast<short>(wanted == PGRES_POLLING_READING ? POLLIN : POLLOUT), 0};
+    return left.count() > 0 && poll(&link, 1, static_cast<int>(left.count())) > 0;
+}
+
+void appendCopyText(std::string& line, std::string_view text) {
+    for (const char c : text) {
+        switch (c) {
+        case '\\':
+            line += "\\\\";
+            break;
+        case '\t':
+            line += "\\t";
+            break;
+        case '\n':
+            line += "\\n";
+            break;
+        case '\r':
+            line += "\\r";
+            break;
+        default:
+            line += c;
+        }
+    }
+}
+
+std::string copyLine(std::span<const TDbValue> row) {
+    std::string line;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        if (i > 0)
+            line += '\t';
+        const TDbValue text = parameterValue(ParameterKind::Text, "row", row[i]);
+        if (std::holds_alternative<AnsiString>(text))
+            appendCopyText(line, std::get<AnsiString>(text));
+        else
+            line += "\\N";
+    }
+    return line + '\n';
+}
+
+} // namespace
+
+PostgreSQLSession::PostgreSQLSession(std::string address, const TFormatSettings& settings)
+    : address_(std::move(address)), settings_(settings) {
+    const std::unique_ptr<PQconninfoOption, PostgreSQLDeleter> options(PQconninfoParse(address_.c_str(), nullptr));
+    if (!options)
+        throw EDatabaseError("Adresa databáze není srozumitelná. Zapište ji slovy jako host=SERVER dbname=NÁZEV.",
+                             "ML915");
+    database_ = addressWord(options.get(), "dbname");
+    open();
+    database_ = PQdb(handle());
+    user_ = PQuser(handle());
+}
+
+void PostgreSQLSession::open() {
+    // Words of the address come after ours and win. An idle link that is cut is noticed within a minute or two.
+    constexpr std::array<const char*, 6> c_Words{"application_name", "keepalives_idle", "keepalives_interval",
+                                                 "dbname",           "client_encoding", nullptr};
+    const std::array<const char*, 6> values{"melvark", "30", "10", address_.c_str(), "UTF8", nullptr};
+    prepared_.clear();
+    handle_.reset(PQconnectStartParams(c_Words.data(), values.data(), 1));
+    if (!handle_)
+        throw std::bad_alloc();
+    // With all its words, among which is the server's code: an opening that fails leaves nothing else.
+    PQsetErrorVerbosity(handle(), PQERRORS_VERBOSE);
+
+    const auto deadline = steady_clock::now() + c_OpeningTime;
+    PostgresPollingStatusType status =
+        PQstatus(handle()) == CONNECTION_BAD ? PGRES_POLLING_FAILED : PGRES_POLLING_WRITING;
+    while (status != PGRES_POLLING_OK && status != PGRES_POLLING_FAILED)
+        status = waitForLink(handle(), status, deadline) ? PQconnectPoll(handle()) : PGRES_POLLING_FAILED;
+    if (status == PGRES_POLLING_FAILED) {
+        const char* host = PQhost(handle());
+        throw openingError(PQerrorMessage(handle()), database_, host == nullptr ? "" : host);
+    }
+    setUp();
+}
+
+void PostgreSQLSession::setUp() {
+    execute(c_SetUp);
+    const std::vector<TDbValue> formats{AnsiString(1, settings_.DecimalSeparator),
+                                        AnsiString(dateOrder(settings_.DateOrder)),
+                                        AnsiString(1, settings_.DateSeparator)};
+    execute("select set_config('melvark.decimal_separator', $1, false), set_config('melvark.date_order', $2, false), "
+            "set_config('melvark.date_separator', $3, false)",
+            formats);
+}
+
+void PostgreSQLSession::reconnect() {
+    open();
+}
+
+PostgreSQLResult PostgreSQLSession::checked(PGresult* result, std::string_view statement) const {
+    PostgreSQLResult owned(result);
+    if (isLost())
+        throw lostLinkError(database_, PQerrorMessage(handle()), statement);
+    switch (PQresultStatus(owned.get())) {
+    case PGRES_COMMAND_OK:
+    case PGRES_TUPLES_OK:
+    case PGRES_COPY_IN:
+        return owned;
+    default:
+        throw statementError(owned.get(), database_, statement);
+    }
+}
+
+PostgreSQLResult PostgreSQLSession::execute(const std::string& sql) {
+    return checked(PQexec(handle(), sql.c_str()), sql);
+}
+
+PostgreSQLResult PostgreSQLSession::execute(const std::string& sql, std::span<const TDbValue> parameters) {
+    auto statement = prepared_.find(sql);
+    if (statement == prepared_.end()) {
+        const std::string name = "melvark_" + std::to_string(prepared_.size());
+        checked(PQprepare(handle(), name.c_str(), sql.c_str(), 0, nullptr), sql);
+        statement = prepared_.emplace(sql, name).first;
+    }
+    std::vector<TDbValue> texts;
+    std::vector<const char*> values;
+    texts.reserve(parameters.size()); // the pointers below have to stay
+    for (const TDbValue& parameter : parameters) {
+        const TDbValue& text = texts.emplace_back(parameterValue(ParameterKind::Text, "sql", parameter));
+        values.push_back(std::holds_alternative<AnsiString>(text) ? std::get<AnsiString>(text).c_str() : nullptr);
+    }
+    return checked(PQexecPrepared(handle(), statement->second.c_str(), static_cast<int>(values.size()), values.data(),
+                                  nullptr, nullptr, 0),
+                   sql);
+}
+
+PostgreSQLResult PostgreSQLSession::describe(const std::string& sql) {
+    checked(PQprepare(handle(), "", sql.c_str(), 0, nullptr), sql);
+    return checked(PQdescribePrepared(handle(), ""), sql);
+}
+
+PostgreSQLResult PostgreSQLSession::executeDescribed(const std::string& sql) {
+    return checked(PQexecPrepared(handle(), "", 0, nullptr, nullptr, nullptr, 0), sql);
+}
+
+void PostgreSQLSession::sendCopyData(std::string_view text, std::string_view statement) const {
+    if (PQputCopyData(handle(), text.data(), static_cast<int>(text.size())) != 1)
+        throw lostLinkError(database_, PQerrorMessage(handle()), statement);
+}
+
+void PostgreSQLSession::copy(const std::string& statement, std::span<const std::vector<TDbValue>> rows) {
+    constexpr std::size_t c_Portion = 1U << 16U;
+    std::string text;
+    for (const std::vector<TDbValue>& row : rows)
+        text += copyLine(row);
+    checked(PQexec(handle(), statement.c_str()), statement);
+    for (std::string_view left = text; !left.empty(); left.remove_prefix(std::min(c_Portion, left.size())))
+        sendCopyData(left.substr(0, c_Portion), statement);
+    if (PQputCopyEnd(handle(), nullptr) != 1)
+        throw lostLinkError(database_, PQerrorMessage(handle()), statement);
+    checked(PQgetResult(handle()), statement);
+    PostgreSQLResult(PQgetResult(handle())).reset(); // the end of the results
+}
+
+std::string PostgreSQLSession::quoted(std::string_view name) const {
+    const std::unique_ptr<char, PostgreSQLDeleter> text(PQescapeIdentifier(handle(), name.data(), name.size()));
+    if (!text)
+        throw EDatabaseError("Název „" + shownText(name) + "“ není platný text.", "ML009");
+    return text.get();
+}
+
+PostgreSQLTransaction::PostgreSQLTransaction(PostgreSQLSession& session, Kind kind) : session_(session) {
+    session_.execute(kind == Kind::Reading ? "begin read only" : "begin");
+}
+
+PostgreSQLTransaction::~PostgreSQLTransaction() {
+    // A rollback fails only on a lost link, and then the server has rolled back.
+    if (isOpen_)
+        PostgreSQLResult(PQexec(session_.handle(), "rollback")).reset();
+}
+
+void PostgreSQLTransaction::commit() {
+    session_.execute("commit");
+    isOpen_ = false;
+}
+
+} // namespace refhost

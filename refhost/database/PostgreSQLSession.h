@@ -1,0 +1,76 @@
+#pragma once
+
+#include "host/Connection.h"
+#include "host/FormatSettings.h"
+#include "refhost/database/PostgreSQLHandle.h"
+
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace refhost {
+
+/// One session on a server: the link, the session's settings (how its user writes numbers and dates, how long it waits
+/// for a lock), the statements that were prepared on it, and the way in which failures become sentences. It knows no
+/// procedure.
+class PostgreSQLSession {
+public:
+    /// `address` are words as the client library takes them ("host=… dbname=…"). Throws EDatabaseError.
+    PostgreSQLSession(std::string address, const TFormatSettings& settings);
+
+    PGconn* handle() const { return handle_.get(); }
+    const std::string& database() const { return database_; }
+    const std::string& user() const { return user_; }
+
+    bool isLost() const { return PQstatus(handle()) != CONNECTION_OK; }
+    /// Opens a new session in place of a lost one; what the old one held is gone. Throws EDatabaseError.
+    void reconnect();
+
+    /// Runs one statement or several, the result being that of the last one. Throws EDatabaseError.
+    PostgreSQLResult execute(const std::string& sql);
+    /// Runs one statement with its parameters ($1 …) as texts or null; it is prepared at its first use in the session.
+    PostgreSQLResult execute(const std::string& sql, std::span<const TDbValue> parameters);
+    /// Prepares a statement for this one time, so that its columns are known before it runs.
+    PostgreSQLResult describe(const std::string& sql);
+    /// Runs the statement that was described last.
+    PostgreSQLResult executeDescribed(const std::string& sql);
+    /// Runs a "copy … from stdin" with rows of values.
+    void copy(const std::string& statement, std::span<const std::vector<TDbValue>> rows);
+
+    /// `name` as SQL writes an identifier, whatever characters it has.
+    std::string quoted(std::string_view name) const;
+
+private:
+    void open();
+    void setUp();
+    PostgreSQLResult checked(PGresult* result, std::string_view statement) const;
+    void sendCopyData(std::string_view text, std::string_view statement) const;
+
+    std::string address_;
+    TFormatSettings settings_;
+    std::string database_;
+    std::string user_;
+    PostgreSQLHandle handle_;
+    std::map<std::string, std::string, std::less<>> prepared_; ///< Names of prepared statements by their texts.
+};
+
+/// Rolls back what was done in its scope unless it was committed.
+class PostgreSQLTransaction {
+public:
+    enum class Kind { Reading, Writing };
+
+    PostgreSQLTransaction(PostgreSQLSession& session, Kind kind);
+    PostgreSQLTransaction(const PostgreSQLTransaction&) = delete;
+    PostgreSQLTransaction& operator=(const PostgreSQLTransaction&) = delete;
+    ~PostgreSQLTransaction();
+
+    void commit();
+
+private:
+    PostgreSQLSession& session_;
+    bool isOpen_ = true;
+};
+
+} // namespace refhost

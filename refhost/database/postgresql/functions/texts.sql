@@ -1,0 +1,38 @@
+-- Numbers and dates as texts for people, in the formats of the session: the settings melvark.decimal_separator,
+-- melvark.date_separator and melvark.date_order (DMY, MDY or YMD), which a connection makes at its start; without them
+-- ISO with a point. Null gives null.
+
+-- Without needless zeros.
+create function number_text(value numeric) returns text
+language sql stable as $$
+    select replace(trim_scale(value)::text, '.', coalesce(nullif(current_setting('melvark.decimal_separator', true), ''), '.'))
+$$;
+
+-- With two decimals.
+create function total_text(value numeric) returns text
+language sql stable as $$
+    select replace(round(value, 2)::text, '.', coalesce(nullif(current_setting('melvark.decimal_separator', true), ''), '.'))
+$$;
+
+create function date_text(day date) returns text
+language sql stable as $$
+    select case coalesce(nullif(current_setting('melvark.date_order', true), ''), 'YMD')
+        when 'DMY' then concat_ws(SEPARATOR, DAYS, MONTHS, YEARS)
+        when 'MDY' then concat_ws(SEPARATOR, MONTHS, DAYS, YEARS)
+        else concat_ws(SEPARATOR, YEARS, MONTHS, DAYS)
+    end
+    from (select coalesce(nullif(current_setting('melvark.date_separator', true), ''), '-') as SEPARATOR,
+                 to_char(day, 'FMDD') as DAYS, to_char(day, 'FMMM') as MONTHS, to_char(day, 'YYYY') as YEARS) as PARTS
+    where day is not null
+$$;
+
+create function moment_text(moment timestamp) returns text
+language sql stable as $$
+    select date_text(moment::date) || to_char(moment, ' HH24:MI:SS')
+$$;
+
+-- A text as sentences show it.
+create function shown(value text) returns text
+language sql immutable as $$
+    select case when char_length(value) > 60 then left(value, 60) || '…' else value end
+$$;

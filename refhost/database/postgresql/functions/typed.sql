@@ -1,0 +1,146 @@
+-- What people type, read. The same texts are numbers and dates here, on the embedded engine and in the program's own
+-- checks. Blanks around a text (space, tab, line break, no-break space) mean nothing. Null gives null.
+
+-- Without the blanks around it; null when nothing is left.
+create function typed(value text) returns text
+language sql immutable as $$
+    select nullif(btrim(value, E' \t\r\n\u00A0'), '')
+$$;
+
+-- An integer of 32 bits; null for what is none.
+create function as_integer(value text) returns integer
+language plpgsql immutable as $$
+declare
+    parts constant text[] := regexp_match(typed(value), '^([+-]?)0*([0-9]+)$');
+    number bigint;
+begin
+    if parts is null or length(parts[2]) > 10 then
+        return null;
+    end if;
+    number := (parts[1] || parts[2])::bigint;
+    return case when number between -2147483648 and 2147483647 then number end;
+end
+$$;
+
+-- A number with a point or comma; null for a blank text too. Refusals, which name the label: ML001 no number, ML005 more
+-- than 15 digits before the point or 50 after it, ML006 more than `decimals` after it.
+create function parse_number(value text, label text default 'Hodnota', decimals integer default null) returns numeric
+language plpgsql volatile as $$
+declare
+    parts constant text[] := regexp_match(typed(value), '^([+-]?)(?=[.,]?[0-9])0*([0-9]*)(?:[.,]([0-9]*?)0*)?$');
+begin
+    if typed(value) is null then
+        return null;
+    elsif parts is null then
+        raise exception using errcode = 'ML001', message = label || ' „' || shown(value)
+            || '“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku.';
+    elsif length(parts[2]) > 15 or length(parts[3]) > 50 then
+        raise exception using errcode = 'ML005', message = label || ' „' || shown(value)
+            || '“ je příliš dlouhé číslo. Zapište nejvýše 15 číslic před desetinnou čárkou a 50 za ní.';
+    elsif length(parts[3]) > decimals then
+        raise exception using errcode = 'ML006', message = label || ' „' || shown(value)
+            || '“ má příliš mnoho desetinných míst. Zapište nejvýše ' || decimals || '.';
+    end if;
+    return concat(parts[1], '0', parts[2], '.', parts[3], '0')::numeric;
+end
+$$;
+
+-- The day of a year, month and day; null for one that the calendar does not have. It begins with year 1.
+create function calendar_date(years integer, months integer, days integer) returns date
+language sql immutable strict as $$
+    select case when years between 1 and 9999 and months between 1 and 12 and days >= 1
+                     and days <= extract(day from make_date(years, months, 1) + interval '1 month - 1 day')
+                then make_date(years, months, days) end
+$$;
+
+-- The year, month and day that are written at the front of a text in an order (DMY, MDY or YMD), then what follows them;
+-- null when it does not begin with any. `year_digits` is a pattern.
+create function date_parts(value text, date_order text, separator text, year_digits text) returns text[]
+language plpgsql immutable as $$
+declare
+    blanks constant text := '[ \t\r\n\u00A0]*';
+    between_parts constant text := blanks || '[' || separator || ']' || blanks;
+    short_part constant text := '([0-9]{1,2})';
+    year_part constant text := '(' || year_digits || ')';
+    parts text[];
+begin
+    parts := regexp_match(value, '^' || case date_order
+        when 'YMD' then concat_ws(between_parts, year_part, short_part, short_part)
+        else concat_ws(between_parts, short_part, short_part, year_part)
+    end || '(?![0-9])(.*)$');
+    return case date_order
+        when 'YMD' then parts
+        when 'DMY' then array[parts[3], parts[2], parts[1], parts[4]]
+        else array[parts[3], parts[1], parts[2], parts[4]]
+    end;
+end
+$$;
+
+create function date_order() returns text
+language sql stable as $$
+    select coalesce(nullif(current_setting('melvark.date_order', true), ''), 'YMD')
+$$;
+
+create function date_separator() returns text
+language sql stable as $$
+    select coalesce(nullif(current_setting('melvark.date_separator', true), ''), '-')
+$$;
+
+-- A date in the session's order; null for a blank text too. A year of two digits lies between 50 years before this one and
+-- 49 after it. Refusal ML002, which names the label: no date.
+create function parse_date(value text, label text default 'Hodnota') returns date
+language plpgsql volatile as $$
+declare
+    parts constant text[] := date_parts(typed(value), date_order(), date_separator(), '[0-9]{4}|[0-9]{2}');
+    first_year constant integer := extract(year from current_date) - 50;
+    years integer := parts[1];
+    day date;
+begin
+    if typed(value) is null then
+        return null;
+    end if;
+    if length(parts[1]) = 2 then
+        years := first_year + (years - first_year % 100 + 100) % 100;
+    end if;
+    day := case when parts[4] = '' then calendar_date(years, parts[2]::integer, parts[3]::integer) end;
+    if day is null then
+        raise exception using errcode = 'ML002',
+            message = label || ' „' || shown(value) || '“ není datum. Zapište existující den, měsíc a rok.';
+    end if;
+    return day;
+end
+$$;
+
+-- A moment in the given order: a date with a year of four digits, then perhaps hours, minutes and seconds; null for none.
+create function read_moment(value text, date_order text, separator text) returns timestamp
+language plpgsql immutable as $$
+declare
+    parts constant text[] := date_parts(value, date_order, separator, '[0-9]{4}');
+    clock constant text[] :=
+        regexp_match(parts[4], '^[ \t\r\n\u00A0]*([0-9]{1,2}):([0-9]{1,2})(?::([0-9]{1,2}))?$');
+    day constant date := calendar_date(parts[1]::integer, parts[2]::integer, parts[3]::integer);
+    hours constant integer := clock[1];
+    minutes constant integer := clock[2];
+    seconds constant integer := coalesce(clock[3], '0');
+begin
+    return case
+        when parts[4] = '' then day
+        when hours < 24 and minutes < 60 and seconds < 60 then day + make_time(hours, minutes, seconds)
+    end;
+end
+$$;
+
+-- A moment in the session's order or as 2027-02-01; null for a blank text too. Refusal ML002: none.
+create function parse_moment(value text) returns timestamp
+language plpgsql volatile as $$
+declare
+    moment constant timestamp := coalesce(read_moment(typed(value), date_order(), date_separator()),
+                                          read_moment(typed(value), 'YMD', '-'));
+begin
+    if moment is null and typed(value) is not null then
+        raise exception using errcode = 'ML002',
+            message = 'Hodnota „' || shown(value) || '“ není datum. Zapište existující den, měsíc a rok.';
+    end if;
+    return moment;
+end
+$$;
