@@ -1,6 +1,7 @@
 #include "tests/database/Engines.h"
 
 #include "refhost/database/Databases.h"
+#include "tests/database/PrivateServer.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -10,6 +11,8 @@
 namespace refhost {
 
 namespace {
+
+constexpr std::string_view c_PostgreSQL = "postgresql:";
 
 /// A folder of the test program for its database files, deleted at its end.
 class TemporaryFolder {
@@ -45,12 +48,25 @@ std::string engineName(Engine engine) {
     return engine == Engine::SQLite ? "SQLite" : "PostgreSQL";
 }
 
+std::string newDatabaseUrl(Engine engine) {
+    if (engine == Engine::SQLite) {
+        const std::string url = newSQLiteUrl();
+        openDatabase(url, "novakova", TFormatSettings::Czech(), OpenMode::Create)->createSchema();
+        return url;
+    }
+    PrivateServer& server = PrivateServer::instance();
+    return std::string(c_PostgreSQL) + "host=" + server.folder().string() + " dbname=" + server.newDatabase();
+}
+
+std::unique_ptr<Database> openAs(const std::string& url, const std::string& user, const TFormatSettings& settings) {
+    if (!url.starts_with(c_PostgreSQL))
+        return openDatabase(url, user, settings, OpenMode::Existing);
+    PrivateServer::instance().addRole(user, "melvark_owner");
+    return openDatabase(url + " user=" + user, user, settings, OpenMode::Existing);
+}
+
 std::unique_ptr<Database> newDatabase(Engine engine) {
-    if (engine == Engine::PostgreSQL)
-        throw std::logic_error("no server");
-    auto database = openDatabase(newSQLiteUrl(), "novakova", TFormatSettings::Czech(), OpenMode::Create);
-    database->createSchema();
-    return database;
+    return openAs(newDatabaseUrl(engine), "novakova");
 }
 
 } // namespace refhost

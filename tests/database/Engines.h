@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/FormatSettings.h"
 #include "refhost/database/Database.h"
 
 #include <memory>
@@ -15,5 +16,11 @@ std::string engineName(Engine engine);
 /// A database of its own, with the schema and nothing in it, of the user "novakova" with Czech formats. It disappears
 /// with the test program. Throws EDatabaseError.
 std::unique_ptr<Database> newDatabase(Engine engine);
+
+/// The address of such a database, for tests that open it more than once.
+std::string newDatabaseUrl(Engine engine);
+/// One more connection to it, as any user: on the server his role is made, with the right to prepare a test's data too.
+std::unique_ptr<Database> openAs(const std::string& url, const std::string& user,
+                                 const TFormatSettings& settings = TFormatSettings::Czech());
 
 } // namespace refhost

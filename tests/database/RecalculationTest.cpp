@@ -110,7 +110,7 @@ TEST_P(RecalculationOn, PointAndCommaAreBothUnderstood) {
                                                 "21 % | 12,5 | 3");
 }
 
-constexpr Engine c_Engines[] = {Engine::SQLite};
+constexpr Engine c_Engines[] = {Engine::SQLite, Engine::PostgreSQL};
 
 std::vector<RecalculationCase> allCases() {
     std::vector<RecalculationCase> all;

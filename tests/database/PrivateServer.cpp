@@ -1,0 +1,80 @@
+#include "tests/database/PrivateServer.h"
+
+#include "refhost/database/PostgreSQLSchema.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+#include <unistd.h>
+
+namespace refhost {
+
+namespace {
+
+/// From which new databases are copied: much faster than making the schema anew.
+constexpr const char* c_Model = "melvark_model";
+
+} // namespace
+
+PrivateServer& PrivateServer::instance() {
+    static PrivateServer server;
+    return server;
+}
+
+PrivateServer::PrivateServer() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "melvark-server-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr)
+        throw std::runtime_error("no temporary folder could be made");
+    folder_ = pattern;
+    run("start '" + folder_.string() + "' --without-fsync --until-exit-of " + std::to_string(getpid()));
+    administrator("postgres").execute(std::string("create database ") + c_Model);
+    PostgreSQLSession session = administrator(c_Model);
+    createPostgreSQLSchema(session);
+}
+
+PrivateServer::~PrivateServer() {
+    try {
+        run("stop '" + folder_.string() + "'");
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+    }
+    std::error_code ignored; // the system cleans its temporary folder too
+    std::filesystem::remove_all(folder_, ignored);
+}
+
+void PrivateServer::run(const std::string& command) const {
+    const std::string line = "'" MELVARK_SOURCE_DIR "/packaging/private-server' " + command + " >/dev/null";
+    if (std::system(line.c_str()) != 0)
+        throw std::runtime_error("failed: " + line);
+}
+
+std::string PrivateServer::copyOf(const std::string& model) {
+    const std::string name = "company" + std::to_string(++databases_);
+    administrator("postgres").execute("create database " + name + " template " + model + " strategy file_copy");
+    return name;
+}
+
+std::string PrivateServer::newDatabase() {
+    return copyOf(c_Model);
+}
+
+std::string PrivateServer::newEmptyDatabase() {
+    return copyOf("template0");
+}
+
+void PrivateServer::addRole(const std::string& name, const std::string& group) {
+    PostgreSQLSession session = administrator("postgres");
+    const std::vector<TDbValue> parameters{name};
+    if (PQntuples(session.execute("select from pg_roles where rolname = $1", parameters).get()) == 0)
+        session.execute("create role " + session.quoted(name) + " login in role " + session.quoted(group));
+}
+
+std::string PrivateServer::address(const std::string& database, const std::string& role) const {
+    return "host=" + folder_.string() + " dbname=" + database + " user=" + role;
+}
+
+PostgreSQLSession PrivateServer::administrator(const std::string& database) const {
+    return PostgreSQLSession(address(database, "postgres"), TFormatSettings{});
+}
+
+} // namespace refhost

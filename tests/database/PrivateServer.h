@@ -1,0 +1,43 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+namespace refhost {
+
+class PostgreSQLSession;
+
+/// The database server of a test program: packaging/private-server in a temporary folder. It starts at its first use
+/// and goes with the program, also when that ends badly.
+class PrivateServer {
+public:
+    static PrivateServer& instance();
+    PrivateServer(const PrivateServer&) = delete;
+    PrivateServer& operator=(const PrivateServer&) = delete;
+    ~PrivateServer();
+
+    /// A new database with the schema and nothing in it; returns its name.
+    std::string newDatabase();
+    /// A new database without the schema; returns its name.
+    std::string newEmptyDatabase();
+    /// A role that logs in and is a member of `group`: "melvark_owner" for one who also prepares a test's data,
+    /// "melvark_clerk" for a clerk, "pg_monitor" for one who has nothing to do here. Nothing when it is there already.
+    void addRole(const std::string& name, const std::string& group);
+
+    /// The words with which `role` connects.
+    std::string address(const std::string& database, const std::string& role) const;
+    /// A session of the server's administrator.
+    PostgreSQLSession administrator(const std::string& database) const;
+    const std::filesystem::path& folder() const { return folder_; }
+
+private:
+    PrivateServer();
+    void run(const std::string& command) const;
+    std::string copyOf(const std::string& model);
+
+    std::filesystem::path folder_;
+    int databases_ = 0;
+};
+
+} // namespace refhost
