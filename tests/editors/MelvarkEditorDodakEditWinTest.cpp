@@ -216,6 +216,19 @@ TEST_F(DodakEditorSource, ACancelledSelectionCancelsTheEditor) {
     EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"), IsEmpty());
 }
 
+TEST_F(DodakEditorSource, APickedRowDoesNotCountOnceTheSelectionIsCancelled) {
+    for (const char* editType : {"DODOBJ", "DODAK"}) {
+        manager_.lookupAnswers.push_back(TLookupPick{"17", "33"});
+        ModalDriver dialog({}, [](QWidget& box) {
+            QTest::keyClick(box.findChild<QLineEdit*>(QStringLiteral("editSelect")), Qt::Key_F5);
+            press(box, "CancelBtn");
+        });
+        EXPECT_THROW(open(editType), EEditBoxCanceled) << editType;
+    }
+    EXPECT_THAT(manager_.lookups(), SizeIs(2));
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"), IsEmpty());
+}
+
 TEST_F(DodakEditorSource, ARefusedSourceStaysInTheDialogUntilItIsCancelled) {
     host_.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka").refusesCall(1, "Objednávka X neexistuje.");
     expectedErrors_ = {"Objednávka X neexistuje."};
