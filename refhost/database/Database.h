@@ -33,6 +33,10 @@ public:
     /// Runs statements that bring no rows, in the engine's own SQL, in one transaction. Throws EDatabaseError.
     virtual void runScript(std::string_view sql) = 0;
 
+    /// Runs a script of the engine's folder that was built into the program ("sample/NAME.sql"), likewise. Both engines
+    /// have it under the same name. Throws EDatabaseError; std::logic_error when there is none.
+    virtual void runBuiltInScript(std::string_view path) = 0;
+
     /// The name of the user whose settings and placements the procedures use.
     virtual const std::string& user() const = 0;
 };

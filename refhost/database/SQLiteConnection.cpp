@@ -159,6 +159,10 @@ void SQLiteConnection::runScript(std::string_view sql) {
     transaction.commit();
 }
 
+void SQLiteConnection::runBuiltInScript(std::string_view path) {
+    runScript(builtInScript(path, sqliteFiles()).Text);
+}
+
 SQLiteProcedure& SQLiteConnection::procedure(const AnsiString& name) {
     const std::string key = lowerAscii(name);
     if (const auto prepared = procedures_.find(key); prepared != procedures_.end())

@@ -32,6 +32,7 @@ public:
     void insertRows(std::string_view table, std::span<const std::string> columns,
                     std::span<const std::vector<TDbValue>> rows) override;
     void runScript(std::string_view sql) override;
+    void runBuiltInScript(std::string_view path) override;
     const std::string& user() const override { return session_.user(); }
 
 private:

@@ -80,4 +80,11 @@ SqlScript readSqlScript(const SqlFile& file, std::span<const SqlFile> files) {
     return script;
 }
 
+SqlScript builtInScript(std::string_view path, std::span<const SqlFile> files) {
+    const auto file = std::ranges::find(files, path, &SqlFile::Path);
+    if (file == files.end())
+        throw std::logic_error("there is no built-in script " + std::string(path));
+    return readSqlScript(*file, files);
+}
+
 } // namespace refhost

@@ -5,6 +5,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace refhost {
@@ -36,5 +37,8 @@ struct SqlScript {
 /// Reads a file of `files`, which also holds the parts that it includes. Throws std::logic_error, naming the file, for
 /// a header line or part that does not exist: a mistake in our own files.
 SqlScript readSqlScript(const SqlFile& file, std::span<const SqlFile> files);
+
+/// The script at `path` of `files`. Throws std::logic_error when there is none.
+SqlScript builtInScript(std::string_view path, std::span<const SqlFile> files);
 
 } // namespace refhost
