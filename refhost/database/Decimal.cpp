@@ -16,7 +16,14 @@ struct Decimal {
 };
 
 Integer powerOfTen(unsigned exponent) {
-    return boost::multiprecision::pow(Integer(10), exponent);
+    Integer power = 1;
+    while (exponent-- > 0)
+        power *= 10;
+    return power;
+}
+
+Integer magnitude(const Integer& number) {
+    return number < 0 ? Integer(-number) : number;
 }
 
 unsigned checkedDecimals(int decimals) {
@@ -55,7 +62,7 @@ Decimal parseDecimal(std::string_view text) {
 }
 
 std::string withPoint(const Integer& unscaled, unsigned scale) {
-    std::string digits = Integer(abs(unscaled)).str();
+    std::string digits = magnitude(unscaled).str();
     if (digits.size() <= scale)
         digits.insert(0, scale + 1 - digits.size(), '0');
     if (scale > 0)
@@ -91,9 +98,9 @@ Aligned aligned(std::string_view left, std::string_view right) {
 
 /// The quotient of two integers to the nearest integer, halves away from zero.
 Integer nearestQuotient(const Integer& dividend, const Integer& divisor) {
-    const Integer magnitude = abs(divisor);
-    const Integer quotient = (2 * Integer(abs(dividend)) + magnitude) / (2 * magnitude);
-    return (dividend < 0) != (divisor < 0) ? Integer(-quotient) : quotient;
+    const Integer parts = magnitude(divisor);
+    const Integer quotient = (2 * magnitude(dividend) + parts) / (2 * parts);
+    return (dividend < 0) != (divisor < 0) ? -quotient : quotient;
 }
 
 Decimal rounded(const Decimal& number, unsigned decimals) {
@@ -139,7 +146,7 @@ std::string roundedDecimal(std::string_view text, int decimals) {
 
 std::string absoluteDecimal(std::string_view text) {
     const Decimal number = parseDecimal(text);
-    return canonicalText({abs(number.Unscaled), number.Scale});
+    return canonicalText({magnitude(number.Unscaled), number.Scale});
 }
 
 std::string negatedDecimal(std::string_view text) {
