@@ -38,7 +38,7 @@ std::array<std::string, 4> words(const std::string& prices) {
 }
 
 /// The row of prices and the place in it that a key names.
-std::optional<std::pair<std::size_t, std::size_t>> positionOf(std::string_view key) {
+std::optional<std::pair<std::size_t, std::size_t>> placeOf(std::string_view key) {
     for (std::size_t row = 0; row < c_PriceRows.size(); ++row)
         for (std::size_t place = 0; place < 4; ++place)
             if (c_PriceRows[row].Keys[place] == key)
@@ -65,14 +65,14 @@ std::string joinedText(const std::array<std::string, 4>& prices, const std::stri
 } // namespace
 
 bool isPriceKey(std::string_view key) {
-    return positionOf(key).has_value();
+    return placeOf(key).has_value();
 }
 
 std::string priceText(const RecalculationInput& input, std::string_view key) {
-    const auto position = positionOf(key);
-    if (!position)
+    const auto place = placeOf(key);
+    if (!place)
         throw std::out_of_range("no price: " + std::string(key));
-    const std::string word = words(pricesOf(input, position->first)).at(position->second);
+    const std::string word = words(pricesOf(input, place->first)).at(place->second);
     return word == "-" ? "" : word;
 }
 

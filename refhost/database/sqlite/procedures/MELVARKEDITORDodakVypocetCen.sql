@@ -69,19 +69,29 @@ with MARKED as (
     where instr(';' || :a_ZMENENEBUNKY || ';', ';' || KEY || ';') > 0
 ),
 CHOSEN_LEVEL as (
-    select iif(dec_cmp(MNOZSTVI, 0) <> 0 and 'total' in (select LEVEL from MARKED)
-                   and 'unit' not in (select LEVEL from MARKED), 'total', 'unit') as LEVEL
+    select case
+               when dec_cmp(MNOZSTVI, 0) <> 0 and 'total' in (select LEVEL from MARKED)
+                    and 'unit' not in (select LEVEL from MARKED) then 'total'
+               else 'unit'
+           end as LEVEL
     from RECALC_LINE
 ),
 CHOSEN_SIDE as (
-    select LEVEL, iif('after' in (select SIDE from MARKED where MARKED.LEVEL = CHOSEN_LEVEL.LEVEL)
-                          and 'before' not in (select SIDE from MARKED where MARKED.LEVEL = CHOSEN_LEVEL.LEVEL),
-                      'after', 'before') as SIDE
+    select LEVEL,
+           case
+               when 'after' in (select SIDE from MARKED where MARKED.LEVEL = CHOSEN_LEVEL.LEVEL)
+                    and 'before' not in (select SIDE from MARKED where MARKED.LEVEL = CHOSEN_LEVEL.LEVEL) then 'after'
+               else 'before'
+           end as SIDE
     from CHOSEN_LEVEL
 ),
 CHOSEN as (
-    select LEVEL, SIDE, iif((LEVEL, SIDE, 'CENAS') in (select * from MARKED)
-                                and (LEVEL, SIDE, 'CENAB') not in (select * from MARKED), 'CENAS', 'CENAB') as KIND
+    select LEVEL, SIDE,
+           case
+               when (LEVEL, SIDE, 'CENAS') in (select * from MARKED)
+                    and (LEVEL, SIDE, 'CENAB') not in (select * from MARKED) then 'CENAS'
+               else 'CENAB'
+           end as KIND
     from CHOSEN_SIDE
 )
 update RECALC_LINE
