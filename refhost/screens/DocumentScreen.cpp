@@ -92,6 +92,8 @@ void DocumentScreen::showLines() {
     const QString number = QString::fromStdString(documents.result().text(*row, "CISLO"));
     linesTitle_->setText(languages_.label(texts::documentLines).arg(number));
     lines_->setTable(readLines(connection_, definition_, dataSet().FieldByName("_ID").AsInteger()));
+    // One marked row on the screen tells where the keys go; a line is marked once the cursor is in the lines.
+    lines_->selectNothing();
 }
 
 DocumentDataSet DocumentScreen::dataSet() const {

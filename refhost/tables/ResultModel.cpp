@@ -12,6 +12,34 @@
 
 namespace refhost {
 
+namespace {
+
+/// Between the text and its background, so that it reads well on light and dark windows alike; the palette's colour of
+/// disabled text is too faint for whole rows.
+QColor greyText() {
+    constexpr double c_textShare = 0.6;
+    const QPalette palette = QGuiApplication::palette();
+    const QColor text = palette.color(QPalette::Text);
+    const QColor base = palette.color(QPalette::Base);
+    const auto mix = [](float front, float back) {
+        return static_cast<float>(front * c_textShare + back * (1 - c_textShare));
+    };
+    return QColor::fromRgbF(mix(text.redF(), base.redF()), mix(text.greenF(), base.greenF()),
+                            mix(text.blueF(), base.blueF()));
+}
+
+/// The number with its whole part in groups of three digits.
+QString groupDigits(QString number, const TFormatSettings& settings) {
+    const QString separator = QString::fromStdString(settings.ThousandSeparator);
+    const qsizetype point = number.indexOf(QLatin1Char(settings.DecimalSeparator));
+    const qsizetype first = number.startsWith(u'-') ? 1 : 0;
+    for (qsizetype position = (point < 0 ? number.size() : point) - 3; position > first; position -= 3)
+        number.insert(position, separator);
+    return number;
+}
+
+} // namespace
+
 ResultModel::ResultModel(const TFormatSettings& settings, const Languages& languages, QObject* parent)
     : QAbstractTableModel(parent), settings_(settings), languages_(languages) {}
 
@@ -28,7 +56,8 @@ void ResultModel::chooseColumns(std::string_view firstColumn) {
     shown_.clear();
     for (std::size_t column = 0; column < table_.Columns.size(); ++column)
         if (isShownColumn(table_.Columns[column]))
-            shown_.push_back({column, columnKind(table_, column, settings_), std::nullopt});
+            shown_.push_back(
+                {column, columnKind(table_, column, settings_), isAmountColumn(table_.Columns[column]), std::nullopt});
     const auto first = std::find_if(shown_.begin(), shown_.end(), [&](const Shown& each) {
         return SameDbName(table_.Columns[each.source], firstColumn);
     });
@@ -114,13 +143,13 @@ QVariant ResultModel::data(const QModelIndex& index, int role) const {
     const Shown& column = shown_[static_cast<std::size_t>(index.column())];
     switch (role) {
     case Qt::DisplayRole:
-        return shownText(row, column);
+        return column.isAmount ? groupDigits(shownText(row, column), settings_) : shownText(row, column);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (column.kind == ColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft));
     case Qt::ForegroundRole:
         if (isGreyed(row))
-            return QGuiApplication::palette().color(QPalette::Disabled, QPalette::Text);
+            return greyText();
         return {};
     default:
         return {};

@@ -48,6 +48,7 @@ private:
     struct Shown {
         std::size_t source;
         ColumnKind kind;
+        bool isAmount;
         mutable std::optional<SortKeys> keys; ///< Made when the column is first sorted by.
     };
 

@@ -2,6 +2,7 @@
 
 #include "refhost/tables/ResultModel.h"
 #include "refhost/tables/ResultOrder.h"
+#include "refhost/tables/TableStyle.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -16,7 +17,7 @@ constexpr std::string_view c_keyColumn = "_ID";
 /// Widths follow the first rows only: measuring thousands would cost more than a too narrow column is worth.
 constexpr int c_measuredRows = 40;
 constexpr int c_widestColumn = 320;
-constexpr int c_cellPadding = 12;
+constexpr int c_rowSpacing = 6;
 
 } // namespace
 
@@ -30,11 +31,16 @@ ResultTable::ResultTable(const TFormatSettings& settings, const Languages& langu
     setShowGrid(false);
     setWordWrap(false);
     setTabKeyNavigation(false);
+    // Until somebody sorts, rows stand in the order in which the database brought them.
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     setSortingEnabled(true);
+    auto* style = new TableStyle(this);
+    setStyle(style);
+    horizontalHeader()->setStyle(style);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + c_cellPadding / 2);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + c_rowSpacing);
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setResizeContentsPrecision(c_measuredRows);
     connect(this, &QAbstractItemView::doubleClicked, this, &ResultTable::rowActivated);
@@ -55,7 +61,7 @@ void ResultTable::setTable(TResultTable table, std::string_view firstColumn) {
 void ResultTable::fitColumns() {
     resizeColumnsToContents();
     for (int column = 0; column < order_->columnCount(); ++column)
-        setColumnWidth(column, std::min(columnWidth(column) + c_cellPadding, c_widestColumn));
+        setColumnWidth(column, std::min(columnWidth(column), c_widestColumn));
 }
 
 void ResultTable::sortBy(std::string_view column, Qt::SortOrder order) {
@@ -87,6 +93,10 @@ bool ResultTable::selectKey(const std::string& key) {
         }
     }
     return false;
+}
+
+void ResultTable::selectNothing() {
+    setCurrentIndex({});
 }
 
 void ResultTable::selectFirst() {

@@ -35,6 +35,7 @@ public:
     bool selectKey(const std::string& key);
     /// Makes the first shown row current, if there is one.
     void selectFirst();
+    void selectNothing();
     /// The key ("_ID") of the current row; empty when there is none.
     std::string currentKey() const;
 
