@@ -247,11 +247,11 @@ language plpgsql stable as $$
 declare
     percentage numeric := 0;
 begin
-    if coalesce(trim(rate_name), '') <> '' then
-        select RATE.SAZBA into percentage from DPH as RATE where RATE.NAZEV = trim(rate_name);
+    if typed(rate_name) is not null then
+        select RATE.SAZBA into percentage from DPH as RATE where RATE.NAZEV = typed(rate_name);
         if not found then
             raise exception using errcode = 'ML110',
-                message = 'Sazba DPH „' || shown(trim(rate_name)) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.';
+                message = 'Sazba DPH „' || shown(typed(rate_name)) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.';
         end if;
     end if;
     return percentage;

@@ -13,9 +13,9 @@ set CENAB = dec_round(CENAB, DECIMALS), DPHA = dec_round(DPHA, DECIMALS),
 
 update RECALC_LINE
 set RATE_A = case
-        when coalesce(trim(DPH), '') = '' then '0'
-        else coalesce((select dec_round(SAZBA, 2) from DPH as RATE where RATE.NAZEV = trim(RECALC_LINE.DPH)),
-                      refuse('ML110', 'Sazba DPH „' || shown(trim(DPH)) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.'))
+        when typed(DPH) is null then '0'
+        else coalesce((select dec_round(SAZBA, 2) from DPH as RATE where RATE.NAZEV = typed(RECALC_LINE.DPH)),
+                      refuse('ML110', 'Sazba DPH „' || shown(typed(DPH)) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.'))
     end,
     RATE_L = coalesce((select dec_round(parse_number(RATE.HODNOTA), 2)
                        from GLOBALPARAM as RATE
