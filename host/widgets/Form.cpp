@@ -150,7 +150,7 @@ void TForm::keyPressEvent(QKeyEvent* event) {
     } else if (IsPlainEnter(*event)) {
         const auto buttons = findChildren<TQelPngBitBtn*>();
         const auto standard = std::find_if(buttons.begin(), buttons.end(), [](const TQelPngBitBtn* button) {
-            return button->Default() && button->isVisible() && button->isEnabled();
+            return button->Default() && button->isVisible();
         });
         if (standard != buttons.end())
             (*standard)->click();
