@@ -2,6 +2,7 @@
 
 #include "host/Exceptions.h"
 #include "refhost/database/Databases.h"
+#include "refhost/database/SampleCompany.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,6 +35,7 @@ std::string urlOf(const CommandLine& commandLine) {
 void fill(const std::string& url, const CommandLine& commandLine, const TFormatSettings& settings) {
     const auto database = openDatabase(url, userOf(commandLine), settings, OpenMode::Create);
     database->createSchema();
+    createSampleCompany(*database, commandLine.lines);
 }
 
 /// The company is made under another name and takes the file's name when it is complete: a start that was interrupted
