@@ -72,8 +72,8 @@ private:
 } // namespace
 
 SQLiteConnection::SQLiteConnection(const std::string& file, const std::string& user, const TFormatSettings& settings,
-                                   bool create)
-    : session_(file, user, settings, create) {
+                                   bool create, std::chrono::milliseconds patience)
+    : session_(file, user, settings, create, patience) {
     checkOwner();
     registerFunctions();
     createSessionTables();

@@ -4,6 +4,7 @@
 #include "refhost/database/Database.h"
 #include "refhost/database/SQLiteProcedure.h"
 
+#include <chrono>
 #include <map>
 #include <memory>
 #include <string>
@@ -19,8 +20,10 @@ namespace refhost {
 /// then gives up with a sentence.
 class SQLiteConnection : public Database {
 public:
-    /// Opens the file and checks whose it is; with `create` it may be missing. Throws EDatabaseError.
-    SQLiteConnection(const std::string& file, const std::string& user, const TFormatSettings& settings, bool create);
+    /// Opens the file and checks whose it is; with `create` it may be missing. `patience` is how long a call waits for
+    /// another user's save. Throws EDatabaseError.
+    SQLiteConnection(const std::string& file, const std::string& user, const TFormatSettings& settings, bool create,
+                     std::chrono::milliseconds patience = std::chrono::seconds(5));
     ~SQLiteConnection() override;
 
     TProcedureInfo Describe(const AnsiString& procedure) override;

@@ -32,6 +32,10 @@ std::vector<std::size_t> statementInputs(const SqlScript& script, const SQLiteSt
     return inputs;
 }
 
+bool isGuard(const std::vector<std::string>& columns) {
+    return columns.size() == 1 && columns.front() == c_RefusalColumn;
+}
+
 bool areOutputs(const SqlScript& script, const std::vector<std::string>& columns) {
     return !columns.empty() && std::ranges::equal(script.Outputs, columns, SameDbName);
 }
@@ -46,6 +50,16 @@ SQLiteProcedure::SQLiteProcedure(SQLiteSession& session, SqlScript script) : scr
         steps_.push_back({std::move(statement), std::move(inputs), std::move(columns)});
     }
     isWriting_ = session.takeWrites();
+    checkResults();
+}
+
+void SQLiteProcedure::checkResults() const {
+    std::vector<std::vector<std::string>> results;
+    for (const Step& step : steps_)
+        if (!step.Columns.empty() && !isGuard(step.Columns) && !areOutputs(script_, step.Columns))
+            results.push_back(step.Columns);
+    if (results != script_.Results)
+        throw std::logic_error(script_.Name + " declares other result sets than it brings");
 }
 
 TProcedureInfo SQLiteProcedure::info() const {
@@ -85,8 +99,7 @@ void SQLiteProcedure::runStep(Step& step, std::span<const TDbValue> inputs, bool
     while (step.Statement.step())
         table.Rows.push_back(step.Statement.row());
 
-    const bool isGuard = step.Columns.size() == 1 && step.Columns.front() == c_RefusalColumn;
-    if (step.Columns.empty() || isGuard)
+    if (step.Columns.empty() || isGuard(step.Columns))
         return;
     if (areOutputs(script_, step.Columns)) {
         for (std::size_t i = 0; i < script_.Outputs.size() && !table.Rows.empty(); ++i)

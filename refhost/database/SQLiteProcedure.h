@@ -12,8 +12,8 @@ namespace refhost {
 /// the call's parameters bound by name. The caller puts a transaction around it.
 class SQLiteProcedure {
 public:
-    /// Prepares all statements. Throws EDatabaseError, and std::logic_error for a statement that uses a parameter which
-    /// the script does not declare.
+    /// Prepares all statements. Throws EDatabaseError, and std::logic_error for a script that uses a parameter or
+    /// brings a result set which it does not declare.
     SQLiteProcedure(SQLiteSession& session, SqlScript script);
 
     const SqlScript& script() const { return script_; }
@@ -31,6 +31,7 @@ private:
         std::vector<std::string> Columns;
     };
 
+    void checkResults() const;
     std::vector<TDbValue> inputValues(const TProcedureCall& call) const;
     void runStep(Step& step, std::span<const TDbValue> inputs, bool open, TCallResult& result);
 

@@ -10,9 +10,6 @@ namespace refhost {
 
 namespace {
 
-/// How long a call waits for another user's save before it gives up.
-constexpr int c_BusyMilliseconds = 5000;
-
 /// A missing folder or file has a sentence of its own: the engine would only say that it cannot open the file.
 void checkPlace(const std::string& file, bool create) {
     std::error_code error;
@@ -38,7 +35,8 @@ bool isWriting(int action) {
 
 } // namespace
 
-SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, bool create)
+SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, bool create,
+                             std::chrono::milliseconds patience)
     : file_(std::move(file)), user_(std::move(user)), settings_(settings) {
     checkPlace(file_, create);
     sqlite3* opened = nullptr;
@@ -47,7 +45,7 @@ SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSe
     handle_.reset(opened);
     if (status != SQLITE_OK)
         fail(status, "open");
-    sqlite3_busy_timeout(handle(), c_BusyMilliseconds);
+    sqlite3_busy_timeout(handle(), static_cast<int>(patience.count()));
     sqlite3_db_config(handle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle(), SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_set_authorizer(handle(), authorize, this);

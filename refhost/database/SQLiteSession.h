@@ -4,6 +4,7 @@
 #include "host/FormatSettings.h"
 #include "refhost/database/SQLiteHandle.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,8 +18,10 @@ public:
     /// What a statement may do when it is prepared.
     enum class Access { Everything, ReadingOnly };
 
-    /// Opens the file; with `create` it may be missing. Throws EDatabaseError.
-    SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, bool create);
+    /// Opens the file; with `create` it may be missing. `patience` is how long a statement waits for another user's
+    /// save before it gives up. Throws EDatabaseError.
+    SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, bool create,
+                  std::chrono::milliseconds patience);
     SQLiteSession(const SQLiteSession&) = delete;
     SQLiteSession& operator=(const SQLiteSession&) = delete;
     ~SQLiteSession() = default;
