@@ -4,6 +4,6 @@
 
 select case
            when :name is null then refuse('ML042', 'Řádek nemá skladovou položku. Doplňte ji, nebo řádek vyprázdněte.')
-           when :name not in (select NAZEV from SKLADPOL)
+           when not exists (select 1 from SKLADPOL where NAZEV = :name)
                then refuse('ML043', 'Skladová položka „' || shown(:name) || '“ neexistuje. Vyberte jinou.')
        end;

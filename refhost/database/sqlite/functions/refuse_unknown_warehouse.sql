@@ -3,4 +3,4 @@
 -- in: name
 
 select refuse('ML044', 'Sklad „' || shown(:name) || '“ neexistuje. Vyberte sklad ze seznamu.')
-where :name is not null and :name not in (select NAZEV from SKLAD);
+where :name is not null and not exists (select 1 from SKLAD where NAZEV = :name);

@@ -41,7 +41,8 @@ select refuse_unknown_warehouse(SKLAD) as refusal from ORDER_SENT;
 
 select refuse('ML045', 'Dodavatel „' || shown(DODAVATEL) || '“ neexistuje. Vyberte dodavatele ze seznamu.') as refusal
 from ORDER_SENT
-where DODAVATEL is not null and DODAVATEL not in (select JMENO from DODAVATEL);
+where DODAVATEL is not null
+  and not exists (select 1 from DODAVATEL where JMENO = ORDER_SENT.DODAVATEL);
 
 update ORDER_SENT_QUANTITY
 set MNOZSTVI = coalesce(parse_number(MNOZSTVI, LABEL, 6), '0');

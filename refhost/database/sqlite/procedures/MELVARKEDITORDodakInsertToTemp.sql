@@ -54,7 +54,7 @@ select refuse_unknown_warehouse(SKLAD) as refusal from NOTE_SENT;
 
 select refuse('ML110', 'Sazba DPH „' || shown(DPH) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.') as refusal
 from NOTE_SENT
-where DPH is not null and DPH not in (select NAZEV from DPH);
+where DPH is not null and not exists (select 1 from DPH where NAZEV = NOTE_SENT.DPH);
 
 select refuse('ML049', 'Řádek objednávky „' || shown(DOBSID)
                            || '“ neexistuje. Načtěte položky z objednávky znovu.') as refusal
@@ -93,13 +93,13 @@ select as_integer(DOBSID),
 from NOTE_SENT as SENT;
 
 select refuse('ML111', 'Sleva ' || number_text(SLEVA) || ' % není přípustná. Zadejte slevu od 0 do 100 %.') as refusal
-from NOTE_STAGED
-where PLACE = (select max(PLACE) from NOTE_STAGED) and (dec_cmp(SLEVA, 0) < 0 or dec_cmp(SLEVA, 100) > 0);
+from NOTE_LAST
+where dec_cmp(SLEVA, 0) < 0 or dec_cmp(SLEVA, 100) > 0;
 
 update NOTE_STAGED
 set TRVANLIVOST = parse_date(SENT.TRVANLIVOST, 'Trvanlivost')
 from NOTE_SENT as SENT
-where PLACE = (select max(PLACE) from NOTE_STAGED);
+where PLACE = (select PLACE from NOTE_LAST);
 
 -- Prices are rounded to their decimals, so that a total may differ from quantity times unit price by that much.
 select refuse('ML052', 'Celková cena ' || total_text(CENA) || ' položky „' || shown(i.NAZEV)
@@ -107,7 +107,7 @@ select refuse('ML052', 'Celková cena ' || total_text(CENA) || ' položky „' |
                            || number_text(JEDNCENA) || '. Opravte jednu z nich.') as refusal
 from NOTE_PAIR
 join SKLADPOL i on i.ID = SKLPID
-where PLACE = (select max(PLACE) from NOTE_STAGED)
+where MNOZSTVI <> '0'
   and dec_cmp(dec_abs(dec_sub(dec_mul(MNOZSTVI, JEDNCENA), CENA)),
               dec_add('0.02', dec_mul(dec_abs(MNOZSTVI), '0.000002'))) > 0
 order by ORDINAL;

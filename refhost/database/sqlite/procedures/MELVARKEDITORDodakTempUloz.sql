@@ -28,7 +28,7 @@ order by l.PLACE;
 
 select refuse('ML049', 'Řádek objednávky „' || DOBSID || '“ neexistuje. Načtěte položky z objednávky znovu.') as refusal
 from NOTE_LINE
-where DOBSID not in (select ID from DODOBJPOL)
+where DOBSID is not null and DOBSID not in (select ID from DODOBJPOL)
 order by PLACE;
 
 select refuse('ML054', 'Položka „' || shown(i.NAZEV) || '“ objednávky „' || shown(o.CISLO)

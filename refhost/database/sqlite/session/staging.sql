@@ -30,18 +30,20 @@ create temp table NOTE_STAGED (
 create temp view NOTE_LINE as
 select * from NOTE_STAGED where MNOZSTVI <> '0';
 
--- Each unit price beside the total that it has to give, where a row has both, in the order in which a clash is reported.
-create temp view NOTE_PAIR (PLACE, ORDINAL, SKLPID, MNOZSTVI, JEDNCENA, CENA) as
-select PLACE, ORDINAL, SKLPID, MNOZSTVI, UNIT, TOTAL
-from (select PLACE, 1 as ORDINAL, SKLPID, MNOZSTVI, JEDNCENABSESLEVOU as UNIT, CENABSESLEVOU as TOTAL from NOTE_LINE
-      union all select PLACE, 2, SKLPID, MNOZSTVI, JEDNDPHASESLEVOU, DPHASESLEVOU from NOTE_LINE
-      union all select PLACE, 3, SKLPID, MNOZSTVI, JEDNDPHBSESLEVOU, DPHBSESLEVOU from NOTE_LINE
-      union all select PLACE, 4, SKLPID, MNOZSTVI, JEDNCENASSESLEVOU, CENASSESLEVOU from NOTE_LINE
-      union all select PLACE, 5, SKLPID, MNOZSTVI, JEDNCENABBEZSLEVY, CENABBEZSLEVY from NOTE_LINE
-      union all select PLACE, 6, SKLPID, MNOZSTVI, JEDNDPHABEZSLEVY, DPHABEZSLEVY from NOTE_LINE
-      union all select PLACE, 7, SKLPID, MNOZSTVI, JEDNDPHBBEZSLEVY, DPHBBEZSLEVY from NOTE_LINE
-      union all select PLACE, 8, SKLPID, MNOZSTVI, JEDNCENASBEZSLEVY, CENASBEZSLEVY from NOTE_LINE)
-where UNIT is not null and TOTAL is not null;
+-- The row that came last.
+create temp view NOTE_LAST as
+select * from NOTE_STAGED where PLACE = (select max(PLACE) from NOTE_STAGED);
+
+-- Each of its unit prices beside the total that it has to give, in the order in which a clash is reported.
+create temp view NOTE_PAIR (ORDINAL, SKLPID, MNOZSTVI, JEDNCENA, CENA) as
+select 1, SKLPID, MNOZSTVI, JEDNCENABSESLEVOU, CENABSESLEVOU from NOTE_LAST
+union all select 2, SKLPID, MNOZSTVI, JEDNDPHASESLEVOU, DPHASESLEVOU from NOTE_LAST
+union all select 3, SKLPID, MNOZSTVI, JEDNDPHBSESLEVOU, DPHBSESLEVOU from NOTE_LAST
+union all select 4, SKLPID, MNOZSTVI, JEDNCENASSESLEVOU, CENASSESLEVOU from NOTE_LAST
+union all select 5, SKLPID, MNOZSTVI, JEDNCENABBEZSLEVY, CENABBEZSLEVY from NOTE_LAST
+union all select 6, SKLPID, MNOZSTVI, JEDNDPHABEZSLEVY, DPHABEZSLEVY from NOTE_LAST
+union all select 7, SKLPID, MNOZSTVI, JEDNDPHBBEZSLEVY, DPHBBEZSLEVY from NOTE_LAST
+union all select 8, SKLPID, MNOZSTVI, JEDNCENASBEZSLEVY, CENASBEZSLEVY from NOTE_LAST;
 
 -- The row of an order or template as it was sent, likewise.
 create temp table ORDER_SENT (SKLADPOL text, SKLAD text, DODAVATEL text, POPIS text, KOMENTAR text);
