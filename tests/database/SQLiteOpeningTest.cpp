@@ -1,0 +1,150 @@
+#include "refhost/database/Databases.h"
+#include "tests/database/SQLiteFile.h"
+
+#include <fstream>
+#include <gmock/gmock.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+namespace refhost {
+namespace {
+
+using testing::HasSubstr;
+
+/// The sentence with which opening the file ends, its code in front.
+std::string openingError(const SQLiteFile& file, bool create = false) {
+    try {
+        file.open("novakova", create);
+    } catch (const EDatabaseError& error) {
+        return error.Code() + " " + error.Message();
+    }
+    return "opened";
+}
+
+/// Another program's own connection to the file.
+class OtherProgram {
+public:
+    explicit OtherProgram(const SQLiteFile& file) {
+        sqlite3* opened = nullptr;
+        EXPECT_EQ(sqlite3_open(file.path().c_str(), &opened), SQLITE_OK);
+        handle_.reset(opened);
+    }
+    void run(const char* sql) { ASSERT_EQ(sqlite3_exec(handle_.get(), sql, nullptr, nullptr, nullptr), SQLITE_OK); }
+
+private:
+    SQLiteHandle handle_;
+};
+
+/// Gives up the rights of the administrator, who may write everywhere, for its scope.
+class OrdinaryUser {
+public:
+    OrdinaryUser() {
+        if (geteuid() == 0) {
+            EXPECT_EQ(seteuid(65534), 0);
+        }
+    }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+    ~OrdinaryUser() {
+        if (getuid() == 0) {
+            EXPECT_EQ(seteuid(0), 0);
+        }
+    }
+};
+
+TEST(SQLiteOpening, AMissingFileIsRefusedUnlessItMayBeMade) {
+    const SQLiteFile file;
+    EXPECT_THAT(openingError(file), HasSubstr("ML915 Soubor databáze"));
+    EXPECT_FALSE(std::filesystem::exists(file.path()));
+    EXPECT_EQ(openingError(file, true), "opened");
+}
+
+TEST(SQLiteOpening, AMissingFolderIsNamed) {
+    const SQLiteFile file;
+    EXPECT_EQ(refusalCode([&] {
+                  openDatabase("sqlite:" + (file.folder() / "nowhere" / "x.db").string(), "u", TFormatSettings::Czech(),
+                               OpenMode::Create);
+              }),
+              "ML915");
+}
+
+TEST(SQLiteOpening, AFolderIsNoDatabase) {
+    const SQLiteFile file;
+    EXPECT_EQ(refusalCode([&] {
+                  openDatabase("sqlite:" + file.folder().string(), "u", TFormatSettings::Czech(), OpenMode::Create);
+              }),
+              "ML915");
+}
+
+TEST(SQLiteOpening, AnAddressOfNoEngineIsRefused) {
+    EXPECT_THROW(openDatabase("company.db", "u", TFormatSettings::Czech(), OpenMode::Create), EDatabaseError);
+}
+
+TEST(SQLiteOpening, AFileOfText) {
+    const SQLiteFile file;
+    std::ofstream(file.path()) << std::string(2000, 'x');
+    EXPECT_THAT(openingError(file), HasSubstr("ML912 Soubor"));
+}
+
+TEST(SQLiteOpening, AFileOfAnotherProgramIsLeftAlone) {
+    const SQLiteFile file;
+    OtherProgram(file).run("create table NOTES (TEXT)");
+    EXPECT_THAT(openingError(file, true), HasSubstr("ML913"));
+    OtherProgram(file).run("select TEXT from NOTES");
+}
+
+TEST(SQLiteOpening, AFileOfAnotherVersion) {
+    const SQLiteFile file;
+    file.createCompany();
+    OtherProgram(file).run("pragma user_version = 99");
+    EXPECT_THAT(openingError(file), HasSubstr("ML914"));
+}
+
+TEST(SQLiteOpening, AFileThatAnotherProgramLocks) {
+    const SQLiteFile file;
+    file.createCompany();
+    OtherProgram other(file);
+    other.run("pragma journal_mode = delete");
+    other.run("begin exclusive");
+    EXPECT_THAT(openingError(file), HasSubstr("ML910"));
+}
+
+TEST(SQLiteOpening, AReadOnlyFileIsRefusedAtOnce) {
+    const SQLiteFile file;
+    file.createCompany();
+    std::filesystem::permissions(file.folder(), std::filesystem::perms(0755));
+    std::filesystem::permissions(file.path(), std::filesystem::perms(0444));
+    const OrdinaryUser user;
+    EXPECT_THAT(openingError(file), HasSubstr("ML911"));
+}
+
+TEST(SQLiteOpening, ADamagedFileRefusesTheCallThatMeetsTheDamage) {
+    const SQLiteFile file;
+    file.createCompany();
+    std::fstream bytes(file.path(), std::ios::in | std::ios::out | std::ios::binary);
+    constexpr std::streamoff c_PageSize = 4096;
+    for (std::streamoff page = 1; page < 30; ++page) {
+        bytes.seekp(page * c_PageSize);
+        bytes << std::string(200, '\xFF');
+    }
+    bytes.close();
+    EXPECT_EQ(refusalCode([&] { file.open()->Query("select * from SCREEN_DODAK_V"); }), "ML912");
+}
+
+TEST(SQLiteOpening, ADatabaseWithoutTablesSaysSo) {
+    const SQLiteFile file;
+    const auto database = file.open();
+    EXPECT_FALSE(database->hasSchema());
+    EXPECT_EQ(refusalCode([&] { database->Execute(procedureCall("MELVARKEDITORDodakInit")); }), "ML922");
+}
+
+TEST(SQLiteOpening, TablesAreMadeOnce) {
+    const SQLiteFile file;
+    const auto database = file.createCompany();
+    EXPECT_TRUE(database->hasSchema());
+    EXPECT_EQ(refusalCode([&] { database->createSchema(); }), "ML921");
+    EXPECT_EQ(rowsText(*database, "select CISLO from DODAK order by ID"), "DL-1|DL-2");
+}
+
+} // namespace
+} // namespace refhost
