@@ -4,9 +4,11 @@
 #include "host/widgets/Guard.h"
 #include "host/widgets/Text.h"
 
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPixmap>
+#include <QStyle>
 #include <QStyleOptionButton>
 
 #include <algorithm>
@@ -15,11 +17,12 @@ using namespace melvark;
 
 namespace {
 
-template <class Button>
-void ShowGlyph(Button& button, const QPixmap& png) {
+// The image is shown as large as the style's button icons, whatever its own size: a larger one stays crisp on a dense
+// screen.
+void ShowGlyph(QAbstractButton& button, const QPixmap& png) {
+    const int side = button.style()->pixelMetric(QStyle::PM_ButtonIconSize, nullptr, &button);
     button.setIcon(QIcon(png));
-    if (!png.isNull())
-        button.setIconSize(png.size());
+    button.setIconSize(QSize(side, side));
 }
 
 bool IsEnter(const QKeyEvent& event) {

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPixmap>
+#include <QStyle>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -109,13 +110,14 @@ TEST_F(ButtonsTest, AButtonOutsideAFormOnlyRunsItsHandler) {
     EXPECT_EQ(clicks, 1);
 }
 
-TEST_F(ButtonsTest, AGlyphIsShownInItsOwnSize) {
+TEST_F(ButtonsTest, AGlyphIsShownAsLargeAsOtherButtonIconsHoweverLargeItsImageIs) {
     auto* button = add<TQelPngBitBtn>();
-    QPixmap png(18, 16);
+    const int side = button->style()->pixelMetric(QStyle::PM_ButtonIconSize, nullptr, button);
+    QPixmap png(64, 64);
     png.fill(Qt::red);
     button->SetGlyph(png);
     EXPECT_FALSE(button->icon().isNull());
-    EXPECT_EQ(button->iconSize(), QSize(18, 16));
+    EXPECT_EQ(button->iconSize(), QSize(side, side));
     button->SetGlyph(QPixmap());
     EXPECT_TRUE(button->icon().isNull());
 }
