@@ -79,7 +79,6 @@ int runProgram(const CommandLine& commandLine, int& argc, char** argv) {
     QApplication application(argc, argv);
     // A dialog may be the only window for a while; closing it must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setApplicationDisplayName(languages.label(texts::applicationTitle));
     languages.installToolkitTexts(application);
     return runCommand(commandLine, languages);
 }
