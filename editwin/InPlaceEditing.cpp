@@ -79,10 +79,7 @@ bool InPlaceEditing::HideEditor() {
     if (!FActive || FActive->isHidden())
         return true;
     FCommitting = true;
-    const auto finish = qScopeGuard([this] {
-        FCommitting = false;
-        FCheckWanted = false;
-    });
+    const auto finish = qScopeGuard([this] { FCommitting = false; });
     try {
         if (Commit()) {
             CloseEditor();

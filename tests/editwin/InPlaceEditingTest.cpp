@@ -417,3 +417,15 @@ TEST_F(InPlaceEditing, AnEditorIsNotAskedForByAGridWithoutFocus) {
     settle();
     EXPECT_EQ(openCellText(), "none");
 }
+
+TEST_F(InPlaceEditing, AnEditorThatTheGridWantedIsNotOpenedOnceTheFocusHasGoneOn) {
+    open();
+    click(c_CodeCol, 1);
+    settle();
+    Q_EMIT grid().EditorWanted(c_CodeCol, 1);
+    grid().SetCurrentCell(c_NoteCol, 1);
+    form->OkBtn->setFocus();
+    settle();
+    EXPECT_EQ(openCellText(), "none");
+    EXPECT_EQ(form->focusWidget(), form->OkBtn);
+}
