@@ -28,7 +28,8 @@ struct GoodsKind {
     std::string_view Group2;
     std::string_view Group3;
     std::string_view Name;
-    std::string_view Varieties; ///< Divided by '|'.
+    std::string_view
+        Varieties; ///< Divided by '|'; one may end with ':' and what it costs, in percent of the kind's price.
     std::span<const Packing> Packings;
     int Price = 0;            ///< In hundredths of the currency, without VAT.
     std::string_view VatRate; ///< The name of the rate.

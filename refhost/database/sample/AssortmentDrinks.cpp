@@ -78,7 +78,7 @@ constexpr GoodsKind c_Kinds[] = {
      "bílé Veltlínské zelené|bílé Ryzlink vlašský|bílé Müller Thurgau|"
      "červené Frankovka|červené Modrý Portugal|růžové Zweigeltrebe",
      c_Wine, 8900, c_Standard, 0},
-    {c_Drinks, c_Alcohol, "Lihoviny", "Pálenka", "slivovice 45 %|meruňkovice 45 %|hruškovice 42 %|třešňovice 45 %",
+    {c_Drinks, c_Alcohol, "Lihoviny", "Pálenka", "slivovice 45 %|meruňkovice 45 %|hruškovice 42 %:110|třešňovice 45 %",
      c_Spirits, 19900, c_Standard, 0},
 };
 

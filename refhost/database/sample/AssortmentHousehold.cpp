@@ -122,8 +122,8 @@ constexpr GoodsKind c_Kinds[] = {
      "bílé 33 × 33 cm|bordó 33 × 33 cm|zelené 33 × 33 cm|"
      "žluté 33 × 33 cm|modré 24 × 24 cm",
      c_Napkins, 2290, c_Standard, 0},
-    {c_Household, c_Kitchen, "Nádobí", "Pánev", "s nepřilnavým povrchem|litinová|nerezová|na palačinky", c_Dishes,
-     39900, c_Standard, 0},
+    {c_Household, c_Kitchen, "Nádobí", "Pánev", "s nepřilnavým povrchem|litinová:175|nerezová:135|na palačinky",
+     c_Dishes, 39900, c_Standard, 0},
     {c_Household, c_Kitchen, "Nádobí", "Hrnec", "nerezový|smaltovaný|hliníkový|s poklicí skleněnou", c_Dishes, 54900,
      c_Standard, 0},
     {c_Household, c_Kitchen, "Nádobí", "Talíř", "mělký bílý|hluboký bílý|dezertní bílý|mělký s okrajem", c_Dishes, 6900,

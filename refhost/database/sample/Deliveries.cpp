@@ -90,7 +90,7 @@ void Deliveries::addRest(DeliveryNote& note, Order& order) {
 
 void Deliveries::addReturn(DeliveryNote& note, const DeliveryNote& last) {
     NoteLine line = last.Lines[static_cast<std::size_t>(random_.below(static_cast<int>(last.Lines.size())))];
-    if (line.Amount < c_One)
+    if (last.Date > note.Date || line.Amount < c_One)
         return;
     line.Amount = -c_One * std::min<Quantity>(line.Amount / c_One, random_.between(1, 3));
     line.OrderLineId = 0;
@@ -139,7 +139,9 @@ std::vector<DeliveryNote> emptyNotes(const std::vector<Order>& orders, const std
                                      Day today) {
     std::vector<DeliveryNote> empty;
     for (auto order = orders.rbegin(); order != orders.rend() && empty.size() < c_EmptyNotes; ++order) {
-        const bool isWaiting = !order->isTemplate() && !order->Lines.empty() && !order->isComplete();
+        const bool isWaiting =
+            !order->isTemplate() && !order->Lines.empty() &&
+            std::ranges::all_of(order->Lines, [](const OrderLine& line) { return line.Delivered == 0; });
         const bool isTaken = std::ranges::find(empty, order->SupplierId, &DeliveryNote::SupplierId) != empty.end();
         if (!isWaiting || isTaken || std::ranges::count(notes, order->SupplierId, &DeliveryNote::SupplierId) < 3)
             continue;

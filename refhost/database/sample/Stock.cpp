@@ -3,6 +3,7 @@
 #include "refhost/database/sample/Random.h"
 
 #include <algorithm>
+#include <charconv>
 #include <numeric>
 
 namespace refhost::sample {
@@ -17,15 +18,25 @@ constexpr int c_InactivePercent = 3;
 struct Combination {
     const GoodsKind* Kind = nullptr;
     std::string_view Variety;
+    int VarietyPercent = 100;
     const Packing* Packed = nullptr;
 };
+
+/// The number behind the colon of "olivový:380", 100 where there is none.
+int pricePercent(std::string_view variety) {
+    int percent = 100;
+    if (const std::size_t colon = variety.find(':'); colon != std::string_view::npos)
+        std::from_chars(variety.data() + colon + 1, variety.data() + variety.size(), percent);
+    return percent;
+}
 
 void addCombinations(std::vector<Combination>& combinations, const GoodsKind& kind) {
     std::string_view varieties = kind.Varieties;
     while (!varieties.empty()) {
         const std::size_t end = std::min(varieties.find('|'), varieties.size());
+        const std::string_view variety = varieties.substr(0, end);
         for (const Packing& packing : kind.Packings)
-            combinations.push_back({&kind, varieties.substr(0, end), &packing});
+            combinations.push_back({&kind, variety.substr(0, variety.find(':')), pricePercent(variety), &packing});
         varieties.remove_prefix(std::min(end + 1, varieties.size()));
     }
 }
@@ -75,7 +86,8 @@ void addItem(Stock& stock, const Combination& combination, Random& random) {
     item.ShelfLifeDays = kind.ShelfLifeDays;
     item.IsActive = !random.chance(c_InactivePercent);
     // Hundredths of the currency times percents are ten-thousandths.
-    item.UsualPrice = Price{kind.Price} * combination.Packed->PricePercent * random.between(85, 120) / 100;
+    item.UsualPrice = Price{kind.Price} * combination.Packed->PricePercent * combination.VarietyPercent *
+                      random.between(92, 108) / 10'000;
     addUnits(stock, item, static_cast<int>(stock.Items.size()) + 1, *combination.Packed);
     stock.Items.push_back(std::move(item));
 }
