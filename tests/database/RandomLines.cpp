@@ -76,7 +76,10 @@ RecalculationInput RandomLines::next() {
     line.Rate = rate();
     line.Discount = discount();
     line.Quantity = quantity();
-    line.Focus = chance(30) ? "MNOZSTVI" : key();
+    line.Focus = key();
+    // An emptied price in focus changes nothing, so few of them are enough.
+    if (isPriceKey(line.Focus) && priceText(line, line.Focus).empty() && chance(80))
+        line.Focus = "MNOZSTVI";
     for (std::uint64_t marks = below(5); marks > 0; --marks)
         line.Changed += key() + ";";
     line.Recalculate = !chance(5);
