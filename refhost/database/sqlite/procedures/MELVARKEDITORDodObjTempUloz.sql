@@ -66,7 +66,7 @@ from (select distinct DDOBID from ORDER_TARGET) t
 join (select :a_DODKID_ZDROJ as DODKID, null as DDOBID
       union all select null, :a_DDOBID_ZDROJ
       union all select null, :a_DDOBIDVZOR_ZDROJ) s
-    on coalesce(s.DODKID, s.DDOBID) is not null
+    on coalesce(s.DODKID, s.DDOBID) > 0
 where true
 on conflict do nothing;
 

@@ -16,7 +16,7 @@ select refuse_unknown_note(:a_DODKID) as refusal;
 
 select refuse('ML021', 'Dodací list „' || :a_DODKIDMASTER || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
            as refusal
-where :a_DODKIDMASTER is not null and not exists (select 1 from DODAK where ID = :a_DODKIDMASTER);
+where :a_DODKIDMASTER > 0 and not exists (select 1 from DODAK where ID = :a_DODKIDMASTER);
 
 delete from NOTE_FILL;
 
@@ -25,7 +25,7 @@ with LATEST as (
     select other.ID, other.DATUM
     from DODAK other
     join DODAK note on note.ID = :a_DODKID and note.DODVID = other.DODVID and note.ID <> other.ID
-    where :a_DODKIDMASTER is null
+    where coalesce(:a_DODKIDMASTER, 0) <= 0
     order by other.DATUM desc, other.ID desc
     limit 3
 ),

@@ -68,7 +68,7 @@ where ID in (select DOBSID from NOTE_LINE)
 insert into DODAKZDROJ (DODKID, DODKIDZDROJ, DDOBIDZDROJ)
 select :a_DODKID, s.DODKID, s.DDOBID
 from (select :a_DODKID_ZDROJ as DODKID, null as DDOBID union all select null, :a_DDOBID_ZDROJ) s
-where coalesce(s.DODKID, s.DDOBID) is not null and exists (select 1 from NOTE_LINE)
+where coalesce(s.DODKID, s.DDOBID) > 0 and exists (select 1 from NOTE_LINE)
 on conflict do nothing;
 
 delete from NOTE_STAGED;

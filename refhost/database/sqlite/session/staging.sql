@@ -26,6 +26,8 @@ create temp table NOTE_STAGED (
     TRVANLIVOST text
 );
 
+create index temp.NOTE_STAGED_DOBSID on NOTE_STAGED (DOBSID);
+
 -- The rows that become lines: those with a quantity.
 create temp view NOTE_LINE as
 select * from NOTE_STAGED where MNOZSTVI <> '0';
