@@ -19,7 +19,7 @@ constexpr minutes c_DayBegins{7 * 60};
 constexpr int c_WorkingMinutes = 8 * 60;
 
 constexpr std::string_view c_Comments[] = {
-    "dodat do 8 hodin", "po telefonické domluvě", "jen z čerstvé výroby", "náhradu předem odsouhlasit",
+    "dodat do 8 hodin", "po telefonické domluvě", "dodat s dodacím listem předem", "náhradu předem odsouhlasit",
     "akční cena",       "závoz zadní rampou",
 };
 
@@ -30,7 +30,7 @@ constexpr int c_ManyPieces[] = {100, 150, 200, 250, 300, 500};
 constexpr int c_Packages[] = {1, 1, 2, 2, 3, 4, 5, 6, 8, 10};
 
 /// What one package of a secondary unit may cost at most (in ten-thousandths of the currency) to be ordered at all.
-constexpr Price c_DearestPackage = 250'000'000;
+constexpr Price c_DearestPackage = 80'000'000;
 
 struct TemplateKind {
     std::string_view Name;
