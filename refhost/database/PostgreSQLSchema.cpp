@@ -51,6 +51,7 @@ void createPostgreSQLSchema(PostgreSQLSession& session) {
     // Functions, views and procedures stand on one another; what is missing shows when they are called.
     session.execute("set local check_function_bodies = off");
     runFolder(session, "tables.sql");
+    runFolder(session, "types/");
     runFolder(session, "functions/");
     runFolder(session, "views/");
     runFolder(session, "procedures/");

@@ -4,15 +4,6 @@
 -- kind ('CENAB' without VAT, 'DPHA' the VAT, 'DPHB' the local VAT, 'CENAS' with VAT). Rates and discounts are percents.
 -- Null is an empty cell. Unit prices are rounded to 6 decimals, totals to 2, half away from zero.
 
-create type price_row as (cenab numeric, dpha numeric, dphb numeric, cenas numeric);
-
-create type line_prices as (
-    unit_before price_row,
-    unit_after price_row,
-    total_before price_row,
-    total_after price_row
-);
-
 -- The sixteen price cells of the editor's row by their keys.
 create view RECALC_KEY (KEY, LEVEL, SIDE, KIND) as
 values ('JEDNCENABBEZSLEVY', 'unit', 'before', 'CENAB'),

@@ -1,6 +1,7 @@
--- Ends the call with a refusal: a code of ours and a sentence for the person who called.
+-- Ends the call with a refusal: a code of ours and a sentence for the person who called. Volatile, so that it is called
+-- for the rows which are reached and for no other.
 create function refuse(code text, sentence text) returns void
-language plpgsql as $$
+language plpgsql volatile as $$
 begin
     raise exception using errcode = code, message = sentence;
 end

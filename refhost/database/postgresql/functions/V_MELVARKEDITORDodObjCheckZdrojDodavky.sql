@@ -1,0 +1,13 @@
+-- 1 for a supplier whose deliveries can fill an order or order template: see deliveries_fault. The number of months may
+-- come as a text or as an integer.
+create function V_MELVARKEDITORDodObjCheckZdrojDodavky(dodvid integer, document integer, warehouse integer,
+                                                       supplier integer, moment text, months text) returns integer
+language sql stable as $$
+    select (deliveries_fault(dodvid, document, warehouse, supplier, parse_moment(moment), months) is null)::integer
+$$;
+
+create function V_MELVARKEDITORDodObjCheckZdrojDodavky(dodvid integer, document integer, warehouse integer,
+                                                       supplier integer, moment text, months integer) returns integer
+language sql stable as $$
+    select V_MELVARKEDITORDodObjCheckZdrojDodavky(dodvid, document, warehouse, supplier, moment, months::text)
+$$;

@@ -1,0 +1,7 @@
+-- 1 for an order or order template that can be the source of another: see order_fault_for_order.
+create function V_MELVARKEDITORDodObjCheckZdrojObjednavkaVzor(id integer, skldid integer, dodvid integer,
+                                                              document integer, warehouse integer, supplier integer)
+returns integer
+language sql stable as $$
+    select (order_fault_for_order(id, skldid, dodvid, document, warehouse, supplier) is null)::integer
+$$;

@@ -1,0 +1,23 @@
+-- Why a supplier's deliveries cannot fill an order or order template: the code of the refusal, null when they can. An
+-- identifier that is null, 0 or negative is none and restricts nothing; without a moment the document's own counts.
+--
+-- Refusals: ML070 `months` is no number of months.
+create function deliveries_fault(dodvid integer, document integer, warehouse integer, supplier integer,
+                                 moment timestamp, months text) returns text
+language plpgsql stable as $$
+declare
+    until constant timestamp := coalesce(moment, order_moment(document));
+begin
+    return case
+        when not exists (select from DODAVATEL v where v.ID = dodvid) then 'ML021'
+        when document > 0 and not exists (select from DODOBJEDNAVKA o where o.ID = document) then 'ML012'
+        when supplier > 0 and dodvid <> supplier then 'ML024'
+        when not exists (select
+                         from DELIVERY_V v
+                         where v.DODVID = deliveries_fault.dodvid
+                           and (coalesce(warehouse, 0) <= 0 or v.SKLDID = warehouse)
+                           and v.DATUM between (select deliveries_since(until, months)) and until::date)
+            then 'ML029'
+    end;
+end
+$$;

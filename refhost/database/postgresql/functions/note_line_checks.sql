@@ -1,0 +1,57 @@
+-- The checks of a delivery-note row that is saved, one for each kind of cell. Texts come without blanks around them, null
+-- for an empty cell.
+
+-- The VAT rate of the name, null without one. Refusal ML110: there is none.
+create function note_line_rate(name text) returns integer
+language plpgsql as $$
+declare
+    rate constant integer := (select r.ID from DPH r where r.NAZEV = name);
+begin
+    if name is not null and rate is null then
+        perform refuse('ML110', 'Sazba DPH „' || shown(name) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.');
+    end if;
+    return rate;
+end
+$$;
+
+-- The order line that is delivered, null without one. Refusals: ML049 there is none, ML050 it is for another item.
+create function note_line_order_line(id text, item integer) returns integer
+language plpgsql as $$
+declare
+    ordered DODOBJPOL;
+begin
+    select p.* into ordered
+    from DODOBJPOL p
+    join DODOBJEDNAVKA o on o.ID = p.DDOBID and o.VZOR = 0
+    where p.ID = as_integer(note_line_order_line.id);
+    if note_line_order_line.id is not null and ordered.ID is null then
+        perform refuse('ML049', 'Řádek objednávky „' || shown(note_line_order_line.id)
+                                    || '“ neexistuje. Načtěte položky z objednávky znovu.');
+    elsif ordered.SKLPID <> item then
+        perform refuse('ML050', 'Řádek objednávky „' || shown(note_line_order_line.id) || '“ je pro jinou položku než „'
+                                    || (select shown(i.NAZEV) from SKLADPOL i where i.ID = item)
+                                    || '“. Načtěte položky z objednávky znovu.');
+    end if;
+    return ordered.ID;
+end
+$$;
+
+-- Refuses a total that quantity times unit price does not give (ML052). Prices are rounded to their decimals, so that
+-- both may differ by that much.
+create function refuse_unbalanced_note_line(line DODAKPOL) returns void
+language sql as $$
+    select refuse('ML052', 'Celková cena ' || total_text(p.TOTAL) || ' položky „' || shown(i.NAZEV)
+                               || '“ neodpovídá množství ' || number_text(line.MNOZSTVI) || ' krát jednotkové ceně '
+                               || number_text(p.UNIT) || '. Opravte jednu z nich.')
+    from (values (1, line.JEDNCENABSESLEVOU, line.CENABSESLEVOU),
+                 (2, line.JEDNDPHASESLEVOU, line.DPHASESLEVOU),
+                 (3, line.JEDNDPHBSESLEVOU, line.DPHBSESLEVOU),
+                 (4, line.JEDNCENASSESLEVOU, line.CENASSESLEVOU),
+                 (5, line.JEDNCENABBEZSLEVY, line.CENABBEZSLEVY),
+                 (6, line.JEDNDPHABEZSLEVY, line.DPHABEZSLEVY),
+                 (7, line.JEDNDPHBBEZSLEVY, line.DPHBBEZSLEVY),
+                 (8, line.JEDNCENASBEZSLEVY, line.CENASBEZSLEVY)) p (ORDINAL, UNIT, TOTAL)
+    join SKLADPOL i on i.ID = line.SKLPID
+    where abs(line.MNOZSTVI * p.UNIT - p.TOTAL) > 0.02 + abs(line.MNOZSTVI) * 0.000002
+    order by p.ORDINAL
+$$;

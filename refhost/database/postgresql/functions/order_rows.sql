@@ -1,0 +1,16 @@
+-- The rows with which the editor of orders and templates opens.
+
+-- The rows in the order of the array: the quantity stands in the column of its unit.
+create function order_rows(fills order_fill[]) returns setof order_row
+language sql stable as $$
+    select i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, s.NAZEV, v.JMENO,
+           case f.UNITID when i.SKPLIDHL then number_text(f.MNOZSTVI) end, i.JEDNOTKYHL, i.SKPLIDHL,
+           case f.UNITID when i.SKPLIDV1 then number_text(f.MNOZSTVI) end, i.JEDNOTKYV1, i.SKPLIDV1,
+           case f.UNITID when i.SKPLIDV2 then number_text(f.MNOZSTVI) end, i.JEDNOTKYV2, i.SKPLIDV2,
+           f.POPIS, f.KOMENTAR
+    from unnest(fills) with ordinality f (ITEMID, SKLDID, DODVID, UNITID, MNOZSTVI, POPIS, KOMENTAR, LINE)
+    join ITEM_V i on i.SKLPID = f.ITEMID
+    join SKLAD s on s.ID = f.SKLDID
+    left join DODAVATEL v on v.ID = f.DODVID
+    order by f.LINE
+$$;

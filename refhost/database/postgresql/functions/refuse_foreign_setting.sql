@@ -1,0 +1,10 @@
+-- Refuses to change a column setting that the user cannot see (ML060) or that another user shares (ML061).
+create function refuse_foreign_setting(id integer) returns void
+language sql as $$
+    select refuse_unknown_setting(refuse_foreign_setting.id);
+
+    select refuse('ML061', 'Nastavení „' || shown(s.NAZEV) || '“ patří jinému uživateli. Uložte si je jako nové.')
+    from EDITORNASTAVENI s
+    join UZIVATEL u on u.ID = s.UZIVID
+    where s.ID = refuse_foreign_setting.id and u.JMENO <> current_user_name()
+$$;

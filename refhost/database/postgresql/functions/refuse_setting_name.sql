@@ -1,0 +1,15 @@
+-- Refuses a name for a column setting: an empty one (ML062), one of more than 100 characters (ML064), one that another
+-- setting of the user has in the same type (ML063). `id` is the setting that is renamed, null for a new one.
+create function refuse_setting_name(name text, type integer, id integer) returns void
+language sql as $$
+    select refuse('ML062', 'Nastavení nemá název. Zapište jej.') where typed(name) is null;
+
+    select refuse('ML064', 'Název „' || shown(typed(name)) || '“ je delší než 100 znaků. Zkraťte jej.')
+    where char_length(typed(name)) > 100;
+
+    select refuse('ML063', 'Nastavení s názvem „' || shown(s.NAZEV) || '“ už máte. Zvolte jiný název.')
+    from EDITORNASTAVENI s
+    join UZIVATEL u on u.ID = s.UZIVID
+    where s.NAZEV = typed(name) and s.TYPEDITACE = type and u.JMENO = current_user_name()
+      and s.ID is distinct from refuse_setting_name.id
+$$;

@@ -1,0 +1,30 @@
+-- The rows of a save that is under way: temporary tables of the session, which MELVARKEDITORResetTemp makes. A second
+-- connection of the same user has its own. The session's setting melvark.staging is the state of the save: empty until
+-- its rows are emptied, then 'open'; 'refused' after a failure, until the rows are emptied again. A failed call cannot
+-- note its own failure, for it is rolled back: the connection does.
+
+-- Whether the rows lie in tables of our own: whoever may make temporary tables could have made others of their names, with
+-- triggers that would run with our rights.
+create function has_own_staging() returns boolean
+language sql stable as $$
+    select count(*) = 3
+    from pg_catalog.pg_class c
+    join pg_catalog.pg_roles r on r.oid = c.relowner
+    where c.relnamespace = pg_my_temp_schema() and c.relname in ('note_staged', 'order_staged', 'order_target')
+      and r.rolname = current_user
+$$;
+
+-- Refuses a row or a closing call of a save that was not begun by emptying the rows (ML040) or whose earlier call was
+-- refused (ML041).
+create function refuse_closed_staging() returns void
+language plpgsql as $$
+declare
+    state constant text := coalesce(current_setting('melvark.staging', true), '');
+begin
+    if state = 'refused' then
+        perform refuse('ML041', 'Předchozí ukládání bylo odmítnuto. Uložte doklad znovu.');
+    elsif state <> 'open' or not has_own_staging() then
+        perform refuse('ML040', 'Ukládání nebylo zahájeno. Uložte doklad znovu.');
+    end if;
+end
+$$;

@@ -1,0 +1,16 @@
+-- Checks a stock group of level 3 and returns its identifier, null when the level is left empty. a_NAZEV is what the clerk
+-- typed, in any case of letters, a_SSP3ID what he picked, null for none.
+--
+-- Refusals: ML012 the document does not exist; ML030 no such group, ML031 several have the name, ML032 the name is not that
+-- of the picked one.
+
+create function MELVARKEDITORDodObjCheckSkupSkladPol3(
+    a_DDOBIDMASTER integer default null,
+    a_NAZEV text default null,
+    a_SSP3ID integer default null)
+returns table (ID integer)
+language sql stable as $$
+    select refuse_unknown_master_order(a_DDOBIDMASTER);
+
+    select group_choice(3, typed(a_NAZEV), picked_id(a_SSP3ID))
+$$;

@@ -1,0 +1,21 @@
+-- Checks a supplier whose price list is to fill an order or order template and returns his identifier: at the document's
+-- moment he has to list something. a_JMENO is what the clerk typed, in any case of letters, a_DODVID whom he picked,
+-- null for none.
+--
+-- Refusals: ML012 the document does not exist; ML020 to ML023 who is named; ML028 no price list.
+
+create function MELVARKEDITORDodObjCheckZdrojDodCenik(
+    a_DDOBIDMASTER integer default null,
+    a_JMENO text default null,
+    a_DODVID integer default null)
+returns table (ID integer)
+language sql stable as $$
+    select refuse_unknown_master_order(a_DDOBIDMASTER);
+
+    select source_choice('Dodavatel', typed(a_JMENO), picked_id(a_DODVID), order_moment(a_DDOBIDMASTER)::date, array(
+        select row(v.ID, v.JMENO, lower(v.JMENO) = lower(typed(a_JMENO) collate CZECH),
+                   price_list_fault(v.ID, a_DDOBIDMASTER, null, null))::source_candidate
+        from DODAVATEL v
+        where v.ID = picked_id(a_DODVID)
+           or (picked_id(a_DODVID) is null and lower(v.JMENO) = lower(typed(a_JMENO) collate CZECH))))
+$$;

@@ -1,0 +1,21 @@
+-- Checks an order as the source of an order or order template and returns its identifier. a_CISLO is what
+-- the clerk typed, a_DDOBID what he picked, null for none.
+--
+-- Refusals: ML012 the document does not exist; ML020 to ML023 what is named; ML027 the document itself, ML024 another
+-- supplier, ML025 another warehouse.
+
+create function MELVARKEDITORDodObjCheckZdrojObjednavka(
+    a_DDOBIDMASTER integer default null,
+    a_CISLO text default null,
+    a_DDOBID integer default null)
+returns table (ID integer)
+language sql stable as $$
+    select refuse_unknown_master_order(a_DDOBIDMASTER);
+
+    select source_choice('Objednávka', typed(a_CISLO), picked_id(a_DDOBID), null, array(
+        select row(s._ID, s.CISLO, s.CISLO = typed(a_CISLO),
+                   order_fault_for_order(s._ID, s._SKLDID, s._DODVID, o.ID, o.SKLDID, o.DODVID))::source_candidate
+        from DODOBJEDNAVKA_NORMAL_V s
+        left join DODOBJEDNAVKA o on o.ID = a_DDOBIDMASTER
+        where s._ID = picked_id(a_DDOBID) or (picked_id(a_DDOBID) is null and s.CISLO = typed(a_CISLO))))
+$$;

@@ -1,0 +1,5 @@
+-- Whether unsaved work on an order or order template may be taken up again: it exists and is open. Refuses nothing.
+create function MELVARKEDITORDodObjObnovData(a_DDOBID integer default null, out a_OBNOVDATA integer)
+language sql stable as $$
+    select exists (select from DODOBJEDNAVKA where ID = a_DDOBID and OTEVRENO = 1)::integer
+$$;

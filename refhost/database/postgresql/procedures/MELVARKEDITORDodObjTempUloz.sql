@@ -1,0 +1,82 @@
+-- Takes the rows of this session over into an order or template: each quantity becomes a line in its unit, in the order of
+-- the rows. A template keeps all lines with their suppliers. An order without a supplier takes that of the first line that
+-- has one; lines of other suppliers go into new orders of theirs, with this order's moment and warehouse. The sources are
+-- recorded. Without such rows nothing changes.
+--
+-- a_DDOBID_ZDROJ, a_DDOBIDVZOR_ZDROJ, a_DODKID_ZDROJ: the order, template or note that the rows were taken from, null for
+-- none.
+--
+-- Refusals: ML040, ML041 no save is under way; ML012, ML013 the document is gone or closed; ML055 a source is gone.
+--
+-- after failure: staging refused
+
+create function MELVARKEDITORDodObjTempUloz(
+    a_DDOBID integer default null,
+    a_DDOBID_ZDROJ integer default null,
+    a_DDOBIDVZOR_ZDROJ integer default null,
+    a_DODKID_ZDROJ integer default null)
+returns void
+language plpgsql as $$
+begin
+    perform refuse_closed_staging();
+
+    -- Saves of the same document follow one another.
+    perform from DODOBJEDNAVKA o where o.ID = a_DDOBID for no key update;
+    perform refuse_closed_order(a_DDOBID);
+    perform refuse_unknown_source(null, a_DDOBID_ZDROJ);
+    perform refuse_unknown_source(null, a_DDOBIDVZOR_ZDROJ);
+    perform refuse_unknown_source(a_DODKID_ZDROJ, null);
+
+    update DODOBJEDNAVKA o
+    set DODVID = first_line.DODVID
+    from (select (LINE).DODVID from pg_temp.ORDER_STAGED where (LINE).DODVID is not null order by PLACE limit 1) first_line
+    where o.ID = a_DDOBID and o.VZOR = 0 and o.DODVID is null;
+
+    -- Where each supplier's lines go: a template keeps them all, an order those of its own supplier and those without one.
+    delete from pg_temp.ORDER_TARGET;
+
+    insert into pg_temp.ORDER_TARGET (DODVID, DDOBID)
+    select distinct (s.LINE).DODVID, o.ID
+    from pg_temp.ORDER_STAGED s
+    join DODOBJEDNAVKA o on o.ID = a_DDOBID
+    where o.VZOR = 1 or (s.LINE).DODVID is null or (s.LINE).DODVID = o.DODVID;
+
+    insert into pg_temp.ORDER_TARGET (DODVID, DDOBID)
+    select other.DODVID, nextval(pg_get_serial_sequence('melvark.dodobjednavka', 'id'))
+    from (select (s.LINE).DODVID
+          from pg_temp.ORDER_STAGED s
+          where (s.LINE).DODVID not in (select t.DODVID from pg_temp.ORDER_TARGET t where t.DODVID is not null)
+          group by (s.LINE).DODVID
+          order by min(s.PLACE)) other;
+
+    insert into DODOBJEDNAVKA (ID, VZOR, CISLO, OBJEDNANIDC, DODVID, SKLDID)
+    select t.DDOBID, 0,
+           'OV' || to_char(o.OBJEDNANIDC, 'YYYY') || '-'
+               || lpad(t.DDOBID::text, greatest(6, length(t.DDOBID::text)), '0'),
+           o.OBJEDNANIDC, t.DODVID, o.SKLDID
+    from pg_temp.ORDER_TARGET t
+    join DODOBJEDNAVKA o on o.ID = a_DDOBID
+    where t.DDOBID <> o.ID;
+
+    -- Only a template's lines keep a supplier of their own: an order's lines have the order's.
+    insert into DODOBJPOL (DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)
+    select t.DDOBID,
+           (select coalesce(max(PORADI), 0) from DODOBJPOL where DDOBID = t.DDOBID)
+               + row_number() over (partition by t.DDOBID order by s.PLACE),
+           (s.LINE).SKLPID, (s.LINE).SKPLID, coalesce((s.LINE).SKLDID, o.SKLDID),
+           case o.VZOR when 1 then (s.LINE).DODVID end, (s.LINE).MNOZSTVI, (s.LINE).POPIS, (s.LINE).KOMENTAR
+    from pg_temp.ORDER_STAGED s
+    join pg_temp.ORDER_TARGET t on t.DODVID is not distinct from (s.LINE).DODVID
+    join DODOBJEDNAVKA o on o.ID = a_DDOBID
+    order by s.PLACE;
+
+    insert into DODOBJZDROJ (DDOBID, DODKIDZDROJ, DDOBIDZDROJ)
+    select t.DDOBID, s.DODKID, s.DDOBID
+    from (select distinct DDOBID from pg_temp.ORDER_TARGET) t
+    cross join (values (a_DODKID_ZDROJ, null), (null, a_DDOBID_ZDROJ), (null, a_DDOBIDVZOR_ZDROJ)) s (DODKID, DDOBID)
+    where coalesce(s.DODKID, s.DDOBID) is not null
+    on conflict do nothing;
+
+    delete from pg_temp.ORDER_STAGED;
+end
+$$;

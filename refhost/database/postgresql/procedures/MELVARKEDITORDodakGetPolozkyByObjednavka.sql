@@ -1,0 +1,33 @@
+-- The rows with which the editor of a delivery note opens: the lines of an order on which something is still to come, in
+-- their order. The quantity is what is left, in the main unit; the price that of the supplier's list on the day of the
+-- order, or, when he listed none, on the day of the note.
+--
+-- Refusals: ML010 the note does not exist, ML021 the order does not exist.
+
+create function MELVARKEDITORDodakGetPolozkyByObjednavka(a_DODKID integer default null, a_DDOBID integer default null)
+returns setof note_row
+language sql stable as $$
+    select refuse_unknown_note(a_DODKID);
+
+    select refuse('ML021', 'Objednávka „' || coalesce(a_DDOBID::text, 'NULL')
+                               || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
+    where not exists (select from DODOBJEDNAVKA where ID = a_DDOBID and VZOR = 0);
+
+    select r.*
+    from note_rows(a_DODKID, array(
+        select row(p.ID, p.SKLPID, p.SKLDID, i.DPHID, ordered_in_main_unit(p.ID) - p.DODANO, null,
+                   case when then_list.CENA is null then now_list.CENA else then_list.CENA end,
+                   case when then_list.CENA is null then now_list.SLEVA else then_list.SLEVA end)::note_fill
+        from DODOBJPOL p
+        join DODOBJEDNAVKA o on o.ID = p.DDOBID
+        join DODAK d on d.ID = a_DODKID
+        join SKLADPOL i on i.ID = p.SKLPID
+        left join PRICE_V then_list
+            on then_list.DODVID = d.DODVID and then_list.SKLPID = p.SKLPID
+           and o.OBJEDNANIDC::date between then_list.FIRSTDAY and then_list.LASTDAY
+        left join PRICE_V now_list
+            on now_list.DODVID = d.DODVID and now_list.SKLPID = p.SKLPID
+           and d.DATUM between now_list.FIRSTDAY and now_list.LASTDAY
+        where p.DDOBID = a_DDOBID and p.KOMPLETNI = 0
+        order by p.PORADI)) r
+$$;

@@ -1,0 +1,24 @@
+-- What the delivery-note editor needs before it opens, in three result sets: the user and whether local VAT is on; the VAT
+-- rates that are valid today, by rate; the warehouses. Refuses nothing.
+create function MELVARKEDITORDodakInit() returns setof refcursor
+language plpgsql stable as $$
+declare
+    company refcursor;
+    rates refcursor;
+    warehouses refcursor;
+begin
+    open company for
+        select current_user_name() as UZIVATEL,
+               (coalesce(V_GetGlobalParam('DPH', 'DPHBLIC'), '0') = '1')::integer as DPHBLIC;
+    return next company;
+    open rates for
+        select NAZEV
+        from DPH
+        where PLATIOD <= current_date and (PLATIDO is null or PLATIDO >= current_date)
+        order by SAZBA;
+    return next rates;
+    open warehouses for
+        select NAZEV from SKLAD_V order by NAZEV;
+    return next warehouses;
+end
+$$;

@@ -1,0 +1,5 @@
+-- Whether unsaved work on a delivery note may be taken up again: it exists and is open. Refuses nothing.
+create function MELVARKEDITORDodakObnovData(a_DODKID integer default null, out a_OBNOVDATA integer)
+language sql stable as $$
+    select exists (select from DODAK where ID = a_DODKID and OTEVRENO = 1)::integer
+$$;
