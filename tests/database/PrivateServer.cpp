@@ -1,5 +1,6 @@
 #include "tests/database/PrivateServer.h"
 
+#include "host/Exceptions.h"
 #include "refhost/database/PostgreSQLSchema.h"
 
 #include <cstdio>
@@ -27,9 +28,13 @@ PrivateServer::PrivateServer() {
         throw std::runtime_error("no temporary folder could be made");
     folder_ = pattern;
     run("start '" + folder_.string() + "' --without-fsync --until-exit-of " + std::to_string(getpid()));
-    administrator("postgres").execute(std::string("create database ") + c_Model);
-    PostgreSQLSession session = administrator(c_Model);
-    createPostgreSQLSchema(session);
+    try {
+        administrator("postgres").execute(std::string("create database ") + c_Model);
+        PostgreSQLSession session = administrator(c_Model);
+        createPostgreSQLSchema(session);
+    } catch (const EDatabaseError& error) {
+        throw std::runtime_error(error.Message() + "\n" + error.Details());
+    }
 }
 
 PrivateServer::~PrivateServer() {
