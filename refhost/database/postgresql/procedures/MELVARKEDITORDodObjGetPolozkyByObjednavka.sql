@@ -14,13 +14,13 @@ language sql stable as $$
     select refuse_unknown_order(a_DDOBIDMASTER);
 
     select refuse('ML021', 'Objednávka „' || a_DDOBID || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
-    where a_DDOBID is not null and not exists (select from DODOBJEDNAVKA where ID = a_DDOBID);
+    where a_DDOBID > 0 and not exists (select from DODOBJEDNAVKA where ID = a_DDOBID);
 
     with LATEST as (
         select other.ID, other.OBJEDNANIDC
         from DODOBJEDNAVKA other
         join DODOBJEDNAVKA master on master.ID = a_DDOBIDMASTER and master.DODVID = other.DODVID and master.ID <> other.ID
-        where a_DDOBID is null and other.VZOR = 0
+        where coalesce(a_DDOBID, 0) <= 0 and other.VZOR = 0
         order by other.OBJEDNANIDC desc, other.ID desc
         limit 3
     ),

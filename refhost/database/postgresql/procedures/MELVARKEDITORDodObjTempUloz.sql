@@ -74,7 +74,7 @@ begin
     select t.DDOBID, s.DODKID, s.DDOBID
     from (select distinct DDOBID from pg_temp.ORDER_TARGET) t
     cross join (values (a_DODKID_ZDROJ, null), (null, a_DDOBID_ZDROJ), (null, a_DDOBIDVZOR_ZDROJ)) s (DODKID, DDOBID)
-    where coalesce(s.DODKID, s.DDOBID) is not null
+    where coalesce(s.DODKID, s.DDOBID) > 0
     on conflict do nothing;
 
     delete from pg_temp.ORDER_STAGED;

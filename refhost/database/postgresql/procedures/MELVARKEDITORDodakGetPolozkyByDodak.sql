@@ -17,13 +17,13 @@ language sql stable as $$
     select refuse_unknown_note(a_DODKID);
 
     select refuse('ML021', 'Dodací list „' || a_DODKIDMASTER || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
-    where a_DODKIDMASTER is not null and not exists (select from DODAK where ID = a_DODKIDMASTER);
+    where a_DODKIDMASTER > 0 and not exists (select from DODAK where ID = a_DODKIDMASTER);
 
     with LATEST as (
         select other.ID, other.DATUM
         from DODAK other
         join DODAK note on note.ID = a_DODKID and note.DODVID = other.DODVID and note.ID <> other.ID
-        where a_DODKIDMASTER is null
+        where coalesce(a_DODKIDMASTER, 0) <= 0
         order by other.DATUM desc, other.ID desc
         limit 3
     ),

@@ -81,7 +81,7 @@ begin
     insert into DODAKZDROJ (DODKID, DODKIDZDROJ, DDOBIDZDROJ)
     select a_DODKID, s.DODKID, s.DDOBID
     from (values (a_DODKID_ZDROJ, null), (null, a_DDOBID_ZDROJ)) s (DODKID, DDOBID)
-    where coalesce(s.DODKID, s.DDOBID) is not null and exists (select from pg_temp.NOTE_STAGED)
+    where coalesce(s.DODKID, s.DDOBID) > 0 and exists (select from pg_temp.NOTE_STAGED)
     on conflict do nothing;
 
     delete from pg_temp.NOTE_STAGED;
