@@ -86,7 +86,7 @@ void DocumentScreen::showLines() {
     const auto row = documents.currentRow();
     if (!row) {
         linesTitle_->setText(languages_.label(texts::noDocument));
-        lines_->setTable({});
+        lines_->setTable({.Columns = lines_->result().table().Columns, .Rows = {}});
         return;
     }
     const QString number = QString::fromStdString(documents.result().text(*row, "CISLO"));

@@ -7,12 +7,17 @@
 
 #include <QGuiApplication>
 #include <QPalette>
+#include <QSet>
 
 #include <algorithm>
+#include <numeric>
 
 namespace refhost {
 
 namespace {
+
+/// More different long texts than a company has suppliers, and few enough to be measured at once.
+constexpr qsizetype c_measuredTexts = 100;
 
 /// Between the text and its background, so that it reads well on light and dark windows alike; the palette's colour of
 /// disabled text is too faint for whole rows.
@@ -100,6 +105,29 @@ std::vector<AnsiString> ResultModel::shownColumns() const {
     return names;
 }
 
+QStringList ResultModel::longTexts(int column) const {
+    const Shown& shown = shown_[static_cast<std::size_t>(column)];
+    std::vector<std::size_t> sizes;
+    sizes.reserve(table_.Rows.size());
+    for (const auto& row : table_.Rows) {
+        const auto* text = std::get_if<AnsiString>(&row[shown.source]);
+        sizes.push_back(text ? text->size() : TField({}, row[shown.source], settings_).AsString().size());
+    }
+    std::vector<std::size_t> rows(sizes.size());
+    std::iota(rows.begin(), rows.end(), std::size_t{0});
+    std::stable_sort(rows.begin(), rows.end(),
+                     [&](std::size_t left, std::size_t right) { return sizes[left] > sizes[right]; });
+
+    QSet<QString> texts;
+    for (const std::size_t row : rows) {
+        const bool isShort = sizes[row] * 4 < sizes[rows.front()] * 3;
+        if (isShort || sizes[row] == 0 || texts.size() >= c_measuredTexts)
+            break;
+        texts.insert(displayText(row, shown));
+    }
+    return texts.values();
+}
+
 bool ResultModel::isLess(int leftRow, int rightRow, int column) const {
     const Shown& shown = shown_[static_cast<std::size_t>(column)];
     if (!shown.keys)
@@ -124,6 +152,11 @@ QString ResultModel::shownText(std::size_t row, const Shown& column) const {
     return shownValue(name, QString::fromStdString(field.AsString()), languages_);
 }
 
+QString ResultModel::displayText(std::size_t row, const Shown& column) const {
+    const QString text = shownText(row, column);
+    return column.isAmount ? groupDigits(text, settings_) : text;
+}
+
 bool ResultModel::isGreyed(std::size_t row) const {
     return openColumn_ && !TField(table_.Columns[*openColumn_], table_.Rows[row][*openColumn_], settings_).AsBoolean();
 }
@@ -143,7 +176,7 @@ QVariant ResultModel::data(const QModelIndex& index, int role) const {
     const Shown& column = shown_[static_cast<std::size_t>(index.column())];
     switch (role) {
     case Qt::DisplayRole:
-        return column.isAmount ? groupDigits(shownText(row, column), settings_) : shownText(row, column);
+        return displayText(row, column);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (column.kind == ColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft));

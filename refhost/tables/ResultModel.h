@@ -35,6 +35,10 @@ public:
     /// The names of the shown columns, in the model's order.
     std::vector<AnsiString> shownColumns() const;
 
+    /// Texts of a shown column among which the widest one is found: its different long ones. Measuring thousands of
+    /// values would take longer than reading them.
+    QStringList longTexts(int column) const;
+
     bool isLess(int leftRow, int rightRow, int column) const;
     /// The row's shown texts in the form in which searched words are compared.
     const QString& searchText(int row) const;
@@ -54,7 +58,10 @@ private:
 
     std::optional<std::size_t> sourceColumn(std::string_view column) const;
     void chooseColumns(std::string_view firstColumn);
+    /// The text as it is searched for.
     QString shownText(std::size_t row, const Shown& column) const;
+    /// The same as it is painted: amounts in groups of digits.
+    QString displayText(std::size_t row, const Shown& column) const;
     bool isGreyed(std::size_t row) const;
 
     TFormatSettings settings_;

@@ -6,6 +6,7 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 
 #include <algorithm>
 
@@ -14,8 +15,6 @@ namespace refhost {
 namespace {
 
 constexpr std::string_view c_keyColumn = "_ID";
-/// Widths follow the first rows only: measuring thousands would cost more than a too narrow column is worth.
-constexpr int c_measuredRows = 40;
 constexpr int c_widestColumn = 320;
 constexpr int c_rowSpacing = 6;
 
@@ -42,7 +41,7 @@ ResultTable::ResultTable(const TFormatSettings& settings, const Languages& langu
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + c_rowSpacing);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setResizeContentsPrecision(c_measuredRows);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] { widthsAreSet_ |= !fitting_; });
     connect(this, &QAbstractItemView::doubleClicked, this, &ResultTable::rowActivated);
 }
 
@@ -51,17 +50,28 @@ void ResultTable::setTable(TResultTable table, std::string_view firstColumn) {
     const int row = currentIndex().row();
     const auto columnsBefore = model_->shownColumns();
     model_->setTable(std::move(table), firstColumn);
-    if (model_->shownColumns() != columnsBefore)
-        fitColumns();
+    fitColumns(model_->shownColumns() != columnsBefore);
     if (key.empty() || !selectKey(key))
         keepSomeRowCurrent(row);
     Q_EMIT currentRowChanged();
 }
 
-void ResultTable::fitColumns() {
-    resizeColumnsToContents();
-    for (int column = 0; column < order_->columnCount(); ++column)
-        setColumnWidth(column, std::min(columnWidth(column), c_widestColumn));
+/// As wide as the longest text of each column, never narrower than before: widths do not jump from document to
+/// document. Once somebody has dragged a width, all stay as they are.
+void ResultTable::fitColumns(bool isNewLayout) {
+    if (isNewLayout)
+        widthsAreSet_ = false;
+    if (widthsAreSet_)
+        return;
+    const QScopedValueRollback fitting(fitting_, true);
+    const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
+    for (int column = 0; column < order_->columnCount(); ++column) {
+        int text = 0;
+        for (const QString& each : model_->longTexts(column))
+            text = std::max(text, fontMetrics().horizontalAdvance(each) + 2 * margin + 1);
+        const int wanted = std::max(horizontalHeader()->sectionSizeHint(column), std::min(text, c_widestColumn));
+        setColumnWidth(column, isNewLayout ? wanted : std::max(wanted, columnWidth(column)));
+    }
 }
 
 void ResultTable::sortBy(std::string_view column, Qt::SortOrder order) {

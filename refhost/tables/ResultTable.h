@@ -54,10 +54,12 @@ protected:
 private:
     void selectShownRow(int row);
     void keepSomeRowCurrent(int wantedRow);
-    void fitColumns();
+    void fitColumns(bool isNewLayout);
 
     ResultModel* model_;
     ResultOrder* order_;
+    bool widthsAreSet_ = false; ///< By the user.
+    bool fitting_ = false;
 };
 
 } // namespace refhost

@@ -140,6 +140,24 @@ TEST_F(MainWindowTest, ASearchThatMatchesNothingLeavesNoDocumentAndNoLines) {
     EXPECT_EQ(lines().result().rowCount(), 0);
 }
 
+TEST_F(MainWindowTest, ColumnsGrowWithLongerTextsUntilSomebodySetsAWidth) {
+    open();
+    const int before = lines().columnWidth(1);
+    TResultTable longer = linesOf(103);
+    longer.Rows[0][3] = AnsiString("Mnohem delší název skladové položky");
+    host_.connection.answerQuery(linesQuery("DODAK", 103), longer);
+
+    press(Qt::Key_Down);
+    const int grown = lines().columnWidth(1);
+    EXPECT_GT(grown, before);
+    press(Qt::Key_Up);
+    EXPECT_EQ(lines().columnWidth(1), grown);
+
+    lines().setColumnWidth(1, before); // what a drag of the heading does
+    press(Qt::Key_Down);
+    EXPECT_EQ(lines().columnWidth(1), before);
+}
+
 TEST_F(MainWindowTest, ARefreshKeepsTheCurrentDocumentAndTheOrder) {
     open();
     press(Qt::Key_Down);

@@ -125,6 +125,29 @@ TEST_F(ResultModelTest, SearchesTheShownColumnsOnly) {
     EXPECT_EQ(order_.rowCount(), 3);
 }
 
+TEST_F(ResultModelTest, TellsTheLongTextsOfAColumnForItsWidth) {
+    model_.setTable({.Columns = {"JMENO", "_ID"},
+                     .Rows = {{AnsiString("Ab"), TDbValue()},
+                              {AnsiString("Abcdefgh"), TDbValue()},
+                              {AnsiString("Wwwwww"), TDbValue()}, // shorter, but wide letters
+                              {AnsiString("Abcdefgh"), TDbValue()}}});
+
+    QStringList texts = model_.longTexts(0);
+    texts.sort();
+    EXPECT_EQ(texts, (QStringList{u"Abcdefgh"_qs, u"Wwwwww"_qs}));
+}
+
+TEST_F(ResultModelTest, FindsTheLongestTextBehindThousandsOfOthers) {
+    TResultTable table{.Columns = {"JMENO"}, .Rows = {}};
+    for (int row = 1000; row < 9000; ++row)
+        table.Rows.push_back({"Dodavatel " + std::to_string(row)});
+    table.Rows.push_back({AnsiString("Dodavatel 10000")});
+    model_.setTable(table);
+
+    EXPECT_TRUE(model_.longTexts(0).contains(u"Dodavatel 10000"_qs));
+    EXPECT_LE(model_.longTexts(0).size(), 100);
+}
+
 TEST_F(ResultModelTest, TakesANewResultWithOtherColumns) {
     model_.setTable(deliveryNotes());
     order_.sort(4, Qt::AscendingOrder);
