@@ -61,7 +61,7 @@ void registerCzech(SQLiteSession& session) {
     int status = sqlite3_create_collation_v2(session.handle(), "CZECH", SQLITE_UTF8, collator.get(), compareCzech,
                                              deleteCollator);
     if (status == SQLITE_OK) {
-        collator.release();
+        static_cast<void>(collator.release()); // deleteCollator owns it now.
         status = sqlite3_create_function_v2(session.handle(), "lower", 1,
                                             SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, &session,
                                             sqliteFunction<lower>, nullptr, nullptr, nullptr);

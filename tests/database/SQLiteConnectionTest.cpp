@@ -114,7 +114,8 @@ TEST(SQLiteConnection, AQueryIsOneReadingStatement) {
     const auto database = file.createCompany();
     for (const char* sql :
          {"delete from DODAK", "select 1; select 2", "", "-- nothing", "pragma foreign_keys = off",
-          "attach ':memory:' as OTHER", "create temp table T (X)", "begin", "update STAGING set STATE = 'open'"})
+          "attach ':memory:' as OTHER", "create temp table T (X)", "begin", "update STAGING set STATE = 'open'",
+          "pragma journal_mode", "insert into SKLAD (NAZEV) values ('X') returning ID"})
         EXPECT_EQ(refusalCode([&] { database->Query(sql); }), "ML920") << sql;
     EXPECT_EQ(refusalCode([&] { database->Query(AnsiString("select 1\0", 9)); }), "ML007");
     EXPECT_EQ(rowsText(*database, "with N as (select CISLO from DODAK) select CISLO from N order by CISLO"),

@@ -111,7 +111,7 @@ TEST(SQLiteOpening, AFileThatAnotherProgramLocks) {
 
 TEST(SQLiteOpening, AReadOnlyFileIsRefusedAtOnce) {
     const SQLiteFile file;
-    file.createCompany();
+    const auto administrator = file.createCompany(); // While he is there, others could read without writing a byte.
     std::filesystem::permissions(file.folder(), std::filesystem::perms(0755));
     std::filesystem::permissions(file.path(), std::filesystem::perms(0444));
     const OrdinaryUser user;
