@@ -1,6 +1,7 @@
 #include "refhost/ErrorDialog.h"
 
 #include "refhost/Languages.h"
+#include "tests/refhost/FocusedWidget.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -47,14 +48,14 @@ TEST_F(ErrorDialogTest, EnterClosesIt) {
     open(c_report);
     EXPECT_TRUE(find<QPushButton>(u"closeButton")->hasFocus());
 
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QTest::keyClick(focusedWidget(), Qt::Key_Return);
 
     EXPECT_FALSE(dialog_->isVisible());
 }
 
 TEST_F(ErrorDialogTest, EscapeClosesIt) {
     open(c_report);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QTest::keyClick(focusedWidget(), Qt::Key_Escape);
     EXPECT_FALSE(dialog_->isVisible());
 }
 
@@ -62,11 +63,11 @@ TEST_F(ErrorDialogTest, TheDetailsUnfoldByKeyAndFoldAgain) {
     open(c_report);
     const QPlainTextEdit& details = *find<QPlainTextEdit>(u"errorDetails");
 
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_P, Qt::AltModifier);
+    QTest::keyClick(focusedWidget(), Qt::Key_P, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return details.isVisible(); })); // a button shows for a moment that it is down
     EXPECT_EQ(details.toPlainText(), u"Kód: ML003");
 
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_P, Qt::AltModifier);
+    QTest::keyClick(focusedWidget(), Qt::Key_P, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !details.isVisible(); }));
 }
 
@@ -74,7 +75,7 @@ TEST_F(ErrorDialogTest, TheCopyKeyCopiesSentenceAndDetails) {
     open(c_report);
     QApplication::clipboard()->clear();
 
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(focusedWidget(), Qt::Key_C, Qt::ControlModifier);
 
     EXPECT_EQ(QApplication::clipboard()->text(), u"Doklad je <uzavřený>.\n\nKód: ML003");
 }

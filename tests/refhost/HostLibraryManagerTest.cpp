@@ -4,6 +4,7 @@
 #include "refhost/HostApplication.h"
 #include "refhost/Languages.h"
 #include "refhost/Trace.h"
+#include "tests/refhost/FocusedWidget.h"
 #include "tests/refhost/ScreenRows.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/widgets/ModalDriver.h"
@@ -87,9 +88,9 @@ TEST_F(HostLibraryManagerTest, ANoteIsShownAndTraced) {
 
 TEST_F(HostLibraryManagerTest, ALookupGivesDisplayAndKeyOfThePickedRow) {
     host_.connection.answerQuery("select * from DODAK_NORMAL_V where _DODVID=3", deliveryNotes());
-    const ModalDriver driver(u"lookupDialog"_qs, [](QWidget& dialog) {
-        QTest::keyClicks(dialog.focusWidget(), u"chladek"_qs);
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    const ModalDriver driver(u"lookupDialog"_qs, [](QWidget&) {
+        QTest::keyClicks(focusedWidget(), u"chladek"_qs);
+        QTest::keyClick(focusedWidget(), Qt::Key_Return);
     });
 
     const auto pick = manager_.LookupList("Kordan3:DODAK.Normal", "CISLO", "_ID", "_DODVID=3");
@@ -103,8 +104,7 @@ TEST_F(HostLibraryManagerTest, ALookupGivesDisplayAndKeyOfThePickedRow) {
 
 TEST_F(HostLibraryManagerTest, ALookupThatIsLeftGivesNothing) {
     host_.connection.answerQuery("select * from DODAK_NORMAL_V", deliveryNotes());
-    const ModalDriver driver(u"lookupDialog"_qs,
-                             [](QWidget& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape); });
+    const ModalDriver driver(u"lookupDialog"_qs, [](QWidget&) { QTest::keyClick(focusedWidget(), Qt::Key_Escape); });
 
     EXPECT_FALSE(manager_.LookupList("Kordan3:DODAK.Normal", "CISLO", "_ID", ""));
     EXPECT_THAT(output_->str(), HasSubstr("\"picked\":null"));

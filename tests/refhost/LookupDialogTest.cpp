@@ -2,6 +2,7 @@
 
 #include "refhost/Languages.h"
 #include "refhost/tables/ResultTable.h"
+#include "tests/refhost/FocusedWidget.h"
 #include "tests/refhost/ScreenRows.h"
 
 #include <QApplication>
@@ -27,8 +28,8 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
     }
 
-    static void type(const char* keys) { QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(keys)); }
-    static void press(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
+    static void type(const char* keys) { QTest::keyClicks(focusedWidget(), QString::fromUtf8(keys)); }
+    static void press(Qt::Key key) { QTest::keyClick(focusedWidget(), key); }
 
     ResultTable& table() const { return *dialog_->findChild<ResultTable*>(u"lookupTable"_qs); }
     QLineEdit& search() const { return *dialog_->findChild<QLineEdit*>(u"searchEdit"_qs); }

@@ -5,6 +5,7 @@
 #include "refhost/Languages.h"
 #include "refhost/tables/ResultModel.h"
 #include "refhost/tables/ResultTable.h"
+#include "tests/refhost/FocusedWidget.h"
 #include "tests/refhost/ScreenRows.h"
 #include "tests/support/RecordingHost.h"
 
@@ -75,7 +76,7 @@ protected:
     QLineEdit& search() const { return *screen().findChild<QLineEdit*>(u"searchEdit"_qs); }
     QString linesTitle() const { return screen().findChild<QLabel*>(u"linesTitle"_qs)->text(); }
     static void press(int key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
+        QTest::keyClick(focusedWidget(), static_cast<Qt::Key>(key), modifiers);
     }
 
     RecordingHost host_;
@@ -119,7 +120,7 @@ TEST_F(MainWindowTest, MovingSidewaysReadsNothing) {
 TEST_F(MainWindowTest, TypingInTheDocumentsSearchesAndEscapeShowsThemAllAgain) {
     open();
 
-    QTest::keyClicks(QApplication::focusWidget(), u"capek"_qs); // the first key moves the cursor to the search line
+    QTest::keyClicks(focusedWidget(), u"capek"_qs); // the first key moves the cursor to the search line
     EXPECT_EQ(search().text(), u"capek");
     EXPECT_EQ(shownDocuments().rowCount(), 1);
     EXPECT_EQ(linesTitle(), u"Položky dokladu DL-10");
