@@ -12,7 +12,6 @@ constexpr int c_SmallestSection = 5; ///< A column dragged narrower could not be
 
 GridHeader::GridHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
     setSectionsMovable(true);
-    setSectionsClickable(false); // a click would make the first cell of the column current
     setHighlightSections(false);
     setSectionResizeMode(QHeaderView::Interactive);
     setMinimumSectionSize(c_SmallestSection);

@@ -133,6 +133,8 @@ TEST_F(ButtonsTest, ASpeedButtonLeavesTheFocusWhereItWas) {
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_TRUE(editHadFocus);
     EXPECT_TRUE(edit->hasFocus());
+    QTest::keyClick(edit, Qt::Key_Tab); // there is no other control that takes the focus
+    EXPECT_TRUE(edit->hasFocus());
 }
 
 TEST_F(ButtonsTest, AnErrorInASpeedButtonsHandlerIsShown) {

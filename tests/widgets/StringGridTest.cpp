@@ -113,6 +113,15 @@ TEST_F(StringGridTest, DraggingAHeaderMovesTextsAndWidthAndTellsOnce) {
     EXPECT_TRUE(sectionsStandInOrder());
 }
 
+TEST_F(StringGridTest, AReleaseIsToldAfterWhatTheDragDid) {
+    show();
+    std::vector<std::string> told;
+    QObject::connect(&grid, &TStringGrid::ColumnMoved, &grid, [&] { told.emplace_back("moved"); });
+    QObject::connect(&grid, &TStringGrid::MouseUp, &grid, [&] { told.emplace_back("released " + headerText()); });
+    dragHeader(headerCenter(1), headerCenter(2) + QPoint(20, 0));
+    EXPECT_THAT(told, ElementsAre("moved", "released B:150|A:100|C:200"));
+}
+
 TEST_F(StringGridTest, DraggingAHeaderBackMovesItBack) {
     show();
     dragHeader(headerCenter(1), headerCenter(3) + QPoint(20, 0));
