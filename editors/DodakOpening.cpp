@@ -18,9 +18,9 @@ void Init(DodakOpening& opening) {
     opening.UserName = initialisation.FieldByName("UZIVATEL").AsString();
     opening.LocalVat = initialisation.FieldByName("DPHBLIC").AsInteger() == 1;
     initialisation.Resume();
-    opening.Lists->VatRates = ReadVatRates(initialisation);
+    opening.Lists->VatRates = FillDPHList(initialisation);
     initialisation.Resume();
-    opening.Lists->Warehouses = ReadWarehouses();
+    opening.Lists->Warehouses = FillSkladList();
 }
 
 } // namespace
@@ -41,11 +41,11 @@ DodakOpening OpenDodak(const AnsiString& editType, int dodkId, int dodvId) {
     return opening;
 }
 
-std::vector<AnsiString> ReadVatRates(TLiveStoredProc& initialisation) {
+std::vector<AnsiString> FillDPHList(TLiveStoredProc& initialisation) {
     return ReadTexts(initialisation, "NAZEV");
 }
 
-std::vector<AnsiString> ReadWarehouses() {
+std::vector<AnsiString> FillSkladList() {
     TLiveQuery warehouses("select NAZEV from SKLAD_V order by NAZEV");
     warehouses.LiveOpen();
     return ReadTexts(warehouses, "NAZEV");
