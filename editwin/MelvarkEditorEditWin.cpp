@@ -102,7 +102,6 @@ void TEditBox::ConnectEditors() {
     FButtonEvents.Watch(*CancelBtn);
     FFurtherButtonEvents.Watch(*OKDalsiBtn);
     OkBtn->SetOnClick([this](TObject* sender) { OkBtnClick(sender); });
-    CancelBtn->SetOnClick([this](TObject* sender) { CancelBtnClick(sender); });
 }
 
 void TEditBox::ConnectGrid() {
@@ -268,10 +267,6 @@ void TEditBox::OkBtnClick(TObject*) {
     SetModalResult(0);
     if (HideEditor() && SaveData())
         SetModalResult(c_ResultOk);
-}
-
-void TEditBox::CancelBtnClick(TObject*) {
-    FKeeper.DropEditor();
 }
 
 bool TEditBox::EditorKeyDown(TControl*, const QKeyEvent& event) {

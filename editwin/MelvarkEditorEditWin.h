@@ -111,7 +111,6 @@ public:
 
     // Event handlers, named after control and event.
     void OkBtnClick(TObject* Sender);
-    void CancelBtnClick(TObject* Sender);
     bool EditorKeyDown(TControl* Sender, const QKeyEvent& event);
     bool EditorKeyPress(TControl* Sender, const QKeyEvent& event);
     void EditorExit(TControl* Sender);

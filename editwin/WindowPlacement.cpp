@@ -32,27 +32,30 @@ void WindowPlacementKeeper::Load() {
 
 void WindowPlacementKeeper::Save() const {
     const QRect rect = NormalRect();
+    const Qt::WindowStates state = FForm.windowState();
+    const bool isMaximized = state.testFlag(Qt::WindowMaximized) && !state.testFlag(Qt::WindowMinimized);
     TLiveStoredProc proc("MELVARKEDITORNASTAVENIUlozNastaveniOkna");
     proc.ParamByName("a_TYPEDITACE").SetAsInteger(FEditType);
-    proc.ParamByName("a_DATA").SetAsString(WriteWindowPlacement(
-        {rect.x(), rect.y(), rect.width(), rect.height(), FForm.windowState().testFlag(Qt::WindowMaximized)}));
+    proc.ParamByName("a_DATA").SetAsString(
+        WriteWindowPlacement({rect.x(), rect.y(), rect.width(), rect.height(), isMaximized}));
     proc.Exec(false);
 }
 
 /// The toolkit's normal geometry is wrong for one state only: a maximised window that was minimised.
 QRect WindowPlacementKeeper::NormalRect() const {
-    const Qt::WindowStates state = FForm.windowState();
-    if (state.testFlag(Qt::WindowMaximized) && state.testFlag(Qt::WindowMinimized) && FRectBeforeMaximizing.isValid())
-        return FRectBeforeMaximizing;
-    return FForm.normalGeometry();
+    return FForm.isMinimized() && FRectBeforeMaximizing.isValid() ? FRectBeforeMaximizing : FForm.normalGeometry();
 }
 
 bool WindowPlacementKeeper::eventFilter(QObject*, QEvent* event) {
-    if (event->type() == QEvent::WindowStateChange) {
-        const Qt::WindowStates before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
-        if (FForm.windowState() == Qt::WindowMaximized && !before.testFlag(Qt::WindowMinimized))
-            FRectBeforeMaximizing = FForm.normalGeometry();
-    }
+    if (event->type() != QEvent::WindowStateChange)
+        return false;
+    // On the way into and out of the task bar the state passes through others that mean nothing.
+    if (static_cast<QWindowStateChangeEvent*>(event)->oldState().testFlag(Qt::WindowMinimized))
+        return false;
+    if (FForm.windowState() == Qt::WindowMaximized)
+        FRectBeforeMaximizing = FForm.normalGeometry();
+    else if (FForm.windowState() == Qt::WindowNoState)
+        FRectBeforeMaximizing = QRect();
     return false;
 }
 

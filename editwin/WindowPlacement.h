@@ -30,7 +30,7 @@ private:
 
     TForm& FForm;
     std::int32_t FEditType;
-    QRect FRectBeforeMaximizing;
+    QRect FRectBeforeMaximizing; ///< Null unless the form is maximised, or was when it was minimised.
 };
 
 } // namespace melvark

@@ -337,13 +337,13 @@ TEST_F(EditBoxOnDisplay, AMaximisedWindowThatIsMinimisedStillStoresItsNormalRect
     ASSERT_TRUE(QTest::qWaitFor([&] { return form->geometry() == QRect(120, 130, 900, 500); }));
     form->setWindowState(Qt::WindowMaximized);
     ASSERT_TRUE(QTest::qWaitFor([&] { return form->isMaximized() && form->width() > 1500; }));
-    form->showMinimized();
+    form->setWindowState(Qt::WindowMinimized);
     ASSERT_TRUE(QTest::qWaitFor([&] { return form->isMinimized(); }));
     form->close();
     const auto stores = host.connection.callsOf("MELVARKEDITORNASTAVENIUlozNastaveniOkna");
     ASSERT_EQ(stores.size(), 1U);
     EXPECT_THAT(stores.back(), testing::HasSubstr("<left>120</left><top>130</top><width>900</width>"
-                                                  "<height>500</height>"));
+                                                  "<height>500</height><maximized>0</maximized>"));
 }
 
 TEST_F(EditBoxOnDisplay, AWindowDoesNotCreepFromOneUseToTheNext) {

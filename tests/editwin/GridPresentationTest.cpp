@@ -49,6 +49,14 @@ TEST_F(GridPresentation, AStoreWithoutRowsShowsOneEmptyRow) {
     EXPECT_EQ(rowText(1), "|||||||");
 }
 
+TEST_F(GridPresentation, AStoreThatWasNeverSizedShowsOneEmptyRowToo) {
+    TEditBox plain(nullptr, &manager, 30, "ZKOUSKA", 2, "SABLONA", "novak", testColumns(log));
+    ASSERT_EQ(plain.DataGrid().GetRowCount(), 0);
+    plain.show();
+    EXPECT_EQ(plain.StringGrid->RowCount(), 2);
+    EXPECT_EQ(plain.EditRow(), 1);
+}
+
 TEST_F(GridPresentation, AColumnOfTheHiddenTypeHasNeitherPlaceNorItem) {
     open();
     EXPECT_EQ(form->GetColumnByName("ID"), 0);
