@@ -45,7 +45,7 @@ begin
     select other.DODVID, nextval(pg_get_serial_sequence('melvark.dodobjednavka', 'id'))
     from (select (s.LINE).DODVID
           from pg_temp.ORDER_STAGED s
-          where (s.LINE).DODVID not in (select t.DODVID from pg_temp.ORDER_TARGET t where t.DODVID is not null)
+          where not exists (select from pg_temp.ORDER_TARGET t where t.DODVID is not distinct from (s.LINE).DODVID)
           group by (s.LINE).DODVID
           order by min(s.PLACE)) other;
 

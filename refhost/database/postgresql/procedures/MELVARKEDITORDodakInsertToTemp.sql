@@ -35,6 +35,7 @@ create function MELVARKEDITORDodakInsertToTemp(
 returns void
 language plpgsql as $$
 declare
+    discount numeric;
     staged DODAKPOL;
 begin
     perform refuse_closed_staging();
@@ -54,7 +55,7 @@ begin
     staged.DOBSID := note_line_order_line(typed(a_DOBSID), staged.SKLPID);
 
     staged.MNOZSTVI := coalesce(parse_number(typed(a_MNOZSTVI), 'Množství', 6), 0);
-    staged.SLEVA := parse_number(typed(a_SLEVA), 'Sleva', 2);
+    discount := parse_number(typed(a_SLEVA), 'Sleva', 2);
     staged.JEDNCENABSESLEVOU := parse_number(typed(a_JEDNCENABSL), 'Jednotková cena', 6);
     staged.JEDNDPHASESLEVOU := parse_number(typed(a_JEDNDPHASL), 'Jednotková cena', 6);
     staged.JEDNDPHBSESLEVOU := parse_number(typed(a_JEDNDPHBSL), 'Jednotková cena', 6);
@@ -71,7 +72,8 @@ begin
     staged.DPHABEZSLEVY := parse_number(typed(a_DPHA), 'Celková cena', 2);
     staged.DPHBBEZSLEVY := parse_number(typed(a_DPHB), 'Celková cena', 2);
     staged.CENASBEZSLEVY := parse_number(typed(a_CENAS), 'Celková cena', 2);
-    perform recalculation_discount(staged.SLEVA);
+    perform recalculation_discount(discount);
+    staged.SLEVA := discount;
     staged.TRVANLIVOST := parse_date(typed(a_TRVANLIVOST), 'Trvanlivost');
 
     if staged.MNOZSTVI <> 0 then
