@@ -197,8 +197,8 @@ int TEditBox::RowToDataGridRow(int row) const {
 }
 
 void TEditBox::InitGrid() {
-    LoadLastColumnsSettings();
     FEditing.Store.SetColCount(static_cast<int>(FEditing.Active.size()));
+    LoadLastColumnsSettings();
 }
 
 void TEditBox::InitColumns() {

@@ -84,6 +84,8 @@ public:
     TDataGrid& DataGrid() { return FEditing.Store; }
     const TDataGrid& DataGrid() const { return FEditing.Store; }
 
+    /// Sizes the store for the layout in force so far, at least one column, and then loads the last settings. Who fills
+    /// the store sizes it for its own columns.
     void InitGrid();
     void InitColumns();
     void ApplyColumnsSettingsToGrid();

@@ -28,6 +28,13 @@ TEST_F(EditBox, ItsConstructionAsksForTheListAndThenForTheDefaultSetting) {
     EXPECT_THAT(manager.localizedSections(), ElementsAre(R"(KORDAN30\MelvarkEditorEditWin)"));
 }
 
+TEST_F(EditBox, ItsStoreIsSizedForTheLayoutThatWasInForceBefore) {
+    TEditBox plain(nullptr, &manager, 30, "ZKOUSKA", 2, "SABLONA", "novak", testColumns(log));
+    EXPECT_EQ(plain.DataGrid().GetColCount(), 1) << "there was no layout before the first";
+    plain.InitGrid();
+    EXPECT_EQ(plain.DataGrid().GetColCount(), 10);
+}
+
 TEST_F(EditBox, ShowingItLoadsTheImagesAndThePlacement) {
     open();
     EXPECT_THAT(host.images(), ElementsAre("ENGINE/OK", "ENGINE/OKNEXT", "ENGINE/CANCEL"));
