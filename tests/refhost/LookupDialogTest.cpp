@@ -98,6 +98,7 @@ TEST_F(LookupDialogTest, ASearchThatMatchesNothingPicksNothing) {
     type("nikde");
 
     press(Qt::Key_Return);
+    QTest::mouseClick(dialog_->findChild<QPushButton*>(u"pickButton"_qs), Qt::LeftButton);
 
     EXPECT_TRUE(dialog_->isVisible());
     EXPECT_FALSE(dialog_->pick());
