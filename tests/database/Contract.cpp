@@ -1,0 +1,140 @@
+#include "tests/database/Contract.h"
+
+#include "host/Exceptions.h"
+#include "refhost/database/EmbeddedSql.h"
+#include "tests/database/ContractCompany.h"
+
+#include <algorithm>
+#include <map>
+
+namespace refhost {
+
+namespace {
+
+/// The tables, those first that others refer to.
+constexpr std::string_view c_Tables[] = {
+    "UZIVATEL",   "SKLAD",         "DODAVATEL",       "DPH",        "GLOBALPARAM",
+    "SKUPSPOL1",  "SKUPSPOL2",     "SKUPSPOL3",       "SKLADPOL",   "SKPL",
+    "DODCENIK",   "DODOBJEDNAVKA", "DODOBJPOL",       "DODAK",      "DODAKPOL",
+    "DODAKZDROJ", "DODOBJZDROJ",   "EDITORNASTAVENI", "EDITOROKNO", "EDITORNASTAVENIDEF",
+};
+
+std::string valueText(const TDbValue& value) {
+    if (const auto* number = std::get_if<std::int64_t>(&value))
+        return std::to_string(*number);
+    if (const auto* text = std::get_if<AnsiString>(&value))
+        return *text;
+    if (const auto* flag = std::get_if<bool>(&value))
+        return *flag ? "true" : "false";
+    if (const auto* number = std::get_if<double>(&value))
+        return "floating " + std::to_string(*number); // no result of the contract is one
+    return "-";
+}
+
+std::string tableText(const TResultTable& table, const Columns& columns) {
+    std::vector<std::size_t> shown;
+    for (std::size_t i = 0; i < table.Columns.size(); ++i)
+        if (columns.empty())
+            shown.push_back(i);
+    for (const std::string& column : columns)
+        shown.push_back(static_cast<std::size_t>(std::ranges::find(table.Columns, column) - table.Columns.begin()));
+    std::string text;
+    for (const std::vector<TDbValue>& row : table.Rows) {
+        text += text.empty() ? "" : "\n";
+        for (std::size_t i = 0; i < shown.size(); ++i)
+            text += (i == 0 ? "" : " | ") + valueText(row.at(shown[i]));
+    }
+    return text;
+}
+
+} // namespace
+
+std::string answer(Database& database, const std::string& procedure, const Parameters& parameters,
+                   const Columns& columns) {
+    try {
+        const TCallResult result = database.Execute({procedure, parameters, true});
+        std::string text;
+        for (std::size_t i = 0; i < result.Sets.size(); ++i)
+            text += (i == 0 ? "" : "\n\n") + tableText(result.Sets[i], i == 0 ? columns : Columns{});
+        for (const TDbParam& output : result.Outputs)
+            text += (text.empty() ? "" : "\n") + output.Name + " = " + valueText(output.Value);
+        return text;
+    } catch (const EDatabaseError& error) {
+        return error.Code() + " " + error.Message();
+    }
+}
+
+std::string outcome(Database& database, const std::string& procedure, const Parameters& parameters) {
+    try {
+        database.Execute({procedure, parameters, false});
+        return "accepted";
+    } catch (const EDatabaseError& error) {
+        return error.Code();
+    }
+}
+
+std::string rows(Database& database, const std::string& sql) {
+    try {
+        return tableText(database.Query(sql), {});
+    } catch (const EDatabaseError& error) {
+        return error.Code() + " " + error.Message();
+    }
+}
+
+TDbValue id(std::int64_t value) {
+    return value;
+}
+
+std::string digest(Database& database, const std::vector<std::string>& except) {
+    std::string text;
+    for (const std::string_view table : c_Tables) {
+        if (std::ranges::find(except, table) != except.end())
+            continue;
+        std::string content = tableText(database.Query("select * from " + std::string(table)), {});
+        std::vector<std::string> lines;
+        for (std::size_t start = 0; start <= content.size();) {
+            const std::size_t end = std::min(content.find('\n', start), content.size());
+            lines.push_back(content.substr(start, end - start));
+            start = end + 1;
+        }
+        std::ranges::sort(lines); // a table has no order of its own
+        text += std::string(table) + "\n";
+        for (const std::string& line : lines)
+            text += line + "\n";
+    }
+    return text;
+}
+
+std::vector<std::string> procedureNames() {
+    std::vector<std::string> names;
+    for (const SqlFile& file : sqliteFiles())
+        if (file.Path.starts_with("procedures/"))
+            names.emplace_back(sqlObjectName(file));
+    return names;
+}
+
+Database& Contract::sharedCompany() {
+    static std::map<Engine, std::unique_ptr<Database>> companies;
+    std::unique_ptr<Database>& database = companies[GetParam()];
+    if (!database)
+        database = ownCompany();
+    return *database;
+}
+
+std::unique_ptr<Database> Contract::ownCompany() {
+    std::unique_ptr<Database> database = newDatabase(GetParam());
+    addContractCompany(*database);
+    return database;
+}
+
+std::string Contract::ownCompanyUrl() {
+    std::string url = newDatabaseUrl(GetParam());
+    addContractCompany(*openAs(url, "novakova"));
+    return url;
+}
+
+std::string engineOf(const testing::TestParamInfo<Engine>& info) {
+    return engineName(info.param);
+}
+
+} // namespace refhost

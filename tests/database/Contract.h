@@ -1,0 +1,53 @@
+#pragma once
+
+#include "tests/database/Engines.h"
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace refhost {
+
+using Parameters = std::vector<TDbParam>;
+using Columns = std::vector<std::string>;
+
+/// What a call brought as one text, the same on every engine that keeps the contract: a line a row with its values
+/// parted by " | " and "-" for null, an empty line between two result sets, a line "a_X = 1" an output. A refusal is
+/// its code and its sentence. With `columns` only those of the first set are shown.
+std::string answer(Database& database, const std::string& procedure, const Parameters& parameters = {},
+                   const Columns& columns = {});
+
+/// Only the code of the refusal, "accepted" when there was none.
+std::string outcome(Database& database, const std::string& procedure, const Parameters& parameters = {});
+
+/// The rows of a reading statement in the same form.
+std::string rows(Database& database, const std::string& sql);
+
+/// An id as a parameter; the compiler would take a plain number for a flag.
+TDbValue id(std::int64_t value);
+
+/// Everything that the company's tables hold, to see that a call changed nothing. `except` are names of tables that it
+/// may change.
+std::string digest(Database& database, const std::vector<std::string>& except = {});
+
+/// The names of all procedures, by name.
+std::vector<std::string> procedureNames();
+
+/// A test of the contract, which runs on both engines on the company of ContractCompany.h.
+class Contract : public testing::TestWithParam<Engine> {
+protected:
+    /// A company that all tests of the program share: only for calls that change nothing.
+    static Database& sharedCompany();
+    /// A company of the test's own.
+    static std::unique_ptr<Database> ownCompany();
+    /// The address of such a company, for tests that open it more than once.
+    static std::string ownCompanyUrl();
+};
+
+inline constexpr Engine c_BothEngines[] = {Engine::SQLite, Engine::PostgreSQL};
+
+std::string engineOf(const testing::TestParamInfo<Engine>& info);
+
+} // namespace refhost
