@@ -11,8 +11,10 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -35,7 +37,8 @@ QAction* createAction(QObject* parent, const char16_t* name, const QString& text
 MainWindow::MainWindow(MainWindowParts parts) : parts_(std::move(parts)) {
     setObjectName(u"mainWindow");
     setWindowTitle(parts_.languages.label(texts::applicationTitle));
-    resize(c_startSize);
+    // A dense or small screen has less room than the first size wants; the window's frame needs some too.
+    resize(c_startSize.boundedTo(screen()->availableSize() * 0.9));
 
     auto* center = new QWidget(this);
     auto* layout = new QVBoxLayout(center);
@@ -44,6 +47,8 @@ MainWindow::MainWindow(MainWindowParts parts) : parts_(std::move(parts)) {
     tabs_ = new QTabWidget(center);
     tabs_->setObjectName(u"screens");
     tabs_->setDocumentMode(true);
+    tabs_->setAccessibleName(parts_.languages.label(texts::screens));
+    tabs_->tabBar()->setAccessibleName(tabs_->accessibleName()); // the bar is what has the focus
     layout->addWidget(tabs_, 1);
     setCentralWidget(center);
 
