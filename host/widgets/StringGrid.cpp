@@ -119,21 +119,9 @@ void TStringGrid::DeleteColumn(int col) {
     FModel->DeleteColumn(col);
 }
 
+/// The header takes the width along with the model's column.
 void TStringGrid::MoveColumn(int from, int to) {
-    const int first = std::min(from, to);
-    const int last = std::max(from, to);
-    if (first < 1 || last >= ColCount() || first == last)
-        return;
-    std::vector<int> widths;
-    for (int col = first; col <= last; ++col)
-        widths.push_back(ColWidths(col));
-    if (from < to)
-        std::rotate(widths.begin(), widths.begin() + 1, widths.end());
-    else
-        std::rotate(widths.begin(), widths.end() - 1, widths.end());
     FModel->MoveColumn(from, to);
-    for (int col = first; col <= last; ++col)
-        SetColWidths(col, widths[static_cast<std::size_t>(col - first)]);
 }
 
 int TStringGrid::ColWidths(int col) const {
@@ -330,7 +318,7 @@ void TStringGrid::HandleHeaderRelease(const QPoint& position) {
 }
 
 void TStringGrid::WantEditor() {
-    if (FEditorRequestQueued || !hasFocus())
+    if (FEditorRequestQueued)
         return;
     FEditorRequestQueued = true;
     QMetaObject::invokeMethod(

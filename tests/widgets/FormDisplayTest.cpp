@@ -42,7 +42,8 @@ TEST_F(FormOnDisplay, TheCloseKeyOfTheWindowManagerCancelsAModalForm) {
         EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
         realinput::key(QStringLiteral("Escape"));
         EXPECT_TRUE(form.isVisible()) << "Escape alone does not close";
-        realinput::key(QStringLiteral("alt+F4"));
+        EXPECT_TRUE(realinput::keyUntil(QStringLiteral("alt+F4"), [this] { return !form.isVisible(); }));
+        form.close();
     });
     EXPECT_EQ(form.ShowModal(), c_ResultCancel);
     EXPECT_THAT(form.events, ElementsAre("show", "close 2 visible"));
@@ -57,7 +58,8 @@ TEST_F(FormOnDisplay, ABoxInAClickHandlerStandsAboveTheFormAndTheFormClosesAfter
         ModalDriver box(QStringLiteral("MessageBox"), [this](QWidget& message) {
             EXPECT_TRUE(QTest::qWaitForWindowActive(&message));
             EXPECT_TRUE(form.isVisible()) << "the result is looked at after the handler";
-            realinput::key(QStringLiteral("n"));
+            EXPECT_TRUE(realinput::keyUntil(QStringLiteral("n"), [&] { return !message.isVisible(); }));
+            message.close();
         });
         answer = ApplicationMessageBox("Opravdu?", "Potvrzení", c_MessageBoxQuestion);
     });

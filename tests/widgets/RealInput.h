@@ -41,4 +41,16 @@ inline void key(const QString& name) {
     run({QStringLiteral("key"), name});
 }
 
+/// Presses the key until it had its effect: a key that comes while the window manager still hands the focus to a new
+/// window is lost, as it is for a user who types too early.
+template <class Condition>
+bool keyUntil(const QString& name, Condition condition) {
+    for (int attempt = 0; attempt < 10; ++attempt) {
+        key(name);
+        if (QTest::qWaitFor(condition, 500))
+            return true;
+    }
+    return false;
+}
+
 } // namespace realinput

@@ -3,6 +3,8 @@
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QShortcut>
+#include <QSignalSpy>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -60,6 +62,16 @@ TEST_F(ShortcutsTest, OtherAltKeysKeepTheirMeaning) {
     melvark::ClaimAltKeys(edit, {Qt::Key_C});
     QTest::keyClick(&edit, Qt::Key_P, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return check.isChecked(); })); // a shortcut presses the box visibly first
+}
+
+TEST_F(ShortcutsTest, AClaimedKeyWithoutAltKeepsItsMeaning) {
+    melvark::ClaimAltKeys(edit, {Qt::Key_F1});
+    QShortcut help(QKeySequence(Qt::Key_F1), &window);
+    QSignalSpy asked(&help, &QShortcut::activated);
+    QTest::keyClick(&edit, Qt::Key_F1);
+    EXPECT_EQ(asked.count(), 1);
+    QTest::keyClick(&edit, Qt::Key_F1, Qt::AltModifier);
+    EXPECT_EQ(edit.altKeys, QList<int>{Qt::Key_F1});
 }
 
 TEST_F(ShortcutsTest, ALetterWithoutAltIsTyped) {

@@ -83,6 +83,15 @@ TEST_F(StringGridTest, ACellOutOfViewHasNoRect) {
     EXPECT_EQ(grid.Col(), 0) << "scrolling makes nothing current";
 }
 
+TEST_F(StringGridTest, MakingTheCurrentCellCurrentAgainScrollsItBackIntoView) {
+    fill(3, 100);
+    show();
+    grid.SetCurrentCell(1, 2);
+    grid.ScrollToCell(1, 100);
+    grid.SetCurrentCell(1, 2);
+    EXPECT_FALSE(grid.CellRect(1, 2).isNull());
+}
+
 TEST_F(StringGridTest, WholeColumnsTakeTheirWidthsAlong) {
     grid.MoveColumn(1, 3);
     EXPECT_EQ(headerText(), "B:150|C:200|A:100");
