@@ -29,6 +29,7 @@ constexpr Sentence c_Sentences[] = {
 
 constexpr Sentence c_Other{"", "ML930", "Databáze „", "“ nemohla příkaz provést. Obraťte se na správce."};
 constexpr std::string_view c_LostLink = "08006";
+constexpr std::string_view c_WrongPassword = "28P01";
 
 EDatabaseError sentence(std::string_view sqlState, std::string_view database, const std::string& details) {
     const auto* found = std::ranges::find_if(
@@ -95,6 +96,11 @@ EPostgreSQLError openingError(std::string_view words, std::string_view database,
                                "“ není dostupný. Zkontrolujte jeho adresu a zda běží.",
                            "ML916", more),
             std::string(c_LostLink)};
+}
+
+EPostgreSQLError missingPasswordError(std::string_view database) {
+    return {sentence(c_WrongPassword, database, details(c_WrongPassword, "no password was given", {})),
+            std::string(c_WrongPassword)};
 }
 
 EPostgreSQLError lostLinkError(std::string_view database, std::string_view words, std::string_view statement) {

@@ -37,6 +37,9 @@ EPostgreSQLError statementError(const PGresult* result, std::string_view databas
 /// server's code in them.
 EPostgreSQLError openingError(std::string_view words, std::string_view database, std::string_view host);
 
+/// The error for a session that the server wants a password for, when the address has none.
+EPostgreSQLError missingPasswordError(std::string_view database);
+
 /// The error for a session whose link is gone.
 EPostgreSQLError lostLinkError(std::string_view database, std::string_view words, std::string_view statement);
 

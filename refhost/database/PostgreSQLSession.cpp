@@ -123,6 +123,8 @@ void PostgreSQLSession::open() {
         status = waitForLink(handle(), status, deadline) ? PQconnectPoll(handle()) : PGRES_POLLING_FAILED;
     if (status == PGRES_POLLING_FAILED) {
         const char* host = PQhost(handle());
+        if (PQconnectionNeedsPassword(handle()) == 1)
+            throw missingPasswordError(database_);
         throw openingError(PQerrorMessage(handle()), database_, host == nullptr ? "" : host);
     }
     setUp();

@@ -39,19 +39,23 @@ $$;
 -- Refuses a total that quantity times unit price does not give (ML052). Prices are rounded to their decimals, so that
 -- both may differ by that much.
 create function refuse_unbalanced_note_line(line DODAKPOL) returns void
-language sql as $$
-    select refuse('ML052', 'Celková cena ' || total_text(p.TOTAL) || ' položky „' || shown(i.NAZEV)
-                               || '“ neodpovídá množství ' || number_text(line.MNOZSTVI) || ' krát jednotkové ceně '
-                               || number_text(p.UNIT) || '. Opravte jednu z nich.')
-    from (values (1, line.JEDNCENABSESLEVOU, line.CENABSESLEVOU),
-                 (2, line.JEDNDPHASESLEVOU, line.DPHASESLEVOU),
-                 (3, line.JEDNDPHBSESLEVOU, line.DPHBSESLEVOU),
-                 (4, line.JEDNCENASSESLEVOU, line.CENASSESLEVOU),
-                 (5, line.JEDNCENABBEZSLEVY, line.CENABBEZSLEVY),
-                 (6, line.JEDNDPHABEZSLEVY, line.DPHABEZSLEVY),
-                 (7, line.JEDNDPHBBEZSLEVY, line.DPHBBEZSLEVY),
-                 (8, line.JEDNCENASBEZSLEVY, line.CENASBEZSLEVY)) p (ORDINAL, UNIT, TOTAL)
-    join SKLADPOL i on i.ID = line.SKLPID
-    where abs(line.MNOZSTVI * p.UNIT - p.TOTAL) > 0.02 + abs(line.MNOZSTVI) * 0.000002
-    order by p.ORDINAL
+language plpgsql as $$
+declare
+    unit_prices constant numeric[] := array[
+        line.JEDNCENABSESLEVOU, line.JEDNDPHASESLEVOU, line.JEDNDPHBSESLEVOU, line.JEDNCENASSESLEVOU,
+        line.JEDNCENABBEZSLEVY, line.JEDNDPHABEZSLEVY, line.JEDNDPHBBEZSLEVY, line.JEDNCENASBEZSLEVY];
+    totals constant numeric[] := array[
+        line.CENABSESLEVOU, line.DPHASESLEVOU, line.DPHBSESLEVOU, line.CENASSESLEVOU,
+        line.CENABBEZSLEVY, line.DPHABEZSLEVY, line.DPHBBEZSLEVY, line.CENASBEZSLEVY];
+    allowed constant numeric := 0.02 + abs(line.MNOZSTVI) * 0.000002;
+begin
+    for pair in 1..8 loop
+        if abs(line.MNOZSTVI * unit_prices[pair] - totals[pair]) > allowed then
+            perform refuse('ML052', 'Celková cena ' || total_text(totals[pair]) || ' položky „'
+                || (select shown(i.NAZEV) from SKLADPOL i where i.ID = line.SKLPID)
+                || '“ neodpovídá množství ' || number_text(line.MNOZSTVI) || ' krát jednotkové ceně '
+                || number_text(unit_prices[pair]) || '. Opravte jednu z nich.');
+        end if;
+    end loop;
+end
 $$;

@@ -3,29 +3,37 @@
 
 -- Refuses a supplier that does not exist (ML045); null is none and passes.
 create function refuse_unknown_supplier_name(name text) returns void
-language sql as $$
-    select refuse('ML045', 'Dodavatel „' || shown(name) || '“ neexistuje. Vyberte dodavatele ze seznamu.')
-    where name is not null and not exists (select from DODAVATEL v where v.JMENO = name)
+language plpgsql as $$
+begin
+    if name is not null and not exists (select from DODAVATEL v where v.JMENO = name) then
+        perform refuse('ML045', 'Dodavatel „' || shown(name) || '“ neexistuje. Vyberte dodavatele ze seznamu.');
+    end if;
+end
 $$;
 
 -- Refuses the first quantity without a unit (ML048), then the first unit that is not the item's or whose name and
--- identifier do not go together (ML047).
-create function refuse_wrong_unit(item integer, sent order_quantity[]) returns void
-language sql as $$
-    select refuse('ML048', 'Množství položky „' || shown(i.NAZEV)
-                               || '“ nemá jednotku. Množství vymažte, nebo vyberte položku, která tu jednotku má.')
-    from unnest(sent) q
-    join SKLADPOL i on i.ID = item
-    where q.MNOZSTVI <> 0 and q.SKPLID is null;
-
-    select refuse('ML047', 'Jednotka „' || shown(coalesce(q.JEDNOTKY, q.SKPLID)) || '“ nepatří k položce „'
-                               || shown(i.NAZEV) || '“. Načtěte řádek znovu.')
-    from unnest(sent) with ordinality q (MNOZSTVI, SKPLID, JEDNOTKY, SLOT)
-    join SKLADPOL i on i.ID = item
-    where coalesce(q.SKPLID, q.JEDNOTKY) is not null
-      and not exists (select
-                      from SKPL u
-                      where u.SKLPID = item and (q.SKPLID is null or u.ID = as_integer(q.SKPLID))
-                        and (q.JEDNOTKY is null or u.NAZEV = q.JEDNOTKY))
-    order by q.SLOT
+-- identifier do not go together (ML047). `item_name` is the name of the item with the identifier.
+create function refuse_wrong_unit(item integer, item_name text, sent order_quantity[]) returns void
+language plpgsql as $$
+declare
+    quantity order_quantity;
+begin
+    foreach quantity in array sent loop
+        if quantity.MNOZSTVI <> 0 and quantity.SKPLID is null then
+            perform refuse('ML048', 'Množství položky „' || shown(item_name)
+                || '“ nemá jednotku. Množství vymažte, nebo vyberte položku, která tu jednotku má.');
+        end if;
+    end loop;
+    foreach quantity in array sent loop
+        if coalesce(quantity.SKPLID, quantity.JEDNOTKY) is not null
+           and not exists (select
+                           from SKPL u
+                           where u.SKLPID = item
+                             and (quantity.SKPLID is null or u.ID = as_integer(quantity.SKPLID))
+                             and (quantity.JEDNOTKY is null or u.NAZEV = quantity.JEDNOTKY)) then
+            perform refuse('ML047', 'Jednotka „' || shown(coalesce(quantity.JEDNOTKY, quantity.SKPLID))
+                || '“ nepatří k položce „' || shown(item_name) || '“. Načtěte řádek znovu.');
+        end if;
+    end loop;
+end
 $$;

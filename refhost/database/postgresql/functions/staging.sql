@@ -6,12 +6,13 @@
 -- Whether the rows lie in tables of our own: whoever may make temporary tables could have made others of their names, with
 -- triggers that would run with our rights.
 create function has_own_staging() returns boolean
-language sql stable as $$
-    select count(*) = 3
-    from pg_catalog.pg_class c
-    join pg_catalog.pg_roles r on r.oid = c.relowner
-    where c.relnamespace = pg_my_temp_schema() and c.relname in ('note_staged', 'order_staged', 'order_target')
-      and r.rolname = current_user
+language plpgsql stable as $$
+begin
+    return (select count(*) = 3
+            from pg_catalog.pg_class c
+            where c.relnamespace = pg_my_temp_schema() and c.relname in ('note_staged', 'order_staged', 'order_target')
+              and c.relowner = current_user::regrole);
+end
 $$;
 
 -- Refuses a row or a closing call of a save that was not begun by emptying the rows (ML040) or whose earlier call was

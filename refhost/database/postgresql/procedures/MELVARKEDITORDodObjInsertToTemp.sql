@@ -49,7 +49,7 @@ begin
                    typed(a_SKPLIDV1), typed(a_JEDNOTKYV1));
     sent[2] := row(parse_number(typed(a_MNOZSTVIV2), 'Množství ve vedlejší jednotce 2', 6),
                    typed(a_SKPLIDV2), typed(a_JEDNOTKYV2));
-    perform refuse_wrong_unit(staged.SKLPID, sent);
+    perform refuse_wrong_unit(staged.SKLPID, typed(a_SKLADPOL), sent);
 
     for slot in 0..2 loop
         staged.MNOZSTVI := (sent[slot]).MNOZSTVI;
