@@ -22,6 +22,7 @@ inline constexpr HostText quit{"MELVARKHOST\\MAIN\\QUIT", "&Konec"};
 inline constexpr HostText insertLines{"MELVARKHOST\\MAIN\\INSERTLINES", "&Vložit položky"};
 inline constexpr HostText insertLinesHint{"MELVARKHOST\\MAIN\\INSERTLINESHINT",
                                           "Hromadně vloží položky do vybraného dokladu (F8)"};
+inline constexpr HostText screens{"MELVARKHOST\\MAIN\\SCREENS", "Obrazovky"};
 inline constexpr HostText search{"MELVARKHOST\\MAIN\\SEARCH", "&Hledat"};
 inline constexpr HostText userStatus{"MELVARKHOST\\MAIN\\USER", "Uživatel: %1"};
 inline constexpr HostText databaseStatus{"MELVARKHOST\\MAIN\\DATABASE", "Databáze: %1"};

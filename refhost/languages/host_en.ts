@@ -35,6 +35,10 @@
         <source>Hromadně vloží položky do vybraného dokladu (F8)</source>
         <translation>Inserts lines into the selected document in bulk (F8)</translation>
     </message>
+    <message id="MELVARKHOST\MAIN\SCREENS">
+        <source>Obrazovky</source>
+        <translation>Screens</translation>
+    </message>
     <message id="MELVARKHOST\MAIN\SEARCH">
         <source>&amp;Hledat</source>
         <translation>&amp;Search</translation>
