@@ -2,6 +2,7 @@
 
 #include "host/Exceptions.h"
 #include "refhost/Languages.h"
+#include "refhost/Refusals.h"
 
 #include <ostream>
 
@@ -24,8 +25,7 @@ std::string fillIn(const Languages& languages, const HostText& text, const std::
 ErrorReport describeDatabaseError(const EDatabaseError& error, const Languages& languages) {
     ErrorReport report{.sentence = error.Message(), .details = {}};
     if (!error.Code().empty()) {
-        const auto translated = languages.translation("MELVARKHOST\\REFUSAL\\" + error.Code(), error.Message());
-        if (translated) {
+        if (const auto translated = translateRefusal(error, languages)) {
             report.sentence = *translated;
             addLine(report.details, fillIn(languages, texts::errorOriginal, error.Message()));
         }

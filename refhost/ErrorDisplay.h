@@ -14,8 +14,8 @@ struct ErrorReport {
     std::string details; ///< Lines; empty when there is nothing to add.
 };
 
-/// Puts an exception into words. A database refusal with a code is shown in the user's language when the catalogues
-/// have a text for that code (key "MELVARKHOST\REFUSAL\" + code); its own sentence then goes to the details.
+/// Puts an exception into words. A database refusal is shown in the user's language when the catalogues have it
+/// (translateRefusal); its own sentence then goes to the details.
 ErrorReport describeError(const std::exception_ptr& error, const Languages& languages);
 
 /// Where errors are shown. The host has one of them.

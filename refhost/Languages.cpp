@@ -19,8 +19,8 @@ namespace {
 
 const QString c_builtInLanguage = QStringLiteral("cs");
 
-/// One catalogue for the host's own texts, one for those of the module.
-constexpr std::array c_catalogues{u"host", u"module"};
+/// One catalogue for the host's own texts, one for those of the module, one for the database's refusals.
+constexpr std::array c_catalogues{u"host", u"module", u"database"};
 
 std::unique_ptr<QTranslator> loadCatalogue(const QString& name) {
     auto translator = std::make_unique<QTranslator>();
