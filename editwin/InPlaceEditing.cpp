@@ -67,6 +67,7 @@ void InPlaceEditing::ShowEditor(int col, int row, Reach reach) {
         FSharedEdit->selectAll();
         FActive = FSharedEdit;
     }
+    FActive->setAccessibleName(ToQString(column->Caption));
     LayEditor();
     FActive->show();
     FActive->raise();

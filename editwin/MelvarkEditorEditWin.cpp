@@ -129,6 +129,11 @@ void TEditBox::ConnectMenus() {
     ConnectGuarded(ColumnsPopupMenu, &QMenu::aboutToShow, this, [this] { ColumnsPopupMenuPopup(ColumnsPopupMenu); });
 }
 
+void TEditBox::SetTitle(const AnsiString& text) {
+    SetCaption(text);
+    StringGrid->setAccessibleName(windowTitle());
+}
+
 void TEditBox::SetTopButtonPanelVisibility(bool visible) {
     TopPanel->setVisible(visible);
 }

@@ -51,7 +51,7 @@ public:
              std::span<const RColumn> columns);
     ~TEditBox() override;
 
-    void SetTitle(const AnsiString& text) { SetCaption(text); }
+    void SetTitle(const AnsiString& text);
     void SetTopButtonPanelVisibility(bool visible);
     bool GetPrepocetCen() const;
 
