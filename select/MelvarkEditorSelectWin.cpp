@@ -70,7 +70,7 @@ void TSelectBox::CreateControls() {
 }
 
 QLayout* TSelectBox::CreateMainPanel() {
-    lblSelect = new TLabel(this);
+    lblSelect = new TLabel(QStringLiteral("lblSelect"), this);
     lblSelect->setObjectName(QStringLiteral("lblSelect"));
     editSelect = new TEdit(this);
     editSelect->setObjectName(QStringLiteral("editSelect"));
@@ -80,6 +80,7 @@ QLayout* TSelectBox::CreateMainPanel() {
 
     SelectSpeedButton = new TQelPngSpeedButton(this);
     SelectSpeedButton->setObjectName(QStringLiteral("SelectSpeedButton"));
+    SelectSpeedButton->setToolTip(melvark::ToQString("Vybrat ze seznamu (F5)"));
     SelectSpeedButton->SetOnClick([this](TObject* sender) { SelectSpeedButtonClick(sender); });
 
     lblPrenest = new TLabel(melvark::ToQString("Přenést:"), this);
@@ -130,6 +131,7 @@ void TSelectBox::FormCreate() {
     FID = c_NullValue;
     editSelect->clear();
     Localize(FLibraryManager, "KORDAN30\\MelvarkEditorSelectWin");
+    SelectSpeedButton->setAccessibleName(SelectSpeedButton->toolTip()); // it has no caption
 }
 
 void TSelectBox::FormShow() {
