@@ -3,6 +3,7 @@
 <TS version="2.1" language="en" sourcelanguage="cs">
 <context>
     <name></name>
+    <!-- The framework's message box -->
     <message id="KORDAN30\MESSAGEBOX\OK">
         <source>OK</source>
         <translation>OK</translation>
@@ -15,9 +16,510 @@
         <source>&amp;Ne</source>
         <translation>&amp;No</translation>
     </message>
+    <!-- Messages -->
+    <message id="KORDAN30\MELVARKEDITOR\ERROR">
+        <source>Chyba</source>
+        <translation>Error</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\CONFIRMATION">
+        <source>Potvrzení</source>
+        <translation>Confirmation</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\NOTINTEGERVALUE">
+        <source>Hodnota %s není celé číslo</source>
+        <translation>The value %s is not a whole number</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\NOTFLOATVALUE">
+        <source>Hodnota %s není desetinné číslo</source>
+        <translation>The value %s is not a decimal number</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\NOTDATEVALUE">
+        <source>Hodnota %s není datum</source>
+        <translation>The value %s is not a date</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\INVALIDDISCOUNTVALUE">
+        <source>Neplatná hodnota slevy</source>
+        <translation>The discount is not valid</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\INVALIDEDITTYPE">
+        <source>Neplatný typ editace (%s)</source>
+        <translation>Unknown kind of editing (%s)</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\NEPLATNYTYPEDITACEDOKLADU">
+        <source>Nepodporovaný typ editace dokladu</source>
+        <translation>This kind of document cannot be edited here</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\EDITORNENIINSTALOVAN">
+        <source>Editor položek tohoto dokladu zatím není nainstalován</source>
+        <translation>The line editor of this document is not installed yet</translation>
+    </message>
+    <!-- The line editor -->
+    <message id="KORDAN30\MelvarkEditorEditWin\Form\Caption">
+        <source>Melvark - editor</source>
+        <translatorcomment>Shown only until the editor has its title.</translatorcomment>
+        <translation>Melvark – editor</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\DODAKAPPTITLE">
+        <source>Vložení položek dodacího listu</source>
+        <translation>Insert delivery note lines</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\NONE">
+        <source>Žádný vzor</source>
+        <translatorcomment>On the button of the column layouts when none is in force. It has little room.</translatorcomment>
+        <translation>No layout</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\gbPraceScenami\Caption">
+        <source> Způsob práce s cenami  </source>
+        <translation> Prices  </translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\chbPrepocetCen\Caption">
+        <source>&amp;po zadání hodnoty se ostatní údaje přepočítají</source>
+        <translatorcomment>The letter is P: Alt+P sets the box from every cell of the grid.</translatorcomment>
+        <translation>&amp;prices and totals are recalculated after each entry</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\lblWarning\Caption">
+        <source>Upozornění: pokud se hodnoty nepřepočítávají automaticky, data nelze uložit, pokud cena za jednotkové množství vynásobená množstvím není rovna celkové ceně položky!</source>
+        <translation>Please note: without recalculation, lines can only be saved when the unit price times the quantity equals the line total!</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\OkBtn\Caption">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\OKDalsiBtn\Caption">
+        <source>OK+Další</source>
+        <translation>OK+Next</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\CancelBtn\Caption">
+        <source>&amp;Zrušit</source>
+        <translatorcomment>Not the letter C: Alt+C switches the recalculation off in the cells of the grid.</translatorcomment>
+        <translation>Ca&amp;ncel</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\MenuBtn\Caption">
+        <source>---</source>
+        <translatorcomment>Shown only until the button has the name of a layout.</translatorcomment>
+        <translation>---</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\NadpisVlastnostiSloupce\Caption">
+        <source>Nadpis a vlastnosti sloupce</source>
+        <translation>Column heading and properties</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\SkrytSloupec\Caption">
+        <source>Skrýt sloupec</source>
+        <translation>Hide column</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\EditovatelnySloupecAutomaticky\Caption">
+        <source>Editovatelný - automaticky</source>
+        <translation>Editable – Enter stops here</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\EditovatelnySloupecVyberem\Caption">
+        <source>Editovatelný - výběrem</source>
+        <translation>Editable – when selected</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\NeeditovatelnySloupec\Caption">
+        <source>Needitovatelný</source>
+        <translation>Not editable</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\SkryteSloupce\Caption">
+        <source>Skryté sloupce</source>
+        <translation>Hidden columns</translation>
+    </message>
+    <!-- The line editor's columns: caption and hint -->
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNSKUPSPOL1">
+        <source>Skup.sklad.pol.1</source>
+        <translation>Stock group 1</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTSKUPSPOL1">
+        <source>Skupina skladových položek 1</source>
+        <translation>Stock group, level 1</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNSKUPSPOL2">
+        <source>Skup.sklad.pol.2</source>
+        <translation>Stock group 2</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTSKUPSPOL2">
+        <source>Skupina skladových položek 2</source>
+        <translation>Stock group, level 2</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNSKUPSPOL3">
+        <source>Skup.sklad.pol.3</source>
+        <translation>Stock group 3</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTSKUPSPOL3">
+        <source>Skupina skladových položek 3</source>
+        <translation>Stock group, level 3</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNSKLADPOL">
+        <source>Skladová položka</source>
+        <translation>Stock item</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTSKLADPOL">
+        <source>Název skladové položky</source>
+        <translation>Name of the stock item</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNSKLAD">
+        <source>Sklad</source>
+        <translation>Warehouse</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTSKLAD">
+        <source>Sklad</source>
+        <translation>Warehouse</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNMNOZSTVI">
+        <source>Množství</source>
+        <translation>Quantity</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTMNOZSTVI">
+        <source>Množství</source>
+        <translation>Quantity</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNDPH">
+        <source>Sazba DPH</source>
+        <translation>VAT rate</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTDPH">
+        <source>Sazba DPH</source>
+        <translation>VAT rate</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNSLEVA">
+        <source>Sleva</source>
+        <translation>Discount</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTSLEVA">
+        <source>Sleva v procentech</source>
+        <translation>Discount in per cent</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENABEZDPHSESLEVOU">
+        <source>Jedn.cena bez DPH se sl.</source>
+        <translation>Unit price excl. VAT after disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENABEZDPHSESLEVOU">
+        <source>Cena bez DPH se slevou za jednotku množství</source>
+        <translation>Price excluding VAT after discount, per unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENADPHASESLEVOU">
+        <source>Jedn.DPH se sl.</source>
+        <translation>Unit VAT after disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENADPHASESLEVOU">
+        <source>DPH ceny se slevou za jednotku množství</source>
+        <translation>VAT on the price after discount, per unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENADPHBSESLEVOU">
+        <source>Jedn.místní DPH se sl.</source>
+        <translation>Unit local VAT after disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENADPHBSESLEVOU">
+        <source>Místní DPH ceny se slevou za jednotku množství</source>
+        <translation>Local VAT on the price after discount, per unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENASDPHSESLEVOU">
+        <source>Jedn.cena s DPH se sl.</source>
+        <translation>Unit price incl. VAT after disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENASDPHSESLEVOU">
+        <source>Cena s DPH se slevou za jednotku množství</source>
+        <translation>Price including VAT after discount, per unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENABEZDPHBEZSLEVY">
+        <source>Jedn.cena bez DPH bez sl.</source>
+        <translation>Unit price excl. VAT before disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENABEZDPHBEZSLEVY">
+        <source>Cena bez DPH bez slevy za jednotku množství</source>
+        <translation>Price excluding VAT before discount, per unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENADPHABEZSLEVY">
+        <source>Jedn.DPH bez sl.</source>
+        <translation>Unit VAT before disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENADPHABEZSLEVY">
+        <source>DPH ceny bez slevy za jednotku množství</source>
+        <translation>VAT on the price before discount, per unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENADPHBBEZSLEVY">
+        <source>Jedn.místní DPH bez sl.</source>
+        <translation>Unit local VAT before disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENADPHBBEZSLEVY">
+        <source>Místní DPH ceny bez slevy za jednotku množství</source>
+        <translation>Local VAT on the price before discount, per unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENASDPHBEZSLEVY">
+        <source>Jedn.cena s DPH bez sl.</source>
+        <translation>Unit price incl. VAT before disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENASDPHBEZSLEVY">
+        <source>Cena s DPH bez slevy za jednotku množství</source>
+        <translation>Price including VAT before discount, per unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNCENABEZDPHSESLEVOU">
+        <source>Cena bez DPH se sl.</source>
+        <translation>Total excl. VAT after disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENABEZDPHSESLEVOU">
+        <source>Cena bez DPH se slevou za celkové množství</source>
+        <translation>Total price excluding VAT after discount</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNCENADPHASESLEVOU">
+        <source>DPH se sl.</source>
+        <translation>VAT after disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENADPHASESLEVOU">
+        <source>DPH ceny se slevou za celkové množství</source>
+        <translation>VAT on the total price after discount</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNCENADPHBSESLEVOU">
+        <source>Místní DPH se sl.</source>
+        <translation>Local VAT after disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENADPHBSESLEVOU">
+        <source>Místní DPH ceny se slevou za celkové množství</source>
+        <translation>Local VAT on the total price after discount</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNCENASDPHSESLEVOU">
+        <source>Cena s DPH se sl.</source>
+        <translation>Total incl. VAT after disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENASDPHSESLEVOU">
+        <source>Cena s DPH se slevou za celkové množství</source>
+        <translation>Total price including VAT after discount</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNCENABEZDPHBEZSLEVY">
+        <source>Cena bez DPH bez sl.</source>
+        <translation>Total excl. VAT before disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENABEZDPHBEZSLEVY">
+        <source>Cena bez DPH bez slevy za celkové množství</source>
+        <translation>Total price excluding VAT before discount</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNCENADPHABEZSLEVY">
+        <source>DPH bez sl.</source>
+        <translation>VAT before disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENADPHABEZSLEVY">
+        <source>DPH ceny bez slevy za celkové množství</source>
+        <translation>VAT on the total price before discount</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNCENADPHBBEZSLEVY">
+        <source>Místní DPH bez sl.</source>
+        <translation>Local VAT before disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENADPHBBEZSLEVY">
+        <source>Místní DPH ceny bez slevy za celkové množství</source>
+        <translation>Local VAT on the total price before discount</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNCENASDPHBEZSLEVY">
+        <source>Cena s DPH bez sl.</source>
+        <translation>Total incl. VAT before disc.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENASDPHBEZSLEVY">
+        <source>Cena s DPH bez slevy za celkové množství</source>
+        <translation>Total price including VAT before discount</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNTRVANLIVOST">
+        <source>Trvanlivost</source>
+        <translation>Best before</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTTRVANLIVOST">
+        <source>Trvanlivost</source>
+        <translation>Best before</translation>
+    </message>
+    <!-- The dialog in which the source is named -->
+    <message id="KORDAN30\MelvarkEditorSelectWin\Form\Caption">
+        <source>Výběr</source>
+        <translation>Selection</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSelectWin\lblSelect\Caption">
+        <source>lblSelect</source>
+        <translatorcomment>Never seen: every use of the dialog replaces it.</translatorcomment>
+        <translation>lblSelect</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSelectWin\SelectSpeedButton\Hint">
+        <source>Vybrat ze seznamu (F5)</source>
+        <translation>Pick from the list (F5)</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSelectWin\lblPrenest\Caption">
+        <source>Přenést:</source>
+        <translation>Transfer:</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSelectWin\chbMnozstvi\Caption">
+        <source>množství</source>
+        <translation>quantities</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSelectWin\chbCeny\Caption">
+        <source>ceny</source>
+        <translation>prices</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSelectWin\OkBtn\Caption">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
     <message id="KORDAN30\MelvarkEditorSelectWin\CancelBtn\Caption">
         <source>&amp;Zrušit</source>
         <translation>&amp;Cancel</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\ORDERSELECTION">
+        <source>Výběr objednávky</source>
+        <translation>Select an order</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\ORDERNUMBER">
+        <source>Číslo objednávky:</source>
+        <translation>Order number:</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\DELIVERYNOTESELECTION">
+        <source>Výběr dodacího listu</source>
+        <translation>Select a delivery note</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\DELIVERYNOTENUMBER">
+        <source>Číslo dodacího listu:</source>
+        <translation>Delivery note number:</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\ORDERPATTERNSELECTION">
+        <source>Výběr vzoru objednávky</source>
+        <translation>Select an order template</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\ORDERPATTERNNUMBER">
+        <source>Číslo vzoru objednávky:</source>
+        <translation>Order template number:</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\SUPPLIERSELECTION">
+        <source>Výběr dodavatele</source>
+        <translation>Select a supplier</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\SUPPLIERNAME">
+        <source>Jméno dodavatele:</source>
+        <translation>Supplier name:</translation>
+    </message>
+    <!-- Ways to fill a delivery note -->
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYDODAKUNAZAKLADEOBJEDNAVKY">
+        <source>Vložit položky na základě objednávky</source>
+        <translation>Insert lines from an order</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYDODAKUNAZAKLADEOBJEDNAVKYHINT">
+        <source>Zobrazí editor položek dodacího listu a seznam předvyplní položkami z objednávky, kterou si uživatel zvolí v editoru</source>
+        <translation>Opens the delivery note line editor and fills it with the lines of an order that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYDODAKUNAZAKLADEDODAKU">
+        <source>Vložit položky na základě dodacího listu</source>
+        <translation>Insert lines from a delivery note</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYDODAKUNAZAKLADEDODAKUHINT">
+        <source>Zobrazí editor položek dodacího listu a seznam předvyplní položkami z dodacího listu, který si uživatel zvolí v editoru</source>
+        <translation>Opens the delivery note line editor and fills it with the lines of a delivery note that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYDODAKUNAZAKLADEMELVARK">
+        <source>Vložit položky pomocí šablony dodacího listu</source>
+        <translation>Insert lines from the latest delivery notes</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYDODAKUNAZAKLADEMELVARKHINT">
+        <source>Zobrazí editor položek dodacího listu a seznam předvyplní položkami z posledních dodacích listů</source>
+        <translation>Opens the delivery note line editor and fills it with the lines of the supplier’s latest delivery notes</translation>
+    </message>
+    <!-- Ways to fill a supplier order. The last two share their keys on purpose and are told apart by their Czech text. -->
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJNAZAKLADEOBJEDNAVKY">
+        <source>Vložit položky z objednávky</source>
+        <translation>Insert lines from an order</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJNAZAKLADEOBJEDNAVKYHINT">
+        <source>Zobrazí editor položek objednávky a seznam předvyplní položkami z objednávky, kterou si uživatel zvolí v editoru</source>
+        <translation>Opens the order line editor and fills it with the lines of an order that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJNAZAKLADEVZORUOBJEDNAVKY">
+        <source>Vložit položky ze vzoru objednávky</source>
+        <translation>Insert lines from an order template</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJNAZAKLADEVZORUOBJEDNAVKYHINT">
+        <source>Zobrazí editor položek objednávky a seznam předvyplní položkami ze vzoru objednávky, který si uživatel zvolí v editoru</source>
+        <translation>Opens the order line editor and fills it with the lines of an order template that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJNAZAKLADEDODAKU">
+        <source>Vložit položky z dodacího listu</source>
+        <translation>Insert lines from a delivery note</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJNAZAKLADEDODAKUHINT">
+        <source>Zobrazí editor položek objednávky a seznam předvyplní položkami z dodacího listu, který si uživatel zvolí v editoru</source>
+        <translation>Opens the order line editor and fills it with the lines of a delivery note that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJNAZAKLADEMELVARK">
+        <source>Vložit položky pomocí šablony objednávky</source>
+        <translation>Insert lines from the latest orders</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJNAZAKLADEMELVARKHINT">
+        <source>Zobrazí editor položek objednávky a seznam předvyplní položkami z posledních objednávek</source>
+        <translation>Opens the order line editor and fills it with the lines of the supplier’s latest orders</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJDLESKUPSKLADPOL">
+        <source>Vložit položky dle skupin skladových položek</source>
+        <translation>Insert lines by stock groups</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJDLESKUPSKLADPOLHINT">
+        <source>Zobrazí editor položek objednávky a seznam předvyplní položkami zadaných skupin skladových položek, které si uživatel zvolí v editoru</source>
+        <translation>Opens the order line editor and fills it with the items of stock groups that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJDLEDLESKUPSKLADPOL|Vložit položky dle ceníku dodavatele">
+        <source>Vložit položky dle ceníku dodavatele</source>
+        <translation>Insert lines from a supplier’s price list</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJDLEDLESKUPSKLADPOLHINT|Zobrazí editor položek objednávky a seznam předvyplní skladovými položkami na které má vazbu zvolený dodavatel dle data a času objednání">
+        <source>Zobrazí editor položek objednávky a seznam předvyplní skladovými položkami na které má vazbu zvolený dodavatel dle data a času objednání</source>
+        <translation>Opens the order line editor and fills it with the items that the chosen supplier lists at the order’s date and time</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJDLEDLESKUPSKLADPOL|Vložit položky dle dodávek dodavatele">
+        <source>Vložit položky dle dodávek dodavatele</source>
+        <translation>Insert lines from a supplier’s deliveries</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJDLEDLESKUPSKLADPOLHINT|Zobrazí editor položek objednávky a seznam předvyplní skladovými položkami z dodacích listů zvoleného dodavatele za období nastavené v globálním parametru">
+        <source>Zobrazí editor položek objednávky a seznam předvyplní skladovými položkami z dodacích listů zvoleného dodavatele za období nastavené v globálním parametru</source>
+        <translation>Opens the order line editor and fills it with the items of the chosen supplier’s delivery notes within the period set for the company</translation>
+    </message>
+    <!-- Ways to fill an order template. Two pairs share their keys on purpose and are told apart by their Czech text. -->
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUNAZAKLADEOBJEDNAVKY|Vložit položky z objednávky">
+        <source>Vložit položky z objednávky</source>
+        <translation>Insert lines from an order</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUNAZAKLADEOBJEDNAVKYHINT|Zobrazí editor položek vzoru objednávky a seznam předvyplní položkami z objednávky, kterou si uživatel zvolí v editoru">
+        <source>Zobrazí editor položek vzoru objednávky a seznam předvyplní položkami z objednávky, kterou si uživatel zvolí v editoru</source>
+        <translation>Opens the order template line editor and fills it with the lines of an order that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUNAZAKLADEOBJEDNAVKY|Vložit položky ze vzoru objednávky">
+        <source>Vložit položky ze vzoru objednávky</source>
+        <translation>Insert lines from an order template</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUNAZAKLADEOBJEDNAVKYHINT|Zobrazí editor položek vzoru objednávky a seznam předvyplní položkami ze vzoru objednávky, který si uživatel zvolí v editoru">
+        <source>Zobrazí editor položek vzoru objednávky a seznam předvyplní položkami ze vzoru objednávky, který si uživatel zvolí v editoru</source>
+        <translation>Opens the order template line editor and fills it with the lines of an order template that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUNAZAKLADEDODAKU">
+        <source>Vložit položky z dodacího listu</source>
+        <translation>Insert lines from a delivery note</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUNAZAKLADEDODAKUHINT">
+        <source>Zobrazí editor položek vzoru objednávky a seznam předvyplní položkami z dodacího listu, který si uživatel zvolí v editoru</source>
+        <translation>Opens the order template line editor and fills it with the lines of a delivery note that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUDLESKUPSKLADPOL|Vložit položky dle skupin skladových položek">
+        <source>Vložit položky dle skupin skladových položek</source>
+        <translation>Insert lines by stock groups</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUDLESKUPSKLADPOLHINT|Zobrazí editor položek vzoru objednávky a seznam předvyplní položkami zadaných skupin skladových položek, které si uživatel zvolí v editoru">
+        <source>Zobrazí editor položek vzoru objednávky a seznam předvyplní položkami zadaných skupin skladových položek, které si uživatel zvolí v editoru</source>
+        <translation>Opens the order template line editor and fills it with the items of stock groups that you choose there</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUDLESKUPSKLADPOL|Vložit položky dle ceníku dodavatele">
+        <source>Vložit položky dle ceníku dodavatele</source>
+        <translation>Insert lines from a supplier’s price list</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUDLESKUPSKLADPOLHINT|Zobrazí editor položek vzoru objednávky a seznam předvyplní skladovými položkami na které má vazbu zvolený dodavatel v aktuálni datum a čas">
+        <source>Zobrazí editor položek vzoru objednávky a seznam předvyplní skladovými položkami na které má vazbu zvolený dodavatel v aktuálni datum a čas</source>
+        <translation>Opens the order template line editor and fills it with the items that the chosen supplier lists at the current date and time</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUDLESKUPSKLADPOL|Vložit položky dle dodávek dodavatele">
+        <source>Vložit položky dle dodávek dodavatele</source>
+        <translation>Insert lines from a supplier’s deliveries</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VLOZPOLOZKYVZORUDLESKUPSKLADPOLHINT|Zobrazí editor položek vzoru objednávky a seznam předvyplní skladovými položkami z dodacích listů zvoleného dodavatele za období nastavené v globálním parametru">
+        <source>Zobrazí editor položek vzoru objednávky a seznam předvyplní skladovými položkami z dodacích listů zvoleného dodavatele za období nastavené v globálním parametru</source>
+        <translation>Opens the order template line editor and fills it with the items of the chosen supplier’s delivery notes within the period set for the company</translation>
     </message>
 </context>
 </TS>

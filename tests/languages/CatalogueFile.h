@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+#include <set>
+#include <string>
+#include <vector>
+
+/// One text of a catalogue's source file: its id ("KEY", or "KEY|built-in text" for entries that share a key), the
+/// Czech text and the translation.
+struct CatalogueEntry {
+    std::string id;
+    std::string source;
+    std::string translation;
+};
+
+/// The entries of refhost/languages/<name>.ts in their order. A file that cannot be read fails the running test.
+std::vector<CatalogueEntry> readCatalogue(const QString& name);
+
+/// The places for values in a text: %s, %d, %f, %m, %1 …, and %% for a per cent sign that survives formatting.
+std::multiset<std::string> placeholders(const std::string& text);

@@ -1,0 +1,62 @@
+#include "refhost/Languages.h"
+#include "refhost/Refusals.h"
+#include "tests/languages/CatalogueFile.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <regex>
+#include <sstream>
+
+namespace {
+
+const std::string c_keyStart = "MELVARKHOST\\REFUSAL\\";
+
+std::string codeOf(const CatalogueEntry& entry) {
+    return entry.id.substr(c_keyStart.size(), std::string("ML000").size());
+}
+
+/// Every refusal code that stands in the database's sources, in code or comment.
+std::set<std::string> codesOfTheDatabase() {
+    static const std::regex code("ML[0-9]{3}");
+    std::set<std::string> codes;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(MELVARK_SOURCES "/refhost/database")) {
+        const std::string extension = file.path().extension().string();
+        if (extension != ".sql" && extension != ".cpp")
+            continue;
+        std::ostringstream text;
+        text << std::ifstream(file.path()).rdbuf();
+        const std::string source = text.str();
+        codes.insert(std::sregex_token_iterator(source.begin(), source.end(), code), std::sregex_token_iterator());
+    }
+    return codes;
+}
+
+TEST(DatabaseCatalogue, HasEveryCodeOfTheDatabaseAndNoOther) {
+    std::set<std::string> translated;
+    for (const CatalogueEntry& entry : readCatalogue(u"database_en"_qs)) {
+        EXPECT_TRUE(entry.id.starts_with(c_keyStart)) << entry.id;
+        translated.insert(codeOf(entry));
+    }
+    EXPECT_EQ(translated, codesOfTheDatabase());
+}
+
+TEST(DatabaseCatalogue, NamesInEachSentenceTheThingsThatTheCzechOneNames) {
+    for (const CatalogueEntry& entry : readCatalogue(u"database_en"_qs)) {
+        EXPECT_EQ(placeholders(entry.translation), placeholders(entry.source)) << entry.id;
+        EXPECT_NE(entry.translation, entry.source) << entry.id;
+    }
+}
+
+TEST(DatabaseCatalogue, FormsOfOneCodeBearTheirCzechPatternInTheId) {
+    for (const CatalogueEntry& entry : readCatalogue(u"database_en"_qs)) {
+        const std::size_t bar = entry.id.find('|');
+        if (bar == std::string::npos)
+            continue;
+        EXPECT_EQ(entry.id.substr(bar + 1), entry.source);
+        EXPECT_EQ(refhost::takeThingsOut(entry.source).pattern, entry.source) << "the pattern is not in its final form";
+    }
+}
+
+} // namespace

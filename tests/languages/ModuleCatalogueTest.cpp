@@ -1,0 +1,175 @@
+#include "editors/MelvarkEditorDodakEditWin.h"
+#include "editwin/model/EditExceptions.h"
+#include "host/widgets/MessageBox.h"
+#include "main/MelvarkEditorMain.h"
+#include "main/SourceMenus.h"
+#include "select/MelvarkEditorSelectWin.h"
+#include "tests/languages/CatalogueFile.h"
+#include "tests/languages/TranslatingHost.h"
+#include "tests/main/LibraryItemFixture.h"
+#include "tests/support/DodakScripts.h"
+#include "tests/widgets/ModalDriver.h"
+
+#include <QApplication>
+#include <QPushButton>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <map>
+#include <regex>
+#include <sstream>
+
+namespace {
+
+using testing::IsEmpty;
+
+void useSelectionDialog(TLibraryManager& manager) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(1, 1);
+    box.DodakSelectFromDodak(1, 1);
+    box.DodObjSelectFromObjednavkaVzor(1, 1, 1);
+    box.DodObjSelectFromObjednavka(1, 1, 1);
+    box.DodObjSelectFromDodak(1, 1, 1);
+    box.DodObjSelectFromDodCenik(1, {});
+    box.DodObjSelectFromDodavky(1, "", {});
+}
+
+void useSourceMenus() {
+    for (const melvark::SourceMenu* menu :
+         {&melvark::c_DodakMenu, &melvark::c_DodObjMenu, &melvark::c_DodObjVzorMenu}) {
+        for (const melvark::SourceMenuEntry& entry : menu->Entries) {
+            melvark::MenuCaption(entry);
+            melvark::MenuHint(entry);
+        }
+    }
+}
+
+/// Builds the editor with every column, and makes it refuse a value of each kind.
+void useEditor(TranslatingHost& host, TLibraryManager& manager) {
+    scriptDodakEditor(host.connection);
+    TDodakEditBox editor(qApp, &manager, "SABLONA", 7, 40);
+    EXPECT_THROW(editor.CheckInt(nullptr, "x"), EBadValue);
+    EXPECT_THROW(editor.CheckFloat(nullptr, "x"), EBadValue);
+    EXPECT_THROW(editor.CheckDate(nullptr, "x"), EBadValue);
+    EXPECT_FALSE(editor.KontrolaSlevy(1, 1, "101"));
+    EXPECT_THROW(TDodakEditBox(qApp, &manager, "NIC", 7, 40), Exception);
+}
+
+/// Shows both boxes that an editor without a library manager shows by itself.
+void useBoxes(TranslatingHost& host) {
+    scriptDodakEditor(host.connection);
+    TDodakEditBox editor(qApp, nullptr, "SABLONA", 7, 40);
+    const auto press = [](const char* button) {
+        return [button](QWidget& box) { box.findChild<QPushButton*>(QString::fromLatin1(button))->click(); };
+    };
+    const ModalDriver first(u"MessageBox"_qs, press("OkBtn"));
+    editor.ShowErrorBox("x");
+    const ModalDriver second(u"MessageBox"_qs, press("YesBtn"));
+    editor.ShowConfirmDialog("x");
+}
+
+void useLibraryItem(TLibraryManager& manager) {
+    TMelvarkEditor item(&manager);
+    FakeDataSet dataSet;
+    EXPECT_FALSE(item.Execute("NIC", &dataSet, nullptr));
+    EXPECT_FALSE(item.Execute("DODOBJ,SABLONA", &dataSet, nullptr));
+}
+
+/// Every text that the module asks for while each of its windows, menus and messages is used once.
+const std::set<AskedText>& askedTexts() {
+    static const std::set<AskedText> asked = [] {
+        TranslatingHost host("cs");
+        const TScopedHost scope(host);
+        TranslatingLibraryManager manager(host);
+        useSelectionDialog(manager);
+        useSourceMenus();
+        useEditor(host, manager);
+        useBoxes(host);
+        useLibraryItem(manager);
+        return host.asked();
+    }();
+    return asked;
+}
+
+const refhost::Languages& english() {
+    static const refhost::Languages languages("en");
+    return languages;
+}
+
+bool hasMnemonic(const std::string& text) {
+    return text.find('&') != std::string::npos;
+}
+
+TEST(ModuleCatalogue, HasEveryTextThatTheModuleAsksForWithTheSamePlaceholders) {
+    ASSERT_GT(askedTexts().size(), 100u);
+    for (const auto& [key, builtIn] : askedTexts()) {
+        const auto translation = english().translation(key, builtIn);
+        if (!translation) {
+            ADD_FAILURE() << "missing: " << key << " = " << builtIn;
+            continue;
+        }
+        EXPECT_EQ(placeholders(*translation), placeholders(builtIn)) << key;
+        EXPECT_EQ(hasMnemonic(*translation), hasMnemonic(builtIn)) << key << ": a letter for the keyboard";
+    }
+}
+
+TEST(ModuleCatalogue, HasNoTextThatNobodyAsksForAndGivesTheCzechTextAsItIs) {
+    for (const CatalogueEntry& entry : readCatalogue(u"module_en"_qs)) {
+        const bool isAsked = std::ranges::any_of(askedTexts(), [&](const AskedText& text) {
+            const auto& [key, builtIn] = text;
+            return builtIn == entry.source && (entry.id == key || entry.id == key + "|" + builtIn);
+        });
+        EXPECT_TRUE(isAsked) << entry.id << " = " << entry.source;
+    }
+}
+
+TEST(ModuleCatalogue, TellsEntriesThatShareAKeyApart) {
+    std::map<std::string, std::map<std::string, std::string>> byKey; // key, translation, built-in text
+    std::size_t shared = 0;
+    for (const auto& [key, builtIn] : askedTexts()) {
+        auto& texts = byKey[key];
+        const auto [other, isNew] = texts.emplace(english().translation(key, builtIn).value_or(""), builtIn);
+        EXPECT_TRUE(isNew) << key << ": “" << builtIn << "” reads like “" << other->second << "”";
+        shared += texts.size() == 2 ? 1 : 0;
+    }
+    EXPECT_EQ(shared, 6u); // three pairs of menu entries, each with caption and hint
+}
+
+std::string read(const std::filesystem::path& file) {
+    std::ostringstream text;
+    text << std::ifstream(file).rdbuf();
+    return text.str();
+}
+
+/// The keys and beginnings of keys that stand literally in the module's sources.
+std::set<std::string> literalKeys() {
+    static const std::regex literal(R"re("(KORDAN30\\\\[^"]*)"|R"\((KORDAN30\\[^)]*)\)")re");
+    std::set<std::string> keys;
+    for (const char* folder : {"host/widgets", "editwin", "editors", "select", "dialogs", "main"}) {
+        for (const auto& file :
+             std::filesystem::recursive_directory_iterator(std::string(MELVARK_SOURCES "/") + folder)) {
+            if (file.path().extension() != ".cpp")
+                continue;
+            const std::string text = read(file.path());
+            for (std::sregex_iterator match(text.begin(), text.end(), literal), end; match != end; ++match) {
+                const std::string escaped = std::regex_replace((*match)[1].str(), std::regex(R"(\\\\)"), "\\");
+                keys.insert((*match)[1].matched ? escaped : (*match)[2].str());
+            }
+        }
+    }
+    return keys;
+}
+
+TEST(ModuleCatalogue, KnowsEveryKeyThatStandsInTheSources) {
+    const std::set<std::string> keys = literalKeys();
+    ASSERT_GT(keys.size(), 15u) << "the sources were not found";
+    std::vector<std::string> unknown;
+    std::ranges::copy_if(keys, std::back_inserter(unknown), [](const std::string& key) {
+        return std::ranges::none_of(askedTexts(), [&](const AskedText& text) { return text.first.starts_with(key); });
+    });
+    EXPECT_THAT(unknown, IsEmpty()) << "use them in askedTexts()";
+}
+
+} // namespace
