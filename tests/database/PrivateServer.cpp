@@ -60,7 +60,12 @@ std::string PrivateServer::copyOf(const std::string& model) {
 }
 
 std::string PrivateServer::newDatabase() {
-    return copyOf(c_Model);
+    const std::string name = copyOf(c_Model);
+    // Rights to the database itself are no part of the copy.
+    administrator("postgres")
+        .execute("revoke temporary on database " + name + " from public;" + "grant temporary on database " + name +
+                 " to melvark_owner");
+    return name;
 }
 
 std::string PrivateServer::newEmptyDatabase() {

@@ -1,0 +1,110 @@
+#include "tests/database/ServerCompany.h"
+
+#include <future>
+#include <gtest/gtest.h>
+
+namespace refhost {
+namespace {
+
+/// Procedures of the test. Swap locks two warehouses one after the other and renames them; each begin is counted in a
+/// sequence, which a rollback does not take back. It takes its time between the two, so that two calls that begin with
+/// different warehouses wait for each other.
+void addSwap(Database& database) {
+    database.runScript("insert into SKLAD (NAZEV) values ('Druhý sklad');"
+                       "create sequence melvark.BEGUN;"
+                       "create function melvark.MELVARKEDITORTestSwap(a_FIRST integer default null,"
+                       "                                              a_SECOND integer default null)"
+                       "returns void language plpgsql as $$ begin"
+                       "    perform nextval('melvark.BEGUN');"
+                       "    update SKLAD set NAZEV = NAZEV || '.' where ID = a_FIRST;"
+                       "    perform pg_sleep(0.5);"
+                       "    update SKLAD set NAZEV = NAZEV || '.' where ID = a_SECOND;"
+                       "end $$;"
+                       "create function melvark.MELVARKEDITORTestConflict(a_CODE text default null)"
+                       "returns void language plpgsql as $$ begin"
+                       "    perform nextval('melvark.BEGUN');"
+                       "    raise exception using errcode = a_CODE;"
+                       "end $$");
+}
+
+TProcedureCall swapCall(std::int64_t first, std::int64_t second) {
+    return serverCall("MELVARKEDITORTestSwap", {{"a_FIRST", first}, {"a_SECOND", second}});
+}
+
+TEST(PostgreSQLConflict, ADeadlockIsTriedAgainAndNothingIsLostOrDoubled) {
+    const ServerCompany company;
+    const auto one = company.open();
+    const auto other = company.open();
+    addSwap(*one);
+
+    auto call = std::async(std::launch::async, [&] { other->Execute(swapCall(2, 1)); });
+    one->Execute(swapCall(1, 2));
+    call.get();
+
+    EXPECT_EQ(rowsOf(*one, "select NAZEV from SKLAD order by ID"), "Hlavní sklad..|Druhý sklad..");
+    EXPECT_EQ(rowsOf(*one, "select last_value > 2 from melvark.BEGUN"), "1") << "there was no deadlock";
+}
+
+TEST(PostgreSQLConflict, ACallThatNeverGetsThroughEndsInASentence) {
+    const ServerCompany company;
+    const auto database = company.open();
+    addSwap(*database);
+    const EDatabaseError error = failure([&] {
+        database->Execute(serverCall("MELVARKEDITORTestConflict", {{"a_CODE", "40001"}}));
+    });
+    EXPECT_EQ(error.Code(), "ML910");
+    EXPECT_EQ(error.Message(),
+              "Databázi „" + company.name() + "“ právě používá někdo jiný. Zkuste to za chvíli znovu.");
+    EXPECT_EQ(rowsOf(*database, "select last_value from melvark.BEGUN"), "5");
+}
+
+TEST(PostgreSQLConflict, ARefusalIsNotTriedAgain) {
+    const ServerCompany company;
+    const auto database = company.open();
+    addSwap(*database);
+    EXPECT_EQ(failure([&] {
+                  database->Execute(serverCall("MELVARKEDITORTestConflict", {{"a_CODE", "ML099"}}));
+              }).Code(),
+              "ML099");
+    EXPECT_EQ(rowsOf(*database, "select last_value from melvark.BEGUN"), "1");
+}
+
+TEST(PostgreSQLConflict, AnotherUsersSaveIsNotWaitedForWithoutEnd) {
+    const ServerCompany company;
+    const auto database = company.open();
+    addSwap(*database);
+    const auto other = company.open();
+    auto holder = std::async(std::launch::async, [&] {
+        other->runScript("update SKLAD set NAZEV = NAZEV; "
+                         "select pg_sleep(2)");
+    });
+    ASSERT_TRUE(company.waitFor("select count(*) from pg_stat_activity where wait_event = 'PgSleep' "
+                                "and datname = current_database()",
+                                "1"));
+    database->runScript("set lock_timeout = '100ms'");
+    EXPECT_EQ(failure([&] { database->Execute(swapCall(1, 2)); }).Code(), "ML910");
+    holder.get();
+    database->Execute(swapCall(1, 2));
+}
+
+TEST(PostgreSQLConflict, TwoSavesIntoOneNoteFollowOneAnother) {
+    const ServerCompany company;
+    const auto save = [&company](const std::string& quantity) {
+        const auto database = company.open();
+        for (int i = 0; i < 10; ++i) {
+            database->Execute(serverCall("MELVARKEDITORResetTemp"));
+            database->Execute(
+                serverCall("MELVARKEDITORDodakInsertToTemp", {{"a_SKLADPOL", "Mléko"}, {"a_MNOZSTVI", quantity}}));
+            database->Execute(serverCall("MELVARKEDITORDodakTempUloz", {{"a_DODKID", std::int64_t{1}}}));
+        }
+    };
+    auto other = std::async(std::launch::async, save, "1");
+    save("2");
+    other.get();
+    EXPECT_EQ(rowsOf(*company.open(), "select count(*), count(distinct PORADI), min(PORADI), max(PORADI), "
+                                      "sum(MNOZSTVI)::integer from DODAKPOL where DODKID = 1"),
+              "20,20,1,20,30");
+}
+
+} // namespace
+} // namespace refhost
