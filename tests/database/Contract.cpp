@@ -113,12 +113,18 @@ std::vector<std::string> procedureNames() {
     return names;
 }
 
-Database& Contract::sharedCompany() {
+Database& sharedCompanyOn(Engine engine) {
     static std::map<Engine, std::unique_ptr<Database>> companies;
-    std::unique_ptr<Database>& database = companies[GetParam()];
-    if (!database)
-        database = ownCompany();
+    std::unique_ptr<Database>& database = companies[engine];
+    if (!database) {
+        database = newDatabase(engine);
+        addContractCompany(*database);
+    }
     return *database;
+}
+
+Database& Contract::sharedCompany() {
+    return sharedCompanyOn(GetParam());
 }
 
 std::unique_ptr<Database> Contract::ownCompany() {

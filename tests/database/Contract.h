@@ -35,10 +35,13 @@ std::string digest(Database& database, const std::vector<std::string>& except = 
 /// The names of all procedures, by name.
 std::vector<std::string> procedureNames();
 
+/// The company of ContractCompany.h that all tests of the program share: only for calls that change nothing.
+Database& sharedCompanyOn(Engine engine);
+
 /// A test of the contract, which runs on both engines on the company of ContractCompany.h.
 class Contract : public testing::TestWithParam<Engine> {
 protected:
-    /// A company that all tests of the program share: only for calls that change nothing.
+    /// Only for calls that change nothing.
     static Database& sharedCompany();
     /// A company of the test's own.
     static std::unique_ptr<Database> ownCompany();
