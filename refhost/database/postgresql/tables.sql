@@ -140,7 +140,7 @@ create table DODOBJPOL (
     SKLDID integer not null references SKLAD (ID),
     DODVID integer references DODAVATEL (ID),
     MNOZSTVI numeric(21, 6) not null check (MNOZSTVI <> 0),
-    DODANO numeric(21, 6) not null default 0,
+    DODANO numeric not null default 0,
     KOMPLETNI smallint not null default 0 check (KOMPLETNI in (0, 1)),
     POPIS text,
     KOMENTAR text,
