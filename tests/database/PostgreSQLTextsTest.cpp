@@ -85,7 +85,7 @@ TEST(PostgreSQLTexts, ValuesAreWrittenInTheFormatsOfTheSession) {
         {"date_text(null)", "-", "-"},
         {"moment_text(null)", "-", "-"},
     };
-    const auto english = company.openIn(TFormatSettings::English());
+    const auto english = company.openWith(TFormatSettings::English());
     for (const TextCase& row : cases) {
         EXPECT_EQ(valueOf(*czech, row.Expression), row.Czech) << row.Expression;
         EXPECT_EQ(valueOf(*english, row.Expression), row.English) << row.Expression;

@@ -32,7 +32,7 @@ ServerCompany::ServerCompany() : name_(PrivateServer::instance().newDatabase()) 
                       "values ('DL1', '2026-03-10', 1, 1), ('DL2', '2026-03-10', 1, 1)");
 }
 
-std::unique_ptr<PostgreSQLConnection> ServerCompany::openIn(const TFormatSettings& settings) const {
+std::unique_ptr<PostgreSQLConnection> ServerCompany::openWith(const TFormatSettings& settings) const {
     PrivateServer& server = PrivateServer::instance();
     server.addRole("novakova", "melvark_owner");
     return std::make_unique<PostgreSQLConnection>(server.address(name_, "novakova"), settings);

@@ -17,9 +17,9 @@ public:
     const std::string& name() const { return name_; }
 
     /// A connection with Czech formats of "novakova", who may also change the tables and the schema.
-    std::unique_ptr<PostgreSQLConnection> open() const { return openIn(TFormatSettings::Czech()); }
+    std::unique_ptr<PostgreSQLConnection> open() const { return openWith(TFormatSettings::Czech()); }
     /// The same with other formats.
-    std::unique_ptr<PostgreSQLConnection> openIn(const TFormatSettings& settings) const;
+    std::unique_ptr<PostgreSQLConnection> openWith(const TFormatSettings& settings) const;
     /// A connection of a role that is made as a member of the group.
     std::unique_ptr<PostgreSQLConnection> openAs(const std::string& role, const std::string& group) const;
     /// Ends the server's side of all sessions of the role, as a failure of the network would.
