@@ -16,6 +16,7 @@ begin
     if a_TYPEDITACE is null then
         perform refuse('ML065', 'Druh editoru není zadán.');
     end if;
+    perform user_row();
     perform refuse_setting_name(a_NAZEV, a_TYPEDITACE, null);
 
     insert into EDITORNASTAVENI (UZIVID, TYPEDITACE, NAZEV, KOMENTAR, SDILENE, DATA)
