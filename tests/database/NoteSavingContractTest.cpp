@@ -99,6 +99,20 @@ TEST_P(NoteSavingContract, EveryCellOfARowIsKept) {
         "3,30 | 6,60 | 9,90 | 13,20 | 16,50 | 19,80 | 23,10 | 26,40 | 1.9.2026 | 101");
 }
 
+TEST_P(NoteSavingContract, TheLongestNumbersAreKeptToTheLastDigit) {
+    // 15 digits before the point and all decimals; the total is the quantity times 1, within the tolerance.
+    const auto database = ownCompany();
+    Cells row = item("Mouka hladká", "999999999999999.999999", "101");
+    row["a_JEDNCENAB"] = "1";
+    row["a_CENAB"] = "999999999999999.99";
+    row["a_JEDNCENAS"] = "-123456789012345.654321";
+    EXPECT_EQ(savedRow(*database, c_OpenNote, row), "");
+    EXPECT_EQ(rows(*database, "select MNOZSTVI, CENABBEZSLEVY, JEDNCENASBEZSLEVY from SCREEN_DODAK_LINES_V "
+                              "where _DOCID = 2 and PORADI = 2"),
+              "999999999999999,999999 | 999999999999999,99 | -123456789012345,654321");
+    EXPECT_EQ(orderLine(*database, 101), "1000000000000039,999999 | 1"); // 40 more
+}
+
 TEST_P(NoteSavingContract, NothingStagedIsASuccessThatChangesNothing) {
     const auto database = ownCompany();
     const std::string before = digest(*database);
