@@ -73,9 +73,10 @@ PriceLists::PriceLists(const Stock& stock, Day firstDay, Day today) {
 }
 
 std::vector<PriceListEntry> PriceLists::offers(int supplierId, Day day) const {
-    const auto ofSupplier = std::ranges::equal_range(entries_, supplierId, {}, &PriceListEntry::SupplierId);
+    const auto first = std::ranges::lower_bound(entries_, supplierId, {}, &PriceListEntry::SupplierId);
+    const auto last = std::ranges::upper_bound(entries_, supplierId, {}, &PriceListEntry::SupplierId);
     std::vector<PriceListEntry> offers;
-    std::ranges::copy_if(ofSupplier, std::back_inserter(offers), [day](const PriceListEntry& entry) {
+    std::copy_if(first, last, std::back_inserter(offers), [day](const PriceListEntry& entry) {
         return entry.FirstDay <= day && (!entry.LastDay || day <= *entry.LastDay);
     });
     return offers;
