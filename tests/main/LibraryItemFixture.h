@@ -12,15 +12,19 @@
 
 #include <gmock/gmock.h>
 #include <map>
+#include <vector>
 
 /// A screen's dataset with one document, or none.
 class FakeDataSet : public TDataSet {
 public:
     std::map<AnsiString, TDbValue, std::less<>> fields{{"_ID", std::int64_t{7}}, {"_DODVID", std::int64_t{40}}};
     bool isEmpty = false;
+    /// The fields that were asked for, in order.
+    mutable std::vector<AnsiString> askedFor;
 
     bool IsEmpty() const override { return isEmpty; }
     std::optional<TField> FindField(std::string_view name) const override {
+        askedFor.emplace_back(name);
         const auto found = fields.find(name);
         if (found == fields.end())
             return std::nullopt;

@@ -34,6 +34,13 @@ TEST_F(LibraryItem, AGivenSourceOpensTheEditorWithoutAMenu) {
     EXPECT_THAT(host_.connection.calls(), Contains("MELVARKEDITORNASTAVENINactiDef(a_TYPEDITACE=3) open"));
 }
 
+TEST_F(LibraryItem, TheDocumentIsReadBeforeItsSupplier) {
+    ModalDriver editor({}, [](QWidget& window) { window.close(); });
+    item_.Execute("DODAK,SABLONA", &dataSet_, nullptr);
+    // Once to see that the screen has it, then for the editor.
+    EXPECT_THAT(dataSet_.askedFor, ElementsAre("_ID", "_ID", "_DODVID"));
+}
+
 TEST_F(LibraryItem, OnlyOkIsTrueAndTheEditorIsFreedInAnyCase) {
     struct {
         const char* remark;
