@@ -63,6 +63,22 @@ TEST_F(EditBox, ItsControlsHaveTheirTextsAndStates) {
     EXPECT_FALSE(form->NadpisVlastnostiSloupce->isEnabled());
 }
 
+TEST_F(EditBox, ItsControlsStandInTheirPlaces) {
+    open();
+    EXPECT_EQ(form->size(), QSize(790, 400));
+    EXPECT_EQ(form->ButtonPanel->geometry(), QRect(790 - 106, 0, 106, 400));
+    EXPECT_EQ(form->OkBtn->geometry(), QRect(8, 6, 90, 25));
+    EXPECT_EQ(form->OKDalsiBtn->geometry(), QRect(8, 38, 90, 25));
+    EXPECT_EQ(form->CancelBtn->geometry(), QRect(8, 70, 90, 25));
+    EXPECT_EQ(form->MenuBtn->geometry(), QRect(8, 102, 90, 25));
+    EXPECT_EQ(form->TopPanel->pos(), QPoint(6, 6)) << "the border of the panel around it";
+    EXPECT_GE(form->TopPanel->height(), 75);
+    EXPECT_EQ(form->TopPanel->height() - form->gbPraceScenami->height(), 75 - 69);
+    EXPECT_EQ(grid().geometry(),
+              QRect(6, 6 + form->TopPanel->height(), 790 - 106 - 12, 400 - 12 - form->TopPanel->height()));
+    EXPECT_EQ(grid().RowHeight(), 20);
+}
+
 TEST_F(EditBox, NothingIsClippedAtTheLeastSize) {
     open();
     EXPECT_GE(form->minimumWidth(), 790);
