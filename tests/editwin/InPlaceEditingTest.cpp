@@ -264,8 +264,8 @@ TEST_F(InPlaceEditing, AlternativeKeysSetAndClearTheRecalculation) {
         {Qt::Key_F1, Qt::AltModifier, false, true},
         {Qt::Key_F1, {}, false, false},
     };
-    for (QWidget* const control : {static_cast<QWidget*>(&sharedEdit()), static_cast<QWidget*>(form->OkBtn),
-                                   static_cast<QWidget*>(form->CancelBtn)}) {
+    for (QWidget* const control :
+         std::initializer_list<QWidget*>{&sharedEdit(), &combo(), form->OkBtn, form->CancelBtn}) {
         for (const auto& each : cases) {
             form->chbPrepocetCen->setChecked(each.before);
             QTest::keyClick(control, static_cast<Qt::Key>(each.key), each.modifiers);
