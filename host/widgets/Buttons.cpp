@@ -107,6 +107,15 @@ void TMenuButton::SetPopupMenu(TPopupMenu* menu) {
     update();
 }
 
+QSize TMenuButton::sizeHint() const {
+    QSize size = QPushButton::sizeHint();
+    if (FMenu) { // the toolkit leaves room for the arrow of its own menus only
+        const int arrow = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, nullptr, this);
+        size.rwidth() += arrow + fontMetrics().horizontalAdvance(u' ');
+    }
+    return size;
+}
+
 void TMenuButton::keyPressEvent(QKeyEvent* event) {
     if (IsEnter(*event) || event->key() == Qt::Key_Down)
         click();

@@ -69,6 +69,9 @@ public:
     /// The menu is not owned.
     void SetPopupMenu(TPopupMenu* menu);
 
+    /// With room for the arrow beside the caption.
+    QSize sizeHint() const override;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void initStyleOption(QStyleOptionButton* option) const override;

@@ -151,6 +151,16 @@ TEST_F(ButtonsTest, AMenuButtonShowsItsCaptionLetterForLetter) {
     EXPECT_EQ(button->Caption(), "R&D");
 }
 
+TEST_F(ButtonsTest, AMenuButtonHasRoomForItsArrow) {
+    auto* button = add<TMenuButton>();
+    button->SetCaption("Žádný vzor");
+    const int captionAlone = button->sizeHint().width();
+    QMenu menu;
+    button->SetPopupMenu(&menu);
+    const int arrow = button->style()->pixelMetric(QStyle::PM_MenuButtonIndicator, nullptr, button);
+    EXPECT_GT(button->sizeHint().width(), captionAlone + arrow); // and a little between them
+}
+
 TEST_F(ButtonsTest, AnEmptyMenuIsNeverOpened) {
     auto* button = add<TMenuButton>();
     show();
