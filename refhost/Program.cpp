@@ -3,6 +3,7 @@
 #include "refhost/CompanyDatabase.h"
 #include "refhost/ErrorDialog.h"
 #include "refhost/Languages.h"
+#include "refhost/Palette.h"
 #include "refhost/Trace.h"
 #include "refhost/WindowedHost.h"
 #include "refhost/commands/DataCommands.h"
@@ -77,6 +78,7 @@ int runProgram(const CommandLine& commandLine, int& argc, char** argv) {
 
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication application(argc, argv);
+    QApplication::setPalette(completePalette(QApplication::palette()));
     // A dialog may be the only window for a while; closing it must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
     languages.installToolkitTexts(application);
