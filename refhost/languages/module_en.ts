@@ -75,7 +75,7 @@
     <message id="KORDAN30\MelvarkEditorEditWin\chbPrepocetCen\Caption">
         <source>&amp;po zadání hodnoty se ostatní údaje přepočítají</source>
         <translatorcomment>The letter is P: Alt+P sets the box from every cell of the grid.</translatorcomment>
-        <translation>&amp;prices and totals are recalculated after each entry</translation>
+        <translation>&amp;Prices and totals are recalculated after each entry</translation>
     </message>
     <message id="KORDAN30\MelvarkEditorEditWin\lblWarning\Caption">
         <source>Upozornění: pokud se hodnoty nepřepočítávají automaticky, data nelze uložit, pokud cena za jednotkové množství vynásobená množstvím není rovna celkové ceně položky!</source>
@@ -123,7 +123,7 @@
         <source>Skryté sloupce</source>
         <translation>Hidden columns</translation>
     </message>
-    <!-- The line editor's columns: caption and hint -->
+    <!-- The line editor's columns: caption and hint. A column is narrow: what tells it from the others stands first. -->
     <message id="KORDAN30\MELVARKEDITOR\COLUMNSKUPSPOL1">
         <source>Skup.sklad.pol.1</source>
         <translation>Stock group 1</translation>
@@ -190,7 +190,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENABEZDPHSESLEVOU">
         <source>Jedn.cena bez DPH se sl.</source>
-        <translation>Unit price excl. VAT after disc.</translation>
+        <translation>Unit excl. VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENABEZDPHSESLEVOU">
         <source>Cena bez DPH se slevou za jednotku množství</source>
@@ -198,7 +198,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENADPHASESLEVOU">
         <source>Jedn.DPH se sl.</source>
-        <translation>Unit VAT after disc.</translation>
+        <translation>Unit VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENADPHASESLEVOU">
         <source>DPH ceny se slevou za jednotku množství</source>
@@ -206,7 +206,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENADPHBSESLEVOU">
         <source>Jedn.místní DPH se sl.</source>
-        <translation>Unit local VAT after disc.</translation>
+        <translation>Unit local VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENADPHBSESLEVOU">
         <source>Místní DPH ceny se slevou za jednotku množství</source>
@@ -214,7 +214,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENASDPHSESLEVOU">
         <source>Jedn.cena s DPH se sl.</source>
-        <translation>Unit price incl. VAT after disc.</translation>
+        <translation>Unit incl. VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENASDPHSESLEVOU">
         <source>Cena s DPH se slevou za jednotku množství</source>
@@ -222,7 +222,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENABEZDPHBEZSLEVY">
         <source>Jedn.cena bez DPH bez sl.</source>
-        <translation>Unit price excl. VAT before disc.</translation>
+        <translation>List excl. VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENABEZDPHBEZSLEVY">
         <source>Cena bez DPH bez slevy za jednotku množství</source>
@@ -230,7 +230,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENADPHABEZSLEVY">
         <source>Jedn.DPH bez sl.</source>
-        <translation>Unit VAT before disc.</translation>
+        <translation>List VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENADPHABEZSLEVY">
         <source>DPH ceny bez slevy za jednotku množství</source>
@@ -238,7 +238,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENADPHBBEZSLEVY">
         <source>Jedn.místní DPH bez sl.</source>
-        <translation>Unit local VAT before disc.</translation>
+        <translation>List local VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENADPHBBEZSLEVY">
         <source>Místní DPH ceny bez slevy za jednotku množství</source>
@@ -246,7 +246,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNCENASDPHBEZSLEVY">
         <source>Jedn.cena s DPH bez sl.</source>
-        <translation>Unit price incl. VAT before disc.</translation>
+        <translation>List incl. VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNCENASDPHBEZSLEVY">
         <source>Cena s DPH bez slevy za jednotku množství</source>
@@ -254,7 +254,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNCENABEZDPHSESLEVOU">
         <source>Cena bez DPH se sl.</source>
-        <translation>Total excl. VAT after disc.</translation>
+        <translation>Total excl. VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENABEZDPHSESLEVOU">
         <source>Cena bez DPH se slevou za celkové množství</source>
@@ -262,7 +262,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNCENADPHASESLEVOU">
         <source>DPH se sl.</source>
-        <translation>VAT after disc.</translation>
+        <translation>Total VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENADPHASESLEVOU">
         <source>DPH ceny se slevou za celkové množství</source>
@@ -270,7 +270,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNCENADPHBSESLEVOU">
         <source>Místní DPH se sl.</source>
-        <translation>Local VAT after disc.</translation>
+        <translation>Total local VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENADPHBSESLEVOU">
         <source>Místní DPH ceny se slevou za celkové množství</source>
@@ -278,7 +278,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNCENASDPHSESLEVOU">
         <source>Cena s DPH se sl.</source>
-        <translation>Total incl. VAT after disc.</translation>
+        <translation>Total incl. VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENASDPHSESLEVOU">
         <source>Cena s DPH se slevou za celkové množství</source>
@@ -286,7 +286,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNCENABEZDPHBEZSLEVY">
         <source>Cena bez DPH bez sl.</source>
-        <translation>Total excl. VAT before disc.</translation>
+        <translation>List total excl. VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENABEZDPHBEZSLEVY">
         <source>Cena bez DPH bez slevy za celkové množství</source>
@@ -294,7 +294,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNCENADPHABEZSLEVY">
         <source>DPH bez sl.</source>
-        <translation>VAT before disc.</translation>
+        <translation>List total VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENADPHABEZSLEVY">
         <source>DPH ceny bez slevy za celkové množství</source>
@@ -302,7 +302,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNCENADPHBBEZSLEVY">
         <source>Místní DPH bez sl.</source>
-        <translation>Local VAT before disc.</translation>
+        <translation>List total local VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENADPHBBEZSLEVY">
         <source>Místní DPH ceny bez slevy za celkové množství</source>
@@ -310,7 +310,7 @@
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNCENASDPHBEZSLEVY">
         <source>Cena s DPH bez sl.</source>
-        <translation>Total incl. VAT before disc.</translation>
+        <translation>List total incl. VAT</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTCENASDPHBEZSLEVY">
         <source>Cena s DPH bez slevy za celkové množství</source>
