@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int c_LimitMs = 20000;
+constexpr int c_Searches = 3;
 
 QString hostProgram() {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/melvark-host");
@@ -89,9 +90,18 @@ void HostSession::runTool(const QStringList& arguments) const {
 }
 
 void HostSession::waitForWindow(const QString& title) {
-    runTool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
-             QStringLiteral("--name"), QStringLiteral("^") + title + QStringLiteral("$"),
-             QStringLiteral("windowactivate"), QStringLiteral("--sync")});
+    const QStringList search = {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
+                                QStringLiteral("--name"), u'^' + title + u'$',      QStringLiteral("windowactivate"),
+                                QStringLiteral("--sync")};
+    // A search fails when another window ends under it, so that it is asked again.
+    for (int attempt = 1;; ++attempt) {
+        try {
+            return runTool(search);
+        } catch (const std::runtime_error&) {
+            if (attempt == c_Searches)
+                throw;
+        }
+    }
 }
 
 void HostSession::type(const QString& text) {
