@@ -15,6 +15,13 @@ namespace {
 /// From which new databases are copied: much faster than making the schema anew.
 constexpr const char* c_Model = "melvark_model";
 
+std::filesystem::path newFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "melvark-server-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr)
+        throw std::runtime_error("no temporary folder could be made");
+    return pattern;
+}
+
 } // namespace
 
 PrivateServer& PrivateServer::instance() {
@@ -22,11 +29,9 @@ PrivateServer& PrivateServer::instance() {
     return server;
 }
 
-PrivateServer::PrivateServer() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "melvark-server-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr)
-        throw std::runtime_error("no temporary folder could be made");
-    folder_ = pattern;
+// The folder is there when the other constructor has ended, so that the destructor clears it away also when this one
+// fails.
+PrivateServer::PrivateServer() : PrivateServer(newFolder()) {
     run("start '" + folder_.string() + "' --without-fsync --until-exit-of " + std::to_string(getpid()));
     try {
         administrator("postgres").execute(std::string("create database ") + c_Model);

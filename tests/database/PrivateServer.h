@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace refhost {
 
@@ -33,6 +34,7 @@ public:
 
 private:
     PrivateServer();
+    explicit PrivateServer(std::filesystem::path folder) : folder_(std::move(folder)) {}
     void run(const std::string& command) const;
     std::string copyOf(const std::string& model);
 
