@@ -24,6 +24,7 @@ constexpr Sentence c_Sentences[] = {
     {"57P", "ML916", "Spojení s databází „", "“ se přerušilo. Ověřte, co se stihlo uložit, a zkuste to znovu."},
     {"28", "ML917", "Databáze „", "“ odmítla přihlášení. Zkontrolujte jméno a heslo."},
     {"53100", "ML923", "Pro databázi „", "“ není na disku serveru místo. Obraťte se na správce."},
+    {"23503", "ML925", "V databázi „", "“ už není něco, na co se změna odvolává. Načtěte data znovu."},
     {"42501", "ML924", "V databázi „", "“ k tomu nemáte oprávnění. Požádejte o ně správce."},
 };
 

@@ -7,7 +7,7 @@ namespace refhost {
 namespace {
 
 struct Sentence {
-    int Code;
+    int Code; ///< The engine's code, either one that stands for a whole class or an extended one.
     const char* Refusal;
     const char* Before; ///< Stands before the file's name,
     const char* After;  ///< and this after it.
@@ -22,6 +22,8 @@ constexpr Sentence c_Sentences[] = {
     {SQLITE_CANTOPEN, "ML915", "Soubor databáze „", "“ nelze otevřít. Zkontrolujte jeho umístění a oprávnění."},
     {SQLITE_PERM, "ML915", "Soubor databáze „", "“ nelze otevřít. Zkontrolujte jeho umístění a oprávnění."},
     {SQLITE_IOERR, "ML916", "Databázi „", "“ nelze číst ani zapisovat. Zkontrolujte disk, na kterém leží."},
+    {SQLITE_CONSTRAINT_FOREIGNKEY, "ML925", "V databázi „",
+     "“ už není něco, na co se změna odvolává. Načtěte data znovu."},
     {SQLITE_FULL, "ML923", "Pro databázi „", "“ není na disku místo. Uvolněte je a zkuste to znovu."},
 };
 
@@ -32,7 +34,7 @@ constexpr Sentence c_Other{SQLITE_ERROR, "ML930", "Databáze „", "“ nemohla 
 EDatabaseError sqliteError(int code, sqlite3* database, std::string_view file, std::string_view statement) {
     const Sentence* sentence = &c_Other;
     for (const Sentence& candidate : c_Sentences)
-        if (candidate.Code == (code & 0xFF))
+        if (candidate.Code == code || candidate.Code == (code & 0xFF))
             sentence = &candidate;
     std::string details = "SQLite " + std::to_string(code) + ": ";
     details += database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code);

@@ -1,6 +1,8 @@
 #include "tests/database/ContractCompany.h"
 #include "tests/database/Staging.h"
 
+#include <gmock/gmock.h>
+
 namespace refhost {
 
 namespace {
@@ -234,6 +236,19 @@ TEST_P(NoteSavingContract, AnOrderLineThatWasDeletedMeanwhileIsRefused) {
     EXPECT_EQ(saveNote(*database, id(c_OpenNote)),
               "ML049 Řádek objednávky „101“ neexistuje. Načtěte položky z objednávky znovu.");
     EXPECT_EQ(lines(*database, c_OpenNote), "1 | Čaj černý | Hlavní sklad | 1 | 12 % | -");
+}
+
+TEST_P(NoteSavingContract, WhatWasDeletedAfterARowWasCheckedRefusesTheSave) {
+    const auto database = ownCompany();
+    database->runScript("insert into SKLADPOL (ID, NAZEV, SSP3ID, DPHID) values (9, 'Kmín', 5, 2)");
+    beginSave(*database);
+    EXPECT_EQ(stageNoteRow(*database, item("Kmín", "1")), "");
+    database->runScript("delete from SKLADPOL where ID = 9");
+    const std::string before = digest(*database);
+    EXPECT_THAT(saveNote(*database, id(c_OpenNote)),
+                testing::AllOf(testing::StartsWith("ML925 V databázi „"),
+                               testing::EndsWith("“ už není něco, na co se změna odvolává. Načtěte data znovu.")));
+    EXPECT_EQ(digest(*database), before);
 }
 
 TEST_P(NoteSavingContract, ASaveHasToBeBegun) {
