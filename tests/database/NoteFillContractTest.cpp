@@ -175,6 +175,12 @@ TEST_P(NoteFillContract, OfNotesOfOneDayTheHigherIdIsTheNewer) {
               "Mouka hladká | 4 | 29.6.2026\n"
               "Cukr krystal | 6 | 21.12.2027\n"
               "Čaj černý | 1 | -");
+
+    // With DL-1 moved to that day there are three of it; the lowest id does not come among the latest three notes.
+    const auto database = ownCompany();
+    database->runScript("update DODAK set DATUM = '2026-02-15' where ID = 1");
+    EXPECT_EQ(byNote(*database, c_OldNote, c_Template, {}, {"SKLADPOL"}),
+              "Chléb\nMouka hladká\nCukr krystal\nČaj černý");
 }
 
 TEST_P(NoteFillContract, TheTemplateIsOfTheSameSupplierOnly) {

@@ -141,8 +141,8 @@ struct ToleranceCase {
 };
 
 TEST_P(NoteRowContract, ATotalMayDifferByAsMuchAsRoundingCanTake) {
-    // The difference may be 0.02 + |q| · 0.000002: for 1000 it is 0.022, for 1 it is 0.020002, for 0.000001 hardly more
-    // than 0.02, for 0.5 it is 0.020001.
+    // The difference may be 0.02 + |q| · 0.000002: for 1000 it is 0.022, for 1000000 it is 2.02, for 1 it is 0.020002,
+    // for 0.000001 hardly more than 0.02, for 0.5 it is 0.020001.
     constexpr ToleranceCase cases[] = {
         {"1000", "1.000022", "1000", true},   {"1000", "1.000023", "1000", false},
         {"1000", "0.999978", "1000", true},   {"1000", "0.999977", "1000", false},
@@ -151,6 +151,8 @@ TEST_P(NoteRowContract, ATotalMayDifferByAsMuchAsRoundingCanTake) {
         {"1", "1.020003", "1", false},        {"1", "-1.020002", "-1", true},
         {"0.000001", "20000", "0", true},     {"0.000001", "20001", "0", false},
         {"0.5", "2.040002", "1", true},       {"0.5", "2.040003", "1", false},
+        {"1000000", "1", "999997.98", true},  {"1000000", "1", "999997.97", false},
+        {"1000000", "1", "1000002.02", true}, {"1000000", "1", "1000002.03", false},
         {"3", "0.333333", "1", true},         {"123456789", "0.01", "1234567.89", true},
     };
     for (const ToleranceCase& c : cases)

@@ -105,6 +105,14 @@ TEST_P(OrderFillContract, OfOrdersOfOneMomentTheHigherIdIsTheNewer) {
                                                                     "Cukr krystal | 2 | - | -");
 }
 
+TEST_P(OrderFillContract, OfManyOrdersOfOneMomentTheHighestIdsAreTheLatest) {
+    // After OBJ-4 and OBJ-6 come OBJ-1, OBJ-2 and OBJ-10, all of one moment: the third is OBJ-10.
+    const auto database = ownCompany();
+    database->runScript("update DODOBJEDNAVKA set OBJEDNANIDC = '2026-02-10 08:30:00' where ID in (1, 2, 10)");
+    EXPECT_EQ(byOrder(*database, c_Template, c_None, {"SKLADPOL"}),
+              "Mouka hladká\nCukr krystal\nMouka hrubá\nČaj černý\nChléb");
+}
+
 TEST_P(OrderFillContract, ANoteGivesItsLinesInMainUnits) {
     EXPECT_EQ(byNote(sharedCompany(), c_Order, id(c_NoteOfMill),
                      {"SKLADPOL", "SKLAD", "DODAVATEL", "MNOZSTVIHL", "JEDNOTKYHL", "MNOZSTVIV1"}),
