@@ -242,13 +242,13 @@
         <translation>The name “%1” is longer than 100 characters. Shorten it.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML065">
-        <source>Druh editoru není zadán.</source>
-        <translation>The kind of editor is not given.</translation>
+        <source>Druh editoru není zadán. Zadejte jej.</source>
+        <translation>The kind of editor is not given. Give it.</translation>
     </message>
     <!-- The company's parameters, VAT and discounts -->
     <message id="MELVARKHOST\REFUSAL\ML070">
-        <source>Počet měsíců „%1“ není celé číslo od 0 do 1200.</source>
-        <translation>The number of months “%1” is not a whole number from 0 to 1200.</translation>
+        <source>Počet měsíců „%1“ není celé číslo od 0 do 1200. Opravte parametr firmy.</source>
+        <translation>The number of months “%1” is not a whole number from 0 to 1200. Correct the company’s parameter.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML110">
         <source>Sazba DPH „%1“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.</source>
@@ -358,6 +358,10 @@
     <message id="MELVARKHOST\REFUSAL\ML924">
         <source>V databázi „%1“ k tomu nemáte oprávnění. Požádejte o ně správce.</source>
         <translation>You lack the right to do this in database “%1”. Ask your administrator for it.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML925">
+        <source>V databázi „%1“ už není něco, na co se změna odvolává. Načtěte data znovu.</source>
+        <translation>Something that the change refers to is not in database “%1” any more. Load the data again.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML930">
         <source>Databáze „%1“ nemohla příkaz provést. Obraťte se na správce.</source>

@@ -195,8 +195,9 @@ TEST_P(SettingsContract, ANameIsNeitherEmptyNorTooLong) {
 
 TEST_P(SettingsContract, AKindOfEditorIsNeededToKeepSomething) {
     EXPECT_EQ(answer(novakova(), "MELVARKEDITORNASTAVENIUlozNove", {{"a_NAZEV", AnsiString("Moje")}}),
-              "ML065 Druh editoru není zadán.");
-    EXPECT_EQ(answer(novakova(), "MELVARKEDITORNASTAVENIUlozNastaveniOkna"), "ML065 Druh editoru není zadán.");
+              "ML065 Druh editoru není zadán. Zadejte jej.");
+    EXPECT_EQ(answer(novakova(), "MELVARKEDITORNASTAVENIUlozNastaveniOkna"),
+              "ML065 Druh editoru není zadán. Zadejte jej.");
 }
 
 TEST_P(SettingsContract, ADocumentComesBackToTheLetter) {

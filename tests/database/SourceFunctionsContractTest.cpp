@@ -105,7 +105,8 @@ TEST_P(SourceFunctionsContract, DeliveriesCountForMonthsThatAreATextOrANumber) {
     EXPECT_EQ(value(call + "'19.2.2026 23:59:59', '12')"), "0"); // not yet
     EXPECT_EQ(value(call + "'20.2.2026 0:00:00', '0')"), "1");
     EXPECT_EQ(value(call + "'31.12.2040', null)"), "1"); // without a number there is no limit
-    EXPECT_EQ(value(call + "'20.5.2026', 'mnoho')"), "ML070 Počet měsíců „mnoho“ není celé číslo od 0 do 1200.");
+    EXPECT_EQ(value(call + "'20.5.2026', 'mnoho')"),
+              "ML070 Počet měsíců „mnoho“ není celé číslo od 0 do 1200. Opravte parametr firmy.");
 }
 
 TEST_P(SourceFunctionsContract, MonthsBackEndOnADayThatExists) {

@@ -118,17 +118,17 @@ TEST_P(SupplierChecksContract, TheNumberOfMonthsIsATextThatHasToBeANumber) {
         return deliveriesOf(*database, id(c_Order), c_None, id(c_Mill));
     };
     EXPECT_EQ(check("' 3 '"), "1");
-    EXPECT_EQ(check("'" + std::string(100, '9') + "'"),
-              "ML070 Počet měsíců „" + std::string(60, '9') + "…“ není celé číslo od 0 do 1200.");
+    EXPECT_EQ(check("'" + std::string(100, '9') + "'"), "ML070 Počet měsíců „" + std::string(60, '9') +
+                                                            "…“ není celé číslo od 0 do 1200. Opravte parametr firmy.");
     EXPECT_EQ(check("'0'"), // the day of the order only
               "ML029 Dodavatel „Mlýn Lípa“ v posledních měsících nic nedodal. Vyberte jiného dodavatele.");
-    EXPECT_EQ(check("'tři'"), "ML070 Počet měsíců „tři“ není celé číslo od 0 do 1200.");
-    EXPECT_EQ(check("'-1'"), "ML070 Počet měsíců „-1“ není celé číslo od 0 do 1200.");
+    EXPECT_EQ(check("'tři'"), "ML070 Počet měsíců „tři“ není celé číslo od 0 do 1200. Opravte parametr firmy.");
+    EXPECT_EQ(check("'-1'"), "ML070 Počet měsíců „-1“ není celé číslo od 0 do 1200. Opravte parametr firmy.");
     database->runScript("update DODAK set DATUM = '1950-01-01' where DODVID = 1");
     EXPECT_EQ(check("'1200'"), "1"); // a hundred years
     EXPECT_EQ(check("'900'").substr(0, 5), "ML029");
     EXPECT_EQ(check("null"), "1"); // no limit
-    EXPECT_EQ(check("'1201'"), "ML070 Počet měsíců „1201“ není celé číslo od 0 do 1200.");
+    EXPECT_EQ(check("'1201'"), "ML070 Počet měsíců „1201“ není celé číslo od 0 do 1200. Opravte parametr firmy.");
 }
 
 std::string group(Database& database, int level, const TDbValue& name, const TDbValue& chosen) {
