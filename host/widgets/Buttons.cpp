@@ -108,12 +108,15 @@ void TMenuButton::SetPopupMenu(TPopupMenu* menu) {
 }
 
 QSize TMenuButton::sizeHint() const {
-    QSize size = QPushButton::sizeHint();
-    if (FMenu) { // the toolkit leaves room for the arrow of its own menus only
-        const int arrow = style()->pixelMetric(QStyle::PM_MenuButtonIndicator, nullptr, this);
-        size.rwidth() += arrow + fontMetrics().horizontalAdvance(u' ');
-    }
-    return size;
+    if (!FMenu)
+        return QPushButton::sizeHint();
+    // The toolkit leaves room for the arrow of its own menus only, and a style's least width holds the arrow too.
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QSize contents = fontMetrics().size(Qt::TextShowMnemonic, text());
+    contents.rwidth() +=
+        style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this) + fontMetrics().horizontalAdvance(u' ');
+    return style()->sizeFromContents(QStyle::CT_PushButton, &option, contents, this);
 }
 
 void TMenuButton::keyPressEvent(QKeyEvent* event) {

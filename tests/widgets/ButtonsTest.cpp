@@ -161,6 +161,15 @@ TEST_F(ButtonsTest, AMenuButtonHasRoomForItsArrow) {
     EXPECT_GT(button->sizeHint().width(), captionAlone + arrow); // and a little between them
 }
 
+TEST_F(ButtonsTest, AMenuButtonsArrowFitsIntoTheLeastWidthOfAButton) {
+    auto* button = add<TMenuButton>();
+    button->SetCaption("-");
+    const QSize least = button->sizeHint();
+    QMenu menu;
+    button->SetPopupMenu(&menu);
+    EXPECT_EQ(button->sizeHint(), least);
+}
+
 TEST_F(ButtonsTest, AnEmptyMenuIsNeverOpened) {
     auto* button = add<TMenuButton>();
     show();
