@@ -63,8 +63,10 @@ TEST_F(EditBox, ItsControlsHaveTheirTextsAndStates) {
     EXPECT_FALSE(form->NadpisVlastnostiSloupce->isEnabled());
 }
 
-TEST_F(EditBox, ItsControlsStandInTheirPlaces) {
+TEST_F(EditBox, ItsControlsStandInTheirPlacesWhileNoCaptionNeedsMoreRoom) {
     open();
+    form->MenuBtn->SetCaption("---");
+    settle();
     EXPECT_EQ(form->size(), QSize(790, 400));
     EXPECT_EQ(form->ButtonPanel->geometry(), QRect(790 - 106, 0, 106, 400));
     EXPECT_EQ(form->OkBtn->geometry(), QRect(8, 6, 90, 25));
