@@ -112,6 +112,22 @@ void HostSession::press(const QStringList& keys) {
     runTool(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("50")} + keys);
 }
 
+qsizetype HostSession::visibleWindows() const {
+    QProcess tool;
+    tool.start(QStringLiteral("xdotool"),
+               {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--pid"),
+                QString::number(host_.processId()), QStringLiteral("--name"), QString()});
+    tool.waitForFinished(c_LimitMs);
+    return tool.readAllStandardOutput().count('\n');
+}
+
+void HostSession::openMenu(const QString& key) {
+    const qsizetype before = visibleWindows();
+    press({key});
+    if (!QTest::qWaitFor([&] { return visibleWindows() > before; }, c_LimitMs))
+        fail(QStringLiteral("no menu opened on ") + key);
+}
+
 void HostSession::pickFirstRow() {
     waitForWindow(QStringLiteral("Výběr ze seznamu"));
     press({QStringLiteral("Return")});

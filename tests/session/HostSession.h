@@ -35,6 +35,8 @@ public:
     void type(const QString& text);
     /// Presses keys, named as X names them: "Return", "ctrl+Return", "shift+Return", "Escape".
     void press(const QStringList& keys);
+    /// Presses the key that opens a menu and waits until the host has one more window.
+    void openMenu(const QString& key);
     /// Waits for the host's lookup list and picks its first row.
     void pickFirstRow();
     /// Waits until the trace has so many lines that contain the text.
@@ -52,6 +54,7 @@ public:
 private:
     QStringList withDatabase(const QStringList& arguments) const;
     void runTool(const QStringList& arguments) const;
+    qsizetype visibleWindows() const;
 
     QTemporaryDir folder_;
     QProcess host_;

@@ -1,0 +1,89 @@
+#include "tests/session/DeliveryNoteTrace.h"
+#include "tests/session/HostSession.h"
+#include "tests/session/TinyCompany.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const QString c_MainTitle = QStringLiteral("Melvark – nákup a sklad");
+const QString c_EditorTitle = QStringLiteral("Vložení položek dodacího listu");
+const QString c_ErrorTitle = QStringLiteral("Chyba");
+
+/// F8, and the last entry of the menu: the template of the latest delivery notes.
+void insertFromTemplate(HostSession& session) {
+    session.openMenu(QStringLiteral("F8"));
+    session.press({QStringLiteral("Up"), QStringLiteral("Return")});
+}
+
+std::vector<std::string> checkedNotes(const HostSession& session) {
+    std::vector<std::string> calls;
+    for (const std::string& line : session.trace()) {
+        if (line.starts_with(R"({"call":"MELVARKEDITORDodakCheckMaster")"))
+            calls.push_back(line);
+    }
+    return calls;
+}
+
+TEST(MainWindowSession, ANoteIsFoundByTypingFilledByKeysAndStillCurrentAfterwards) {
+    HostSession session;
+    session.start({});
+    session.waitForWindow(c_MainTitle); // on the latest note, DL3
+    session.type(QStringLiteral("dl2"));
+    session.press({QStringLiteral("Return"), QStringLiteral("Escape")}); // all notes again, the found one current
+    insertFromTemplate(session);
+    session.waitForWindow(c_EditorTitle);
+    session.press({QStringLiteral("ctrl+Return")});
+    session.waitForTrace("MELVARKEDITORNASTAVENIUlozNastaveniOkna");
+    session.waitForWindow(c_MainTitle);
+    EXPECT_EQ(storedLines(session).size(), 2u);
+
+    session.press({QStringLiteral("F5")});
+    insertFromTemplate(session);
+    session.waitForTrace("MELVARKEDITORNASTAVENINactiNastaveniOkna", 2);
+    session.waitForWindow(c_EditorTitle);
+    session.press({QStringLiteral("alt+F4")});
+    session.waitForTrace("MELVARKEDITORNASTAVENIUlozNastaveniOkna", 2);
+    session.waitForWindow(c_MainTitle);
+    session.press({QStringLiteral("ctrl+q")});
+    EXPECT_EQ(session.finish(), 0);
+
+    const std::string openNote = call("MELVARKEDITORDodakCheckMaster", false, R"(["a_DODKID",2])", 0);
+    EXPECT_THAT(checkedNotes(session), ElementsAre(openNote, openNote));
+}
+
+TEST(MainWindowSession, AClosedNoteIsRefusedInWordsAndTheWindowGoesOn) {
+    HostSession session;
+    session.start({});
+    session.waitForWindow(c_MainTitle);
+    session.type(QStringLiteral("dl1"));
+    insertFromTemplate(session);
+    session.waitForWindow(c_ErrorTitle);
+    session.press({QStringLiteral("Return")});
+    session.waitForWindow(c_MainTitle);
+    session.press({QStringLiteral("Escape"), QStringLiteral("ctrl+q")});
+    EXPECT_EQ(session.finish(), 0);
+
+    const std::string refusal = "Dodací list „DL1“ je uzavřený. Otevřete jej, nebo vyberte jiný.";
+    EXPECT_THAT(checkedNotes(session),
+                ElementsAre(refusedCall("MELVARKEDITORDodakCheckMaster", false, R"(["a_DODKID",1])", refusal)));
+    EXPECT_THAT(session.trace(), Contains(shownError(refusal)));
+    EXPECT_THAT(session.ask({QStringLiteral("--documents"), QStringLiteral("DODAK")}),
+                Contains(R"({"id":1,"number":"DL1","supplier":"Mlýn Lípa","open":false,"lines":2})"));
+}
+
+TEST(MainWindowSession, ADismissedMenuAsksNothing) {
+    HostSession session;
+    session.start({});
+    session.waitForWindow(c_MainTitle);
+    session.openMenu(QStringLiteral("F8"));
+    session.press({QStringLiteral("Escape"), QStringLiteral("ctrl+q")});
+    EXPECT_EQ(session.finish(), 0);
+    EXPECT_THAT(session.trace(), IsEmpty());
+}
+
+} // namespace
