@@ -10,7 +10,9 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <functional>
 #include <gmock/gmock.h>
+#include <vector>
 
 namespace {
 
@@ -65,6 +67,84 @@ protected:
     RecordingLibraryManager manager;
     bool leftOpen = false;
 };
+
+/// What one set-up asks: of the list for document 7 of warehouse 3 and supplier 5, and of the check for row 11 picked
+/// from it.
+struct SetUpCase {
+    const char* name;
+    std::function<void(TSelectBox&)> setUp;
+    const char* lookup;
+    const char* procedure;
+    std::vector<AnsiString> params;
+};
+
+const SetUpCase c_SetUps[] = {
+    {"NoteFromOrder",
+     [](TSelectBox& box) { box.DodakSelectFromObjednavka(7, 5); },
+     "Kordan3:DODOBJEDNAVKA.Normal CISLO _ID "
+     "[V_MELVARKEDITORDodakCheckZdrojObjednavka(_ID, _SKLDID, _DODVID, 7, 5, _DODANO)=1]",
+     "MELVARKEDITORDodakCheckZdrojObjednavka",
+     {"a_DODKIDMASTER", "a_CISLO", "a_DDOBID"}},
+    {"NoteFromNote",
+     [](TSelectBox& box) { box.DodakSelectFromDodak(7, 5); },
+     "Kordan3:DODAK.Normal CISLO _ID [V_MELVARKEDITORDodakCheckZdrojDodak(_ID, _DODVID, 7, 5)=1]",
+     "MELVARKEDITORDodakCheckZdrojDodak",
+     {"a_DODKIDMASTER", "a_DODAKCISLO", "a_DODKID"}},
+    {"OrderFromTemplate",
+     [](TSelectBox& box) { box.DodObjSelectFromObjednavkaVzor(7, 3, 5); },
+     "Kordan3:DODOBJEDNAVKAVZOR.Normal CISLO _ID "
+     "[V_MELVARKEDITORDodObjCheckZdrojObjednavkaVzor(_ID, _SKLDID, _DODVID, 7, 3, 5)=1]",
+     "MELVARKEDITORDodObjCheckZdrojObjednavkaVzor",
+     {"a_DDOBIDMASTER", "a_CISLO", "a_DDOBID"}},
+    // The list asks the templates' function, the check the orders' procedure: on purpose.
+    {"OrderFromOrder",
+     [](TSelectBox& box) { box.DodObjSelectFromObjednavka(7, 3, 5); },
+     "Kordan3:DODOBJEDNAVKA.Normal CISLO _ID "
+     "[V_MELVARKEDITORDodObjCheckZdrojObjednavkaVzor(_ID, _SKLDID, _DODVID, 7, 3, 5)=1]",
+     "MELVARKEDITORDodObjCheckZdrojObjednavka",
+     {"a_DDOBIDMASTER", "a_CISLO", "a_DDOBID"}},
+    {"OrderFromNote",
+     [](TSelectBox& box) { box.DodObjSelectFromDodak(7, 3, 5); },
+     "Kordan3:DODAK.Normal CISLO _ID [V_MELVARKEDITORDodObjCheckZdrojDodak(_ID, _DODVID, 7, 3, 5)=1]",
+     "MELVARKEDITORDodObjCheckZdrojDodak",
+     {"a_DDOBIDMASTER", "a_CISLO", "a_DODKID"}},
+    {"OrderFromPriceList",
+     [](TSelectBox& box) { box.DodObjSelectFromDodCenik(7, c_Midnight); },
+     "Kordan3:DODAVATEL.Normal JMENO _ID "
+     "[V_MELVARKEDITORDodObjCheckZdrojDodCenik(_ID, 7, -1, -1, '1.2.2027 00:00:00')=1]",
+     "MELVARKEDITORDodObjCheckZdrojDodCenik",
+     {"a_DDOBIDMASTER", "a_JMENO", "a_DODVID"}},
+    {"OrderFromDeliveries",
+     [](TSelectBox& box) { box.DodObjSelectFromDodavky(7, "", c_Midnight); },
+     "Kordan3:DODAVATEL.Normal JMENO _ID "
+     "[V_MELVARKEDITORDodObjCheckZdrojDodavky(_ID, 7, -1, -1, '1.2.2027 00:00:00', "
+     "V_GetGlobalParam('SKLAD','POCETMESICUDODAVEK'))=1]",
+     "MELVARKEDITORDodObjCheckZdrojDodavky",
+     {"a_DDOBIDMASTER", "a_JMENO", "a_DODVID"}},
+};
+
+TEST_F(SelectBox, EachSetUpAsksItsOwnListAndItsOwnCheck) {
+    for (const SetUpCase& row : c_SetUps) {
+        SCOPED_TRACE(row.name);
+        RecordingLibraryManager lists;
+        lists.lookupAnswers = {TLookupPick{"Vybraný", "11"}};
+        host.connection.procedure(row.procedure)
+            .inputs(row.params)
+            .returns({TResultTable{{"ID"}, {{std::int64_t{11}}}}});
+        host.connection.takeCalls();
+        TSelectBox box(nullptr, &lists);
+        row.setUp(box);
+        const int result = showAnd(box, [&] {
+            QTest::keyClick(edit(box), Qt::Key_F5);
+            QTest::keyClick(edit(box), Qt::Key_Return);
+        });
+        EXPECT_EQ(result, c_ResultOk);
+        EXPECT_THAT(lists.lookups(), ElementsAre(row.lookup));
+        EXPECT_THAT(host.connection.takeCalls(),
+                    ElementsAre(AnsiString(row.procedure) + "(" + row.params[0] + "=7, " + row.params[1] +
+                                "=\"Vybraný\", " + row.params[2] + "=11) open"));
+    }
+}
 
 TEST_F(SelectBox, ATypedNumberIsResolvedByTheDatabase) {
     TSelectBox box(nullptr, &manager);
@@ -149,6 +229,44 @@ TEST_F(SelectBox, ARefusedSourceKeepsTheDialogOpenWithItsTextAndTheFocusInTheEdi
     EXPECT_EQ(box.GetID(), -1);
 }
 
+TEST_F(SelectBox, TheFocusIsInTheEditWhileTheSourceIsChecked) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromDodak(7, 5);
+    bool hadFocus = false;
+    host.connection.procedure("MELVARKEDITORDodakCheckZdrojDodak").answers([&](const TProcedureCall&) {
+        hadFocus = edit(box)->hasFocus();
+        return TCallResult{true, {TResultTable{{"ID"}, {{std::int64_t{43}}}}}, {}};
+    });
+    showAnd(box, [&] {
+        option(box, "chbCeny")->setFocus();
+        QTest::keyClick(option(box, "chbCeny"), Qt::Key_Return); // the default button, wherever the focus is
+    });
+    EXPECT_TRUE(hadFocus);
+    EXPECT_EQ(box.GetID(), 43);
+}
+
+TEST_F(SelectBox, ARefusedPickStaysPickedUntilTheTextChanges) {
+    host.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka").refusesCall(1, "Objednávka je dodaná.");
+    manager.lookupAnswers = {TLookupPick{"OV1", "11"}};
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    showAnd(box, [&] {
+        QTest::keyClick(edit(box), Qt::Key_F5);
+        click(box, "OkBtn");
+        EXPECT_EQ(box.GetID(), 11);
+        EXPECT_EQ(edit(box)->text(), QStringLiteral("OV1"));
+        QTest::keyClick(edit(box), Qt::Key_Backspace);
+        EXPECT_EQ(box.GetID(), -1);
+    });
+}
+
+TEST_F(SelectBox, TheCancelButtonCancelsWithoutACheck) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    EXPECT_EQ(showAnd(box, [&] { click(box, "CancelBtn"); }), c_ResultCancel);
+    EXPECT_THAT(host.connection.calls(), IsEmpty());
+}
+
 TEST_F(SelectBox, ARefusedSourceCanBeCorrectedAndConfirmed) {
     host.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka").refusesCall(1, "Objednávka neexistuje.");
     TSelectBox box(nullptr, &manager);
@@ -199,10 +317,16 @@ TEST_F(SelectBox, WithoutALibraryManagerTheListStaysShutAndTypingWorks) {
     EXPECT_EQ(box.GetID(), 42);
 }
 
-TEST_F(SelectBox, BeforeASetUpOkAsksNobody) {
+TEST_F(SelectBox, BeforeASetUpListAndOkAskNobody) {
     TSelectBox box(nullptr, &manager);
-    const int result = showAnd(box, [&] { click(box, "OkBtn"); });
+    const int result = showAnd(box, [&] {
+        EXPECT_EQ(box.Caption(), "Výběr");
+        EXPECT_EQ(edit(box)->text(), QString());
+        QTest::keyClick(edit(box), Qt::Key_F5);
+        click(box, "OkBtn");
+    });
     EXPECT_EQ(result, c_ResultOk);
+    EXPECT_THAT(manager.lookups(), IsEmpty());
     EXPECT_THAT(host.connection.calls(), IsEmpty());
     EXPECT_THAT(manager.localizedSections(), ElementsAre("KORDAN30\\MelvarkEditorSelectWin"));
 }
@@ -249,6 +373,39 @@ TEST_F(SelectBox, DeliveriesOfADocumentWithASupplierOfferOnlyThatOne) {
     });
     EXPECT_THAT(host.connection.calls(), ElementsAre("MELVARKEDITORDodObjCheckZdrojDodavky(a_DDOBIDMASTER=7, "
                                                      "a_JMENO=\"Mlékárna Olšany\", a_DODVID=null) open"));
+}
+
+TEST_F(SelectBox, WhereTheSupplierIsGivenTheFocusIsInTheOptionAndEnterConfirms) {
+    TSelectBox box(nullptr, &manager);
+    box.DodObjSelectFromDodavky(7, "Mlékárna Olšany", c_Midnight);
+    const int result = showAnd(box, [&] {
+        ASSERT_TRUE(option(box, "chbMnozstvi")->hasFocus());
+        QTest::keyClick(option(box, "chbMnozstvi"), Qt::Key_Space);
+        QTest::keyClick(option(box, "chbMnozstvi"), Qt::Key_Return);
+    });
+    EXPECT_EQ(result, c_ResultOk);
+    EXPECT_EQ(box.GetID(), 44);
+    EXPECT_TRUE(box.GetPrenesMnozstvi());
+}
+
+TEST_F(SelectBox, ItsHeightIsFixedAndItsWidthGrows) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromDodak(7, 5);
+    showAnd(box, [&] {
+        EXPECT_EQ(box.minimumHeight(), box.maximumHeight());
+        EXPECT_GE(box.minimumWidth(), 400);
+        const int room = box.width() - edit(box)->width();
+        box.resize(box.width() + 200, box.height());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return box.width() - edit(box)->width() == room; }));
+    });
+}
+
+TEST_F(SelectBox, TheListButtonSaysWhatItDoes) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromDodak(7, 5);
+    const auto* button = box.findChild<QToolButton*>(QStringLiteral("SelectSpeedButton"));
+    EXPECT_EQ(button->toolTip(), QStringLiteral("Vybrat ze seznamu (F5)"));
+    EXPECT_EQ(button->accessibleName(), button->toolTip());
 }
 
 TEST_F(SelectBox, DeliveriesOfADocumentWithoutASupplierLetTheClerkPickOne) {
