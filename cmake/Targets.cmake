@@ -58,4 +58,8 @@ function(melvark_test target)
     list(APPEND environment "QT_QPA_PLATFORM=offscreen")
   endif()
   set_tests_properties(${target} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${environment}")
+  if(ARG_DISPLAY)
+    # Keys and focus go their way through other processes; nothing else competes with them for the machine.
+    set_tests_properties(${target} PROPERTIES RUN_SERIAL ON)
+  endif()
 endfunction()
