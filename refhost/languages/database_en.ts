@@ -64,59 +64,59 @@
     <!-- Sources. The sentences of one code that differ in the kind of document are told apart by their Czech text. -->
     <message id="MELVARKHOST\REFUSAL\ML020">
         <source>Zdroj není zadán. Zapište jej, nebo jej vyberte ze seznamu.</source>
-        <translation>No source is given. Type it, or pick it from the list.</translation>
+        <translation>No source is given. Type it, or choose it from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML021|Objednávka „%1“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.">
         <source>Objednávka „%1“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.</source>
-        <translation>Order “%1” does not exist. Correct it, or pick from the list.</translation>
+        <translation>Order “%1” does not exist. Correct it, or choose from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML021|Vzor objednávky „%1“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.">
         <source>Vzor objednávky „%1“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.</source>
-        <translation>Order template “%1” does not exist. Correct it, or pick from the list.</translation>
+        <translation>Order template “%1” does not exist. Correct it, or choose from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML021|Dodací list „%1“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.">
         <source>Dodací list „%1“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.</source>
-        <translation>Delivery note “%1” does not exist. Correct it, or pick from the list.</translation>
+        <translation>Delivery note “%1” does not exist. Correct it, or choose from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML021|Dodavatel „%1“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.">
         <source>Dodavatel „%1“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.</source>
-        <translation>Supplier “%1” does not exist. Correct it, or pick from the list.</translation>
+        <translation>Supplier “%1” does not exist. Correct it, or choose from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML022">
         <source>Zapsáno je „%1“, ale vybráno bylo „%2“. Vyberte ze seznamu znovu.</source>
-        <translation>“%1” is typed, but “%2” was picked. Pick from the list again.</translation>
+        <translation>“%1” is typed, but “%2” was chosen. Choose from the list again.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML023">
         <source>Označení „%1“ má více záznamů. Vyberte ten správný ze seznamu.</source>
-        <translation>Several records are called “%1”. Pick the right one from the list.</translation>
+        <translation>Several records are called “%1”. Choose the right one from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML024|Objednávka „%1“ patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného dodavatele.">
         <source>Objednávka „%1“ patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného dodavatele.</source>
-        <translation>Order “%1” belongs to another supplier than this document. Pick a document of the same supplier from the list.</translation>
+        <translation>Order “%1” belongs to another supplier than this document. Choose a document of the same supplier from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML024|Vzor objednávky „%1“ patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného dodavatele.">
         <source>Vzor objednávky „%1“ patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného dodavatele.</source>
-        <translation>Order template “%1” belongs to another supplier than this document. Pick a document of the same supplier from the list.</translation>
+        <translation>Order template “%1” belongs to another supplier than this document. Choose a document of the same supplier from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML024|Dodací list „%1“ patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného dodavatele.">
         <source>Dodací list „%1“ patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného dodavatele.</source>
-        <translation>Delivery note “%1” belongs to another supplier than this document. Pick a document of the same supplier from the list.</translation>
+        <translation>Delivery note “%1” belongs to another supplier than this document. Choose a document of the same supplier from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML024|Dodavatel „%1“ patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného dodavatele.">
         <source>Dodavatel „%1“ patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného dodavatele.</source>
-        <translation>Supplier “%1” belongs to another supplier than this document. Pick a document of the same supplier from the list.</translation>
+        <translation>Supplier “%1” belongs to another supplier than this document. Choose a document of the same supplier from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML025|Objednávka „%1“ patří jinému skladu než tento doklad. Vyberte ze seznamu doklad stejného skladu.">
         <source>Objednávka „%1“ patří jinému skladu než tento doklad. Vyberte ze seznamu doklad stejného skladu.</source>
-        <translation>Order “%1” belongs to another warehouse than this document. Pick a document of the same warehouse from the list.</translation>
+        <translation>Order “%1” belongs to another warehouse than this document. Choose a document of the same warehouse from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML025|Vzor objednávky „%1“ patří jinému skladu než tento doklad. Vyberte ze seznamu doklad stejného skladu.">
         <source>Vzor objednávky „%1“ patří jinému skladu než tento doklad. Vyberte ze seznamu doklad stejného skladu.</source>
-        <translation>Order template “%1” belongs to another warehouse than this document. Pick a document of the same warehouse from the list.</translation>
+        <translation>Order template “%1” belongs to another warehouse than this document. Choose a document of the same warehouse from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML025|Dodací list „%1“ patří jinému skladu než tento doklad. Vyberte ze seznamu doklad stejného skladu.">
         <source>Dodací list „%1“ patří jinému skladu než tento doklad. Vyberte ze seznamu doklad stejného skladu.</source>
-        <translation>Delivery note “%1” belongs to another warehouse than this document. Pick a document of the same warehouse from the list.</translation>
+        <translation>Delivery note “%1” belongs to another warehouse than this document. Choose a document of the same warehouse from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML026">
         <source>Objednávka „%1“ má už všechny položky dodané. Vyberte objednávku, na které něco zbývá.</source>
@@ -145,15 +145,15 @@
     <!-- Stock groups -->
     <message id="MELVARKHOST\REFUSAL\ML030">
         <source>Skupina …. úrovně „%1“ neexistuje. Opravte název, nebo ji vyberte ze seznamu.</source>
-        <translation>Stock group “%1” does not exist on its level. Correct the name, or pick it from the list.</translation>
+        <translation>Stock group “%1” does not exist on its level. Correct the name, or choose it from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML031">
         <source>Název „%1“ má více skupin …. úrovně. Vyberte tu správnou ze seznamu.</source>
-        <translation>Several stock groups of this level are called “%1”. Pick the right one from the list.</translation>
+        <translation>Several stock groups of this level are called “%1”. Choose the right one from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML032">
         <source>Zapsáno je „%1“, ale vybráno bylo „%2“. Vyberte ze seznamu znovu.</source>
-        <translation>“%1” is typed, but “%2” was picked. Pick from the list again.</translation>
+        <translation>“%1” is typed, but “%2” was chosen. Choose from the list again.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML033">
         <source>Není zadána žádná skupina. Zadejte skupinu aspoň jedné úrovně.</source>
@@ -182,11 +182,11 @@
     </message>
     <message id="MELVARKHOST\REFUSAL\ML044">
         <source>Sklad „%1“ neexistuje. Vyberte sklad ze seznamu.</source>
-        <translation>Warehouse “%1” does not exist. Pick a warehouse from the list.</translation>
+        <translation>Warehouse “%1” does not exist. Choose a warehouse from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML045">
         <source>Dodavatel „%1“ neexistuje. Vyberte dodavatele ze seznamu.</source>
-        <translation>Supplier “%1” does not exist. Pick a supplier from the list.</translation>
+        <translation>Supplier “%1” does not exist. Choose a supplier from the list.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML047">
         <source>Jednotka „%1“ nepatří k položce „%2“. Načtěte řádek znovu.</source>
@@ -252,7 +252,7 @@
     </message>
     <message id="MELVARKHOST\REFUSAL\ML110">
         <source>Sazba DPH „%1“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.</source>
-        <translation>VAT rate “%1” does not exist. Pick a rate from the list of VAT rates.</translation>
+        <translation>VAT rate “%1” does not exist. Choose a rate from the list of VAT rates.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML111">
         <source>Sleva … % není přípustná. Zadejte slevu od 0 do 100 %.</source>

@@ -336,7 +336,7 @@
     </message>
     <message id="KORDAN30\MelvarkEditorSelectWin\SelectSpeedButton\Hint">
         <source>Vybrat ze seznamu (F5)</source>
-        <translation>Pick from the list (F5)</translation>
+        <translation>Choose from the list (F5)</translation>
     </message>
     <message id="KORDAN30\MelvarkEditorSelectWin\lblPrenest\Caption">
         <source>Přenést:</source>

@@ -36,7 +36,7 @@ TEST(Refusals, TheTranslationNamesTheSameThings) {
     EXPECT_EQ(inEnglish("Dodací list „DL9“ je uzavřený. Otevřete jej, nebo vyberte jiný.", "ML011"),
               "Delivery note “DL9” is closed. Open it, or choose another one.");
     EXPECT_EQ(inEnglish("Zapsáno je „OV7“, ale vybráno bylo „OV8“. Vyberte ze seznamu znovu.", "ML022"),
-              "“OV7” is typed, but “OV8” was picked. Pick from the list again.");
+              "“OV7” is typed, but “OV8” was chosen. Choose from the list again.");
 }
 
 TEST(Refusals, FormsOfOneCodeAreTranslatedApart) {
@@ -48,7 +48,7 @@ TEST(Refusals, FormsOfOneCodeAreTranslatedApart) {
 
 TEST(Refusals, AThingThatLooksLikeAPlaceStaysAsItIs) {
     EXPECT_EQ(inEnglish("Zapsáno je „%2“, ale vybráno bylo „%1 a 50 %“. Vyberte ze seznamu znovu.", "ML022"),
-              "“%2” is typed, but “%1 a 50 %” was picked. Pick from the list again.");
+              "“%2” is typed, but “%1 a 50 %” was chosen. Choose from the list again.");
 }
 
 TEST(Refusals, ASentenceThatLacksAThingIsLeftToTheDatabase) {
