@@ -143,20 +143,24 @@ std::string read(const std::filesystem::path& file) {
     return text.str();
 }
 
+void collectLiteralKeys(const std::string& source, std::set<std::string>& keys) {
+    static const std::regex literal(R"re("(KORDAN30\\\\[^"]*)"|R"\((KORDAN30\\[^)]*)\)")re");
+    for (std::sregex_iterator match(source.begin(), source.end(), literal), end; match != end; ++match) {
+        const std::string escaped = std::regex_replace((*match)[1].str(), std::regex(R"(\\\\)"), "\\");
+        keys.insert((*match)[1].matched ? escaped : (*match)[2].str());
+    }
+}
+
 /// The keys and beginnings of keys that stand literally in the module's sources.
 std::set<std::string> literalKeys() {
-    static const std::regex literal(R"re("(KORDAN30\\\\[^"]*)"|R"\((KORDAN30\\[^)]*)\)")re");
     std::set<std::string> keys;
-    for (const char* folder : {"host/widgets", "editwin", "editors", "select", "dialogs", "main"}) {
-        for (const auto& file :
-             std::filesystem::recursive_directory_iterator(std::string(MELVARK_SOURCES "/") + folder)) {
-            if (file.path().extension() != ".cpp")
-                continue;
-            const std::string text = read(file.path());
-            for (std::sregex_iterator match(text.begin(), text.end(), literal), end; match != end; ++match) {
-                const std::string escaped = std::regex_replace((*match)[1].str(), std::regex(R"(\\\\)"), "\\");
-                keys.insert((*match)[1].matched ? escaped : (*match)[2].str());
-            }
+    for (const char* name : {"host/widgets", "editwin", "editors", "select", "dialogs", "main"}) {
+        const std::filesystem::path folder = std::string(MELVARK_SOURCES "/") + name;
+        if (!std::filesystem::exists(folder)) // a folder that has nothing yet
+            continue;
+        for (const auto& file : std::filesystem::recursive_directory_iterator(folder)) {
+            if (file.path().extension() == ".cpp")
+                collectLiteralKeys(read(file.path()), keys);
         }
     }
     return keys;
