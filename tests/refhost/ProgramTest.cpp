@@ -5,9 +5,9 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
-#include <memory>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <memory>
 
 namespace {
 

@@ -3,7 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-/// In its scope, toolkit warnings that contain the text are expected and pass; any other warning fails the running test.
+/// In its scope, toolkit warnings that contain the text are expected and pass; any other warning fails the running
+/// test.
 class ExpectedWarning {
 public:
     explicit ExpectedWarning(const QString& part);
