@@ -195,6 +195,9 @@ QVariant ResultModel::headerData(int section, Qt::Orientation orientation, int r
     const Shown& column = shown_[static_cast<std::size_t>(section)];
     if (role == Qt::DisplayRole)
         return columnTitle(table_.Columns[column.source], languages_);
+    // The key that sorts by the column stands in its tooltip, so that it can be learned.
+    if (role == Qt::ToolTipRole && section < c_sortKeyCount)
+        return QStringLiteral("Alt+%1").arg(section + 1);
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (column.kind == ColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft));

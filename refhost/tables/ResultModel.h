@@ -15,6 +15,9 @@ namespace refhost {
 
 class Languages;
 
+/// How many columns can be sorted by a key of their own, Alt with the column's number.
+inline constexpr int c_sortKeyCount = 9;
+
 /// A result set of the database as a model: the columns for people in the order of the result, one of them put first
 /// if wished. The columns that begin with "_" stay reachable by name. Rows whose column "_OTEVRENO" is 0 are greyed.
 /// Sorting and searching are ResultOrder's affair.

@@ -79,6 +79,22 @@ void ResultTable::sortBy(std::string_view column, Qt::SortOrder order) {
         sortByColumn(*shown, order);
 }
 
+std::optional<int> ResultTable::sortColumnOfKey(const QKeyEvent& event) {
+    const bool isDigit = event.key() >= Qt::Key_1 && event.key() < Qt::Key_1 + c_sortKeyCount;
+    if (!isDigit || (event.modifiers() & ~Qt::KeypadModifier) != Qt::AltModifier)
+        return std::nullopt;
+    return event.key() - Qt::Key_1;
+}
+
+void ResultTable::sortByPlace(int column) {
+    if (column >= order_->columnCount())
+        return;
+    const QHeaderView& header = *horizontalHeader();
+    const bool isSortedUp =
+        header.sortIndicatorSection() == column && header.sortIndicatorOrder() == Qt::AscendingOrder;
+    sortByColumn(column, isSortedUp ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
 void ResultTable::setSearch(const QString& typed) {
     const int row = currentIndex().row();
     order_->setSearch(typed);
@@ -142,8 +158,11 @@ void ResultTable::currentChanged(const QModelIndex& current, const QModelIndex& 
 
 void ResultTable::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const std::optional<int> sortColumn = sortColumnOfKey(*event);
     if (isEnter && currentIndex().isValid())
         Q_EMIT rowActivated();
+    else if (sortColumn)
+        sortByPlace(*sortColumn);
     else
         QTableView::keyPressEvent(event);
 }

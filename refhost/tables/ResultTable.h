@@ -15,8 +15,9 @@ class Languages;
 class ResultModel;
 class ResultOrder;
 
-/// A result set in a read-only table: one row is current, a click on a heading sorts. The current row, the order and
-/// the widths survive a new result of the same columns; rows are recognised by their column "_ID".
+/// A result set in a read-only table: one row is current, a click on a heading sorts, and so does Alt with the column's
+/// number (see sortColumnOfKey); the second time the other way round. The current row, the order and the widths survive
+/// a new result of the same columns; rows are recognised by their column "_ID".
 class ResultTable : public QTableView {
     Q_OBJECT
 public:
@@ -27,6 +28,9 @@ public:
     const ResultModel& result() const { return *model_; }
 
     void sortBy(std::string_view column, Qt::SortOrder order);
+    /// The column, counted from 0, by which Alt and a digit sort: Alt+1 the first to Alt+9 the ninth; nothing for any
+    /// other key.
+    static std::optional<int> sortColumnOfKey(const QKeyEvent& event);
     void setSearch(const QString& typed);
 
     /// The current row of the result; nothing when there is none.
@@ -52,6 +56,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void sortByPlace(int column);
     void selectShownRow(int row);
     void keepSomeRowCurrent(int wantedRow);
     void fitColumns(bool isNewLayout);

@@ -23,8 +23,10 @@ constexpr int c_searchWidth = 280;
 constexpr std::array c_rowKeys{Qt::Key_Up,       Qt::Key_Down,   Qt::Key_PageUp,
                                Qt::Key_PageDown, Qt::Key_Return, Qt::Key_Enter};
 
-bool isRowKey(const QKeyEvent& event) {
-    return std::find(c_rowKeys.begin(), c_rowKeys.end(), event.key()) != c_rowKeys.end();
+/// A key that the table understands and the search line has no use for.
+bool isTableKey(const QKeyEvent& event) {
+    return ResultTable::sortColumnOfKey(event) ||
+           std::find(c_rowKeys.begin(), c_rowKeys.end(), event.key()) != c_rowKeys.end();
 }
 
 /// A key that writes something; blanks only separate words, so that none begins a search.
@@ -104,7 +106,7 @@ bool SearchableTable::takeSearchKey(QKeyEvent& event) {
         search_->clear();
         return true;
     }
-    if (!isRowKey(event))
+    if (!isTableKey(event))
         return false;
     QCoreApplication::sendEvent(table_, &event);
     return true;

@@ -15,8 +15,8 @@ class Languages;
 class ResultTable;
 
 /// A table with a search line above it that narrows the rows while somebody types. Typing works in both: letters typed
-/// in the table go to the search line, and the keys that move through rows work in the search line. Escape empties the
-/// search line; when it is empty already, Escape is left to the window.
+/// in the table go to the search line, and the keys that move through rows or sort them work in the search line. Escape
+/// empties the search line; when it is empty already, Escape is left to the window.
 class SearchableTable : public QWidget {
     Q_OBJECT
 public:

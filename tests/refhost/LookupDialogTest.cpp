@@ -127,6 +127,36 @@ TEST_F(LookupDialogTest, AClickOnAHeadingSortsAndKeepsTheCurrentRow) {
     EXPECT_EQ(table().currentKey(), "102");
 }
 
+TEST_F(LookupDialogTest, AltAndTheColumnsNumberSortAndTheSecondTimeTheOtherWayRound) {
+    open(deliveryNotes());
+    press(Qt::Key_Down);
+
+    QTest::keyClick(focusedWidget(), Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(numbers(), (Numbers{"DL-10", "DL-11", "DL-9"})); // 31.12.2026, 15.1.2027, 1.2.2027
+    EXPECT_EQ(table().currentKey(), "102");
+    QTest::keyClick(focusedWidget(), Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(numbers(), (Numbers{"DL-9", "DL-11", "DL-10"}));
+    QTest::keyClick(focusedWidget(), Qt::Key_9, Qt::AltModifier); // the list has no ninth column
+    EXPECT_EQ(numbers(), (Numbers{"DL-9", "DL-11", "DL-10"}));
+}
+
+TEST_F(LookupDialogTest, TheSearchLineSortsByTheSameKeysAndKeepsItsText) {
+    open(deliveryNotes());
+    search().setFocus();
+    QTest::keyClicks(&search(), u"DL"_qs);
+
+    QTest::keyClick(&search(), Qt::Key_2, Qt::AltModifier);
+
+    EXPECT_EQ(numbers(), (Numbers{"DL-10", "DL-11", "DL-9"}));
+    EXPECT_EQ(search().text(), u"DL");
+}
+
+TEST_F(LookupDialogTest, AHeadingTellsTheKeyThatSortsByIt) {
+    open(deliveryNotes());
+    const QAbstractItemModel& model = *static_cast<QTableView&>(table()).model();
+    EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::ToolTipRole).toString(), u"Alt+2");
+}
+
 TEST_F(LookupDialogTest, AnEmptyListSaysSo) {
     TResultTable rows = deliveryNotes();
     rows.Rows.clear();
