@@ -82,15 +82,26 @@ const PostgreSQLProcedure::Parameter& PostgreSQLProcedure::input(const TProcedur
     return *found;
 }
 
-TCallResult PostgreSQLProcedure::run(PostgreSQLSession& session, const TProcedureCall& call) const {
-    std::string arguments;
-    std::vector<TDbValue> values;
+PostgreSQLProcedure::Arguments PostgreSQLProcedure::arguments(const TProcedureCall& call) const {
+    Arguments passed;
+    std::vector<const Parameter*> named;
     for (const TDbParam& parameter : call.Params) {
         const Parameter& declared = input(call, parameter.Name);
-        values.push_back(parameterValue(declared.Kind, declared.Name, parameter.Value));
-        arguments += (arguments.empty() ? "" : ", ") + declared.SqlName + " => $" + std::to_string(values.size());
+        TDbValue value = parameterValue(declared.Kind, declared.Name, parameter.Value);
+        if (const auto earlier = std::ranges::find(named, &declared); earlier != named.end()) {
+            passed.Values[static_cast<std::size_t>(earlier - named.begin())] = std::move(value);
+            continue;
+        }
+        named.push_back(&declared);
+        passed.Values.push_back(std::move(value));
+        passed.Sql += (passed.Sql.empty() ? "" : ", ") + declared.SqlName + " => $" + std::to_string(named.size());
     }
-    const std::string sql = "select * from melvark." + sqlName_ + "(" + arguments + ")";
+    return passed;
+}
+
+TCallResult PostgreSQLProcedure::run(PostgreSQLSession& session, const TProcedureCall& call) const {
+    const auto [named, values] = arguments(call);
+    const std::string sql = "select * from melvark." + sqlName_ + "(" + named + ")";
     if (bringsCursors_)
         return runForCursors(session, sql, values, call.Open);
 

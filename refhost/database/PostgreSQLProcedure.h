@@ -30,7 +30,15 @@ private:
         ParameterKind Kind = ParameterKind::Text;
     };
 
+    /// What a call passes, in named notation: the parameters that it names, each once.
+    struct Arguments {
+        std::string Sql;
+        std::vector<TDbValue> Values;
+    };
+
     const Parameter& input(const TProcedureCall& call, std::string_view name) const;
+    /// Of a parameter that the call names twice the last value counts.
+    Arguments arguments(const TProcedureCall& call) const;
     TCallResult runForCursors(PostgreSQLSession& session, const std::string& sql, std::span<const TDbValue> values,
                               bool open) const;
 

@@ -138,6 +138,14 @@ TEST_P(OpeningContract, NamesThatCzechRulesHoldForEqualHaveAFixedOrderToo) {
               "abc\nAbc\nABC\nábc\nabd\ncafe\u0301\ncaf\u00e9\nHlavní sklad\nPobočka Čáslav");
 }
 
+TEST_P(OpeningContract, OfAParameterThatIsNamedTwiceTheLastValueCounts) {
+    const auto outputFor = [](const Parameters& parameters) {
+        return answer(sharedCompany(), "MELVARKEDITORDodakObnovData", parameters);
+    };
+    EXPECT_EQ(outputFor({{"a_DODKID", id(c_Missing)}, {"A_dodkid", id(c_OpenNote)}}), "a_OBNOVDATA = 1");
+    EXPECT_EQ(outputFor({{"a_DODKID", id(c_OpenNote)}, {"A_dodkid", id(c_Missing)}}), "a_OBNOVDATA = 0");
+}
+
 INSTANTIATE_TEST_SUITE_P(Engines, OpeningContract, testing::ValuesIn(c_BothEngines), engineOf);
 
 } // namespace
