@@ -264,6 +264,28 @@ TEST_P(OrderSavingContract, ASuccessEmptiesTheRows) {
     EXPECT_EQ(orderLines(*database, c_FreeOrder), "1 | Mouka hladká | Hlavní sklad | 1 | kg | 0 | - | - | -");
 }
 
+TEST_P(OrderSavingContract, ASuccessEmptiesTheSessionsRowsOfBothKindsOfDocument) {
+    const auto database = ownCompany();
+    const Cells tea = {{"a_SKLADPOL", "Čaj černý"}, {"a_MNOZSTVI", "1"}};
+
+    beginSave(*database);
+    EXPECT_EQ(stageNoteRow(*database, tea), "");
+    EXPECT_EQ(stageOrderRow(*database, flour("1")), "");
+    EXPECT_EQ(saveOrder(*database, id(c_FreeOrder)), "");
+    const std::string afterOrder = digest(*database);
+    EXPECT_EQ(saveNote(*database, id(c_OpenNote)), "");
+    EXPECT_EQ(digest(*database), afterOrder);
+
+    beginSave(*database);
+    EXPECT_EQ(stageNoteRow(*database, tea), "");
+    EXPECT_EQ(stageOrderRow(*database, flour("1")), "");
+    EXPECT_EQ(saveNote(*database, id(c_OpenNote)), "");
+    const std::string afterNote = digest(*database);
+    EXPECT_EQ(saveOrder(*database, id(c_FreeOrder)), "");
+    EXPECT_EQ(digest(*database), afterNote);
+    EXPECT_NE(afterNote, afterOrder);
+}
+
 INSTANTIATE_TEST_SUITE_P(Engines, OrderSavingContract, testing::ValuesIn(c_BothEngines), engineOf);
 
 } // namespace

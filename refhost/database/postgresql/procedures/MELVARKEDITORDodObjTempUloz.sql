@@ -77,6 +77,8 @@ begin
     where coalesce(s.DODKID, s.DDOBID) > 0
     on conflict do nothing;
 
+    -- The save is over for all that the session had checked, of either kind of document.
     delete from pg_temp.ORDER_STAGED;
+    delete from pg_temp.NOTE_STAGED;
 end
 $$;

@@ -84,6 +84,8 @@ begin
     where coalesce(s.DODKID, s.DDOBID) > 0 and exists (select from pg_temp.NOTE_STAGED)
     on conflict do nothing;
 
+    -- The save is over for all that the session had checked, of either kind of document.
     delete from pg_temp.NOTE_STAGED;
+    delete from pg_temp.ORDER_STAGED;
 end
 $$;

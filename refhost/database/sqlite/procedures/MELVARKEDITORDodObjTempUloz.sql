@@ -70,4 +70,7 @@ join (select :a_DODKID_ZDROJ as DODKID, null as DDOBID
 where true
 on conflict do nothing;
 
+-- The save is over for all that the session had checked, of either kind of document.
 delete from ORDER_STAGED;
+
+delete from NOTE_STAGED;

@@ -71,4 +71,7 @@ from (select :a_DODKID_ZDROJ as DODKID, null as DDOBID union all select null, :a
 where coalesce(s.DODKID, s.DDOBID) > 0 and exists (select 1 from NOTE_LINE)
 on conflict do nothing;
 
+-- The save is over for all that the session had checked, of either kind of document.
 delete from NOTE_STAGED;
+
+delete from ORDER_STAGED;
