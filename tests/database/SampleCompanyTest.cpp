@@ -14,15 +14,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Rows that contradict a fact; none are expected.
-std::vector<std::string> contradicting(const std::string& sql) {
-    return queryRows(sampleCompany(), sql);
-}
-
-std::int64_t count(const std::string& what) {
-    return queryNumber(sampleCompany(), "select count(*) from " + what);
-}
-
 TEST(SampleCompany, HasTheSizeOfAWholesaler) {
     EXPECT_EQ(count("SKLAD"), 3);
     EXPECT_EQ(count("DODAVATEL"), 40);

@@ -82,6 +82,14 @@ std::int64_t queryNumber(Database& database, const std::string& sql) {
     return std::get<std::int64_t>(database.Query(sql).Rows.at(0).at(0));
 }
 
+std::vector<std::string> contradicting(const std::string& sql) {
+    return queryRows(sampleCompany(), sql);
+}
+
+std::int64_t count(const std::string& what) {
+    return queryNumber(sampleCompany(), "select count(*) from " + what);
+}
+
 std::map<std::string, std::vector<std::string>> sampleContent(Database& database) {
     std::map<std::string, std::vector<std::string>> content;
     for (const auto& [table, order] : c_Tables)

@@ -3,6 +3,7 @@
 #include "refhost/database/Database.h"
 
 #include <chrono>
+#include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
@@ -23,6 +24,12 @@ std::vector<std::string> queryRows(Database& database, const std::string& sql);
 
 /// The only number that a query brings.
 std::int64_t queryNumber(Database& database, const std::string& sql);
+
+/// Rows of the sample company that contradict a fact; none are expected.
+std::vector<std::string> contradicting(const std::string& sql);
+
+/// How many rows of the sample company: "SKLADPOL where AKTIVNI = 1".
+std::int64_t count(const std::string& what);
 
 /// All rows of the sample's tables by table, in the order of their keys, with numbers in their canonical form.
 std::map<std::string, std::vector<std::string>> sampleContent(Database& database);

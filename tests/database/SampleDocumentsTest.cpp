@@ -11,15 +11,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// Rows that contradict a fact; none are expected.
-std::vector<std::string> contradicting(const std::string& sql) {
-    return queryRows(sampleCompany(), sql);
-}
-
-std::int64_t count(const std::string& what) {
-    return queryNumber(sampleCompany(), "select count(*) from " + what);
-}
-
 TEST(SampleOrders, FillAYearAndAHalfUpToToday) {
     EXPECT_THAT(queryRows(sampleCompany(), "select min(OBJEDNANIDC) between '2025-05-18' and '2025-05-31 23:59:59', "
                                            "date(max(OBJEDNANIDC)) from DODOBJEDNAVKA where VZOR = 0"),
