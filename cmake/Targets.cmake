@@ -12,15 +12,15 @@ function(melvark_target_options target)
   endif()
 endfunction()
 
-# A library of standard C++ that does not see the toolkit: melvark_plain_library(name [SHARED] sources...)
+# A library of standard C++ that does not see Qt: melvark_plain_library(name [SHARED] sources...)
 function(melvark_plain_library target)
   add_library(${target} ${ARGN})
   target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR})
   melvark_target_options(${target})
 endfunction()
 
-# A library on the toolkit: melvark_toolkit_library(name [SHARED] sources...)
-function(melvark_toolkit_library target)
+# A library on Qt: melvark_qt_library(name [SHARED] sources...)
+function(melvark_qt_library target)
   add_library(${target} ${ARGN})
   set_target_properties(${target} PROPERTIES AUTOMOC ON)
   target_compile_definitions(${target} PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
@@ -30,7 +30,7 @@ function(melvark_toolkit_library target)
 endfunction()
 
 # One test program: melvark_test(name SOURCES files... LIBRARIES targets... [GUI] [DISPLAY] [TIMEOUT seconds])
-# GUI: drives forms with the toolkit's off-screen platform; has a main of its own from tests/support (GuiMain.cpp).
+# GUI: drives forms with Qt's off-screen platform; has a main of its own from tests/support (GuiMain.cpp).
 # DISPLAY: needs a window manager; tests/run-on-display starts a virtual display with one.
 function(melvark_test target)
   cmake_parse_arguments(ARG "GUI;DISPLAY" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})

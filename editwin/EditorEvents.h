@@ -9,7 +9,7 @@ class QWidget;
 
 namespace melvark {
 
-/// Turns the toolkit's events of the watched controls into the events that in-place editing speaks of. Handlers that
+/// Turns Qt's events of the watched controls into the events that in-place editing speaks of. Handlers that
 /// are not given are not called. Each runs under the guard: an exception goes to the host's error display and nowhere
 /// else.
 class EditorEvents : public QObject {

@@ -139,7 +139,7 @@ void InPlaceEditing::CloseEditor() {
     QWidget* const editor = std::exchange(FActive, nullptr);
     if (!editor)
         return;
-    // Left to itself, the toolkit would hand the focus of a hidden control to whatever comes next.
+    // Left to itself, Qt would hand the focus of a hidden control to whatever comes next.
     if (FForm.focusWidget() == editor)
         FEditing.Grid.setFocus(Qt::OtherFocusReason);
     editor->hide();

@@ -41,7 +41,7 @@ void WindowPlacementKeeper::Save() const {
     proc.Exec(false);
 }
 
-/// The toolkit's normal geometry is wrong for one state only: a maximised window that was minimised.
+/// Qt's normal geometry is wrong for one state only: a maximised window that was minimised.
 QRect WindowPlacementKeeper::NormalRect() const {
     return FForm.isMinimized() && FRectBeforeMaximizing.isValid() ? FRectBeforeMaximizing : FForm.normalGeometry();
 }

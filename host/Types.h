@@ -4,7 +4,7 @@
 #include <string>
 
 /// Text as stores, rules, documents, files and database values speak it: UTF-8 bytes without a terminator of their own.
-/// It becomes a toolkit string at the widget boundary and nowhere else.
+/// It becomes a Qt string at the widget boundary and nowhere else.
 using AnsiString = std::string;
 
 /// A calendar moment without a time zone, to the second, as the documents of the host carry it.

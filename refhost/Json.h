@@ -15,7 +15,7 @@ std::string jsonString(std::string_view text);
 std::string jsonValue(const TDbValue& value);
 
 /// Writes one JSON object on one line, its members in the order in which they are added. The order of members is part
-/// of the program's output, which rules out the toolkit's writer: it sorts them.
+/// of the program's output, which rules out Qt's writer: it sorts them.
 class JsonObject {
 public:
     JsonObject& add(std::string_view name, const TDbValue& value);

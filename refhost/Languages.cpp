@@ -67,13 +67,13 @@ QString Languages::label(const HostText& text) const {
     return QString::fromStdString(this->text(text));
 }
 
-void Languages::installToolkitTexts(QCoreApplication& application) {
-    // The toolkit's built-in language is English, so that its English catalogue is empty or absent.
+void Languages::installQtTexts(QCoreApplication& application) {
+    // Qt's built-in language is English, so that its English catalogue is empty or absent.
     auto texts = loadCatalogue(u"qtbase_"_qs + QString::fromStdString(language_));
     if (!texts)
         return;
-    toolkitTexts_ = std::move(texts);
-    application.installTranslator(toolkitTexts_.get());
+    qtTexts_ = std::move(texts);
+    application.installTranslator(qtTexts_.get());
 }
 
 } // namespace refhost

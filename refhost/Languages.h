@@ -16,7 +16,7 @@ class QCoreApplication;
 namespace refhost {
 
 /// The languages of the host. Czech is built into the texts themselves; every other language is a set of compiled
-/// catalogues (sources in refhost/languages/, edited with the toolkit's translation tools) that are looked up by id.
+/// catalogues (sources in refhost/languages/, edited with Qt's translation tools) that are looked up by id.
 ///
 /// Entries that share a key on purpose are told apart by their built-in text: the id "KEY|built-in text" is looked for
 /// first, then the id "KEY".
@@ -33,14 +33,14 @@ public:
     /// The same for a widget.
     QString label(const HostText& text) const;
 
-    /// Gives the toolkit's own texts (context menus of edits, standard buttons) the same language. The texts stay for
+    /// Gives Qt's own texts (context menus of edits, standard buttons) the same language. The texts stay for
     /// the life of this object.
-    void installToolkitTexts(QCoreApplication& application);
+    void installQtTexts(QCoreApplication& application);
 
 private:
     std::string language_;
     std::vector<std::unique_ptr<QTranslator>> catalogues_;
-    std::unique_ptr<QTranslator> toolkitTexts_;
+    std::unique_ptr<QTranslator> qtTexts_;
 };
 
 } // namespace refhost

@@ -81,7 +81,7 @@ int runProgram(const CommandLine& commandLine, int& argc, char** argv) {
     QApplication::setPalette(completePalette(QApplication::palette()));
     // A dialog may be the only window for a while; closing it must not end the program.
     QApplication::setQuitOnLastWindowClosed(false);
-    languages.installToolkitTexts(application);
+    languages.installQtTexts(application);
     return runCommand(commandLine, languages);
 }
 

@@ -19,7 +19,7 @@ class Languages;
 class Trace;
 
 /// The running host of the commands with windows: installs its services, loads the module, and opens the main window or
-/// the item editor alone. The toolkit's application object exists before it and outlives it.
+/// the item editor alone. Qt's application object exists before it and outlives it.
 class WindowedHost {
 public:
     WindowedHost(const CommandLine& commandLine, Database& database, const TFormatSettings& settings,

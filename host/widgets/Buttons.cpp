@@ -110,7 +110,7 @@ void TMenuButton::SetPopupMenu(TPopupMenu* menu) {
 QSize TMenuButton::sizeHint() const {
     if (!FMenu)
         return QPushButton::sizeHint();
-    // The toolkit leaves room for the arrow of its own menus only, and a style's least width holds the arrow too.
+    // Qt leaves room for the arrow of its own menus only, and a style's least width holds the arrow too.
     QStyleOptionButton option;
     initStyleOption(&option);
     QSize contents = fontMetrics().size(Qt::TextShowMnemonic, text());

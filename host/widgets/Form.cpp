@@ -21,8 +21,8 @@ using namespace melvark;
 
 namespace {
 
-/// The toolkit's own code for a result: its "rejected" is 0, which means "none" in a modal result.
-int ToolkitResult(int modalResult) {
+/// Qt's own code for a result: its "rejected" is 0, which means "none" in a modal result.
+int QtResult(int modalResult) {
     return modalResult == c_ResultCancel ? QDialog::Rejected : modalResult;
 }
 
@@ -195,7 +195,7 @@ void TForm::CloseWith(int result) {
         FShown = false;
     }
     FModalResult = result;
-    QDialog::done(ToolkitResult(result));
+    QDialog::done(QtResult(result));
 }
 
 void TForm::ApplyConstraints() {

@@ -15,7 +15,7 @@ namespace {
 
 using Visitor = std::function<void(const TLocalizableForm::TText&)>;
 
-/// One text of a control, with the way to change it as the toolkit's own pair of functions.
+/// One text of a control, with the way to change it as Qt's own pair of functions.
 template <class Control, class Set>
 void VisitText(Control& control, const QString& name, const char* property, const QString& text, Set set,
                const Visitor& visit) {
@@ -48,7 +48,7 @@ bool HasOwnName(const QObject& object) {
     return !object.objectName().isEmpty() && !object.objectName().startsWith(QStringLiteral("qt_"));
 }
 
-/// A menu is a window of its own to the toolkit, but part of the form that owns it.
+/// A menu is a window of its own to Qt, but part of the form that owns it.
 bool BelongsTo(const QWidget& form, const QObject& object) {
     const QObject* owner = &object;
     while (owner && owner != &form) {

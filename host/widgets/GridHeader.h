@@ -4,7 +4,7 @@
 
 namespace melvark {
 
-/// The header row of a string grid. It tells when a mouse button was released after a press in it, once the toolkit has
+/// The header row of a string grid. It tells when a mouse button was released after a press in it, once Qt has
 /// finished what the drag was for: sizing or moving a column.
 class GridHeader : public QHeaderView {
     Q_OBJECT

@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <utility>
 
-/// No exception may leave a slot, timer or event handler: the toolkit ends the process. Every such entry point of a
+/// No exception may leave a slot, timer or event handler: Qt ends the process. Every such entry point of a
 /// form runs its work through Guarded, or is connected with ConnectGuarded; the error goes to the host's error display
 /// and the event loop goes on. Constructors and workflows are not guarded: their errors travel to their caller.
 namespace melvark {

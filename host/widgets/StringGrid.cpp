@@ -21,7 +21,7 @@ using namespace melvark;
 
 namespace {
 
-constexpr int c_GridLine = 1; ///< A section of the toolkit holds the cell and the line after it.
+constexpr int c_GridLine = 1; ///< Qt's section holds the cell and the line after it.
 constexpr int c_IndicatorWidth = 10;
 constexpr int c_DefaultColWidth = 64;
 constexpr int c_DefaultRowHeight = 20;

@@ -89,7 +89,7 @@ void TStringGridModel::DeleteColumn(int col) {
 void TStringGridModel::MoveColumn(int from, int to) {
     if (from == to || from < 1 || to < 1 || from >= ColCount() || to >= ColCount())
         return;
-    // The toolkit names the place before which the column lands, counted while it still stands at its old place.
+    // Qt names the place before which the column lands, counted while it still stands at its old place.
     beginMoveColumns({}, from - 1, from - 1, {}, to > from ? to : to - 1);
     const auto first = FColumns.begin();
     if (from < to)

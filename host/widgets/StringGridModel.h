@@ -7,7 +7,7 @@
 #include <vector>
 
 /// The texts of a string grid, kept by column so that whole columns come, go and move without touching the cells of
-/// the others. Methods with "Grid" coordinates count the header row and the indicator column as 0; to the toolkit's
+/// the others. Methods with "Grid" coordinates count the header row and the indicator column as 0; to Qt's
 /// views the model shows the cells without them, the header row as horizontal header.
 ///
 /// It knows nothing of editing, presentation or where the values come from.

@@ -6,7 +6,7 @@
 
 #include <string_view>
 
-/// The widget boundary: the one place where UTF-8 text becomes a toolkit string and back.
+/// The widget boundary: the one place where UTF-8 text becomes a Qt string and back.
 namespace melvark {
 
 /// Bytes that are no UTF-8 become the replacement character.

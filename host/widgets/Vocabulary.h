@@ -17,9 +17,9 @@ class QRadioButton;
 class QTimer;
 class QWidget;
 
-/// The desktop framework's names where the toolkit's own class does the job. Forms, the string grid and the buttons
+/// The desktop framework's names where Qt's own class does the job. Forms, the string grid and the buttons
 /// have thin classes of their own (Form.h, StringGrid.h, Buttons.h). Whoever uses a member of one of these includes the
-/// toolkit's header of the class.
+/// Qt header of the class.
 using TObject = QObject;
 using TComponent = QObject;
 using TControl = QWidget;

@@ -26,7 +26,7 @@ protected:
 };
 
 TEST_F(WindowPlacement, WithoutARecordTheFormIsCentredAtItsDesignSize) {
-    make().move(50, 60); // else the toolkit centres a dialog by itself
+    make().move(50, 60); // else Qt centres a dialog by itself
     form->show();
     EXPECT_EQ(form->geometry(), centred());
 }

@@ -25,7 +25,7 @@ void handleMessage(QtMsgType type, const QMessageLogContext&, const QString& mes
     if (isPlatformChatter(message))
         return;
     if (isWarning && !isExpected)
-        ADD_FAILURE() << "unexpected warning of the toolkit: " << message.toStdString();
+        ADD_FAILURE() << "unexpected warning of Qt: " << message.toStdString();
     else
         std::fprintf(stderr, "%s\n", qUtf8Printable(message));
     if (type == QtFatalMsg)

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-/// In its scope, toolkit warnings that contain the text are expected and pass; any other warning fails the running
+/// In its scope, Qt warnings that contain the text are expected and pass; any other warning fails the running
 /// test.
 class ExpectedWarning {
 public:

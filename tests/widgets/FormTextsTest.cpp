@@ -80,9 +80,9 @@ TEST_F(FormTextsTest, LeavesOutEmptyTextsAndControlsWithoutAName) {
     EXPECT_THAT(texts(), IsEmpty());
 }
 
-TEST_F(FormTextsTest, LeavesOutPartsThatTheToolkitMade) {
+TEST_F(FormTextsTest, LeavesOutPartsThatQtMade) {
     auto* memo = named<QPlainTextEdit>(QStringLiteral("memHint"), QString());
-    memo->viewport()->setToolTip(QStringLiteral("inner")); // the viewport is named by the toolkit
+    memo->viewport()->setToolTip(QStringLiteral("inner")); // the viewport is named by Qt
     ASSERT_FALSE(memo->viewport()->objectName().isEmpty());
     EXPECT_THAT(texts(), IsEmpty());
 }

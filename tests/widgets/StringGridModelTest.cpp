@@ -10,7 +10,7 @@ using testing::ElementsAre;
 
 namespace {
 
-/// A model under the toolkit's own tester, whose findings are warnings and so fail the test.
+/// A model under Qt's own tester, whose findings are warnings and so fail the test.
 class StringGridModelTest : public testing::Test {
 protected:
     TStringGridModel model;
