@@ -77,16 +77,18 @@ void fill(TDataGrid& store, const std::vector<RColumn>& columns, int rows) {
     store.SetColCount(static_cast<int>(columns.size()));
     store.SetRowCount(rows);
     for (int row = 0; row < rows; ++row) {
-        for (const auto& [key, text] : cells)
+        for (const auto& [key, text] : cells) {
             store.SetCells(std::ranges::find(columns, key, &RColumn::Name)->DataColumn, row, text);
+        }
     }
 }
 
 void saveAsTheEditor(const std::vector<RColumn>& columns, const TDataGrid& store) {
     TLiveStoredProc("MELVARKEDITORResetTemp").Exec(false);
     const melvark::DodakSaveTarget target{.DodkID = tinycompany::c_OpenNote, .SourceDodkID = -1, .SourceOrderID = -1};
-    if (!melvark::InsertDodakRows({columns, columns}, store) || !melvark::TakeOverDodakRows(target))
+    if (!melvark::InsertDodakRows({columns, columns}, store) || !melvark::TakeOverDodakRows(target)) {
         std::abort();
+    }
 }
 
 template <class Work>
@@ -127,8 +129,9 @@ int main(int argc, char** argv) {
     std::vector<double> editor;
     for (int round = 0; round < rounds; ++round) {
         floor.push_back(milliseconds([&] {
-            for (const TProcedureCall& call : keeping.calls)
+            for (const TProcedureCall& call : keeping.calls) {
                 database->Execute(call);
+            }
         }));
         editor.push_back(milliseconds([&] { saveAsTheEditor(columns, store); }));
     }

@@ -19,8 +19,9 @@ void LeaveOneEmptyRow(TDataGrid& store) {
 
 AnsiString ParamText(const AnsiString& cell, ParamForm form) {
     AnsiString text(TrimText(cell));
-    if (form == ParamForm::NumberText)
+    if (form == ParamForm::NumberText) {
         std::ranges::replace(text, ',', '.');
+    }
     return text;
 }
 
@@ -38,19 +39,22 @@ void FillStore(TDataGrid& store, const DocumentColumns& columns, TLiveResult& re
     store.SetColCount(static_cast<int>(columns.Defaults.size()));
     LeaveOneEmptyRow(store);
     for (int row = 0; !result.Eof(); result.Next(), ++row) {
-        if (row > 0)
+        if (row > 0) {
             store.SetRowCount(row + 1);
+        }
         for (const RColumn& column : columns.Defaults) {
-            if (column.Name != skippedKey)
+            if (column.Name != skippedKey) {
                 store.SetCells(columns.ByKey(column.Name).DataColumn, row, result.FieldByName(column.Name).AsString());
+            }
         }
     }
 }
 
 std::vector<AnsiString> ReadTexts(TLiveResult& result, std::string_view column) {
     std::vector<AnsiString> texts;
-    for (; !result.Eof(); result.Next())
+    for (; !result.Eof(); result.Next()) {
         texts.push_back(result.FieldByName(column).AsString());
+    }
     return texts;
 }
 
@@ -59,18 +63,20 @@ void SetRowParams(TLiveStoredProc& procedure, std::span<const RowParam> params, 
     for (const RowParam& param : params) {
         AnsiString text = ParamText(columns.Cell(store, param.Key, row), param.Form);
         TLiveParam& target = procedure.ParamByName(param.Param);
-        if (text.empty())
+        if (text.empty()) {
             target.Clear();
-        else
+        } else {
             target.SetAsString(std::move(text));
+        }
     }
 }
 
 void SetIdentifier(TLiveParam& param, int id) {
-    if (id == c_NullValue)
+    if (id == c_NullValue) {
         param.Clear();
-    else
+    } else {
         param.SetAsInteger(id);
+    }
 }
 
 bool InsertRows(const AnsiString& procedure, std::span<const RowParam> params, const DocumentColumns& columns,
@@ -78,8 +84,9 @@ bool InsertRows(const AnsiString& procedure, std::span<const RowParam> params, c
     for (int row = 0; row < store.GetRowCount(); ++row) {
         TLiveStoredProc insert(procedure);
         SetRowParams(insert, params, columns, store, row);
-        if (!insert.Exec(false))
+        if (!insert.Exec(false)) {
             return false;
+        }
     }
     return true;
 }

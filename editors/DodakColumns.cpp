@@ -137,20 +137,23 @@ TColumnType ColumnTypeOf(Role role, bool localVat) {
 }
 
 const std::vector<AnsiString>* ListOf(Choices choices, const DodakColumnBindings& bindings) {
-    if (choices == Choices::Warehouses)
+    if (choices == Choices::Warehouses) {
         return bindings.Warehouses;
+    }
     return choices == Choices::VatRates ? bindings.VatRates : nullptr;
 }
 
 TColumnCallback CallbackOf(Change change, const DodakColumnBindings& bindings) {
-    if (change == Change::Recalculation)
+    if (change == Change::Recalculation) {
         return bindings.Recalculate;
+    }
     return change == Change::Discount ? bindings.CheckDiscount : TColumnCallback();
 }
 
 AnsiString Translated(std::string_view keyStart, std::string_view keySuffix, std::string_view builtIn) {
-    if (keySuffix.empty())
+    if (keySuffix.empty()) {
         return AnsiString(builtIn);
+    }
     return LangStr(AnsiString(keyStart) + AnsiString(keySuffix), {}, builtIn);
 }
 

@@ -27,9 +27,10 @@ void Init(DodakOpening& opening) {
 
 DodakOpening OpenDodak(const AnsiString& editType, int dodkId, int dodvId) {
     const int fillMode = EditTypeNumber(c_DodakEditType, editType);
-    if (fillMode == 0)
+    if (fillMode == 0) {
         throw EDodakEditBox(
             LangStr("KORDAN30\\MELVARKEDITOR\\INVALIDEDITTYPE", {editType}, "Neplatný typ editace (%s)"));
+    }
     DodakOpening opening{.EditType = editType,
                          .FillMode = fillMode,
                          .DodkID = dodkId,

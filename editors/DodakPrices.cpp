@@ -46,17 +46,19 @@ void SendCell(TLiveParam& param, std::string_view key, const AnsiString& text, c
         param.SetAsString(text);
         return;
     }
-    if (const std::optional<double> number = CellNumber(text, settings))
+    if (const std::optional<double> number = CellNumber(text, settings)) {
         param.SetAsFloat(*number);
-    else
+    } else {
         param.Clear();
+    }
 }
 
 std::vector<RecalculatedCell> ReadCells(const TLiveResult& result) {
     std::vector<RecalculatedCell> cells;
     for (const std::string_view key : c_PriceKeys) {
-        if (result.HasField(key))
+        if (result.HasField(key)) {
             cells.push_back({AnsiString(key), result.FieldByName(key).AsString()});
+        }
     }
     return cells;
 }
@@ -70,8 +72,9 @@ std::span<const std::string_view> DodakPriceKeys() {
 AnsiString ChangedCells(const DocumentColumns& columns, const TDataGrid& store, int row) {
     AnsiString list;
     for (const std::string_view key : c_PriceKeys) {
-        if (store.GetModified(columns.ByKey(key).DataColumn, row))
+        if (store.GetModified(columns.ByKey(key).DataColumn, row)) {
             list.append(key).append(";");
+        }
     }
     return list;
 }
@@ -80,10 +83,12 @@ std::optional<double> CellNumber(std::string_view text, const TFormatSettings& s
     const bool isComma = settings.DecimalSeparator == ',';
     AnsiString number(TrimText(text));
     std::ranges::replace(number, isComma ? '.' : ',', settings.DecimalSeparator);
-    if (number.empty())
+    if (number.empty()) {
         return std::nullopt;
-    if (const std::optional<double> value = TextToFloat(number, settings))
+    }
+    if (const std::optional<double> value = TextToFloat(number, settings)) {
         return value;
+    }
     throw NotANumber(text);
 }
 
@@ -93,25 +98,30 @@ std::vector<RecalculatedCell> Recalculate(TDataGrid& store, const DocumentColumn
     prices.ParamByName("a_ZMENENEBUNKY").SetAsString(ChangedCells(columns, store, request.Row));
     prices.ParamByName("a_PREPOCETCEN").SetAsBoolean(request.RecalculatesAll);
     prices.ParamByName("a_FOCUS").SetAsString(request.FocusKey);
-    for (const std::string_view key : c_PriceKeys)
+    for (const std::string_view key : c_PriceKeys) {
         SendCell(prices.ParamByName("a_" + AnsiString(key)), key, columns.Cell(store, key, request.Row), settings);
+    }
 
     // A result without a row says nothing about the prices; its fields would read as empty texts.
-    if (!prices.Exec(true) || prices.Eof())
+    if (!prices.Exec(true) || prices.Eof()) {
         return {};
+    }
     std::vector<RecalculatedCell> cells = ReadCells(prices);
     std::erase_if(cells, [&](const RecalculatedCell& cell) { return columns.ByKey(cell.Key).DataColumn < 0; });
-    for (const RecalculatedCell& cell : cells)
+    for (const RecalculatedCell& cell : cells) {
         store.SetCellWithNoChange(columns.ByKey(cell.Key).DataColumn, request.Row, cell.Text);
+    }
     return cells;
 }
 
 bool IsDiscount(std::string_view text, const TFormatSettings& settings) {
-    if (text.empty())
+    if (text.empty()) {
         return true;
+    }
     const std::optional<double> discount = TextToFloat(text, settings);
-    if (!discount)
+    if (!discount) {
         throw NotANumber(text);
+    }
     return *discount >= 0 && *discount <= 100;
 }
 

@@ -38,8 +38,9 @@ TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManage
       FOpening(std::move(opening)) {
     SetTopButtonPanelVisibility(true);
     SetTitle(LangStr(R"(KORDAN30\MELVARKEDITOR\DODAKAPPTITLE)", {}, "Vložení položek dodacího listu"));
-    if (!CheckMasterDodak(FOpening.DodkID))
+    if (!CheckMasterDodak(FOpening.DodkID)) {
         throw Canceled();
+    }
     SetOnSaveData([this] { return SaveData(); });
     FillGrid(FOpening.FillMode);
     DataGrid().ResetModified();
@@ -77,20 +78,24 @@ void TDodakEditBox::FillGrid(int aFillMode) {
 void TDodakEditBox::FillByOrder() {
     TSelectBox selection(this, LibraryManager());
     selection.DodakSelectFromObjednavka(FOpening.DodkID, FOpening.DodvID);
-    if (selection.ShowModal() == c_ResultOk)
+    if (selection.ShowModal() == c_ResultOk) {
         FOrderID = selection.GetID();
-    if (FOrderID <= c_NullValue)
+    }
+    if (FOrderID <= c_NullValue) {
         throw Canceled();
+    }
     FillGridFromObjednavka();
 }
 
 void TDodakEditBox::FillByDeliveryNote() {
     TSelectBox selection(this, LibraryManager());
     selection.DodakSelectFromDodak(FOpening.DodkID, FOpening.DodvID);
-    if (selection.ShowModal() == c_ResultOk)
+    if (selection.ShowModal() == c_ResultOk) {
         FDeliveryNoteID = selection.GetID();
-    if (FDeliveryNoteID <= c_NullValue)
+    }
+    if (FDeliveryNoteID <= c_NullValue) {
         throw Canceled();
+    }
     FillGridFromDodak(selection.GetPrenesMnozstvi(), selection.GetPrenesCeny());
 }
 
@@ -117,15 +122,17 @@ bool TDodakEditBox::PrepocetCen(int aCol, int aRow, const AnsiString&) {
     const RecalculationRequest request{
         .Row = RowToDataGridRow(aRow), .FocusKey = GetVisibleColumn(aCol).Name, .RecalculatesAll = GetPrepocetCen()};
     for (const RecalculatedCell& cell : Recalculate(DataGrid(), Columns(), request, CurrentHost().FormatSettings())) {
-        if (const int shownAt = GetColumnByName(cell.Key); shownAt > 0)
+        if (const int shownAt = GetColumnByName(cell.Key); shownAt > 0) {
             StringGrid->SetCells(shownAt, aRow, cell.Text);
+        }
     }
     return true;
 }
 
 bool TDodakEditBox::KontrolaSlevy(int, int, const AnsiString& aValue) {
-    if (IsDiscount(aValue, CurrentHost().FormatSettings()))
+    if (IsDiscount(aValue, CurrentHost().FormatSettings())) {
         return true;
+    }
     ShowErrorBox(LangStr(R"(KORDAN30\MELVARKEDITOR\INVALIDDISCOUNTVALUE)", {}, "Neplatná hodnota slevy"));
     return false;
 }

@@ -15,8 +15,9 @@ Autosave::Autosave(QObject& form, std::function<void()> save) : FTimer(new QTime
 }
 
 void Autosave::Enable() {
-    if (!FTimer->isActive())
+    if (!FTimer->isActive()) {
         FTimer->start();
+    }
 }
 
 void Autosave::Disable() {

@@ -19,8 +19,9 @@ ColumnMenu::ColumnMenu(GridEditing& editing, InPlaceEditing& keeper, const Items
 
 void ColumnMenu::OpenAt(int col, int row, const QPoint& globalPos) {
     FPopupColumn = row == 0 ? std::max(col, 0) : 0;
-    if (row == 0)
+    if (row == 0) {
         FItems.Menu.popup(globalPos);
+    }
 }
 
 void ColumnMenu::PrepareItems() {
@@ -44,19 +45,22 @@ void ColumnMenu::SetEditability(TEditable editable) {
     RColumn* const column = FEditing.ColumnAt(FPopupColumn);
     if (column && (!closes || FKeeper.HideEditor())) {
         column->Editable = editable;
-        if (closes)
+        if (closes) {
             FEditing.Grid.SetCurrentCell(FKeeper.EditCol(), FKeeper.EditRow());
+        }
     }
     // The click has moved the check mark by itself, also when nothing was changed.
     PrepareItems();
 }
 
 void ColumnMenu::HidePopupColumn() {
-    if (!FKeeper.HideEditor())
+    if (!FKeeper.HideEditor()) {
         return;
+    }
     const int index = VisibleColumnIndex(FEditing.Active, FPopupColumn);
-    if (index < 0)
+    if (index < 0) {
         return;
+    }
     const int place = PlaceOfHiddenItem(FEditing.Active, index);
     RColumn& column = FEditing.Active[static_cast<std::size_t>(index)];
     column.HiddenMenuItem = MakeHiddenItem(column);
@@ -68,12 +72,14 @@ void ColumnMenu::HidePopupColumn() {
 }
 
 void ColumnMenu::ShowColumnOf(const QAction* item) {
-    if (!FKeeper.HideEditor())
+    if (!FKeeper.HideEditor()) {
         return;
+    }
     const auto column = std::find_if(FEditing.Active.begin(), FEditing.Active.end(),
                                      [item](const RColumn& candidate) { return candidate.HiddenMenuItem == item; });
-    if (!item || column == FEditing.Active.end())
+    if (!item || column == FEditing.Active.end()) {
         return;
+    }
     const int place = PlaceOfShownColumn(FEditing.Active, static_cast<int>(column - FEditing.Active.begin()));
     FEditing.Grid.InsertColumn(place);
     FEditing.Grid.SetFixedCols(1);
@@ -92,8 +98,9 @@ void ColumnMenu::RebuildHiddenItems() {
     FItems.HiddenColumns.clear();
     for (RColumn& column : FEditing.Active) {
         column.HiddenMenuItem = IsHiddenByUser(column) ? MakeHiddenItem(column) : nullptr;
-        if (column.HiddenMenuItem)
+        if (column.HiddenMenuItem) {
             FItems.HiddenColumns.addAction(column.HiddenMenuItem);
+        }
     }
     UpdateSubmenu();
 }
@@ -117,8 +124,9 @@ void ColumnMenu::FollowMovedColumn(int from, int to) {
 
 void ColumnMenu::CaptureWidths() {
     for (int col = 1; col < FEditing.Grid.ColCount(); ++col) {
-        if (RColumn* const column = FEditing.ColumnAt(col))
+        if (RColumn* const column = FEditing.ColumnAt(col)) {
             column->Width = FEditing.Grid.ColWidths(col);
+        }
     }
     FKeeper.LayEditor();
 }

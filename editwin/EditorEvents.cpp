@@ -28,16 +28,19 @@ bool EditorEvents::eventFilter(QObject* watched, QEvent* event) {
     auto* const control = qobject_cast<QWidget*>(watched);
     switch (event->type()) {
     case QEvent::FocusIn:
-        if (FHandlers.Enter)
+        if (FHandlers.Enter) {
             Guarded([&] { FHandlers.Enter(control); });
+        }
         return false;
     case QEvent::FocusOut:
-        if (FHandlers.Exit && LeavesForAnotherControl(*static_cast<QFocusEvent*>(event)))
+        if (FHandlers.Exit && LeavesForAnotherControl(*static_cast<QFocusEvent*>(event))) {
             Guarded([&] { FHandlers.Exit(control); });
+        }
         return false;
     case QEvent::ShortcutOverride:
-        if (!FHandlers.KeyDown || KeyDownCommand(*static_cast<QKeyEvent*>(event)) == EditorCommand::None)
+        if (!FHandlers.KeyDown || KeyDownCommand(*static_cast<QKeyEvent*>(event)) == EditorCommand::None) {
             return false;
+        }
         event->accept();
         return true;
     case QEvent::KeyPress:

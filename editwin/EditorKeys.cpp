@@ -13,10 +13,12 @@ bool IsEnter(const QKeyEvent& event) {
 } // namespace
 
 EditorCommand KeyDownCommand(const QKeyEvent& event) {
-    if (IsEnter(event) && event.modifiers().testFlag(Qt::ControlModifier))
+    if (IsEnter(event) && event.modifiers().testFlag(Qt::ControlModifier)) {
         return EditorCommand::Confirm;
-    if (!event.modifiers().testFlag(Qt::AltModifier))
+    }
+    if (!event.modifiers().testFlag(Qt::AltModifier)) {
         return EditorCommand::None;
+    }
     switch (event.key()) {
     case Qt::Key_C:
         return EditorCommand::RecalculationOff;
@@ -31,8 +33,9 @@ EditorCommand KeyDownCommand(const QKeyEvent& event) {
 }
 
 EditorCommand KeyPressCommand(const QKeyEvent& event) {
-    if (!IsEnter(event) || event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier))
+    if (!IsEnter(event) || event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier)) {
         return EditorCommand::None;
+    }
     return event.modifiers().testFlag(Qt::ShiftModifier) ? EditorCommand::GoPrevious : EditorCommand::GoNext;
 }
 

@@ -8,8 +8,9 @@ TGridComboBox::TGridComboBox(QWidget* owner) : QComboBox(owner) {
 
 void TGridComboBox::SetItems(std::span<const AnsiString> texts) {
     clear();
-    for (const AnsiString& text : texts)
+    for (const AnsiString& text : texts) {
         addItem(QString::fromStdString(text));
+    }
     FChanged = false;
 }
 

@@ -22,11 +22,13 @@ int GridEditing::StoreRow(int gridRow) const {
 
 void GridEditing::FillGridColumn(int gridCol) {
     const RColumn* const column = ColumnAt(gridCol);
-    if (!column)
+    if (!column) {
         return;
+    }
     std::vector<AnsiString> texts;
-    for (int row = StoreRow(1); row < StoreRow(Grid.RowCount()); ++row)
+    for (int row = StoreRow(1); row < StoreRow(Grid.RowCount()); ++row) {
         texts.push_back(Store.GetCells(column->DataColumn, row));
+    }
     Grid.SetColumnCells(gridCol, std::move(texts));
 }
 

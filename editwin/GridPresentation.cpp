@@ -44,8 +44,9 @@ void GridPresentation::ApplyColumns() {
 TCellLook GridPresentation::Look(int col, int row) const {
     const AnsiString& text = FEditing.Grid.Cells(col, row);
     const RColumn* const column = FEditing.ColumnAt(col);
-    if (!column)
+    if (!column) {
         return {.Text = text};
+    }
     return {.Text = DisplayText(*column, text, CurrentHost().FormatSettings()),
             .Align = Alignment(column->Align),
             .Bold = FEditing.Store.GetModified(column->DataColumn, FEditing.StoreRow(row))};
@@ -60,8 +61,9 @@ void GridPresentation::ShowHintOf(int col, int row) {
         return;
     }
     const RColumn* const column = FEditing.ColumnAt(col);
-    if (!column || column->Hint.empty() || column->Hint == grid.Hint())
+    if (!column || column->Hint.empty() || column->Hint == grid.Hint()) {
         return;
+    }
     grid.CancelHint();
     grid.SetHint(column->Hint);
 }

@@ -29,8 +29,9 @@ InPlaceEditing::InPlaceEditing(GridEditing& editing, QWidget& form, std::functio
 
 void InPlaceEditing::CreateListEditors() {
     for (RColumn& column : FEditing.Defaults) {
-        if (!column.Values)
+        if (!column.Values) {
             continue;
+        }
         auto* const combo = new TGridComboBox(&FForm);
         combo->setObjectName(u"GridComboBox"_qs + ToQString(column.Name));
         combo->setFont(GridFont());
@@ -42,19 +43,22 @@ void InPlaceEditing::CreateListEditors() {
 std::vector<QWidget*> InPlaceEditing::Editors() const {
     std::vector<QWidget*> editors{FSharedEdit};
     for (const RColumn& column : FEditing.Defaults) {
-        if (column.Editor)
+        if (column.Editor) {
             editors.push_back(column.Editor);
+        }
     }
     return editors;
 }
 
 void InPlaceEditing::ShowEditor(int col, int row, Reach reach) {
-    if (!HideEditor())
+    if (!HideEditor()) {
         return;
+    }
     TStringGrid& grid = FEditing.Grid;
     const RColumn* const column = FEditing.ColumnAt(col);
-    if (!column || row < 1 || row >= grid.RowCount() || !MayOpen(*column, reach, FEditing.Rule, col, row))
+    if (!column || row < 1 || row >= grid.RowCount() || !MayOpen(*column, reach, FEditing.Rule, col, row)) {
         return;
+    }
     grid.SetCurrentCell(col, row);
     FEditCol = col;
     FEditRow = row;
@@ -75,17 +79,20 @@ void InPlaceEditing::ShowEditor(int col, int row, Reach reach) {
 }
 
 bool InPlaceEditing::HideEditor() {
-    if (FCommitting)
+    if (FCommitting) {
         return false;
-    if (!FActive || FActive->isHidden())
+    }
+    if (!FActive || FActive->isHidden()) {
         return true;
+    }
     FCommitting = true;
     const auto finish = qScopeGuard([this] { FCommitting = false; });
     try {
         if (Commit()) {
             CloseEditor();
-            if (FOpenWanted)
+            if (FOpenWanted) {
                 QueueSettle();
+            }
             return true;
         }
         ReturnToEditCell();
@@ -102,10 +109,12 @@ bool InPlaceEditing::HideEditor() {
 
 bool InPlaceEditing::Commit() {
     const RColumn* const column = FEditing.ColumnAt(FEditCol);
-    if (!column)
+    if (!column) {
         return true;
-    if (const auto* const combo = qobject_cast<const TGridComboBox*>(FActive))
+    }
+    if (const auto* const combo = qobject_cast<const TGridComboBox*>(FActive)) {
         return CommitText(*column, combo->SelectedText(), combo->HasChanged());
+    }
     return CommitText(*column, CheckedText(*column), FSharedEdit->isModified());
 }
 
@@ -127,8 +136,9 @@ AnsiString InPlaceEditing::CheckedText(const RColumn& column) const {
 
 bool InPlaceEditing::CommitText(const RColumn& column, const AnsiString& text, bool isChanged) {
     FEditing.Grid.SetCells(FEditCol, FEditRow, text);
-    if (!isChanged)
+    if (!isChanged) {
         return true;
+    }
     FEditing.Store.SetCells(column.DataColumn, FEditing.StoreRow(FEditRow), text);
     // A copy: the callback may change the column list.
     const TColumnCallback callback = column.Callback;
@@ -137,25 +147,29 @@ bool InPlaceEditing::CommitText(const RColumn& column, const AnsiString& text, b
 
 void InPlaceEditing::CloseEditor() {
     QWidget* const editor = std::exchange(FActive, nullptr);
-    if (!editor)
+    if (!editor) {
         return;
+    }
     // Left to itself, Qt would hand the focus of a hidden control to whatever comes next.
-    if (FForm.focusWidget() == editor)
+    if (FForm.focusWidget() == editor) {
         FEditing.Grid.setFocus(Qt::OtherFocusReason);
+    }
     editor->hide();
 }
 
 void InPlaceEditing::DropEditor() {
     FCheckWanted = false;
     FOpenWanted = false;
-    if (QWidget* const editor = std::exchange(FActive, nullptr))
+    if (QWidget* const editor = std::exchange(FActive, nullptr)) {
         editor->hide();
+    }
 }
 
 void InPlaceEditing::ReturnToEditCell() {
     FOpenWanted = false;
-    if (!FActive)
+    if (!FActive) {
         return;
+    }
     FEditing.Grid.SetCurrentCell(FEditCol, FEditRow);
     LayEditor();
     FActive->setFocus(Qt::OtherFocusReason);
@@ -179,13 +193,15 @@ bool InPlaceEditing::MayStop(int col, int row) const {
 }
 
 void InPlaceEditing::OpenFirst(std::optional<GridPosition> cell) {
-    if (cell)
+    if (cell) {
         ShowEditor(cell->Col, cell->Row, Reach::ByTraversal);
+    }
 }
 
 void InPlaceEditing::CheckWhenSettled(const QWidget* editor) {
-    if (editor != FActive || FCommitting)
+    if (editor != FActive || FCommitting) {
         return;
+    }
     FCheckWanted = true;
     QueueSettle();
 }
@@ -196,8 +212,9 @@ void InPlaceEditing::OpenWhenSettled() {
 }
 
 void InPlaceEditing::QueueSettle() {
-    if (std::exchange(FSettleQueued, true))
+    if (std::exchange(FSettleQueued, true)) {
         return;
+    }
     QMetaObject::invokeMethod(
         this, [this] { Settle(); }, Qt::QueuedConnection);
 }
@@ -205,8 +222,9 @@ void InPlaceEditing::QueueSettle() {
 void InPlaceEditing::Settle() {
     FSettleQueued = false;
     // A running commit sees to what is wanted when it ends.
-    if (FCommitting)
+    if (FCommitting) {
         return;
+    }
     if (QGuiApplication::mouseButtons() != Qt::NoButton || QApplication::activePopupWidget()) {
         qApp->installEventFilter(this);
         return;
@@ -214,11 +232,13 @@ void InPlaceEditing::Settle() {
     const bool checks = std::exchange(FCheckWanted, false) && FActive && FForm.focusWidget() != FActive;
     const bool opens = std::exchange(FOpenWanted, false);
     Guarded([&] {
-        if (checks && !HideEditor())
+        if (checks && !HideEditor()) {
             return;
+        }
         const TStringGrid& grid = FEditing.Grid;
-        if (opens && grid.hasFocus())
+        if (opens && grid.hasFocus()) {
             ShowEditor(grid.Col(), grid.Row(), Reach::BySelection);
+        }
     });
 }
 
@@ -238,8 +258,9 @@ void InPlaceEditing::EditorToCell(QWidget& editor, const QRect& rect) const {
 }
 
 void InPlaceEditing::LayEditor() {
-    if (!FActive)
+    if (!FActive) {
         return;
+    }
     const QRect rect = FEditing.Grid.CellRect(FEditCol, FEditRow);
     const QRect shown = rect & FEditing.Grid.CellsArea();
     if (shown.isEmpty()) {
@@ -248,10 +269,11 @@ void InPlaceEditing::LayEditor() {
         return;
     }
     EditorToCell(*FActive, rect);
-    if (shown == rect)
+    if (shown == rect) {
         FActive->clearMask();
-    else
+    } else {
         FActive->setMask(shown.translated(-rect.topLeft()));
+    }
 }
 
 namespace {
@@ -262,8 +284,9 @@ AnsiString Checked(QWidget* sender, Check check) {
     try {
         return check();
     } catch (const EBadValue&) {
-        if (auto* const edit = qobject_cast<QLineEdit*>(sender); edit && edit->isVisible())
+        if (auto* const edit = qobject_cast<QLineEdit*>(sender); edit && edit->isVisible()) {
             edit->setFocus(Qt::OtherFocusReason);
+        }
         throw;
     }
 }

@@ -59,8 +59,9 @@ TEditBox::TEditBox(TComponent* owner, TLibraryManager* libraryManager, std::int3
 }
 
 TEditBox::~TEditBox() {
-    if (IsConstructed())
+    if (IsConstructed()) {
         FormDestroy();
+    }
 }
 
 TEditBoxControls& TEditBox::CreateControls() {
@@ -96,8 +97,9 @@ void TEditBox::FormDestroy() {
 }
 
 void TEditBox::ConnectEditors() {
-    for (QWidget* const editor : FKeeper.Editors())
+    for (QWidget* const editor : FKeeper.Editors()) {
         FEditorEvents.Watch(*editor);
+    }
     FButtonEvents.Watch(*OkBtn);
     FButtonEvents.Watch(*CancelBtn);
     FFurtherButtonEvents.Watch(*OKDalsiBtn);
@@ -123,9 +125,10 @@ void TEditBox::ConnectMenus() {
         {EditovatelnySloupecVyberem, &TEditBox::EditovatelnySloupecVyberemClick},
         {NeeditovatelnySloupec, &TEditBox::NeeditovatelnySloupecClick},
     };
-    for (const auto& [item, handler] : items)
+    for (const auto& [item, handler] : items) {
         ConnectGuarded(item, &QAction::triggered, this,
                        [this, sender = item, click = handler] { std::invoke(click, this, sender); });
+    }
     ConnectGuarded(ColumnsPopupMenu, &QMenu::aboutToShow, this, [this] { ColumnsPopupMenuPopup(ColumnsPopupMenu); });
 }
 
@@ -164,8 +167,9 @@ bool TEditBox::SaveData() {
 }
 
 void TEditBox::SaveDataToTempFile() {
-    if (FOnSaveDataToTempFile)
+    if (FOnSaveDataToTempFile) {
         FOnSaveDataToTempFile();
+    }
 }
 
 bool TEditBox::IsEditable(int aCol, int aRow) const {
@@ -270,8 +274,9 @@ void TEditBox::SaveWindowSettings() {
 
 void TEditBox::OkBtnClick(TObject*) {
     SetModalResult(0);
-    if (HideEditor() && SaveData())
+    if (HideEditor() && SaveData()) {
         SetModalResult(c_ResultOk);
+    }
 }
 
 bool TEditBox::EditorKeyDown(TControl*, const QKeyEvent& event) {
@@ -293,8 +298,9 @@ bool TEditBox::RunCommand(EditorCommand command) {
         GoPrevEditable();
         break;
     case EditorCommand::Confirm:
-        if (HideEditor())
+        if (HideEditor()) {
             OkBtnClick(OkBtn);
+        }
         break;
     case EditorCommand::RecalculationOff:
         chbPrepocetCen->setChecked(false);
@@ -327,8 +333,9 @@ void TEditBox::StringGridMouseMove(int col, int row) {
 }
 
 void TEditBox::StringGridMouseUp(int, int row) {
-    if (row <= 0)
+    if (row <= 0) {
         FColumnMenu.CaptureWidths();
+    }
 }
 
 void TEditBox::StringGridContextPopup(int col, int row, const QPoint& globalPos) {

@@ -33,8 +33,9 @@ void SettingsMenu::ShowNoSetting() {
 void SettingsMenu::LoadList() {
     const QList<QAction*> former = FControls.Menu.actions();
     for (QAction* const item : former) {
-        if (Tag(item) != 0)
+        if (Tag(item) != 0) {
             delete item;
+        }
     }
     FListed = FStore.List();
     const QList<QAction*> fixed = FControls.Menu.actions();
@@ -44,15 +45,17 @@ void SettingsMenu::LoadList() {
         item->setCheckable(true);
         FControls.Menu.insertAction(fixed.value(0), item);
     }
-    if (FSettingsId != -1)
+    if (FSettingsId != -1) {
         ShowInForce();
+    }
 }
 
 void SettingsMenu::LoadLast() {
     FEditing.Active = FEditing.Defaults;
     const std::optional<DefaultSetting> setting = FStore.LoadDefault();
-    if (!setting)
+    if (!setting) {
         return;
+    }
     FSettingsId = setting->Id;
     ApplyDocument(setting->Document);
     ShowInForce();
@@ -64,8 +67,9 @@ void SettingsMenu::ShowInForce() {
         std::find_if(items.cbegin(), items.cend(), [this](const QAction* each) { return Tag(each) == FSettingsId; });
     const auto listed = std::find_if(FListed.cbegin(), FListed.cend(),
                                      [this](const SavedSetting& each) { return each.Id == FSettingsId; });
-    if (item == items.cend() || listed == FListed.cend())
+    if (item == items.cend() || listed == FListed.cend()) {
         return;
+    }
     (*item)->setChecked(true);
     FControls.Button.SetCaption(listed->Name);
 }
@@ -73,8 +77,9 @@ void SettingsMenu::ShowInForce() {
 void SettingsMenu::ApplyDocument(std::string_view document) {
     AppliedColumnSettings applied = ReadColumnSettings(document, FEditing.Active, FEditing.Defaults);
     FEditing.Active = std::move(applied.Columns);
-    if (applied.Recalculation && Visible(FControls.RecalculationPanel))
+    if (applied.Recalculation && Visible(FControls.RecalculationPanel)) {
         FControls.Recalculation.setChecked(*applied.Recalculation);
+    }
 }
 
 } // namespace melvark

@@ -9,8 +9,9 @@ std::vector<SavedSetting> SettingsStore::List() const {
     proc.ParamByName("a_TYPEDITACE").SetAsInteger(FSettingsType);
     proc.Exec(true);
     std::vector<SavedSetting> settings;
-    for (; !proc.Eof(); proc.Next())
+    for (; !proc.Eof(); proc.Next()) {
         settings.push_back({proc.FieldByName("ID").AsInteger(), proc.FieldByName("NAZEV").AsString()});
+    }
     return settings;
 }
 
@@ -18,8 +19,9 @@ std::optional<DefaultSetting> SettingsStore::LoadDefault() const {
     TLiveStoredProc proc("MELVARKEDITORNASTAVENINactiDef");
     proc.ParamByName("a_TYPEDITACE").SetAsInteger(FSettingsType);
     proc.Exec(true);
-    if (!proc.HasField("ID") || proc.FieldByName("ID").IsNull())
+    if (!proc.HasField("ID") || proc.FieldByName("ID").IsNull()) {
         return std::nullopt;
+    }
     return DefaultSetting{proc.FieldByName("ID").AsInteger(), proc.FieldByName("DATA").AsString()};
 }
 

@@ -18,14 +18,16 @@ void WindowPlacementKeeper::Load() {
     proc.ParamByName("a_TYPEDITACE").SetAsInteger(FEditType);
     proc.Exec(true);
     const TField document = proc.FieldByName("DATA");
-    if (document.IsNull())
+    if (document.IsNull()) {
         return;
+    }
     const QRect current = FForm.geometry();
     const auto placement =
         ReadWindowPlacement(document.AsString(), {current.x(), current.y(), current.width(), current.height(),
                                                   FForm.windowState().testFlag(Qt::WindowMaximized)});
-    if (!placement)
+    if (!placement) {
         return;
+    }
     FForm.setGeometry(placement->Left, placement->Top, placement->Width, placement->Height);
     FForm.setWindowState(placement->Maximized ? Qt::WindowMaximized : Qt::WindowNoState);
 }
@@ -47,15 +49,18 @@ QRect WindowPlacementKeeper::NormalRect() const {
 }
 
 bool WindowPlacementKeeper::eventFilter(QObject*, QEvent* event) {
-    if (event->type() != QEvent::WindowStateChange)
+    if (event->type() != QEvent::WindowStateChange) {
         return false;
+    }
     // On the way into and out of the task bar the state passes through others that mean nothing.
-    if (static_cast<QWindowStateChangeEvent*>(event)->oldState().testFlag(Qt::WindowMinimized))
+    if (static_cast<QWindowStateChangeEvent*>(event)->oldState().testFlag(Qt::WindowMinimized)) {
         return false;
-    if (FForm.windowState() == Qt::WindowMaximized)
+    }
+    if (FForm.windowState() == Qt::WindowMaximized) {
         FRectBeforeMaximizing = FForm.normalGeometry();
-    else if (FForm.windowState() == Qt::WindowNoState)
+    } else if (FForm.windowState() == Qt::WindowNoState) {
         FRectBeforeMaximizing = QRect();
+    }
     return false;
 }
 

@@ -13,8 +13,9 @@ void TClassRegistry::Register(TRegisteredClass entry) {
 std::unique_ptr<TLibraryItem> TClassRegistry::Create(std::string_view className,
                                                      TLibraryManager* libraryManager) const {
     const auto entry = FFactories.find(className);
-    if (entry == FFactories.end())
+    if (entry == FFactories.end()) {
         throw EHostError("Třída " + AnsiString(className) + " není zaregistrována.");
+    }
     return entry->second(libraryManager);
 }
 
@@ -24,6 +25,7 @@ bool TClassRegistry::Contains(std::string_view className) const {
 
 void RegisterClasses(std::initializer_list<TRegisteredClass> classes) {
     TClassRegistry& registry = CurrentHost().Classes();
-    for (const TRegisteredClass& entry : classes)
+    for (const TRegisteredClass& entry : classes) {
         registry.Register(entry);
+    }
 }

@@ -22,8 +22,9 @@ Readings(Functions...) -> Readings<Functions...>;
 }
 
 std::optional<std::int32_t> ToInt32(std::int64_t value) {
-    if (value < std::numeric_limits<std::int32_t>::min() || value > std::numeric_limits<std::int32_t>::max())
+    if (value < std::numeric_limits<std::int32_t>::min() || value > std::numeric_limits<std::int32_t>::max()) {
         return std::nullopt;
+    }
     return static_cast<std::int32_t>(value);
 }
 
@@ -31,16 +32,19 @@ std::optional<std::int32_t> ToInt32(std::int64_t value) {
 std::optional<std::int32_t> ToInt32(double value) {
     const bool isInRange =
         value >= std::numeric_limits<std::int32_t>::min() && value <= std::numeric_limits<std::int32_t>::max();
-    if (!isInRange || std::trunc(value) != value)
+    if (!isInRange || std::trunc(value) != value) {
         return std::nullopt;
+    }
     return static_cast<std::int32_t>(value);
 }
 
 std::optional<bool> ToBoolean(std::string_view text) {
-    if (text == "1" || SameDbName(text, "true"))
+    if (text == "1" || SameDbName(text, "true")) {
         return true;
-    if (text == "0" || SameDbName(text, "false"))
+    }
+    if (text == "0" || SameDbName(text, "false")) {
         return false;
+    }
     return std::nullopt;
 }
 
@@ -69,8 +73,9 @@ std::int32_t TField::AsInteger() const {
                  [](double value) { return ToInt32(value); }, [](bool value) { return Result(value ? 1 : 0); },
                  [](const AnsiString& value) { return TextToInt(value); }},
         FValue);
-    if (!result)
+    if (!result) {
         RefuseReading(*this, "celé číslo");
+    }
     return *result;
 }
 
@@ -82,8 +87,9 @@ double TField::AsFloat() const {
                  [](double value) { return Result(value); }, [](bool value) { return Result(value ? 1.0 : 0.0); },
                  [this](const AnsiString& value) { return TextToFloat(value, FSettings); }},
         FValue);
-    if (!result)
+    if (!result) {
         RefuseReading(*this, "desetinné číslo");
+    }
     return *result;
 }
 
@@ -94,18 +100,21 @@ bool TField::AsBoolean() const {
                  [](double value) { return Result(value != 0.0); }, [](bool value) { return Result(value); },
                  [](const AnsiString& value) { return ToBoolean(value); }},
         FValue);
-    if (!result)
+    if (!result) {
         RefuseReading(*this, "hodnota ano/ne");
+    }
     return *result;
 }
 
 TDateTime TField::AsDateTime() const {
-    if (IsNull())
+    if (IsNull()) {
         return TDateTime{};
+    }
     const AnsiString* text = std::get_if<AnsiString>(&FValue);
     const std::optional<TDateTime> result = text != nullptr ? TextToDateTime(*text, FSettings) : std::nullopt;
-    if (!result)
+    if (!result) {
         RefuseReading(*this, "datum a čas");
+    }
     return *result;
 }
 
@@ -113,7 +122,8 @@ TDataSet::~TDataSet() = default;
 
 TField TDataSet::FieldByName(std::string_view name) const {
     std::optional<TField> field = FindField(name);
-    if (!field)
+    if (!field) {
         throw EDatabaseError("Záznam nemá pole " + AnsiString(name) + ".");
+    }
     return *std::move(field);
 }

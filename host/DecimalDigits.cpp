@@ -20,17 +20,19 @@ bool IsZero(const DecimalDigits& number) {
 void Increment(AnsiString& digits) {
     const std::size_t last = digits.find_last_not_of('9');
     digits.replace(last + 1, AnsiString::npos, digits.size() - (last + 1), '0');
-    if (last == AnsiString::npos)
+    if (last == AnsiString::npos) {
         digits.insert(0, 1, '1');
-    else
+    } else {
         ++digits[last];
+    }
 }
 
 } // namespace
 
 DecimalDigits ToDecimalDigits(double value) {
-    if (!std::isfinite(value))
+    if (!std::isfinite(value)) {
         throw EConvertError("Hodnota není konečné číslo.");
+    }
 
     // The shortest digits come as d[.ddd]e±xx; the fixed notation of the library pads large numbers with binary noise.
     std::array<char, 32> buffer{};
@@ -42,18 +44,21 @@ DecimalDigits ToDecimalDigits(double value) {
     std::erase(digits, '.');
     const int exponent = std::stoi(AnsiString(text.substr(mark + 1)));
 
-    if (exponent < 0)
+    if (exponent < 0) {
         return {value < 0, "0", AnsiString(static_cast<std::size_t>(-exponent - 1), '0') + digits};
+    }
     const std::size_t wholeDigits = static_cast<std::size_t>(exponent) + 1;
-    if (digits.size() < wholeDigits)
+    if (digits.size() < wholeDigits) {
         digits.append(wholeDigits - digits.size(), '0');
+    }
     return {value < 0, digits.substr(0, wholeDigits), digits.substr(wholeDigits)};
 }
 
 DecimalDigits ToDecimalDigits(std::int64_t value) {
     AnsiString digits = std::to_string(value);
-    if (value < 0)
+    if (value < 0) {
         digits.erase(0, 1);
+    }
     return {value < 0, digits, {}};
 }
 

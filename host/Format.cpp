@@ -42,8 +42,9 @@ struct Specifier {
 AnsiString Grouped(std::string_view digits, std::string_view separator) {
     AnsiString text;
     for (std::size_t i = 0; i < digits.size(); ++i) {
-        if (i > 0 && (digits.size() - i) % c_GroupDigits == 0)
+        if (i > 0 && (digits.size() - i) % c_GroupDigits == 0) {
             text += separator;
+        }
         text += digits[i];
     }
     return text;
@@ -64,8 +65,9 @@ public:
             const std::size_t mark = std::min(FFormat.find('%', FPosition), FFormat.size());
             FResult += FFormat.substr(FPosition, mark - FPosition);
             FPosition = mark + 1;
-            if (mark == FFormat.size())
+            if (mark == FFormat.size()) {
                 break;
+            }
             if (Peek() == '%') {
                 FResult += '%';
                 ++FPosition;
@@ -95,8 +97,9 @@ private:
             ++FPosition;
             specifier.Precision = ReadNumber();
         }
-        if (FPosition >= FFormat.size())
+        if (FPosition >= FFormat.size()) {
             Refuse("značka na konci není úplná");
+        }
         specifier.Type = FFormat[FPosition++];
         return specifier;
     }
@@ -106,8 +109,9 @@ private:
         std::size_t number = 0;
         for (; Peek() >= '0' && Peek() <= '9'; ++FPosition) {
             number = number * 10 + static_cast<std::size_t>(Peek() - '0');
-            if (number > c_MaxFormatWidth)
+            if (number > c_MaxFormatWidth) {
                 Refuse("šířka nebo přesnost je příliš velká");
+            }
         }
         return number;
     }
@@ -135,8 +139,9 @@ private:
     }
 
     const TFormatArg& NextArgument() {
-        if (FNextArgument == FArguments.size())
+        if (FNextArgument == FArguments.size()) {
             Refuse("chybí " + std::to_string(FNextArgument + 1) + ". hodnota");
+        }
         return FArguments[FNextArgument++];
     }
 
@@ -146,15 +151,17 @@ private:
 
     AnsiString StringText(const Specifier& specifier) {
         const auto* text = std::get_if<AnsiString>(&NextArgument().Value());
-        if (text == nullptr)
+        if (text == nullptr) {
             RefuseArgument("text");
+        }
         return specifier.Precision ? AnsiString(FirstCharacters(*text, *specifier.Precision)) : *text;
     }
 
     AnsiString IntegerText(const Specifier& specifier) {
         const auto* value = std::get_if<std::int64_t>(&NextArgument().Value());
-        if (value == nullptr)
+        if (value == nullptr) {
             RefuseArgument("celé číslo");
+        }
         const melvark::DecimalDigits number = melvark::ToDecimalDigits(*value);
         const std::size_t leastDigits = specifier.Precision.value_or(0);
         const std::size_t digits = number.Whole.size();
@@ -164,11 +171,13 @@ private:
 
     melvark::DecimalDigits RoundedArgument(std::size_t decimals) {
         const auto& value = NextArgument().Value();
-        if (const auto* integer = std::get_if<std::int64_t>(&value))
+        if (const auto* integer = std::get_if<std::int64_t>(&value)) {
             return melvark::Rounded(melvark::ToDecimalDigits(*integer), decimals);
+        }
         const auto* number = std::get_if<double>(&value);
-        if (number == nullptr || !std::isfinite(*number))
+        if (number == nullptr || !std::isfinite(*number)) {
             RefuseArgument("číslo");
+        }
         return melvark::Rounded(melvark::ToDecimalDigits(*number), decimals);
     }
 
@@ -184,10 +193,11 @@ private:
         AnsiString amount = WithFraction(Grouped(number.Whole, FSettings.ThousandSeparator), number.Fraction,
                                          FSettings.DecimalSeparator);
         const AnsiString& currency = FSettings.CurrencyString;
-        if (!currency.empty() && FSettings.CurrencyAfterNumber)
+        if (!currency.empty() && FSettings.CurrencyAfterNumber) {
             amount.append(c_NoBreakSpace).append(currency);
-        else if (!currency.empty())
+        } else if (!currency.empty()) {
             amount.insert(0, currency + AnsiString(c_NoBreakSpace));
+        }
         return (number.Negative ? "-" : "") + amount;
     }
 

@@ -13,8 +13,9 @@ THostServices* installedHost = nullptr;
 THostServices::~THostServices() = default;
 
 THostServices& CurrentHost() {
-    if (installedHost == nullptr)
+    if (installedHost == nullptr) {
         throw EHostError("Hostitelská aplikace neposkytuje své služby.");
+    }
     return *installedHost;
 }
 

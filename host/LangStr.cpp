@@ -12,12 +12,14 @@ AnsiString LangStr(std::string_view key, std::initializer_list<TFormatArg> argum
 }
 
 AnsiString GetWord(std::string_view text, int index, char separator) {
-    if (index < 0)
+    if (index < 0) {
         return {};
+    }
     for (; index > 0; --index) {
         const std::size_t end = text.find(separator);
-        if (end == std::string_view::npos)
+        if (end == std::string_view::npos) {
             return {};
+        }
         text.remove_prefix(end + 1);
     }
     return AnsiString(text.substr(0, text.find(separator)));

@@ -22,8 +22,9 @@ TLiveParam* FindParam(const TParams& params, std::string_view name) {
 }
 
 TLiveParam& FindOrAppendParam(TParams& params, std::string_view name) {
-    if (TLiveParam* known = FindParam(params, name))
+    if (TLiveParam* known = FindParam(params, name)) {
         return *known;
+    }
     return *params.emplace_back(std::make_unique<TLiveParam>(AnsiString(name)));
 }
 
@@ -77,8 +78,9 @@ void TLiveResult::Next() {
 TField TLiveResult::FieldByName(std::string_view column) const {
     const TResultTable* table = Table();
     const std::size_t index = table != nullptr ? FindColumn(*table, column) : 0;
-    if (table == nullptr || index == table->Columns.size())
+    if (table == nullptr || index == table->Columns.size()) {
         throw EDatabaseError("Výsledek nemá pole " + AnsiString(column) + ".");
+    }
     return TField(table->Columns[index], Eof() ? TDbValue{} : table->Rows[FRow].at(index),
                   CurrentHost().FormatSettings());
 }
@@ -95,8 +97,9 @@ void TLiveResult::SetTables(std::vector<TResultTable> tables) {
 }
 
 bool TLiveResult::NextTable() {
-    if (FTable < FTables.size())
+    if (FTable < FTables.size()) {
         ++FTable;
+    }
     FRow = 0;
     return FTable < FTables.size();
 }
@@ -113,8 +116,9 @@ TLiveStoredProc::TLiveStoredProc(AnsiString name) : FName(std::move(name)) {
 TLiveStoredProc::~TLiveStoredProc() = default;
 
 TLiveParam& TLiveStoredProc::ParamByName(std::string_view name) {
-    if (!HasParam(name))
+    if (!HasParam(name)) {
         throw EDatabaseError("Procedura " + FName + " nemá parametr " + AnsiString(name) + ".");
+    }
     return FindOrAppendParam(FParams, name);
 }
 
@@ -125,17 +129,21 @@ bool TLiveStoredProc::HasParam(std::string_view name) {
 bool TLiveStoredProc::Exec(bool open) {
     TProcedureCall call{.Name = FName, .Params = {}, .Open = open};
     for (const auto& param : FParams) {
-        if (ContainsName(Info().Inputs, param->Name()))
+        if (ContainsName(Info().Inputs, param->Name())) {
             call.Params.push_back({param->Name(), param->Value()});
+        }
     }
     SetTables({});
     TCallResult result = CurrentHost().Connection().Execute(call);
-    if (!result.Success)
+    if (!result.Success) {
         return false;
-    for (TDbParam& output : result.Outputs)
+    }
+    for (TDbParam& output : result.Outputs) {
         FindOrAppendParam(FParams, output.Name).FValue = std::move(output.Value);
-    if (open)
+    }
+    if (open) {
         SetTables(std::move(result.Sets));
+    }
     return true;
 }
 
@@ -144,8 +152,9 @@ bool TLiveStoredProc::Resume() {
 }
 
 const TProcedureInfo& TLiveStoredProc::Info() {
-    if (!FInfo)
+    if (!FInfo) {
         FInfo = std::make_unique<TProcedureInfo>(CurrentHost().Connection().Describe(FName));
+    }
     return *FInfo;
 }
 

@@ -20,20 +20,23 @@ bool IsDigit(char c) {
 
 /// Length in bytes of the blank at the front of the text, 0 when there is none.
 std::size_t LeadingBlank(std::string_view text) {
-    if (text.starts_with(c_NoBreakSpace))
+    if (text.starts_with(c_NoBreakSpace)) {
         return c_NoBreakSpace.size();
+    }
     return !text.empty() && std::string_view(" \t\r\n").find(text.front()) != std::string_view::npos ? 1 : 0;
 }
 
 std::size_t TrailingBlank(std::string_view text) {
-    if (text.ends_with(c_NoBreakSpace))
+    if (text.ends_with(c_NoBreakSpace)) {
         return c_NoBreakSpace.size();
+    }
     return !text.empty() && std::string_view(" \t\r\n").find(text.back()) != std::string_view::npos ? 1 : 0;
 }
 
 void SkipBlanks(std::string_view& text) {
-    while (const std::size_t length = LeadingBlank(text))
+    while (const std::size_t length = LeadingBlank(text)) {
         text.remove_prefix(length);
+    }
 }
 
 std::string_view TakeDigits(std::string_view& text) {
@@ -44,8 +47,9 @@ std::string_view TakeDigits(std::string_view& text) {
 }
 
 bool TakeChar(std::string_view& text, char wanted) {
-    if (!text.starts_with(wanted))
+    if (!text.starts_with(wanted)) {
         return false;
+    }
     text.remove_prefix(1);
     return true;
 }
@@ -54,16 +58,18 @@ bool TakeChar(std::string_view& text, char wanted) {
 std::optional<melvark::DecimalDigits> ReadDecimal(std::string_view text, std::string_view separators) {
     text = TrimText(text);
     const bool isNegative = text.starts_with('-');
-    if (isNegative || text.starts_with('+'))
+    if (isNegative || text.starts_with('+')) {
         text.remove_prefix(1);
+    }
     std::string_view whole = TakeDigits(text);
     std::string_view fraction;
     if (!text.empty() && separators.find(text.front()) != std::string_view::npos) {
         text.remove_prefix(1);
         fraction = TakeDigits(text);
     }
-    if (!text.empty() || (whole.empty() && fraction.empty()))
+    if (!text.empty() || (whole.empty() && fraction.empty())) {
         return std::nullopt;
+    }
 
     whole.remove_prefix(std::min(whole.find_first_not_of('0'), whole.size()));
     fraction = fraction.substr(0, fraction.find_last_not_of('0') + 1);
@@ -74,8 +80,9 @@ std::optional<melvark::DecimalDigits> ReadDecimal(std::string_view text, std::st
 AnsiString Joined(const melvark::DecimalDigits& number, char separator) {
     AnsiString text = number.Negative ? "-" : "";
     text += number.Whole;
-    if (!number.Fraction.empty())
+    if (!number.Fraction.empty()) {
         text += separator + number.Fraction;
+    }
     return text;
 }
 
@@ -92,8 +99,9 @@ std::optional<DateParts> TakeDate(std::string_view& text, TDateOrder order, char
     for (std::size_t i = 0; i < numbers.size(); ++i) {
         if (i > 0) {
             SkipBlanks(text);
-            if (!TakeChar(text, separator))
+            if (!TakeChar(text, separator)) {
                 return std::nullopt;
+            }
             SkipBlanks(text);
         }
         numbers[i] = TakeDigits(text);
@@ -111,19 +119,22 @@ std::optional<DateParts> TakeDate(std::string_view& text, TDateOrder order, char
 
 /// The value of a few digits; nothing for fewer or more of them than allowed.
 std::optional<int> SmallNumber(std::string_view digits, std::size_t fewestDigits, std::size_t mostDigits) {
-    if (digits.size() < fewestDigits || digits.size() > mostDigits)
+    if (digits.size() < fewestDigits || digits.size() > mostDigits) {
         return std::nullopt;
+    }
     int value = 0;
-    for (const char c : digits)
+    for (const char c : digits) {
         value = value * 10 + (c - '0');
+    }
     return value;
 }
 
 std::optional<std::chrono::year_month_day> CalendarDate(const DateParts& parts, int year) {
     const std::optional<int> day = SmallNumber(parts.Day, 1, 2);
     const std::optional<int> month = SmallNumber(parts.Month, 1, 2);
-    if (!day || !month || year < 1)
+    if (!day || !month || year < 1) {
         return std::nullopt;
+    }
     const std::chrono::year_month_day date(std::chrono::year(year), std::chrono::month(static_cast<unsigned>(*month)),
                                            std::chrono::day(static_cast<unsigned>(*day)));
     return date.ok() ? std::optional(date) : std::nullopt;
@@ -142,15 +153,18 @@ std::optional<std::chrono::seconds> ReadTime(std::string_view text) {
     const std::array<int, 3> limits{24, 60, 60};
     std::size_t count = 0;
     do {
-        if (count == numbers.size())
+        if (count == numbers.size()) {
             return std::nullopt;
+        }
         const std::optional<int> number = SmallNumber(TakeDigits(text), 1, 2);
-        if (!number || *number >= limits[count])
+        if (!number || *number >= limits[count]) {
             return std::nullopt;
+        }
         numbers[count++] = *number;
     } while (TakeChar(text, ':'));
-    if (!text.empty() || count < 2)
+    if (!text.empty() || count < 2) {
         return std::nullopt;
+    }
     return std::chrono::hours(numbers[0]) + std::chrono::minutes(numbers[1]) + std::chrono::seconds(numbers[2]);
 }
 
@@ -158,11 +172,13 @@ std::optional<TDateTime> ReadMoment(std::string_view text, TDateOrder order, cha
     const std::optional<DateParts> parts = TakeDate(text, order, separator);
     const std::optional<int> year = parts ? SmallNumber(parts->Year, 4, 4) : std::nullopt;
     const auto date = year ? CalendarDate(*parts, *year) : std::nullopt;
-    if (!date)
+    if (!date) {
         return std::nullopt;
+    }
     const TDateTime midnight = std::chrono::local_days(*date);
-    if (text.empty())
+    if (text.empty()) {
         return midnight;
+    }
     SkipBlanks(text);
     const std::optional<std::chrono::seconds> time = ReadTime(text);
     return time ? std::optional(midnight + *time) : std::nullopt;
@@ -172,8 +188,9 @@ std::optional<TDateTime> ReadMoment(std::string_view text, TDateOrder order, cha
 
 std::string_view TrimText(std::string_view text) {
     SkipBlanks(text);
-    while (const std::size_t length = TrailingBlank(text))
+    while (const std::size_t length = TrailingBlank(text)) {
         text.remove_suffix(length);
+    }
     return text;
 }
 
@@ -181,27 +198,32 @@ std::optional<std::int32_t> TextToInt(std::string_view text) {
     text = TrimText(text);
     if (text.starts_with('+')) {
         text.remove_prefix(1);
-        if (text.starts_with('-'))
+        if (text.starts_with('-')) {
             return std::nullopt;
+        }
     }
     std::int32_t value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size())
+    if (error != std::errc() || end != text.data() + text.size()) {
         return std::nullopt;
+    }
     return value;
 }
 
 std::optional<double> TextToFloat(std::string_view text, const TFormatSettings& settings) {
     const auto number = ReadDecimal(text, std::string_view(&settings.DecimalSeparator, 1));
-    if (!number)
+    if (!number) {
         return std::nullopt;
+    }
     const AnsiString plain = Joined(*number, '.');
     double value = 0;
     const auto read = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (read.ec == std::errc::result_out_of_range && number->Whole == "0")
+    if (read.ec == std::errc::result_out_of_range && number->Whole == "0") {
         return 0.0;
-    if (read.ec != std::errc() || !std::isfinite(value))
+    }
+    if (read.ec != std::errc() || !std::isfinite(value)) {
         return std::nullopt;
+    }
     return value;
 }
 
@@ -214,19 +236,23 @@ std::optional<std::chrono::year_month_day> TextToDate(std::string_view text, con
                                                       std::chrono::year_month_day today) {
     text = TrimText(text);
     const std::optional<DateParts> parts = TakeDate(text, settings.DateOrder, settings.DateSeparator);
-    if (!parts || !text.empty())
+    if (!parts || !text.empty()) {
         return std::nullopt;
-    if (const std::optional<int> year = SmallNumber(parts->Year, 4, 4))
+    }
+    if (const std::optional<int> year = SmallNumber(parts->Year, 4, 4)) {
         return CalendarDate(*parts, *year);
-    if (const std::optional<int> year = SmallNumber(parts->Year, 2, 2))
+    }
+    if (const std::optional<int> year = SmallNumber(parts->Year, 2, 2)) {
         return CalendarDate(*parts, YearInWindow(*year, today));
+    }
     return std::nullopt;
 }
 
 std::optional<TDateTime> TextToDateTime(std::string_view text, const TFormatSettings& settings) {
     text = TrimText(text);
-    if (const auto moment = ReadMoment(text, settings.DateOrder, settings.DateSeparator))
+    if (const auto moment = ReadMoment(text, settings.DateOrder, settings.DateSeparator)) {
         return moment;
+    }
     return ReadMoment(text, TDateOrder::YearMonthDay, '-');
 }
 
@@ -238,8 +264,9 @@ AnsiString DateToText(std::chrono::year_month_day date, const TFormatSettings& s
     const AnsiString day = std::to_string(static_cast<unsigned>(date.day()));
     const AnsiString month = std::to_string(static_cast<unsigned>(date.month()));
     AnsiString year = std::to_string(static_cast<int>(date.year()));
-    if (year.size() < 4)
+    if (year.size() < 4) {
         year.insert(0, 4 - year.size(), '0');
+    }
     const char separator = settings.DateSeparator;
     switch (settings.DateOrder) {
     case TDateOrder::DayMonthYear:

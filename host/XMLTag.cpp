@@ -31,8 +31,9 @@ bool IsBlank(std::string_view text) {
 class TreeBuilder {
 public:
     explicit TreeBuilder(TXMLBlanks blanks) : FBlanks(blanks), FParser(XML_ParserCreate("UTF-8")) {
-        if (!FParser)
+        if (!FParser) {
             throw std::bad_alloc();
+        }
         XML_SetUserData(FParser.get(), this);
         XML_SetElementHandler(
             FParser.get(),
@@ -51,8 +52,9 @@ public:
 
     std::unique_ptr<TXMLTag> Run(std::string_view text) {
         const XML_Status status = XML_Parse(FParser.get(), text.data(), static_cast<int>(text.size()), XML_TRUE);
-        if (FError)
+        if (FError) {
             std::rethrow_exception(FError);
+        }
         return status == XML_STATUS_OK ? std::move(FRoot) : nullptr;
     }
 
@@ -62,8 +64,9 @@ private:
     static void Guarded(void* self, void (TreeBuilder::*handler)(Parameters...),
                         std::type_identity_t<Parameters>... arguments) {
         auto* builder = static_cast<TreeBuilder*>(self);
-        if (builder->FStopped)
+        if (builder->FStopped) {
             return;
+        }
         try {
             (builder->*handler)(arguments...);
         } catch (...) {
@@ -87,8 +90,9 @@ private:
 
     void EndElement() {
         auto& [tag, text] = FOpen.back();
-        if (FBlanks == TXMLBlanks::Keep || tag->GetTagsCount() == 0 || !IsBlank(text))
+        if (FBlanks == TXMLBlanks::Keep || tag->GetTagsCount() == 0 || !IsBlank(text)) {
             tag->SetValue(std::move(text));
+        }
         FOpen.pop_back();
     }
 
@@ -114,10 +118,12 @@ private:
 bool IsXMLName(const AnsiString& name) {
     const auto isNameStart = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'; };
     const auto isNameChar = [&](char c) { return isNameStart(c) || (c >= '0' && c <= '9') || c == '-' || c == '.'; };
-    if (name.empty())
+    if (name.empty()) {
         return false;
-    if (isNameStart(name.front()) && std::all_of(name.begin(), name.end(), isNameChar))
+    }
+    if (isNameStart(name.front()) && std::all_of(name.begin(), name.end(), isNameChar)) {
         return true;
+    }
     const std::unique_ptr<TXMLTag> tag = ParseXML("<" + name + "/>");
     return tag != nullptr && tag->GetName() == name;
 }
@@ -132,15 +138,18 @@ struct Character {
 Character ReadCharacter(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char first = byte(0);
-    if (first < 0x80)
+    if (first < 0x80) {
         return {first, 1};
+    }
     const std::size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-    if (first < 0xC2 || first > 0xF4 || text.size() < length)
+    if (first < 0xC2 || first > 0xF4 || text.size() < length) {
         return {0, 0};
+    }
     char32_t code = first & (0x7FU >> length);
     for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0U) != 0x80U)
+        if ((byte(i) & 0xC0U) != 0x80U) {
             return {0, 0};
+        }
         code = (code << 6U) | (byte(i) & 0x3FU);
     }
     constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
@@ -176,8 +185,9 @@ void AppendEscaped(AnsiString& output, std::string_view text) {
             output += "&#13;";
             break;
         default:
-            if (length > 0 && IsXMLCharacter(code))
+            if (length > 0 && IsXMLCharacter(code)) {
                 output += text.substr(0, length);
+            }
         }
         text.remove_prefix(std::max<std::size_t>(length, 1));
     }
@@ -186,8 +196,9 @@ void AppendEscaped(AnsiString& output, std::string_view text) {
 /// Writes the start tag and the text; an element with nothing in it is written whole. True when its end is still to
 /// come.
 bool OpenTag(AnsiString& output, const TXMLTag& tag) {
-    if (!IsXMLName(tag.GetName()))
+    if (!IsXMLName(tag.GetName())) {
         throw EConvertError("„" + tag.GetName() + "“ není jméno prvku XML.");
+    }
     output += "<" + tag.GetName();
     if (tag.GetTagsCount() == 0 && tag.GetValue().empty()) {
         output += "/>";
@@ -229,8 +240,9 @@ const TXMLTag& TXMLTag::GetTag(std::size_t index) const {
 std::unique_ptr<TXMLTag> ParseXML(std::string_view text, TXMLBlanks blanks) {
     // A null character is no part of a document. Wide encodings cannot do without one: the parser would recognise them
     // by their first bytes, although the text is UTF-8.
-    if (text.size() > c_MaxSize || text.find('\0') != std::string_view::npos)
+    if (text.size() > c_MaxSize || text.find('\0') != std::string_view::npos) {
         return nullptr;
+    }
     return TreeBuilder(blanks).Run(text);
 }
 
@@ -241,8 +253,9 @@ AnsiString OutputXMLStr(const TXMLTag& root) {
     };
     AnsiString output(c_Declaration);
     std::vector<OpenElement> open;
-    if (OpenTag(output, root))
+    if (OpenTag(output, root)) {
         open.push_back({&root, 0});
+    }
     while (!open.empty()) {
         auto& [tag, nextChild] = open.back();
         if (nextChild == tag->GetTagsCount()) {

@@ -38,14 +38,16 @@ constexpr std::array c_Workflows{
 bool TMelvarkEditor::Execute(AnsiString aParams, TDataSet* aDataSet, TXBookmarkList*) {
     FSourceCode.clear();
     const AnsiString source = GetWord(aParams, 1, ',');
-    if (!aDataSet || aDataSet->IsEmpty())
+    if (!aDataSet || aDataSet->IsEmpty()) {
         return false;
+    }
     aDataSet->FieldByName("_ID"); // A screen without it is refused before anything is shown.
     FDataSet = aDataSet;
 
     const auto workflow = std::ranges::find(c_Workflows, GetWord(aParams, 0, ','), &TWorkflow::DocumentType);
-    if (workflow != c_Workflows.end())
+    if (workflow != c_Workflows.end()) {
         return std::invoke(workflow->Run, this, source);
+    }
     ShowNote(LangStr("KORDAN30\\MELVARKEDITOR\\NEPLATNYTYPEDITACEDOKLADU", {}, "Nepodporovaný typ editace dokladu"));
     return false;
 }
@@ -71,8 +73,9 @@ void TMelvarkEditor::AddPopupMenuItem(const AnsiString& aCaption, const AnsiStri
 }
 
 void TMelvarkEditor::TakeSource(const TObject* sender, std::span<const std::string_view> codes) {
-    if (const auto* item = qobject_cast<const TMenuItem*>(sender))
+    if (const auto* item = qobject_cast<const TMenuItem*>(sender)) {
         FSourceCode = melvark::SourceCode(codes, item->data().toInt());
+    }
 }
 
 void TMelvarkEditor::OnPopupMenuClickDodak(TObject* Sender) {
@@ -88,21 +91,25 @@ void TMelvarkEditor::OnPopupMenuClickDodObjVzor(TObject* Sender) {
 }
 
 AnsiString TMelvarkEditor::ChooseSource(const melvark::SourceMenu& menu, TClickHandler onClick) {
-    if (!FPopupMenu)
+    if (!FPopupMenu) {
         CreatePopupMenu();
+    }
     FPopupMenu->clear();
-    for (const melvark::SourceMenuEntry& entry : menu.Entries)
+    for (const melvark::SourceMenuEntry& entry : menu.Entries) {
         AddPopupMenuItem(MenuCaption(entry), MenuHint(entry), entry.Tag, std::bind_front(onClick, this));
+    }
     // Executed, not only popped up: when it returns, the click on an entry has been delivered.
     FPopupMenu->exec(QCursor::pos());
     return FSourceCode;
 }
 
 bool TMelvarkEditor::DodakEditor(AnsiString aSource) {
-    if (aSource.empty())
+    if (aSource.empty()) {
         aSource = ChooseSource(melvark::c_DodakMenu, &TMelvarkEditor::OnPopupMenuClickDodak);
-    if (aSource.empty())
+    }
+    if (aSource.empty()) {
         return false;
+    }
     try {
         const int id = FDataSet->FieldByName("_ID").AsInteger();
         const int dodvId = FDataSet->FieldByName("_DODVID").AsInteger();
@@ -114,14 +121,16 @@ bool TMelvarkEditor::DodakEditor(AnsiString aSource) {
 }
 
 bool TMelvarkEditor::ObjednavkaEditor(AnsiString aSource) {
-    if (aSource.empty())
+    if (aSource.empty()) {
         aSource = ChooseSource(melvark::c_DodObjMenu, &TMelvarkEditor::OnPopupMenuClickDodObj);
+    }
     return !aSource.empty() && RefuseMissingEditor();
 }
 
 bool TMelvarkEditor::ObjednavkaVzorEditor(AnsiString aSource) {
-    if (aSource.empty())
+    if (aSource.empty()) {
         aSource = ChooseSource(melvark::c_DodObjVzorMenu, &TMelvarkEditor::OnPopupMenuClickDodObjVzor);
+    }
     return !aSource.empty() && RefuseMissingEditor();
 }
 
@@ -133,8 +142,9 @@ bool TMelvarkEditor::RefuseMissingEditor() {
 }
 
 void TMelvarkEditor::ShowNote(const AnsiString& text) {
-    if (LibraryManager())
+    if (LibraryManager()) {
         LibraryManager()->Message(text, "O#");
-    else
+    } else {
         ApplicationMessageBox(text, LangStr("KORDAN30\\MELVARKEDITOR\\ERROR", {}, "Chyba"), c_MessageBoxError);
+    }
 }

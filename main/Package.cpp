@@ -15,17 +15,19 @@ extern "C" {
 
 /// Registers the library item with the current host, once however often the package is initialised.
 void Initialize() {
-    if (initializations == 0)
+    if (initializations == 0) {
         RegisterClasses({{"TMelvarkEditor", [](TLibraryManager* libraryManager) {
                               return std::make_unique<TMelvarkEditor>(libraryManager);
                           }}});
+    }
     ++initializations;
 }
 
 /// Undoes one initialisation's count. The class stays registered: the host may still hold items of it.
 void Finalize() {
-    if (initializations > 0)
+    if (initializations > 0) {
         --initializations;
+    }
 }
 
 const TPackageInfo* GetPackageInfoTable() {

@@ -85,8 +85,9 @@ AnsiString MenuHint(const SourceMenuEntry& entry) {
 }
 
 AnsiString SourceCode(std::span<const std::string_view> codes, int tag) {
-    if (tag < 1 || tag > static_cast<int>(codes.size()))
+    if (tag < 1 || tag > static_cast<int>(codes.size())) {
         return {};
+    }
     return AnsiString(codes[static_cast<std::size_t>(tag) - 1]);
 }
 

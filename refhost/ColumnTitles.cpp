@@ -76,8 +76,9 @@ const TitleRow* findTitle(std::string_view column) {
 } // namespace
 
 QString columnTitle(std::string_view column, const Languages& languages) {
-    if (const TitleRow* row = findTitle(column))
+    if (const TitleRow* row = findTitle(column)) {
         return languages.label(row->title);
+    }
     return QString::fromUtf8(column.data(), static_cast<qsizetype>(column.size()));
 }
 
@@ -91,8 +92,9 @@ bool isAmountColumn(std::string_view column) {
 }
 
 QString shownValue(std::string_view column, const QString& value, const Languages& languages) {
-    if (!SameDbName(column, "STAV"))
+    if (!SameDbName(column, "STAV")) {
         return value;
+    }
     const std::string state = value.toStdString();
     const auto known =
         std::find_if(c_states.begin(), c_states.end(), [&](const HostText& each) { return each.builtIn == state; });

@@ -75,107 +75,127 @@ public:
     explicit Reader(const std::vector<std::string>& words) : words_(words) {}
 
     CommandLine read() {
-        while (position_ < words_.size())
+        while (position_ < words_.size()) {
             readWord(words_[position_++]);
+        }
         checkTogether();
         return std::move(result_);
     }
 
 private:
     void readWord(const std::string& word) {
-        if (looksLikeOption(word) && !given_.insert(word).second)
+        if (looksLikeOption(word) && !given_.insert(word).second) {
             refuse(word, "is given twice");
-        if (const auto* commandRow = findRow(c_commands, word))
+        }
+        if (const auto* commandRow = findRow(c_commands, word)) {
             readCommand(*commandRow);
-        else if (const auto* textRow = findRow(c_textOptions, word))
+        } else if (const auto* textRow = findRow(c_textOptions, word)) {
             result_.*(textRow->field) = readNonEmpty(textRow->option);
-        else if (const auto* numberRow = findRow(c_numberOptions, word))
+        } else if (const auto* numberRow = findRow(c_numberOptions, word)) {
             result_.*(numberRow->field) = readNumber(numberRow->option);
-        else if (word != "--batch")
+        } else if (word != "--batch") {
             readArgument(word);
+        }
     }
 
     void readCommand(const CommandRow& row) {
-        if (command_)
+        if (command_) {
             refuse(row.option, "cannot be combined with " + std::string(command_->option));
+        }
         command_ = &row;
         result_.command = row.command;
-        if (row.subject == Value::Needed || (row.subject == Value::Optional && hasValue()))
+        if (row.subject == Value::Needed || (row.subject == Value::Optional && hasValue())) {
             result_.subject = readValue(row.option);
+        }
     }
 
     bool hasValue() const { return position_ < words_.size() && !looksLikeOption(words_[position_]); }
 
     std::string readValue(std::string_view option) {
-        if (!hasValue())
+        if (!hasValue()) {
             refuse(option, "needs a value");
+        }
         return words_[position_++];
     }
 
     std::string readNonEmpty(std::string_view option) {
         std::string value = readValue(option);
-        if (value.empty())
+        if (value.empty()) {
             refuse(option, "needs a value");
+        }
         return value;
     }
 
     std::int32_t readNumber(std::string_view option) {
         const std::string text = readValue(option);
         const std::optional<std::int32_t> number = TextToInt(text);
-        if (!number)
+        if (!number) {
             refuse(option, "needs a whole number, not \"" + text + "\"");
+        }
         return *number;
     }
 
     void readArgument(const std::string& word) {
         const std::size_t equals = word.find('=');
-        if (looksLikeOption(word) || equals == std::string::npos || equals == 0)
+        if (looksLikeOption(word) || equals == std::string::npos || equals == 0) {
             throw CommandLineError("unknown word: " + word);
+        }
         result_.arguments.emplace_back(word.substr(0, equals), word.substr(equals + 1));
     }
 
     bool isGiven(std::string_view option) const { return given_.contains(option); }
 
     void checkTogether() {
-        if (isGiven("--batch"))
+        if (isGiven("--batch")) {
             checkBatch();
-        else if (result_.command == Command::Call && result_.subject.empty())
+        } else if (result_.command == Command::Call && result_.subject.empty()) {
             refuse("--call", "needs a procedure");
-        if (!result_.arguments.empty() && result_.command != Command::Call)
+        }
+        if (!result_.arguments.empty() && result_.command != Command::Call) {
             throw CommandLineError("unknown word: " + result_.arguments.front().first +
                                    "=... (values belong to --call)");
-        if (command_ && command_->needsDocument && !isGiven("--document"))
+        }
+        if (command_ && command_->needsDocument && !isGiven("--document")) {
             refuse(command_->option, "needs --document");
-        if (isGiven("--document") && !(command_ && command_->needsDocument))
+        }
+        if (isGiven("--document") && !(command_ && command_->needsDocument)) {
             refuse("--document", "belongs to --execute or --show");
+        }
         checkLines();
         checkWords();
     }
 
     /// The calls of a batch come from standard input; a procedure named beside it serves the calls that name none.
     void checkBatch() {
-        if (command_ && result_.command != Command::Call)
+        if (command_ && result_.command != Command::Call) {
             refuse("--batch", "belongs to --call");
-        if (!result_.arguments.empty())
+        }
+        if (!result_.arguments.empty()) {
             refuse("--batch", "reads its values from standard input");
+        }
         result_.command = Command::Batch;
     }
 
     void checkLines() const {
-        if (isGiven("--lines") && result_.command != Command::CreateDatabase)
+        if (isGiven("--lines") && result_.command != Command::CreateDatabase) {
             refuse("--lines", "belongs to --create-database");
-        if (result_.lines < 0)
+        }
+        if (result_.lines < 0) {
             refuse("--lines", "must not be negative");
+        }
     }
 
     void checkWords() const {
         if (isGiven("--database") && !result_.database.starts_with("sqlite:") &&
-            !result_.database.starts_with("postgresql:"))
+            !result_.database.starts_with("postgresql:")) {
             refuse("--database", "begins with sqlite: or postgresql:");
-        if (result_.locale != "cs_CZ" && result_.locale != "en_GB")
+        }
+        if (result_.locale != "cs_CZ" && result_.locale != "en_GB") {
             refuse("--locale", "is cs_CZ or en_GB");
-        if (result_.language != "cs" && result_.language != "en")
+        }
+        if (result_.language != "cs" && result_.language != "en") {
             refuse("--language", "is cs or en");
+        }
     }
 
     const std::vector<std::string>& words_;

@@ -44,11 +44,13 @@ void createOwnDatabase(const CommandLine& commandLine, const TFormatSettings& se
     const QString file = QString::fromStdString(defaultDatabaseFile());
     const QString unfinished = file + u".part"_qs;
     QDir().mkpath(QFileInfo(file).path());
-    for (const char16_t* suffix : {u"", u"-wal", u"-shm", u"-journal"})
+    for (const char16_t* suffix : {u"", u"-wal", u"-shm", u"-journal"}) {
         QFile::remove(unfinished + QString::fromUtf16(suffix));
+    }
     fill(std::string(c_fileScheme) + unfinished.toStdString(), commandLine, settings);
-    if (!QFile::rename(unfinished, file))
+    if (!QFile::rename(unfinished, file)) {
         throw EInOutError("Databázi „" + file.toStdString() + "“ nelze založit. Zkontrolujte oprávnění ke složce.");
+    }
 }
 
 } // namespace
@@ -60,21 +62,24 @@ std::string defaultDatabaseFile() {
 
 std::unique_ptr<Database> openCompanyDatabase(const CommandLine& commandLine, const TFormatSettings& settings) {
     const bool isOwn = commandLine.database.empty();
-    if (isOwn && !QFileInfo::exists(QString::fromStdString(defaultDatabaseFile())))
+    if (isOwn && !QFileInfo::exists(QString::fromStdString(defaultDatabaseFile()))) {
         createOwnDatabase(commandLine, settings);
+    }
     return openDatabase(urlOf(commandLine), userOf(commandLine), settings, OpenMode::Existing);
 }
 
 void createCompanyDatabase(const CommandLine& commandLine, const TFormatSettings& settings) {
-    if (commandLine.database.empty())
+    if (commandLine.database.empty()) {
         QDir().mkpath(QFileInfo(QString::fromStdString(defaultDatabaseFile())).path());
+    }
     fill(urlOf(commandLine), commandLine, settings);
 }
 
 std::string databaseLabel(const CommandLine& commandLine) {
     const std::string url = urlOf(commandLine);
-    if (url.starts_with(c_fileScheme))
+    if (url.starts_with(c_fileScheme)) {
         return url.substr(c_fileScheme.size());
+    }
     static const QRegularExpression password(QStringLiteral("\\bpassword\\s*=\\s*('([^'\\\\]|\\\\.)*'|\\S+)\\s*"));
     static const QRegularExpression inAddress(QStringLiteral("(//[^/@:]*):[^/@]*@"));
     return QString::fromStdString(url).remove(password).replace(inAddress, u"\\1@"_qs).trimmed().toStdString();

@@ -115,8 +115,9 @@ void ErrorDialog::showDetails(bool shown) {
 
 void ErrorDialog::copy() const {
     std::string text = report_.sentence;
-    if (!report_.details.empty())
+    if (!report_.details.empty()) {
         text += "\n\n" + report_.details;
+    }
     QApplication::clipboard()->setText(QString::fromStdString(text));
 }
 

@@ -11,10 +11,12 @@ namespace refhost {
 namespace {
 
 void addLine(std::string& lines, const std::string& line) {
-    if (line.empty())
+    if (line.empty()) {
         return;
-    if (!lines.empty())
+    }
+    if (!lines.empty()) {
         lines += '\n';
+    }
     lines += line;
 }
 
@@ -58,8 +60,9 @@ StreamErrorDisplay::StreamErrorDisplay(std::ostream& stream) : stream_(stream) {
 
 void StreamErrorDisplay::show(const ErrorReport& report) {
     stream_ << report.sentence << '\n';
-    if (!report.details.empty())
+    if (!report.details.empty()) {
         stream_ << report.details << '\n';
+    }
     stream_.flush();
 }
 

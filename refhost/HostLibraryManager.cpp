@@ -51,18 +51,20 @@ void HostLibraryManager::checkColumns(const TResultTable& rows, const AnsiString
     for (const AnsiString& column : {displayColumn, keyColumn}) {
         const bool isThere = std::any_of(rows.Columns.begin(), rows.Columns.end(),
                                          [&](const AnsiString& each) { return SameDbName(each, column); });
-        if (!isThere)
+        if (!isThere) {
             throw EHostError(parts_.languages.label(texts::lookupNoColumn)
                                  .arg(QString::fromStdString(form), QString::fromStdString(column))
                                  .toStdString());
+        }
     }
 }
 
 void HostLibraryManager::LocalizeForm(TLocalizableForm& form, const AnsiString& section) {
     form.VisitTexts([&](const TLocalizableForm::TText& text) {
         const AnsiString key = section + "\\" + text.Control + "\\" + text.Property;
-        if (const auto translated = parts_.languages.translation(key, text.Text))
+        if (const auto translated = parts_.languages.translation(key, text.Text)) {
             text.Replace(*translated);
+        }
     });
 }
 

@@ -100,11 +100,13 @@ std::string drawPng(const ImageRow& row) {
 std::string_view Images::data(std::string_view image, std::string_view group) const {
     const auto row = std::find_if(c_images.begin(), c_images.end(),
                                   [&](const ImageRow& each) { return each.image == image && each.group == group; });
-    if (row == c_images.end())
+    if (row == c_images.end()) {
         return {};
+    }
     std::string& bytes = drawn_[{std::string(image), std::string(group)}];
-    if (bytes.empty())
+    if (bytes.empty()) {
         bytes = drawPng(*row);
+    }
     return bytes;
 }
 

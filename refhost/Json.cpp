@@ -46,8 +46,9 @@ void appendEscaped(std::string& out, char character) {
 }
 
 std::string jsonNumber(double value) {
-    if (!std::isfinite(value))
+    if (!std::isfinite(value)) {
         return "null";
+    }
     std::array<char, 32> buffer{};
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr;
     return {buffer.data(), end};
@@ -72,8 +73,9 @@ TDbValue readValue(const QString& name, const QJsonValue& value) {
     case QJsonValue::Double: {
         const double number = value.toDouble();
         const auto integer = value.toInteger();
-        if (static_cast<double>(integer) == number)
+        if (static_cast<double>(integer) == number) {
             return std::int64_t{integer};
+        }
         return number;
     }
     default:
@@ -87,8 +89,9 @@ std::string jsonString(std::string_view text) {
     const QByteArray valid = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toUtf8();
     std::string out = "\"";
     out.reserve(static_cast<std::size_t>(valid.size()) + 2);
-    for (const char character : valid)
+    for (const char character : valid) {
         appendEscaped(out, character);
+    }
     out += '"';
     return out;
 }
@@ -102,8 +105,9 @@ JsonObject& JsonObject::add(std::string_view name, const TDbValue& value) {
 }
 
 JsonObject& JsonObject::addJson(std::string_view name, std::string_view json) {
-    if (!members_.empty())
+    if (!members_.empty()) {
         members_ += ',';
+    }
     members_ += jsonString(name);
     members_ += ':';
     members_ += json;
@@ -118,21 +122,25 @@ TProcedureCall readBatchCall(std::string_view line, const std::string& defaultPr
     QJsonParseError error;
     const QJsonDocument document =
         QJsonDocument::fromJson(QByteArray(line.data(), static_cast<qsizetype>(line.size())), &error);
-    if (!document.isObject())
+    if (!document.isObject()) {
         throw Exception("The line is no JSON object: " + error.errorString().toStdString() + ".");
+    }
     const QJsonObject object = document.object();
 
     TProcedureCall call;
     call.Open = true;
     call.Name = object.value(u"call").toString(QString::fromStdString(defaultProcedure)).toStdString();
-    if (call.Name.empty())
+    if (call.Name.empty()) {
         throw Exception("The line names no procedure to call.");
+    }
     const QJsonValue params = object.value(u"params");
-    if (!params.isUndefined() && !params.isObject())
+    if (!params.isUndefined() && !params.isObject()) {
         throw Exception("\"params\" is no JSON object.");
+    }
     const QJsonObject values = params.toObject();
-    for (auto value = values.begin(); value != values.end(); ++value)
+    for (auto value = values.begin(); value != values.end(); ++value) {
         call.Params.push_back({value.key().toStdString(), readValue(value.key(), value.value())});
+    }
     return call;
 }
 

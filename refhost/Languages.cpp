@@ -29,8 +29,9 @@ std::unique_ptr<QTranslator> loadCatalogue(const QString& name) {
 
 std::optional<std::string> translateId(const QTranslator& catalogue, const std::string& id) {
     const QString text = catalogue.translate("", id.c_str());
-    if (text.isNull())
+    if (text.isNull()) {
         return std::nullopt;
+    }
     return text.toStdString();
 }
 
@@ -39,12 +40,14 @@ std::optional<std::string> translateId(const QTranslator& catalogue, const std::
 Languages::Languages(const std::string& language) : language_(language) {
     registerCatalogues();
     const QString wanted = QString::fromStdString(language);
-    if (wanted == c_builtInLanguage)
+    if (wanted == c_builtInLanguage) {
         return;
+    }
     for (const char16_t* catalogue : c_catalogues) {
         auto loaded = loadCatalogue(QString::fromUtf16(catalogue) + u'_' + wanted);
-        if (!loaded)
+        if (!loaded) {
             throw EHostError("Jazyk „" + language + "“ není k dispozici.");
+        }
         catalogues_.push_back(std::move(loaded));
     }
 }
@@ -52,10 +55,13 @@ Languages::Languages(const std::string& language) : language_(language) {
 std::optional<std::string> Languages::translation(std::string_view key, std::string_view builtIn) const {
     const std::string plain(key);
     const std::string withText = plain + "|" + std::string(builtIn);
-    for (const std::string& id : {withText, plain})
-        for (const auto& catalogue : catalogues_)
-            if (auto text = translateId(*catalogue, id))
+    for (const std::string& id : {withText, plain}) {
+        for (const auto& catalogue : catalogues_) {
+            if (auto text = translateId(*catalogue, id)) {
                 return text;
+            }
+        }
+    }
     return std::nullopt;
 }
 
@@ -70,8 +76,9 @@ QString Languages::label(const HostText& text) const {
 void Languages::installQtTexts(QCoreApplication& application) {
     // Qt's built-in language is English, so that its English catalogue is empty or absent.
     auto texts = loadCatalogue(u"qtbase_"_qs + QString::fromStdString(language_));
-    if (!texts)
+    if (!texts) {
         return;
+    }
     qtTexts_ = std::move(texts);
     application.installTranslator(qtTexts_.get());
 }

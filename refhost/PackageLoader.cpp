@@ -24,18 +24,21 @@ template <typename... Values>
 
 /// The library with all its symbols bound, so that a part that does not fit shows itself now and not in use.
 void load(QLibrary& library, const std::string& name, const Languages& languages) {
-    if (!QFileInfo::exists(library.fileName()))
+    if (!QFileInfo::exists(library.fileName())) {
         refuse(languages, texts::pluginNotFound, name);
+    }
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
-    if (!library.load())
+    if (!library.load()) {
         refuse(languages, texts::pluginUnloadable, name, library.errorString().toStdString());
+    }
 }
 
 template <typename Function>
 Function resolve(QLibrary& library, const char* symbol, const std::string& name, const Languages& languages) {
     const QFunctionPointer address = library.resolve(symbol);
-    if (!address)
+    if (!address) {
         refuse(languages, texts::pluginNoEntry, name, std::string(symbol));
+    }
     return reinterpret_cast<Function>(address);
 }
 
@@ -52,17 +55,20 @@ Package::Package(const std::string& file, const Languages& languages)
 }
 
 Package::~Package() {
-    if (finalize_)
+    if (finalize_) {
         finalize_();
+    }
 }
 
 void Package::checkDescription(TGetPackageInfoTable describe) const {
     const TPackageInfo* info = describe();
-    if (!info)
+    if (!info) {
         refuse(languages_, texts::pluginNoEntry, name_, std::string(c_GetPackageInfoTableSymbol));
-    if (info->ContractVersion != c_ContractVersion)
+    }
+    if (info->ContractVersion != c_ContractVersion) {
         refuse(languages_, texts::pluginVersion, name_, std::to_string(info->ContractVersion),
                std::to_string(c_ContractVersion));
+    }
 }
 
 void Package::initialize(TInitializePackage start) const {
@@ -75,8 +81,9 @@ void Package::initialize(TInitializePackage start) const {
 
 std::unique_ptr<TLibraryItem> Package::createItem(const std::string& className, const TClassRegistry& registry,
                                                   TLibraryManager* libraryManager) const {
-    if (!registry.Contains(className))
+    if (!registry.Contains(className)) {
         refuse(languages_, texts::pluginNoClass, name_, className);
+    }
     return registry.Create(className, libraryManager);
 }
 
@@ -84,8 +91,9 @@ std::string findPackage(const std::string& programFolder) {
     const QString folder = QString::fromStdString(programFolder);
     for (const char16_t* place : c_packageFolders) {
         const QString file = folder + QString::fromUtf16(place) + c_packageFile;
-        if (QFileInfo::exists(file))
+        if (QFileInfo::exists(file)) {
             return file.toStdString();
+        }
     }
     return (folder + c_packageFile).toStdString();
 }

@@ -28,10 +28,11 @@ QPalette completePalette(QPalette palette) {
     using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
     for (const auto& [text, ground] :
          {Pair(QPalette::WindowText, QPalette::Window), Pair(QPalette::Text, QPalette::Base),
-          Pair(QPalette::ButtonText, QPalette::Button)})
+          Pair(QPalette::ButtonText, QPalette::Button)}) {
         palette.setColor(
             QPalette::Disabled, text,
             between(palette.color(QPalette::Active, ground), palette.color(QPalette::Active, text), c_disabled));
+    }
     return palette;
 }
 

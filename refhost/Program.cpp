@@ -52,16 +52,18 @@ void runWithoutWindows(const CommandLine& commandLine, const Languages& language
 int reportFailure(const CommandLine& commandLine, const Languages& languages) {
     const ErrorReport report = describeError(std::current_exception(), languages);
     StreamErrorDisplay(std::cerr).show(report);
-    if (commandLine.command == Command::OpenHost)
+    if (commandLine.command == Command::OpenHost) {
         DialogErrorDisplay(languages).show(report);
+    }
     return c_failed;
 }
 
 int runCommand(const CommandLine& commandLine, const Languages& languages) {
     try {
         Trace trace(commandLine.traceFile.empty() ? nullptr : openTraceFile(commandLine.traceFile));
-        if (hasWindows(commandLine.command))
+        if (hasWindows(commandLine.command)) {
             return runInWindows(commandLine, languages, trace);
+        }
         runWithoutWindows(commandLine, languages);
         return 0;
     } catch (...) {
@@ -73,8 +75,9 @@ int runCommand(const CommandLine& commandLine, const Languages& languages) {
 
 int runProgram(const CommandLine& commandLine, int& argc, char** argv) {
     Languages languages(commandLine.language);
-    if (!hasWindows(commandLine.command))
+    if (!hasWindows(commandLine.command)) {
         return runCommand(commandLine, languages);
+    }
 
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication application(argc, argv);

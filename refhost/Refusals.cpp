@@ -22,8 +22,9 @@ RefusalSentence takeThingsOut(std::string_view sentence) {
         const std::size_t opening = sentence.find(c_opening);
         const std::size_t start = opening + c_opening.size();
         const std::size_t end = opening == sentence.npos ? sentence.npos : sentence.find(c_closing, start);
-        if (end == sentence.npos)
+        if (end == sentence.npos) {
             break;
+        }
         result.things.emplace_back(sentence.substr(start, end - start));
         result.pattern.append(sentence.substr(0, start)).append("%" + std::to_string(result.things.size()));
         sentence.remove_prefix(end);
@@ -33,12 +34,14 @@ RefusalSentence takeThingsOut(std::string_view sentence) {
 }
 
 std::optional<std::string> translateRefusal(const EDatabaseError& refusal, const Languages& languages) {
-    if (refusal.Code().empty())
+    if (refusal.Code().empty()) {
         return std::nullopt;
+    }
     const RefusalSentence sentence = takeThingsOut(refusal.Message());
     const auto translation = languages.translation("MELVARKHOST\\REFUSAL\\" + refusal.Code(), sentence.pattern);
-    if (!translation)
+    if (!translation) {
         return std::nullopt;
+    }
     // In one pass, so that a thing which itself has a "%2" in its name stays as it is.
     std::string filled;
     for (std::size_t at = 0; at < translation->size(); ++at) {
@@ -49,8 +52,9 @@ std::optional<std::string> translateRefusal(const EDatabaseError& refusal, const
             continue;
         }
         const auto thing = static_cast<std::size_t>((*translation)[++at] - '1');
-        if (thing >= sentence.things.size())
+        if (thing >= sentence.things.size()) {
             return std::nullopt;
+        }
         filled += sentence.things[thing];
     }
     return filled;

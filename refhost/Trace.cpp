@@ -34,8 +34,9 @@ Trace::Trace(std::unique_ptr<std::ostream> output) : output_(std::move(output)) 
 void Trace::procedure(const TProcedureCall& call, const TracedOutcome& outcome) {
     std::string params = "[";
     for (const TDbParam& param : call.Params) {
-        if (params.size() > 1)
+        if (params.size() > 1) {
             params += ',';
+        }
         params += "[" + jsonString(param.Name) + "," + jsonValue(param.Value) + "]";
     }
     writeLine(callLine(call.Name, call.Open, params + "]", outcome));
@@ -69,11 +70,13 @@ void Trace::error(const std::string& text) {
 }
 
 void Trace::writeLine(const std::string& line) {
-    if (!output_)
+    if (!output_) {
         return;
+    }
     *output_ << line << '\n' << std::flush;
-    if (output_->good())
+    if (output_->good()) {
         return;
+    }
     // Work goes on without a trace: failing here would undo what the clerk has just done.
     std::cerr << "The trace cannot be written any further.\n";
     output_.reset();
@@ -81,8 +84,9 @@ void Trace::writeLine(const std::string& line) {
 
 std::unique_ptr<std::ostream> openTraceFile(const std::string& path) {
     auto file = std::make_unique<std::ofstream>(path, std::ios::app | std::ios::binary);
-    if (!file->is_open())
+    if (!file->is_open()) {
         throw EInOutError("Soubor pro záznam volání „" + path + "“ nelze otevřít k zápisu.");
+    }
     return file;
 }
 

@@ -17,8 +17,9 @@ double millisecondsSince(Clock::time_point start) {
 
 std::size_t countRows(const TCallResult& result) {
     std::size_t rows = 0;
-    for (const TResultTable& set : result.Sets)
+    for (const TResultTable& set : result.Sets) {
         rows += set.Rows.size();
+    }
     return rows;
 }
 

@@ -152,8 +152,9 @@ void TSelectBox::SetUp(const RSourceSetup& setup, const RSourceArguments& argume
     lblPrenest->setVisible(offersOptions);
     chbMnozstvi->setVisible(offersOptions);
     chbCeny->setVisible(setup.Options == TTransferOptions::QuantitiesAndPrices);
-    if (setup.Options == TTransferOptions::QuantitiesOnlyUnchecked)
+    if (setup.Options == TTransferOptions::QuantitiesOnlyUnchecked) {
         chbMnozstvi->setChecked(false);
+    }
     FCheck = check;
     FShowDlg = showDlg;
 }
@@ -163,10 +164,11 @@ void TSelectBox::Check(const RSourceSetup& setup) {
     procedure.ParamByName(setup.DocumentParam).SetAsInteger(FArguments.DocumentID);
     procedure.ParamByName(setup.TextParam).SetAsString(melvark::ToAnsi(editSelect->text()));
     TLiveParam& id = procedure.ParamByName(setup.IdParam);
-    if (FID == c_NullValue)
+    if (FID == c_NullValue) {
         id.Clear();
-    else
+    } else {
         id.SetAsInteger(FID);
+    }
     procedure.Exec(true);
     FID = procedure.FieldByName("ID").AsInteger();
 }
@@ -174,8 +176,9 @@ void TSelectBox::Check(const RSourceSetup& setup) {
 void TSelectBox::ShowDlg(const RSourceSetup& setup) {
     const AnsiString condition = melvark::LookupCondition(setup, FArguments, CurrentHost().FormatSettings());
     const auto pick = FLibraryManager->LookupList(setup.HostForm, setup.DisplayColumn, "_ID", condition);
-    if (!pick)
+    if (!pick) {
         return;
+    }
     // The change of the text takes the id back to none, so the id is set after it.
     editSelect->setText(melvark::ToQString(pick->Display));
     FID = melvark::PickedId(pick->Key);
@@ -183,10 +186,12 @@ void TSelectBox::ShowDlg(const RSourceSetup& setup) {
 
 void TSelectBox::OkBtnClick(TObject*) {
     SetModalResult(0);
-    if (editSelect->isEnabled())
+    if (editSelect->isEnabled()) {
         editSelect->setFocus();
-    if (FCheck != nullptr)
+    }
+    if (FCheck != nullptr) {
         (this->*FCheck)();
+    }
     SetModalResult(c_ResultOk);
 }
 
@@ -207,13 +212,15 @@ bool TSelectBox::editSelectKeyDown(TObject* Sender, const QKeyEvent& key) {
 }
 
 void TSelectBox::SelectSpeedButtonClick(TObject*) {
-    if (FLibraryManager != nullptr && FShowDlg != nullptr)
+    if (FLibraryManager != nullptr && FShowDlg != nullptr) {
         (this->*FShowDlg)();
+    }
 }
 
 bool TSelectBox::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != editSelect || event->type() != QEvent::KeyPress)
+    if (watched != editSelect || event->type() != QEvent::KeyPress) {
         return TForm::eventFilter(watched, event);
+    }
     bool isHandled = false;
     const bool isDone =
         melvark::Guarded([&] { isHandled = editSelectKeyDown(watched, *static_cast<QKeyEvent*>(event)); });

@@ -151,8 +151,9 @@ namespace melvark {
 AnsiString LookupCondition(const RSourceSetup& setup, const RSourceArguments& arguments,
                            const TFormatSettings& settings) {
     std::vector<TFormatArg> values;
-    for (const TConditionArgument kind : setup.ConditionArguments)
+    for (const TConditionArgument kind : setup.ConditionArguments) {
         values.push_back(ConditionArgument(kind, arguments, settings));
+    }
     return Format(setup.Condition, values, settings);
 }
 

@@ -50,33 +50,39 @@ void TQelPngBitBtn::SetGlyph(const TPngObject& png) {
 }
 
 void TQelPngBitBtn::keyPressEvent(QKeyEvent* event) {
-    if (IsEnter(*event))
+    if (IsEnter(*event)) {
         click();
-    else
+    } else {
         QPushButton::keyPressEvent(event);
+    }
 }
 
 void TQelPngBitBtn::Click() {
     const QPointer<TForm> form = qobject_cast<TForm*>(window());
-    if (form)
+    if (form) {
         form->KeepModalResult(FModalResult);
+    }
     try {
-        if (FOnClick)
+        if (FOnClick) {
             FOnClick(this);
+        }
     } catch (...) {
-        if (form)
+        if (form) {
             form->KeepModalResult(0);
+        }
         ReportError(std::current_exception());
     }
-    if (form)
+    if (form) {
         form->LookAtModalResult();
+    }
 }
 
 TQelPngSpeedButton::TQelPngSpeedButton(QWidget* parent) : QToolButton(parent) {
     setFocusPolicy(Qt::NoFocus);
     ConnectGuarded(this, &QToolButton::clicked, this, [this] {
-        if (FOnClick)
+        if (FOnClick) {
             FOnClick(this);
+        }
     });
 }
 
@@ -108,8 +114,9 @@ void TMenuButton::SetPopupMenu(TPopupMenu* menu) {
 }
 
 QSize TMenuButton::sizeHint() const {
-    if (!FMenu)
+    if (!FMenu) {
         return QPushButton::sizeHint();
+    }
     // Qt leaves room for the arrow of its own menus only, and a style's least width holds the arrow too.
     QStyleOptionButton option;
     initStyleOption(&option);
@@ -120,24 +127,28 @@ QSize TMenuButton::sizeHint() const {
 }
 
 void TMenuButton::keyPressEvent(QKeyEvent* event) {
-    if (IsEnter(*event) || event->key() == Qt::Key_Down)
+    if (IsEnter(*event) || event->key() == Qt::Key_Down) {
         click();
-    else
+    } else {
         QPushButton::keyPressEvent(event);
+    }
 }
 
 void TMenuButton::initStyleOption(QStyleOptionButton* option) const {
     QPushButton::initStyleOption(option);
-    if (FMenu)
+    if (FMenu) {
         option->features |= QStyleOptionButton::HasMenu;
+    }
 }
 
 void TMenuButton::DropDown() {
-    if (!FMenu)
+    if (!FMenu) {
         return;
+    }
     const auto items = FMenu->actions();
     const bool hasVisible = std::any_of(items.begin(), items.end(),
                                         [](const QAction* item) { return item->isVisible() && !item->isSeparator(); });
-    if (hasVisible)
+    if (hasVisible) {
         FMenu->popup(mapToGlobal(rect().bottomLeft()));
+    }
 }

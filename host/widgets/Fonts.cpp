@@ -21,8 +21,9 @@ QFont FormFont() {
 
 QFont GridFont() {
     QFont font = QApplication::font();
-    if (font.pointSizeF() > 0) // a font given in pixels keeps its size
+    if (font.pointSizeF() > 0) { // a font given in pixels keeps its size
         font.setPointSizeF(std::max(c_SmallestPoints, font.pointSizeF() * c_ShareOfApplicationFont));
+    }
     font.setBold(false);
     return font;
 }

@@ -33,12 +33,14 @@ bool IsPlainEnter(const QKeyEvent& event) {
 
 /// The size under which a text of the layout would be cut when the form is at least `width` wide.
 QSize LayoutNeed(QLayout* layout, int width) {
-    if (!layout)
+    if (!layout) {
         return {0, 0};
+    }
     layout->activate();
     QSize need = layout->totalMinimumSize();
-    if (layout->hasHeightForWidth())
+    if (layout->hasHeightForWidth()) {
         need.setHeight(std::max(need.height(), layout->totalHeightForWidth(std::max(need.width(), width))));
+    }
     return need;
 }
 
@@ -64,8 +66,9 @@ void TForm::SetCaption(const AnsiString& caption) {
 
 void TForm::SetModalResult(int result) {
     FModalResult = result;
-    if (result != 0)
+    if (result != 0) {
         QueueLook();
+    }
 }
 
 int TForm::ShowModal() {
@@ -76,8 +79,9 @@ int TForm::ShowModal() {
         windowHandle()->setTransientParent(active->windowHandle());
     }
     exec();
-    if (FShown) // hidden by someone who gave no result
+    if (FShown) { // hidden by someone who gave no result
         CloseWith(c_ResultCancel);
+    }
     FLoopLevel.reset();
     return FModalResult;
 }
@@ -111,14 +115,16 @@ void TForm::FormShow() {}
 void TForm::FormClose() {}
 
 void TForm::Localize(TLibraryManager* manager, std::string_view section) {
-    if (manager)
+    if (manager) {
         manager->LocalizeForm(*this, AnsiString(section));
+    }
 }
 
 bool TForm::event(QEvent* event) {
     const bool handled = QDialog::event(event);
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest) {
         ApplyConstraints();
+    }
     return handled;
 }
 
@@ -128,12 +134,14 @@ void TForm::showEvent(QShowEvent* event) {
         FShown = true;
         FModalResult = 0;
         ApplyConstraints();
-        if (FPosition == TPosition::poScreenCenter)
+        if (FPosition == TPosition::poScreenCenter) {
             CenterOnScreen();
+        }
     }
     QDialog::showEvent(event);
-    if (!appears)
+    if (!appears) {
         return;
+    }
     try {
         FormShow();
     } catch (...) { // reported once the form is on the screen: an error box cannot stand above a half-shown window
@@ -145,35 +153,41 @@ void TForm::showEvent(QShowEvent* event) {
 void TForm::keyPressEvent(QKeyEvent* event) {
     event->ignore();
     if (event->matches(QKeySequence::Cancel)) {
-        if (FCloseOnEscape)
+        if (FCloseOnEscape) {
             SetModalResult(c_ResultCancel);
+        }
     } else if (IsPlainEnter(*event)) {
         const auto buttons = findChildren<TQelPngBitBtn*>();
         const auto standard = std::find_if(buttons.begin(), buttons.end(), [](const TQelPngBitBtn* button) {
             return button->Default() && button->isVisible();
         });
-        if (standard != buttons.end())
+        if (standard != buttons.end()) {
             (*standard)->click();
+        }
     }
 }
 
 void TForm::LookAtModalResult() {
-    if (!FShown || FClosing || FModalResult == 0)
+    if (!FShown || FClosing || FModalResult == 0) {
         return;
-    if (FLoopLevel && thread()->loopLevel() > *FLoopLevel)
+    }
+    if (FLoopLevel && thread()->loopLevel() > *FLoopLevel) {
         LookWhenLoopReturns();
-    else
+    } else {
         CloseWith(FModalResult);
+    }
 }
 
 /// Waits until the loops above the form's own (message boxes, menus) have ended: a form never closes under a handler
 /// that is still running in one of them.
 void TForm::LookWhenLoopReturns() {
-    if (FLoopWatch)
+    if (FLoopWatch) {
         return;
+    }
     FLoopWatch = connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this, [this] {
-        if (FLoopLevel && thread()->loopLevel() > *FLoopLevel)
+        if (FLoopLevel && thread()->loopLevel() > *FLoopLevel) {
             return;
+        }
         disconnect(FLoopWatch);
         FLoopWatch = {};
         QueueLook();
@@ -185,8 +199,9 @@ void TForm::QueueLook() {
 }
 
 void TForm::CloseWith(int result) {
-    if (FClosing)
+    if (FClosing) {
         return;
+    }
     if (FShown) {
         FModalResult = result;
         FClosing = true;
@@ -199,8 +214,9 @@ void TForm::CloseWith(int result) {
 }
 
 void TForm::ApplyConstraints() {
-    if (!FHasConstraints)
+    if (!FHasConstraints) {
         return;
+    }
     const QSize least =
         LayoutNeed(layout(), FConstraints.MinWidth).expandedTo(QSize(FConstraints.MinWidth, FConstraints.MinHeight));
     setMinimumSize(least);

@@ -19,24 +19,27 @@ using Visitor = std::function<void(const TLocalizableForm::TText&)>;
 template <class Control, class Set>
 void VisitText(Control& control, const QString& name, const char* property, const QString& text, Set set,
                const Visitor& visit) {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return;
+    }
     QPointer<Control> target(&control);
     visit({ToAnsi(name), property, ToAnsi(text), [target, set](const AnsiString& replacement) {
-               if (target)
+               if (target) {
                    std::invoke(set, *target, ToQString(replacement));
+               }
            }});
 }
 
 void VisitCaption(QWidget& control, const QString& name, const Visitor& visit) {
-    if (auto* button = qobject_cast<QAbstractButton*>(&control))
+    if (auto* button = qobject_cast<QAbstractButton*>(&control)) {
         VisitText(*button, name, "Caption", button->text(), &QAbstractButton::setText, visit);
-    else if (auto* label = qobject_cast<QLabel*>(&control))
+    } else if (auto* label = qobject_cast<QLabel*>(&control)) {
         VisitText(*label, name, "Caption", label->text(), &QLabel::setText, visit);
-    else if (auto* box = qobject_cast<QGroupBox*>(&control))
+    } else if (auto* box = qobject_cast<QGroupBox*>(&control)) {
         VisitText(*box, name, "Caption", box->title(), &QGroupBox::setTitle, visit);
-    else if (auto* menu = qobject_cast<QMenu*>(&control))
+    } else if (auto* menu = qobject_cast<QMenu*>(&control)) {
         VisitText(*menu, name, "Caption", menu->title(), &QMenu::setTitle, visit);
+    }
 }
 
 void VisitControl(QWidget& control, const QString& name, const Visitor& visit) {
@@ -53,8 +56,9 @@ bool BelongsTo(const QWidget& form, const QObject& object) {
     const QObject* owner = &object;
     while (owner && owner != &form) {
         const auto* widget = qobject_cast<const QWidget*>(owner);
-        if (widget && widget->isWindow() && !qobject_cast<const QMenu*>(widget))
+        if (widget && widget->isWindow() && !qobject_cast<const QMenu*>(widget)) {
             return false;
+        }
         owner = owner->parent();
     }
     return owner == &form;
@@ -67,12 +71,14 @@ void VisitFormTexts(QWidget& form, const Visitor& visit) {
     VisitText(form, QStringLiteral("Form"), "Hint", form.toolTip(), &QWidget::setToolTip, visit);
     const QList<QObject*> children = form.findChildren<QObject*>();
     for (QObject* child : children) {
-        if (!HasOwnName(*child) || !BelongsTo(form, *child))
+        if (!HasOwnName(*child) || !BelongsTo(form, *child)) {
             continue;
-        if (auto* control = qobject_cast<QWidget*>(child))
+        }
+        if (auto* control = qobject_cast<QWidget*>(child)) {
             VisitControl(*control, control->objectName(), visit);
-        else if (auto* item = qobject_cast<QAction*>(child))
+        } else if (auto* item = qobject_cast<QAction*>(child)) {
             VisitText(*item, item->objectName(), "Caption", item->text(), &QAction::setText, visit);
+        }
     }
 }
 

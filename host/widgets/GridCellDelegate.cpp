@@ -17,8 +17,9 @@ constexpr int c_TopMargin = 4;
 /// Line breaks and tabs would end the line or show as boxes.
 QString OneLine(QString text) {
     for (QChar& character : text) {
-        if (character < u' ')
+        if (character < u' ') {
             character = u' ';
+        }
     }
     return text;
 }
@@ -62,8 +63,9 @@ void GridCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     painter->setPen(option.palette.color(QPalette::Text));
     const QPoint origin = CellTextOrigin(option.rect, metrics.horizontalAdvance(text), look.Align);
     painter->drawText(origin + QPoint(0, metrics.ascent()), text);
-    if (option.state.testFlag(QStyle::State_HasFocus))
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
         DrawFocusFrame(*painter, option.rect);
+    }
     painter->restore();
 }
 

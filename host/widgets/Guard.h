@@ -30,9 +30,9 @@ bool Guarded(Work&& work) noexcept {
 /// Calls the handler with all arguments of a signal, or with none when it takes none.
 template <class Handler, class... Args>
 void InvokeHandler(Handler& handler, Args&&... args) {
-    if constexpr (std::is_invocable_v<Handler&, Args...>)
+    if constexpr (std::is_invocable_v<Handler&, Args...>) {
         std::invoke(handler, std::forward<Args>(args)...);
-    else {
+    } else {
         static_assert(std::is_invocable_v<Handler&>, "the handler takes all arguments of the signal, or none");
         std::invoke(handler);
     }

@@ -18,12 +18,14 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() != QEvent::ShortcutOverride)
+        if (event->type() != QEvent::ShortcutOverride) {
             return QObject::eventFilter(watched, event);
+        }
         const auto* key = static_cast<QKeyEvent*>(event);
         if (!key->modifiers().testFlag(Qt::AltModifier) ||
-            std::find(FKeys.begin(), FKeys.end(), key->key()) == FKeys.end())
+            std::find(FKeys.begin(), FKeys.end(), key->key()) == FKeys.end()) {
             return QObject::eventFilter(watched, event);
+        }
         event->accept();
         return true;
     }

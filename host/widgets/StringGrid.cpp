@@ -28,8 +28,9 @@ constexpr int c_DefaultRowHeight = 20;
 
 /// 0 for the header, the data cell's number, or -1 for a place outside.
 int GridNumber(const QHeaderView& header, int position) {
-    if (position < 0)
+    if (position < 0) {
         return 0;
+    }
     const int section = header.logicalIndexAt(position);
     return section < 0 ? -1 : section + 1;
 }
@@ -125,16 +126,18 @@ void TStringGrid::MoveColumn(int from, int to) {
 }
 
 int TStringGrid::ColWidths(int col) const {
-    if (col == 0)
+    if (col == 0) {
         return verticalHeader()->maximumWidth() - c_GridLine;
+    }
     return std::max(horizontalHeader()->sectionSize(col - 1) - c_GridLine, 0);
 }
 
 void TStringGrid::SetColWidths(int col, int width) {
-    if (col == 0)
+    if (col == 0) {
         verticalHeader()->setFixedWidth(std::max(width, 0) + c_GridLine);
-    else if (col > 0 && col < ColCount())
+    } else if (col > 0 && col < ColCount()) {
         horizontalHeader()->resizeSection(col - 1, std::max(width, 0) + c_GridLine);
+    }
 }
 
 int TStringGrid::RowHeight() const {
@@ -164,15 +167,17 @@ void TStringGrid::SetRow(int row) {
 
 void TStringGrid::SetCurrentCell(int col, int row) {
     const QModelIndex index = FModel->index(row - 1, col - 1);
-    if (!index.isValid())
+    if (!index.isValid()) {
         return;
+    }
     setCurrentIndex(index);
     scrollTo(index);
 }
 
 QRect TStringGrid::CellRect(int col, int row) const {
-    if (col < 0 || row < 0 || col >= ColCount() || row >= RowCount())
+    if (col < 0 || row < 0 || col >= ColCount() || row >= RowCount()) {
         return {};
+    }
     const QPoint client(frameWidth(), frameWidth());
     const QPoint cells = viewport()->pos() - client;
     const QPoint corner(col == 0 ? 0 : cells.x() + horizontalHeader()->sectionViewportPosition(col - 1),
@@ -219,8 +224,9 @@ void TStringGrid::SetPresentation(TCellPresentation presentation) {
 
 TCellLook TStringGrid::Look(int col, int row) const {
     try {
-        if (FPresentation)
+        if (FPresentation) {
             return FPresentation(col, row);
+        }
     } catch (...) { // once is enough: every repaint would report it again
         FPresentation = nullptr;
         QMetaObject::invokeMethod(
@@ -264,11 +270,13 @@ void TStringGrid::focusInEvent(QFocusEvent* event) {
 }
 
 void TStringGrid::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) // only the left button moves the current cell
+    if (event->button() != Qt::LeftButton) { // only the left button moves the current cell
         return;
+    }
     QTableView::mousePressEvent(event);
-    if (indexAt(event->position().toPoint()) == currentIndex())
+    if (indexAt(event->position().toPoint()) == currentIndex()) {
         WantEditor();
+    }
 }
 
 void TStringGrid::mouseReleaseEvent(QMouseEvent* event) {
@@ -284,8 +292,9 @@ void TStringGrid::keyPressEvent(QKeyEvent* event) {
     }
     const bool isPlain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     event->setAccepted(isPlain);
-    if (isPlain)
+    if (isPlain) {
         Q_EMIT EnterPressed(event->modifiers().testFlag(Qt::ShiftModifier));
+    }
 }
 
 void TStringGrid::resizeEvent(QResizeEvent* event) {
@@ -304,8 +313,9 @@ void TStringGrid::currentChanged(const QModelIndex& current, const QModelIndex& 
 }
 
 void TStringGrid::HandleSectionMoved(int from, int to) {
-    if (FMovingBack)
+    if (FMovingBack) {
         return;
+    }
     FMovingBack = true;
     horizontalHeader()->moveSection(to - 1, from - 1);
     FMovingBack = false;
@@ -318,25 +328,28 @@ void TStringGrid::HandleHeaderRelease(const QPoint& position) {
 }
 
 void TStringGrid::WantEditor() {
-    if (FEditorRequestQueued)
+    if (FEditorRequestQueued) {
         return;
+    }
     FEditorRequestQueued = true;
     QMetaObject::invokeMethod(
         this,
         [this] {
             FEditorRequestQueued = false;
-            if (hasFocus() && currentIndex().isValid())
+            if (hasFocus() && currentIndex().isValid()) {
                 Q_EMIT EditorWanted(Col(), Row());
+            }
         },
         Qt::QueuedConnection);
 }
 
 void TStringGrid::ShowHint(const QPoint& globalPos) {
     const QString text = ToQString(FHint);
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         QToolTip::hideText();
-    else
+    } else {
         QToolTip::showText(globalPos, Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text, this);
+    }
 }
 
 TStringGrid::TGridPoint TStringGrid::CellAt(const QPoint& position) const {

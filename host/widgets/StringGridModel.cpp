@@ -25,20 +25,24 @@ void TStringGridModel::SetColCount(int count) {
 
 void TStringGridModel::SetRowCount(int count) {
     const int wanted = std::max(count, 1);
-    if (wanted == FRowCount)
+    if (wanted == FRowCount) {
         return;
+    }
     const bool grows = wanted > FRowCount;
-    if (grows)
+    if (grows) {
         beginInsertRows({}, FRowCount - 1, wanted - 2);
-    else
+    } else {
         beginRemoveRows({}, wanted - 1, FRowCount - 2);
-    for (auto& column : FColumns)
+    }
+    for (auto& column : FColumns) {
         column.resize(static_cast<std::size_t>(wanted));
+    }
     FRowCount = wanted;
-    if (grows)
+    if (grows) {
         endInsertRows();
-    else
+    } else {
         endRemoveRows();
+    }
 }
 
 const AnsiString& TStringGridModel::Cell(int col, int row) const {
@@ -47,11 +51,13 @@ const AnsiString& TStringGridModel::Cell(int col, int row) const {
 }
 
 void TStringGridModel::SetCell(int col, int row, AnsiString text) {
-    if (!Holds(col, row))
+    if (!Holds(col, row)) {
         return;
+    }
     FColumns[static_cast<std::size_t>(col)][static_cast<std::size_t>(row)] = std::move(text);
-    if (col == 0)
+    if (col == 0) {
         return;
+    }
     if (row == 0) {
         Q_EMIT headerDataChanged(Qt::Horizontal, col - 1, col - 1);
     } else {
@@ -61,41 +67,47 @@ void TStringGridModel::SetCell(int col, int row, AnsiString text) {
 }
 
 void TStringGridModel::SetColumn(int col, std::vector<AnsiString> texts) {
-    if (!Holds(col, 0))
+    if (!Holds(col, 0)) {
         return;
+    }
     auto& column = FColumns[static_cast<std::size_t>(col)];
     texts.resize(static_cast<std::size_t>(FRowCount - 1));
     std::move(texts.begin(), texts.end(), column.begin() + 1);
-    if (col > 0 && FRowCount > 1)
+    if (col > 0 && FRowCount > 1) {
         Q_EMIT dataChanged(index(0, col - 1), index(FRowCount - 2, col - 1));
+    }
 }
 
 void TStringGridModel::InsertColumn(int col) {
-    if (col < 1 || col > ColCount())
+    if (col < 1 || col > ColCount()) {
         return;
+    }
     beginInsertColumns({}, col - 1, col - 1);
     FColumns.insert(FColumns.begin() + col, std::vector<AnsiString>(static_cast<std::size_t>(FRowCount)));
     endInsertColumns();
 }
 
 void TStringGridModel::DeleteColumn(int col) {
-    if (col < 1 || col >= ColCount())
+    if (col < 1 || col >= ColCount()) {
         return;
+    }
     beginRemoveColumns({}, col - 1, col - 1);
     FColumns.erase(FColumns.begin() + col);
     endRemoveColumns();
 }
 
 void TStringGridModel::MoveColumn(int from, int to) {
-    if (from == to || from < 1 || to < 1 || from >= ColCount() || to >= ColCount())
+    if (from == to || from < 1 || to < 1 || from >= ColCount() || to >= ColCount()) {
         return;
+    }
     // Qt names the place before which the column lands, counted while it still stands at its old place.
     beginMoveColumns({}, from - 1, from - 1, {}, to > from ? to : to - 1);
     const auto first = FColumns.begin();
-    if (from < to)
+    if (from < to) {
         std::rotate(first + from, first + from + 1, first + to + 1);
-    else
+    } else {
         std::rotate(first + to, first + from, first + from + 1);
+    }
     endMoveColumns();
 }
 
@@ -108,14 +120,16 @@ int TStringGridModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant TStringGridModel::data(const QModelIndex& index, int role) const {
-    if (!index.isValid() || role != Qt::DisplayRole)
+    if (!index.isValid() || role != Qt::DisplayRole) {
         return {};
+    }
     return ToQString(Cell(index.column() + 1, index.row() + 1));
 }
 
 QVariant TStringGridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return {};
+    }
     return ToQString(Cell(section + 1, 0));
 }
 

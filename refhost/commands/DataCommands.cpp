@@ -38,32 +38,39 @@ bool everyColumn(std::string_view) {
 std::string rowJson(const TResultTable& table, const std::vector<TDbValue>& row, const TFormatSettings& settings,
                     bool (*isWanted)(std::string_view)) {
     JsonObject object;
-    for (std::size_t column = 0; column < table.Columns.size(); ++column)
-        if (isWanted(table.Columns[column]))
+    for (std::size_t column = 0; column < table.Columns.size(); ++column) {
+        if (isWanted(table.Columns[column])) {
             object.add(upperCase(table.Columns[column]), fieldText(row[column], settings));
+        }
+    }
     return object.text();
 }
 
 void printResult(const TCallResult& result, const CommandContext& context) {
-    for (std::size_t set = 0; set < result.Sets.size(); ++set)
-        for (const auto& row : result.Sets[set].Rows)
+    for (std::size_t set = 0; set < result.Sets.size(); ++set) {
+        for (const auto& row : result.Sets[set].Rows) {
             context.output << JsonObject()
                                   .add("set", static_cast<std::int64_t>(set + 1))
                                   .addJson("row", rowJson(result.Sets[set], row, context.settings, everyColumn))
                                   .text()
                            << '\n';
-    if (result.Outputs.empty())
+        }
+    }
+    if (result.Outputs.empty()) {
         return;
+    }
     JsonObject outputs;
-    for (const TDbParam& output : result.Outputs)
+    for (const TDbParam& output : result.Outputs) {
         outputs.add(upperCase(output.Name), fieldText(output.Value, context.settings));
+    }
     context.output << JsonObject().addJson("out", outputs.text()).text() << '\n';
 }
 
 void callProcedure(const CommandLine& commandLine, const CommandContext& context) {
     TProcedureCall call{.Name = commandLine.subject, .Params = {}, .Open = true};
-    for (const auto& [name, value] : commandLine.arguments)
+    for (const auto& [name, value] : commandLine.arguments) {
         call.Params.push_back({name, value});
+    }
     printResult(context.connection.Execute(call), context);
 }
 
@@ -74,8 +81,9 @@ bool isBlank(const std::string& line) {
 void callBatch(const CommandLine& commandLine, const CommandContext& context) {
     std::int64_t done = 0;
     for (std::string line; std::getline(context.input, line);) {
-        if (isBlank(line))
+        if (isBlank(line)) {
             continue;
+        }
         try {
             printResult(context.connection.Execute(readBatchCall(line, commandLine.subject)), context);
         } catch (const Exception&) {
@@ -88,8 +96,9 @@ void callBatch(const CommandLine& commandLine, const CommandContext& context) {
 
 void printQuery(const CommandLine& commandLine, const CommandContext& context) {
     const TResultTable table = context.connection.Query(commandLine.subject);
-    for (const auto& row : table.Rows)
+    for (const auto& row : table.Rows) {
         context.output << rowJson(table, row, context.settings, everyColumn) << '\n';
+    }
 }
 
 void printDocuments(const CommandLine& commandLine, const CommandContext& context) {
@@ -111,11 +120,13 @@ void printDocuments(const CommandLine& commandLine, const CommandContext& contex
 
 void printLines(const CommandLine& commandLine, const CommandContext& context) {
     const ScreenDefinition& screen = findScreen(commandLine.subject, context.languages);
-    if (readDocument(context.connection, screen, commandLine.document).Rows.empty())
+    if (readDocument(context.connection, screen, commandLine.document).Rows.empty()) {
         throw EHostError(context.languages.label(texts::unknownDocument).arg(commandLine.document).toStdString());
+    }
     const TResultTable table = readLines(context.connection, screen, commandLine.document);
-    for (const auto& row : table.Rows)
+    for (const auto& row : table.Rows) {
         context.output << rowJson(table, row, context.settings, isShownColumn) << '\n';
+    }
 }
 
 struct CommandRow {

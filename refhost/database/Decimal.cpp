@@ -17,8 +17,9 @@ struct Decimal {
 
 Integer powerOfTen(unsigned exponent) {
     Integer power = 1;
-    while (exponent-- > 0)
+    while (exponent-- > 0) {
         power *= 10;
+    }
     return power;
 }
 
@@ -27,8 +28,9 @@ Integer magnitude(const Integer& number) {
 }
 
 unsigned checkedDecimals(int decimals) {
-    if (decimals < 0 || decimals > c_MaximumDecimals)
+    if (decimals < 0 || decimals > c_MaximumDecimals) {
         throw DecimalError("number of decimals out of range: " + std::to_string(decimals));
+    }
     return static_cast<unsigned>(decimals);
 }
 
@@ -37,12 +39,14 @@ bool isDigit(char character) {
 }
 
 Decimal parseDecimal(std::string_view text) {
-    if (text.size() > c_MaximumDecimalLength)
+    if (text.size() > c_MaximumDecimalLength) {
         throw DecimalError("decimal number too long");
+    }
     std::string_view body = text;
     const bool negative = body.starts_with('-');
-    if (negative || body.starts_with('+'))
+    if (negative || body.starts_with('+')) {
         body.remove_prefix(1);
+    }
     const auto point = body.find('.');
     std::string digits(body.substr(0, point));
     unsigned scale = 0;
@@ -51,22 +55,26 @@ Decimal parseDecimal(std::string_view text) {
         digits += decimals;
         scale = static_cast<unsigned>(decimals.size());
     }
-    if (digits.empty() || !std::ranges::all_of(digits, isDigit))
+    if (digits.empty() || !std::ranges::all_of(digits, isDigit)) {
         throw DecimalError("not a decimal number: " + std::string(text));
+    }
     // The library would read a leading zero as the mark of an octal number.
     digits.erase(0, std::min(digits.find_first_not_of('0'), digits.size() - 1));
     Integer unscaled(digits);
-    if (negative)
+    if (negative) {
         unscaled = -unscaled;
+    }
     return {unscaled, scale};
 }
 
 std::string withPoint(const Integer& unscaled, unsigned scale) {
     std::string digits = magnitude(unscaled).str();
-    if (digits.size() <= scale)
+    if (digits.size() <= scale) {
         digits.insert(0, scale + 1 - digits.size(), '0');
-    if (scale > 0)
+    }
+    if (scale > 0) {
         digits.insert(digits.size() - scale, 1, '.');
+    }
     return unscaled < 0 ? "-" + digits : digits;
 }
 
@@ -74,8 +82,9 @@ std::string canonicalText(const Decimal& number) {
     std::string text = withPoint(number.Unscaled, number.Scale);
     if (number.Scale > 0) {
         text.erase(text.find_last_not_of('0') + 1);
-        if (text.ends_with('.'))
+        if (text.ends_with('.')) {
             text.pop_back();
+        }
     }
     return text;
 }
@@ -104,8 +113,9 @@ Integer nearestQuotient(const Integer& dividend, const Integer& divisor) {
 }
 
 Decimal rounded(const Decimal& number, unsigned decimals) {
-    if (number.Scale <= decimals)
+    if (number.Scale <= decimals) {
         return number;
+    }
     return {nearestQuotient(number.Unscaled, powerOfTen(number.Scale - decimals)), decimals};
 }
 
@@ -134,8 +144,9 @@ std::string decimalProduct(std::string_view left, std::string_view right) {
 std::string decimalQuotient(std::string_view dividend, std::string_view divisor, int decimals) {
     const unsigned scale = checkedDecimals(decimals);
     const Aligned both = aligned(dividend, divisor);
-    if (both.Right == 0)
+    if (both.Right == 0) {
         throw DecimalError("division by zero");
+    }
     return canonicalText({nearestQuotient(both.Left * powerOfTen(scale), both.Right), scale});
 }
 

@@ -26,8 +26,9 @@ std::optional<std::string> decimalArgument(sqlite3_value* value) {
         return FloatToText(sqlite3_value_double(value), TFormatSettings{});
     default: {
         const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-        if (text == nullptr)
+        if (text == nullptr) {
             throw std::bad_alloc();
+        }
         return std::string(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
     }
     }
@@ -53,8 +54,9 @@ template <std::string (*operation)(std::string_view)>
 void unary(sqlite3_context* context, int count, sqlite3_value** values) {
     guarded(context, [&] {
         const Arguments arguments(values, static_cast<std::size_t>(count));
-        if (const auto number = decimalArgument(arguments[0]))
+        if (const auto number = decimalArgument(arguments[0])) {
             giveText(context, operation(*number));
+        }
     });
 }
 
@@ -64,8 +66,9 @@ void binary(sqlite3_context* context, int count, sqlite3_value** values) {
         const Arguments arguments(values, static_cast<std::size_t>(count));
         const auto left = decimalArgument(arguments[0]);
         const auto right = decimalArgument(arguments[1]);
-        if (left && right)
+        if (left && right) {
             giveText(context, operation(*left, *right));
+        }
     });
 }
 
@@ -75,8 +78,9 @@ void toDecimals(sqlite3_context* context, int count, sqlite3_value** values) {
     guarded(context, [&] {
         const Arguments arguments(values, static_cast<std::size_t>(count));
         const auto number = decimalArgument(arguments[0]);
-        if (number && sqlite3_value_type(arguments[1]) != SQLITE_NULL)
+        if (number && sqlite3_value_type(arguments[1]) != SQLITE_NULL) {
             giveText(context, operation(*number, sqlite3_value_int(arguments[1])));
+        }
     });
 }
 
@@ -85,8 +89,9 @@ void divide(sqlite3_context* context, int count, sqlite3_value** values) {
         const Arguments arguments(values, static_cast<std::size_t>(count));
         const auto dividend = decimalArgument(arguments[0]);
         const auto divisor = decimalArgument(arguments[1]);
-        if (dividend && divisor && sqlite3_value_type(arguments[2]) != SQLITE_NULL)
+        if (dividend && divisor && sqlite3_value_type(arguments[2]) != SQLITE_NULL) {
             giveText(context, decimalQuotient(*dividend, *divisor, sqlite3_value_int(arguments[2])));
+        }
     });
 }
 
@@ -95,8 +100,9 @@ void compare(sqlite3_context* context, int count, sqlite3_value** values) {
         const Arguments arguments(values, static_cast<std::size_t>(count));
         const auto left = decimalArgument(arguments[0]);
         const auto right = decimalArgument(arguments[1]);
-        if (left && right)
+        if (left && right) {
             sqlite3_result_int(context, compareDecimals(*left, *right));
+        }
     });
 }
 
@@ -109,13 +115,16 @@ void addToSum(sqlite3_context* context, int count, sqlite3_value** values) {
     guarded(context, [&] {
         const Arguments arguments(values, static_cast<std::size_t>(count));
         auto* state = static_cast<SumState*>(sqlite3_aggregate_context(context, sizeof(SumState)));
-        if (state == nullptr)
+        if (state == nullptr) {
             throw std::bad_alloc();
+        }
         const auto number = decimalArgument(arguments[0]);
-        if (!number)
+        if (!number) {
             return;
-        if (state->Total == nullptr)
+        }
+        if (state->Total == nullptr) {
             state->Total = std::make_unique<std::string>("0").release();
+        }
         *state->Total = decimalSum(*state->Total, *number);
     });
 }
@@ -123,11 +132,13 @@ void addToSum(sqlite3_context* context, int count, sqlite3_value** values) {
 /// The engine calls this for every group that it began, also when the statement fails half-way.
 void finishSum(sqlite3_context* context) {
     auto* state = static_cast<SumState*>(sqlite3_aggregate_context(context, 0));
-    if (state == nullptr)
+    if (state == nullptr) {
         return;
+    }
     const std::unique_ptr<std::string> total(state->Total);
-    if (total)
+    if (total) {
         giveText(context, *total);
+    }
 }
 
 using Function = void (*)(sqlite3_context*, int, sqlite3_value**);
@@ -153,16 +164,18 @@ constexpr Entry c_Functions[] = {
 constexpr int c_Flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
 
 void checkRegistered(sqlite3* database, int status) {
-    if (status != SQLITE_OK)
+    if (status != SQLITE_OK) {
         throw EDatabaseError("Databázi nelze připravit pro výpočty s desetinnými čísly.", {}, sqlite3_errmsg(database));
+    }
 }
 
 } // namespace
 
 void registerDecimalFunctions(sqlite3* database) {
-    for (const Entry& entry : c_Functions)
+    for (const Entry& entry : c_Functions) {
         checkRegistered(database, sqlite3_create_function_v2(database, entry.Name, entry.Arguments, c_Flags, nullptr,
                                                              entry.Call, nullptr, nullptr, nullptr));
+    }
     checkRegistered(database, sqlite3_create_function_v2(database, "dec_sum", 1, c_Flags, nullptr, nullptr, addToSum,
                                                          finishSum, nullptr));
 }

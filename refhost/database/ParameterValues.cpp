@@ -14,12 +14,15 @@ namespace {
 
 /// Any value as text, numbers with a point.
 AnsiString plainText(const TDbValue& value) {
-    if (const auto* number = std::get_if<std::int64_t>(&value))
+    if (const auto* number = std::get_if<std::int64_t>(&value)) {
         return std::to_string(*number);
-    if (const auto* flag = std::get_if<bool>(&value))
+    }
+    if (const auto* flag = std::get_if<bool>(&value)) {
         return *flag ? "1" : "0";
-    if (const auto* number = std::get_if<double>(&value))
+    }
+    if (const auto* number = std::get_if<double>(&value)) {
         return std::isfinite(*number) ? FloatToText(*number, TFormatSettings{}) : "nan";
+    }
     return std::get<AnsiString>(value);
 }
 
@@ -31,15 +34,18 @@ bool isUtf8(const AnsiString& text) {
 }
 
 void checkText(std::string_view name, const AnsiString& text) {
-    if (text.find('\0') != AnsiString::npos)
+    if (text.find('\0') != AnsiString::npos) {
         throw EDatabaseError("Text v parametru " + AnsiString(name) + " obsahuje znak NUL. Odstraňte jej.", "ML007");
-    if (!isUtf8(text))
+    }
+    if (!isUtf8(text)) {
         throw EDatabaseError("Text v parametru " + AnsiString(name) + " není platné UTF-8. Opravte kódování.", "ML009");
+    }
 }
 
 TDbValue integerValue(std::string_view name, const TDbValue& value) {
-    if (const auto number = TextToInt(plainText(value)))
+    if (const auto number = TextToInt(plainText(value))) {
         return std::int64_t{*number};
+    }
     throw EDatabaseError("Hodnota „" + shownText(plainText(value)) + "“ parametru " + AnsiString(name) +
                              " není celé číslo. Zadejte celé číslo od -2147483648 do 2147483647.",
                          "ML003");
@@ -47,28 +53,33 @@ TDbValue integerValue(std::string_view name, const TDbValue& value) {
 
 TDbValue booleanValue(std::string_view name, const TDbValue& value) {
     const AnsiString text = plainText(value);
-    if (SameDbName(text, "1") || SameDbName(text, "true"))
+    if (SameDbName(text, "1") || SameDbName(text, "true")) {
         return std::int64_t{1};
-    if (SameDbName(text, "0") || SameDbName(text, "false"))
+    }
+    if (SameDbName(text, "0") || SameDbName(text, "false")) {
         return std::int64_t{0};
+    }
     throw EDatabaseError("Hodnota „" + shownText(text) + "“ parametru " + AnsiString(name) +
                              " není ano ani ne. Zadejte 1, 0, true nebo false.",
                          "ML004");
 }
 
 TDbValue textValue(std::string_view name, const TDbValue& value) {
-    if (const auto* number = std::get_if<double>(&value); number != nullptr && !std::isfinite(*number))
+    if (const auto* number = std::get_if<double>(&value); number != nullptr && !std::isfinite(*number)) {
         throw EDatabaseError("Hodnota parametru " + AnsiString(name) + " není číslo.", "ML008");
+    }
     return plainText(value);
 }
 
 } // namespace
 
 TDbValue parameterValue(ParameterKind kind, std::string_view name, const TDbValue& value) {
-    if (std::holds_alternative<std::monostate>(value))
+    if (std::holds_alternative<std::monostate>(value)) {
         return value;
-    if (const auto* text = std::get_if<AnsiString>(&value))
+    }
+    if (const auto* text = std::get_if<AnsiString>(&value)) {
         checkText(name, *text);
+    }
     switch (kind) {
     case ParameterKind::Integer:
         return integerValue(name, value);
@@ -85,8 +96,9 @@ AnsiString shownText(std::string_view text) {
     std::size_t characters = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const bool startsCharacter = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U;
-        if (startsCharacter && ++characters > c_MostCharacters)
+        if (startsCharacter && ++characters > c_MostCharacters) {
             return AnsiString(text.substr(0, i)) + "…";
+        }
     }
     return AnsiString(text);
 }

@@ -32,8 +32,9 @@ bool belongsToSave(std::string_view name) {
 
 std::string joined(std::span<const std::string> names) {
     std::string list;
-    for (const std::string& name : names)
+    for (const std::string& name : names) {
         list += (list.empty() ? "" : ", ") + name;
+    }
     return list;
 }
 
@@ -56,8 +57,9 @@ PostgreSQLConnection::PostgreSQLConnection(const std::string& address, const TFo
 }
 
 void PostgreSQLConnection::restoreLink() {
-    if (!session_.isLost())
+    if (!session_.isLost()) {
         return;
+    }
     procedures_.clear();
     session_.reconnect();
 }
@@ -78,8 +80,9 @@ void PostgreSQLConnection::insertRows(std::string_view table, std::span<const st
     const std::string name = lowerAscii(table);
     PostgreSQLTransaction transaction(session_, PostgreSQLTransaction::Kind::Writing);
     session_.copy("copy melvark." + name + " (" + joined(columns) + ") from stdin", rows);
-    if (std::ranges::any_of(columns, [](const std::string& column) { return SameDbName(column, "ID"); }))
+    if (std::ranges::any_of(columns, [](const std::string& column) { return SameDbName(column, "ID"); })) {
         raiseSequence(session_, name);
+    }
     transaction.commit();
 }
 
@@ -96,14 +99,17 @@ void PostgreSQLConnection::runBuiltInScript(std::string_view path) {
 
 const PostgreSQLProcedure& PostgreSQLConnection::procedure(const AnsiString& name) {
     const std::string key = lowerAscii(name);
-    if (const auto known = procedures_.find(key); known != procedures_.end())
+    if (const auto known = procedures_.find(key); known != procedures_.end()) {
         return known->second;
+    }
     parameterValue(ParameterKind::Text, "procedure", name);
     auto found = PostgreSQLProcedure::find(session_, name);
-    if (!found && !hasSchema())
+    if (!found && !hasSchema()) {
         throw EDatabaseError("Databáze „" + session_.database() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
-    if (!found)
+    }
+    if (!found) {
         throw EDatabaseError("Databáze nemá proceduru „" + shownText(name) + "“. Obraťte se na správce.", "ML918");
+    }
     return procedures_.emplace(key, *std::move(found)).first->second;
 }
 
@@ -117,30 +123,34 @@ TCallResult PostgreSQLConnection::executeAgainstConflicts(const TProcedureCall& 
         try {
             return procedure(call.Name).run(session_, call);
         } catch (const EPostgreSQLError& error) {
-            if (!error.isConflict() || attempt == c_MostAttempts)
+            if (!error.isConflict() || attempt == c_MostAttempts) {
                 throw;
+            }
         }
     }
 }
 
 TCallResult PostgreSQLConnection::Execute(const TProcedureCall& call) {
     const bool isStep = belongsToSave(call.Name);
-    if (!isStep)
+    if (!isStep) {
         restoreLink();
+    }
     try {
         return executeAgainstConflicts(call);
     } catch (const EDatabaseError&) {
         // The rollback took back what the call itself could have noted.
-        if (isStep)
+        if (isStep) {
             refuseStaging();
+        }
         throw;
     }
 }
 
 void PostgreSQLConnection::refuseStaging() {
-    if (!session_.isLost())
+    if (!session_.isLost()) {
         session_.execute("select set_config('melvark.staging', 'refused', false) "
                          "where current_setting('melvark.staging', true) = 'open'");
+    }
 }
 
 TResultTable PostgreSQLConnection::Query(const AnsiString& sql) {
@@ -148,12 +158,14 @@ TResultTable PostgreSQLConnection::Query(const AnsiString& sql) {
     restoreLink();
     try {
         const PostgreSQLTransaction transaction(session_, PostgreSQLTransaction::Kind::Reading);
-        if (PQnfields(session_.describe(sql).get()) == 0)
+        if (PQnfields(session_.describe(sql).get()) == 0) {
             refuseQuery(sql);
+        }
         return resultTable(session_.executeDescribed(sql).get());
     } catch (const EPostgreSQLError& error) {
-        if (error.isNoReadingStatement())
+        if (error.isNoReadingStatement()) {
             refuseQuery(sql);
+        }
         throw;
     }
 }

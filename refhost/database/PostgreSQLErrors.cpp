@@ -42,8 +42,9 @@ EDatabaseError sentence(std::string_view sqlState, std::string_view database, co
 std::string details(std::string_view sqlState, std::string_view words, std::string_view statement) {
     std::string text = "PostgreSQL ";
     text.append(sqlState).append(": ").append(words);
-    if (!statement.empty())
+    if (!statement.empty()) {
         text.append("\n").append(statement);
+    }
     return text;
 }
 
@@ -60,8 +61,9 @@ std::string codeIn(std::string_view words) {
     for (std::size_t start = words.find(":  "); start != std::string_view::npos; start = words.find(":  ", start + 1)) {
         const std::string_view candidate = words.substr(start + 3, c_Length);
         if (candidate.size() == c_Length && std::ranges::all_of(candidate, isCodeCharacter) &&
-            words.substr(start + 3 + c_Length).starts_with(": "))
+            words.substr(start + 3 + c_Length).starts_with(": ")) {
             return std::string(candidate);
+        }
     }
     return {};
 }
@@ -83,16 +85,18 @@ EPostgreSQLError statementError(const PGresult* result, std::string_view databas
     const std::string sqlState = field(result, PG_DIAG_SQLSTATE);
     std::string words = field(result, PG_DIAG_MESSAGE_PRIMARY);
     const std::string more = details(sqlState, PQresultErrorMessage(result), statement);
-    if (sqlState.starts_with("ML"))
+    if (sqlState.starts_with("ML")) {
         return {EDatabaseError(std::move(words), sqlState, more), sqlState};
+    }
     return {sentence(sqlState, database, more), sqlState, field(result, PG_DIAG_SOURCE_FUNCTION)};
 }
 
 EPostgreSQLError openingError(std::string_view words, std::string_view database, std::string_view host) {
     const std::string sqlState = codeIn(words);
     const std::string more = details(sqlState, words, {});
-    if (!sqlState.empty())
+    if (!sqlState.empty()) {
         return {sentence(sqlState, database, more), sqlState};
+    }
     return {EDatabaseError("Server databáze „" + std::string(host) +
                                "“ není dostupný. Zkontrolujte jeho adresu a zda běží.",
                            "ML916", more),

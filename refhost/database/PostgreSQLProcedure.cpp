@@ -34,8 +34,9 @@ AnsiString contractName(std::string_view name) {
 }
 
 ParameterKind parameterKind(std::string_view type) {
-    if (type == "integer")
+    if (type == "integer") {
         return ParameterKind::Integer;
+    }
     return type == "boolean" ? ParameterKind::Boolean : ParameterKind::Text;
 }
 
@@ -45,8 +46,9 @@ std::optional<PostgreSQLProcedure> PostgreSQLProcedure::find(PostgreSQLSession& 
     const std::vector<TDbValue> parameters{AnsiString(name)};
     const PostgreSQLResult result = session.execute(c_FindProcedure, parameters);
     const int rows = PQntuples(result.get());
-    if (rows == 0)
+    if (rows == 0) {
         return std::nullopt;
+    }
     const auto text = [&](int row, Column column) -> std::string { return PQgetvalue(result.get(), row, column); };
 
     PostgreSQLProcedure procedure;
@@ -54,21 +56,24 @@ std::optional<PostgreSQLProcedure> PostgreSQLProcedure::find(PostgreSQLSession& 
     procedure.bringsCursors_ = text(0, BringsCursors) == "t";
     for (int row = 0; row < rows; ++row) {
         const std::string mode = text(row, Mode);
-        if (PQgetisnull(result.get(), row, Name) == 1)
+        if (PQgetisnull(result.get(), row, Name) == 1) {
             continue;
-        if (mode == "i")
+        }
+        if (mode == "i") {
             procedure.inputs_.push_back(
                 {text(row, SqlParameter), contractName(text(row, Name)), parameterKind(text(row, Type))});
-        else if (mode == "o")
+        } else if (mode == "o") {
             procedure.outputs_.push_back(contractName(text(row, Name)));
+        }
     }
     return procedure;
 }
 
 TProcedureInfo PostgreSQLProcedure::info() const {
     TProcedureInfo info;
-    for (const Parameter& parameter : inputs_)
+    for (const Parameter& parameter : inputs_) {
         info.Inputs.push_back(parameter.Name);
+    }
     info.Outputs = outputs_;
     return info;
 }
@@ -77,8 +82,9 @@ const PostgreSQLProcedure::Parameter& PostgreSQLProcedure::input(const TProcedur
                                                                  std::string_view name) const {
     const auto found =
         std::ranges::find_if(inputs_, [name](const Parameter& parameter) { return SameDbName(parameter.Name, name); });
-    if (found == inputs_.end())
+    if (found == inputs_.end()) {
         throw EDatabaseError("Procedura " + call.Name + " nemá parametr " + shownText(name) + ".", "ML919");
+    }
     return *found;
 }
 
@@ -102,19 +108,23 @@ PostgreSQLProcedure::Arguments PostgreSQLProcedure::arguments(const TProcedureCa
 TCallResult PostgreSQLProcedure::run(PostgreSQLSession& session, const TProcedureCall& call) const {
     const auto [named, values] = arguments(call);
     const std::string sql = "select * from melvark." + sqlName_ + "(" + named + ")";
-    if (bringsCursors_)
+    if (bringsCursors_) {
         return runForCursors(session, sql, values, call.Open);
+    }
 
     TCallResult result;
     const PostgreSQLResult rows = session.execute(sql, values);
-    if (isVoid(rows.get()))
+    if (isVoid(rows.get())) {
         return result;
+    }
     TResultTable table = resultTable(rows.get());
-    if (!outputs_.empty() && !table.Rows.empty())
-        for (std::size_t i = 0; i < outputs_.size(); ++i)
+    if (!outputs_.empty() && !table.Rows.empty()) {
+        for (std::size_t i = 0; i < outputs_.size(); ++i) {
             result.Outputs.push_back({outputs_[i], table.Rows.front()[i]});
-    else if (call.Open)
+        }
+    } else if (call.Open) {
         result.Sets.push_back(std::move(table));
+    }
     return result;
 }
 
@@ -126,8 +136,9 @@ TCallResult PostgreSQLProcedure::runForCursors(PostgreSQLSession& session, const
     for (int row = 0; row < PQntuples(cursors.get()); ++row) {
         const std::string cursor = session.quoted(PQgetvalue(cursors.get(), row, 0));
         const PostgreSQLResult rows = session.execute("fetch all from " + cursor);
-        if (open)
+        if (open) {
             result.Sets.push_back(resultTable(rows.get()));
+        }
         session.execute("close " + cursor);
     }
     transaction.commit();

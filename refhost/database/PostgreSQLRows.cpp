@@ -19,8 +19,9 @@ Number number(std::string_view text) {
 }
 
 TDbValue cellValue(const PGresult* result, int row, int column) {
-    if (PQgetisnull(result, row, column) == 1)
+    if (PQgetisnull(result, row, column) == 1) {
         return {};
+    }
     const std::string_view text(PQgetvalue(result, row, column),
                                 static_cast<std::size_t>(PQgetlength(result, row, column)));
     switch (PQftype(result, column)) {
@@ -51,12 +52,15 @@ TResultTable resultTable(const PGresult* result) {
     TResultTable table;
     const int columns = PQnfields(result);
     const int rows = PQntuples(result);
-    for (int column = 0; column < columns; ++column)
+    for (int column = 0; column < columns; ++column) {
         table.Columns.push_back(upperAscii(PQfname(result, column)));
+    }
     table.Rows.resize(static_cast<std::size_t>(rows));
-    for (int row = 0; row < rows; ++row)
-        for (int column = 0; column < columns; ++column)
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
             table.Rows[static_cast<std::size_t>(row)].push_back(cellValue(result, row, column));
+        }
+    }
     return table;
 }
 

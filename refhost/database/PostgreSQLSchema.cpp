@@ -18,32 +18,38 @@ constexpr const char* c_SchemaComment =
     "where nspname = 'melvark'";
 
 void runFolder(PostgreSQLSession& session, std::string_view folder) {
-    for (const SqlFile& file : postgresqlFiles())
-        if (file.Path.starts_with(folder))
+    for (const SqlFile& file : postgresqlFiles()) {
+        if (file.Path.starts_with(folder)) {
             session.execute(std::string(file.Text));
+        }
+    }
 }
 
 } // namespace
 
 bool hasPostgreSQLSchema(PostgreSQLSession& session) {
     const TResultTable table = resultTable(session.execute(c_SchemaComment, {}).get());
-    if (table.Rows.empty())
+    if (table.Rows.empty()) {
         return false;
+    }
     const AnsiString comment = std::get<AnsiString>(table.Rows.front().front());
-    if (!comment.starts_with(c_Mark))
+    if (!comment.starts_with(c_Mark)) {
         throw EDatabaseError("Schéma „melvark“ v databázi „" + session.database() +
                                  "“ patří jinému programu. Zvolte jinou databázi.",
                              "ML913");
-    if (comment.substr(c_Mark.size()) != c_Version)
+    }
+    if (comment.substr(c_Mark.size()) != c_Version) {
         throw EDatabaseError("Databáze „" + session.database() +
                                  "“ je jiné verze než tento program. Použijte program, který ji vytvořil.",
                              "ML914");
+    }
     return true;
 }
 
 void createPostgreSQLSchema(PostgreSQLSession& session) {
-    if (hasPostgreSQLSchema(session))
+    if (hasPostgreSQLSchema(session)) {
         throw EDatabaseError("Databáze „" + session.database() + "“ už tabulky má. Zvolte prázdnou databázi.", "ML921");
+    }
     PostgreSQLTransaction transaction(session, PostgreSQLTransaction::Kind::Writing);
     runFolder(session, "roles.sql");
     session.execute("comment on schema melvark is '" + std::string(c_Mark) + std::string(c_Version) + "'");

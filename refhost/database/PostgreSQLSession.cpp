@@ -42,9 +42,11 @@ const char* dateOrder(TDateOrder order) {
 
 /// The value of a word of the address; empty when it is not given.
 std::string addressWord(const PQconninfoOption* options, std::string_view keyword) {
-    for (const PQconninfoOption* option = options; option->keyword != nullptr; ++option)
-        if (keyword == option->keyword && option->val != nullptr)
+    for (const PQconninfoOption* option = options; option->keyword != nullptr; ++option) {
+        if (keyword == option->keyword && option->val != nullptr) {
             return option->val;
+        }
+    }
     return {};
 }
 
@@ -79,13 +81,15 @@ void appendCopyText(std::string& line, std::string_view text) {
 std::string copyLine(std::span<const TDbValue> row) {
     std::string line;
     for (std::size_t i = 0; i < row.size(); ++i) {
-        if (i > 0)
+        if (i > 0) {
             line += '\t';
+        }
         const TDbValue text = parameterValue(ParameterKind::Text, "row", row[i]);
-        if (std::holds_alternative<AnsiString>(text))
+        if (std::holds_alternative<AnsiString>(text)) {
             appendCopyText(line, std::get<AnsiString>(text));
-        else
+        } else {
             line += "\\N";
+        }
     }
     return line + '\n';
 }
@@ -95,9 +99,10 @@ std::string copyLine(std::span<const TDbValue> row) {
 PostgreSQLSession::PostgreSQLSession(std::string address, const TFormatSettings& settings)
     : address_(std::move(address)), settings_(settings) {
     const std::unique_ptr<PQconninfoOption, PostgreSQLDeleter> options(PQconninfoParse(address_.c_str(), nullptr));
-    if (!options)
+    if (!options) {
         throw EDatabaseError("Adresa databáze není srozumitelná. Zapište ji slovy jako host=SERVER dbname=NÁZEV.",
                              "ML915");
+    }
     database_ = addressWord(options.get(), "dbname");
     open();
     database_ = PQdb(handle());
@@ -111,20 +116,23 @@ void PostgreSQLSession::open() {
     const std::array<const char*, 6> values{"melvark", "30", "10", address_.c_str(), "UTF8", nullptr};
     prepared_.clear();
     handle_.reset(PQconnectStartParams(c_Words.data(), values.data(), 1));
-    if (!handle_)
+    if (!handle_) {
         throw std::bad_alloc();
+    }
     // With all its words, among which is the server's code: an opening that fails leaves nothing else.
     PQsetErrorVerbosity(handle(), PQERRORS_VERBOSE);
 
     const auto deadline = steady_clock::now() + c_OpeningTime;
     PostgresPollingStatusType status =
         PQstatus(handle()) == CONNECTION_BAD ? PGRES_POLLING_FAILED : PGRES_POLLING_WRITING;
-    while (status != PGRES_POLLING_OK && status != PGRES_POLLING_FAILED)
+    while (status != PGRES_POLLING_OK && status != PGRES_POLLING_FAILED) {
         status = waitForLink(handle(), status, deadline) ? PQconnectPoll(handle()) : PGRES_POLLING_FAILED;
+    }
     if (status == PGRES_POLLING_FAILED) {
         const char* host = PQhost(handle());
-        if (PQconnectionNeedsPassword(handle()) == 1)
+        if (PQconnectionNeedsPassword(handle()) == 1) {
             throw missingPasswordError(database_);
+        }
         throw openingError(PQerrorMessage(handle()), database_, host == nullptr ? "" : host);
     }
     setUp();
@@ -146,8 +154,9 @@ void PostgreSQLSession::reconnect() {
 
 PostgreSQLResult PostgreSQLSession::checked(PGresult* result, std::string_view statement) const {
     PostgreSQLResult owned(result);
-    if (isLost())
+    if (isLost()) {
         throw lostLinkError(database_, PQerrorMessage(handle()), statement);
+    }
     switch (PQresultStatus(owned.get())) {
     case PGRES_COMMAND_OK:
     case PGRES_TUPLES_OK:
@@ -191,28 +200,33 @@ PostgreSQLResult PostgreSQLSession::executeDescribed(const std::string& sql) {
 }
 
 void PostgreSQLSession::sendCopyData(std::string_view text, std::string_view statement) const {
-    if (PQputCopyData(handle(), text.data(), static_cast<int>(text.size())) != 1)
+    if (PQputCopyData(handle(), text.data(), static_cast<int>(text.size())) != 1) {
         throw lostLinkError(database_, PQerrorMessage(handle()), statement);
+    }
 }
 
 void PostgreSQLSession::copy(const std::string& statement, std::span<const std::vector<TDbValue>> rows) {
     constexpr std::size_t c_Portion = 1U << 16U;
     std::string text;
-    for (const std::vector<TDbValue>& row : rows)
+    for (const std::vector<TDbValue>& row : rows) {
         text += copyLine(row);
+    }
     checked(PQexec(handle(), statement.c_str()), statement);
-    for (std::string_view left = text; !left.empty(); left.remove_prefix(std::min(c_Portion, left.size())))
+    for (std::string_view left = text; !left.empty(); left.remove_prefix(std::min(c_Portion, left.size()))) {
         sendCopyData(left.substr(0, c_Portion), statement);
-    if (PQputCopyEnd(handle(), nullptr) != 1)
+    }
+    if (PQputCopyEnd(handle(), nullptr) != 1) {
         throw lostLinkError(database_, PQerrorMessage(handle()), statement);
+    }
     checked(PQgetResult(handle()), statement);
     PostgreSQLResult(PQgetResult(handle())).reset(); // the end of the results
 }
 
 std::string PostgreSQLSession::quoted(std::string_view name) const {
     const std::unique_ptr<char, PostgreSQLDeleter> text(PQescapeIdentifier(handle(), name.data(), name.size()));
-    if (!text)
+    if (!text) {
         throw EDatabaseError("Název „" + shownText(name) + "“ není platný text.", "ML009");
+    }
     return text.get();
 }
 
@@ -222,8 +236,9 @@ PostgreSQLTransaction::PostgreSQLTransaction(PostgreSQLSession& session, Kind ki
 
 PostgreSQLTransaction::~PostgreSQLTransaction() {
     // A rollback fails only on a lost link, and then the server has rolled back.
-    if (isOpen_)
+    if (isOpen_) {
         PostgreSQLResult(PQexec(session_.handle(), "rollback")).reset();
+    }
 }
 
 void PostgreSQLTransaction::commit() {

@@ -20,11 +20,13 @@ public:
     std::size_t count() const { return arguments_.size(); }
     sqlite3_value* argument(std::size_t index) const { return arguments_[index]; }
     std::optional<std::string> text(std::size_t index) const {
-        if (index >= arguments_.size() || sqlite3_value_type(arguments_[index]) == SQLITE_NULL)
+        if (index >= arguments_.size() || sqlite3_value_type(arguments_[index]) == SQLITE_NULL) {
             return std::nullopt;
+        }
         const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(arguments_[index]));
-        if (bytes == nullptr)
+        if (bytes == nullptr) {
             throw std::bad_alloc();
+        }
         return std::string(bytes, static_cast<std::size_t>(sqlite3_value_bytes(arguments_[index])));
     }
     int integer(std::size_t index) const { return sqlite3_value_int(arguments_[index]); }

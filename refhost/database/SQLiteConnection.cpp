@@ -25,18 +25,22 @@ std::string lowerAscii(std::string_view name) {
 }
 
 const SqlFile* findProcedure(std::string_view name) {
-    for (const SqlFile& file : sqliteFiles())
-        if (file.Path.starts_with("procedures/") && SameDbName(sqlObjectName(file), name))
+    for (const SqlFile& file : sqliteFiles()) {
+        if (file.Path.starts_with("procedures/") && SameDbName(sqlObjectName(file), name)) {
             return &file;
+        }
+    }
     return nullptr;
 }
 
 /// The texts of all files of a folder, one after the other.
 std::string folderText(std::string_view folder) {
     std::string text;
-    for (const SqlFile& file : sqliteFiles())
-        if (file.Path.starts_with(folder))
+    for (const SqlFile& file : sqliteFiles()) {
+        if (file.Path.starts_with(folder)) {
             text.append(file.Text).append("\n");
+        }
+    }
     return text;
 }
 
@@ -77,8 +81,9 @@ SQLiteConnection::SQLiteConnection(const std::string& file, const std::string& u
     checkOwner();
     registerFunctions();
     createSessionTables();
-    if (hasSchema())
+    if (hasSchema()) {
         useWriteAheadLog();
+    }
 }
 
 SQLiteConnection::~SQLiteConnection() = default;
@@ -93,23 +98,28 @@ std::int64_t SQLiteConnection::pragma(const std::string& name) {
 void SQLiteConnection::checkOwner() {
     const std::int64_t applicationId = pragma("application_id");
     const bool isEmpty = applicationId == 0 && pragma("page_count") == 0;
-    if (sqlite3_db_readonly(session_.handle(), "main") == 1)
+    if (sqlite3_db_readonly(session_.handle(), "main") == 1) {
         session_.fail(SQLITE_READONLY, "open");
-    if (!isEmpty && applicationId != c_ApplicationId)
+    }
+    if (!isEmpty && applicationId != c_ApplicationId) {
         throw EDatabaseError("Soubor „" + session_.file() + "“ patří jinému programu. Zvolte jiný soubor.", "ML913");
-    if (!isEmpty && pragma("user_version") != c_SchemaVersion)
+    }
+    if (!isEmpty && pragma("user_version") != c_SchemaVersion) {
         throw EDatabaseError("Databáze „" + session_.file() +
                                  "“ je jiné verze než tento program. Použijte program, který ji vytvořil.",
                              "ML914");
+    }
 }
 
 void SQLiteConnection::registerFunctions() {
     registerValueFunctions(session_);
     registerCzech(session_);
     registerDecimalFunctions(session_.handle());
-    for (const SqlFile& file : sqliteFiles())
-        if (file.Path.starts_with("functions/"))
+    for (const SqlFile& file : sqliteFiles()) {
+        if (file.Path.starts_with("functions/")) {
             functions_.push_back(std::make_unique<SQLiteScriptFunction>(session_, readSqlScript(file, sqliteFiles())));
+        }
+    }
 }
 
 void SQLiteConnection::createSessionTables() {
@@ -127,8 +137,9 @@ bool SQLiteConnection::hasSchema() {
 }
 
 void SQLiteConnection::createSchema() {
-    if (hasSchema())
+    if (hasSchema()) {
         throw EDatabaseError("Databáze „" + session_.file() + "“ už tabulky má. Zvolte prázdný soubor.", "ML921");
+    }
     useWriteAheadLog();
     SQLiteTransaction transaction(session_, SQLiteTransaction::Kind::Writing);
     session_.execute(folderText("tables.sql"));
@@ -146,8 +157,9 @@ void SQLiteConnection::insertRows(std::string_view table, std::span<const std::s
     SQLiteStatement statement(session_, sql);
     for (const std::vector<TDbValue>& row : rows) {
         const SQLiteStatementUse use(statement);
-        for (std::size_t i = 0; i < row.size(); ++i)
+        for (std::size_t i = 0; i < row.size(); ++i) {
             statement.bind(static_cast<int>(i) + 1, row[i]);
+        }
         statement.step();
     }
     transaction.commit();
@@ -165,13 +177,16 @@ void SQLiteConnection::runBuiltInScript(std::string_view path) {
 
 SQLiteProcedure& SQLiteConnection::procedure(const AnsiString& name) {
     const std::string key = lowerAscii(name);
-    if (const auto prepared = procedures_.find(key); prepared != procedures_.end())
+    if (const auto prepared = procedures_.find(key); prepared != procedures_.end()) {
         return *prepared->second;
+    }
     const SqlFile* file = findProcedure(name);
-    if (file == nullptr)
+    if (file == nullptr) {
         throw EDatabaseError("Databáze nemá proceduru „" + shownText(name) + "“. Obraťte se na správce.", "ML918");
-    if (!hasSchema())
+    }
+    if (!hasSchema()) {
         throw EDatabaseError("Databáze „" + session_.file() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
+    }
     auto prepared = std::make_unique<SQLiteProcedure>(session_, readSqlScript(*file, sqliteFiles()));
     return *procedures_.emplace(key, std::move(prepared)).first->second;
 }
@@ -190,8 +205,9 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
         return result;
     } catch (const EDatabaseError&) {
         // The rollback took back what the call itself could have noted.
-        if (called.script().FailureRefusesStaging)
+        if (called.script().FailureRefusesStaging) {
             session_.execute(c_RefuseStaging);
+        }
         throw;
     }
 }
@@ -202,16 +218,19 @@ TResultTable SQLiteConnection::Query(const AnsiString& sql) {
     const ReadingOnly access(session_);
     try {
         std::vector<SQLiteStatement> statements = prepareStatements(session_, text);
-        if (statements.size() != 1 || statements.front().columnCount() == 0)
+        if (statements.size() != 1 || statements.front().columnCount() == 0) {
             refuseQuery(sql);
+        }
         SQLiteStatement& statement = statements.front();
         TResultTable table{statement.columns(), {}};
-        while (statement.step())
+        while (statement.step()) {
             table.Rows.push_back(statement.row());
+        }
         return table;
     } catch (const EDatabaseError& error) {
-        if (error.Details().starts_with("SQLite " + std::to_string(SQLITE_AUTH)))
+        if (error.Details().starts_with("SQLite " + std::to_string(SQLITE_AUTH))) {
             refuseQuery(sql);
+        }
         throw;
     }
 }

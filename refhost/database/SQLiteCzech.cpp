@@ -24,8 +24,9 @@ int compareCzech(void* collator, int leftSize, const void* left, int rightSize, 
     const icu::StringPiece rightText(static_cast<const char*>(right), rightSize);
     UErrorCode error = U_ZERO_ERROR;
     const UCollationResult order = static_cast<const icu::Collator*>(collator)->compareUTF8(leftText, rightText, error);
-    if (U_SUCCESS(error) && order != UCOL_EQUAL)
+    if (U_SUCCESS(error) && order != UCOL_EQUAL) {
         return order == UCOL_LESS ? -1 : 1;
+    }
     const int bytes = std::memcmp(left, right, static_cast<std::size_t>(std::min(leftSize, rightSize)));
     return bytes != 0 ? bytes : leftSize - rightSize;
 }
@@ -41,13 +42,15 @@ std::string utf8(const icu::UnicodeString& text) {
 }
 
 void lower(const SQLiteCall& call) {
-    if (const auto text = call.text(0))
+    if (const auto text = call.text(0)) {
         call.give(utf8(icu::UnicodeString::fromUTF8(*text).toLower(czech())));
+    }
 }
 
 void upper(const SQLiteCall& call) {
-    if (const auto text = call.text(0))
+    if (const auto text = call.text(0)) {
         call.give(utf8(icu::UnicodeString::fromUTF8(*text).toUpper(czech())));
+    }
 }
 
 } // namespace
@@ -55,9 +58,10 @@ void upper(const SQLiteCall& call) {
 void registerCzech(SQLiteSession& session) {
     UErrorCode error = U_ZERO_ERROR;
     std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(czech(), error));
-    if (U_FAILURE(error))
+    if (U_FAILURE(error)) {
         throw EDatabaseError("České řazení není v systému k dispozici. Obraťte se na správce.", "ML930",
                              u_errorName(error));
+    }
     int status = sqlite3_create_collation_v2(session.handle(), "CZECH", SQLITE_UTF8, collator.get(), compareCzech,
                                              deleteCollator);
     if (status == SQLITE_OK) {
@@ -66,12 +70,14 @@ void registerCzech(SQLiteSession& session) {
                                             SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, &session,
                                             sqliteFunction<lower>, nullptr, nullptr, nullptr);
     }
-    if (status == SQLITE_OK)
+    if (status == SQLITE_OK) {
         status = sqlite3_create_function_v2(session.handle(), "upper", 1,
                                             SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, &session,
                                             sqliteFunction<upper>, nullptr, nullptr, nullptr);
-    if (status != SQLITE_OK)
+    }
+    if (status != SQLITE_OK) {
         session.fail(status, "collation CZECH");
+    }
 }
 
 } // namespace refhost

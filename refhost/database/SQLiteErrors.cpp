@@ -33,9 +33,11 @@ constexpr Sentence c_Other{SQLITE_ERROR, "ML930", "Databáze „", "“ nemohla 
 
 EDatabaseError sqliteError(int code, sqlite3* database, std::string_view file, std::string_view statement) {
     const Sentence* sentence = &c_Other;
-    for (const Sentence& candidate : c_Sentences)
-        if (candidate.Code == code || candidate.Code == (code & 0xFF))
+    for (const Sentence& candidate : c_Sentences) {
+        if (candidate.Code == code || candidate.Code == (code & 0xFF)) {
             sentence = &candidate;
+        }
+    }
     std::string details = "SQLite " + std::to_string(code) + ": ";
     details += database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code);
     details.append("\n").append(statement);

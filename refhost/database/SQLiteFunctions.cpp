@@ -25,11 +25,13 @@ std::string labelled(const SQLiteCall& call, const std::string& text) {
 
 /// The number of digits before and after the point of a canonical decimal.
 std::pair<std::size_t, std::size_t> digitCounts(std::string_view decimal) {
-    if (decimal.starts_with('-'))
+    if (decimal.starts_with('-')) {
         decimal.remove_prefix(1);
+    }
     const std::size_t point = decimal.find('.');
-    if (point == std::string_view::npos)
+    if (point == std::string_view::npos) {
         return {decimal.size(), 0};
+    }
     return {point, decimal.size() - point - 1};
 }
 
@@ -39,22 +41,26 @@ void refuse(const SQLiteCall& call) {
 
 void parseNumber(const SQLiteCall& call) {
     const auto text = call.text(0);
-    if (!text || TrimText(*text).empty())
+    if (!text || TrimText(*text).empty()) {
         return;
+    }
     const auto number = TextToDecimalText(*text);
-    if (!number)
+    if (!number) {
         throw EDatabaseError(
             labelled(call, *text) + " není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku.", "ML001");
+    }
     const auto [whole, decimals] = digitCounts(*number);
-    if (whole > c_MostWholeDigits || decimals > c_MostDecimals)
+    if (whole > c_MostWholeDigits || decimals > c_MostDecimals) {
         throw EDatabaseError(labelled(call, *text) +
                                  " je příliš dlouhé číslo. Zapište nejvýše 15 číslic před desetinnou čárkou a 50 za "
                                  "ní.",
                              "ML005");
-    if (call.count() > 2 && decimals > static_cast<std::size_t>(call.integer(2)))
+    }
+    if (call.count() > 2 && decimals > static_cast<std::size_t>(call.integer(2))) {
         throw EDatabaseError(labelled(call, *text) + " má příliš mnoho desetinných míst. Zapište nejvýše " +
                                  std::to_string(call.integer(2)) + ".",
                              "ML006");
+    }
     call.give(*number);
 }
 
@@ -96,8 +102,9 @@ std::string isoMoment(TDateTime moment) {
 
 /// Reads what the database itself stored.
 TDateTime storedMoment(const std::string& text) {
-    if (const auto moment = TextToDateTime(text, isoSettings()))
+    if (const auto moment = TextToDateTime(text, isoSettings())) {
         return *moment;
+    }
     throw std::invalid_argument("not a stored date: " + text);
 }
 
@@ -107,71 +114,86 @@ TDateTime storedMoment(const std::string& text) {
 
 void parseDate(const SQLiteCall& call) {
     const auto text = call.text(0);
-    if (!text || TrimText(*text).empty())
+    if (!text || TrimText(*text).empty()) {
         return;
+    }
     const auto date = TextToDate(*text, call.session().settings(), dateOf(now()));
-    if (!date)
+    if (!date) {
         refuseDate(call, *text);
+    }
     call.give(isoDate(*date));
 }
 
 void parseMoment(const SQLiteCall& call) {
     const auto text = call.text(0);
-    if (!text || TrimText(*text).empty())
+    if (!text || TrimText(*text).empty()) {
         return;
+    }
     const auto moment = TextToDateTime(*text, call.session().settings());
-    if (!moment)
+    if (!moment) {
         refuseDate(call, *text);
+    }
     call.give(isoMoment(*moment));
 }
 
 void asInteger(const SQLiteCall& call) {
-    if (const auto text = call.text(0))
-        if (const auto number = TextToInt(*text))
+    if (const auto text = call.text(0)) {
+        if (const auto number = TextToInt(*text)) {
             call.give(*number);
+        }
+    }
 }
 
 void typed(const SQLiteCall& call) {
-    if (const auto text = call.text(0))
-        if (const std::string trimmed(TrimText(*text)); !trimmed.empty())
+    if (const auto text = call.text(0)) {
+        if (const std::string trimmed(TrimText(*text)); !trimmed.empty()) {
             call.give(trimmed);
+        }
+    }
 }
 
 void shown(const SQLiteCall& call) {
-    if (const auto text = call.text(0))
+    if (const auto text = call.text(0)) {
         call.give(shownText(*text));
+    }
 }
 
 std::string withSeparator(std::string decimal, const TFormatSettings& settings) {
-    if (const std::size_t point = decimal.find('.'); point != std::string::npos)
+    if (const std::size_t point = decimal.find('.'); point != std::string::npos) {
         decimal[point] = settings.DecimalSeparator;
+    }
     return decimal;
 }
 
 void numberText(const SQLiteCall& call) {
-    if (const auto decimal = call.text(0))
+    if (const auto decimal = call.text(0)) {
         call.give(withSeparator(canonicalDecimal(*decimal), call.session().settings()));
+    }
 }
 
 void totalText(const SQLiteCall& call) {
-    if (const auto decimal = call.text(0))
+    if (const auto decimal = call.text(0)) {
         call.give(withSeparator(fixedDecimal(*decimal, 2), call.session().settings()));
+    }
 }
 
 void dateText(const SQLiteCall& call) {
-    if (const auto date = call.text(0))
+    if (const auto date = call.text(0)) {
         call.give(DateToText(dateOf(storedMoment(*date)), call.session().settings()));
+    }
 }
 
 void momentText(const SQLiteCall& call) {
-    if (const auto moment = call.text(0))
+    if (const auto moment = call.text(0)) {
         call.give(DateTimeToText(storedMoment(*moment), call.session().settings()));
+    }
 }
 
 void monthsBefore(const SQLiteCall& call) {
     const auto text = call.text(0);
-    if (!text || !call.text(1))
+    if (!text || !call.text(1)) {
         return;
+    }
     const year_month_day sought = dateOf(storedMoment(*text)) - std::chrono::months(call.integer(1));
     call.give(isoDate(sought.ok() ? sought : year_month_day(sought.year() / sought.month() / std::chrono::last)));
 }
@@ -224,8 +246,9 @@ void registerValueFunctions(SQLiteSession& session) {
         const int status =
             sqlite3_create_function_v2(session.handle(), entry.Name, entry.Arguments, SQLITE_UTF8 | SQLITE_INNOCUOUS,
                                        &session, entry.Call, nullptr, nullptr, nullptr);
-        if (status != SQLITE_OK)
+        if (status != SQLITE_OK) {
             session.fail(status, entry.Name);
+        }
     }
 }
 

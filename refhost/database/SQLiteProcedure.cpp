@@ -16,8 +16,9 @@ constexpr const char* c_RefusalColumn = "REFUSAL";
 std::optional<std::size_t> inputIndex(const SqlScript& script, std::string_view name) {
     const auto found = std::ranges::find_if(
         script.Inputs, [&](const SqlScript::Parameter& input) { return SameDbName(input.Name, name); });
-    if (found == script.Inputs.end())
+    if (found == script.Inputs.end()) {
         return std::nullopt;
+    }
     return static_cast<std::size_t>(found - script.Inputs.begin());
 }
 
@@ -25,8 +26,9 @@ std::vector<std::size_t> statementInputs(const SqlScript& script, const SQLiteSt
     std::vector<std::size_t> inputs;
     for (int i = 1; i <= statement.parameterCount(); ++i) {
         const auto input = inputIndex(script, statement.parameterName(i));
-        if (!input)
+        if (!input) {
             throw std::logic_error(script.Name + " does not declare " + statement.parameterName(i));
+        }
         inputs.push_back(*input);
     }
     return inputs;
@@ -55,17 +57,21 @@ SQLiteProcedure::SQLiteProcedure(SQLiteSession& session, SqlScript script) : scr
 
 void SQLiteProcedure::checkResults() const {
     std::vector<std::vector<std::string>> results;
-    for (const Step& step : steps_)
-        if (!step.Columns.empty() && !isGuard(step.Columns) && !areOutputs(script_, step.Columns))
+    for (const Step& step : steps_) {
+        if (!step.Columns.empty() && !isGuard(step.Columns) && !areOutputs(script_, step.Columns)) {
             results.push_back(step.Columns);
-    if (results != script_.Results)
+        }
+    }
+    if (results != script_.Results) {
         throw std::logic_error(script_.Name + " declares other result sets than it brings");
+    }
 }
 
 TProcedureInfo SQLiteProcedure::info() const {
     TProcedureInfo info;
-    for (const SqlScript::Parameter& input : script_.Inputs)
+    for (const SqlScript::Parameter& input : script_.Inputs) {
         info.Inputs.push_back(input.Name);
+    }
     info.Outputs = script_.Outputs;
     return info;
 }
@@ -74,9 +80,10 @@ std::vector<TDbValue> SQLiteProcedure::inputValues(const TProcedureCall& call) c
     std::vector<TDbValue> values(script_.Inputs.size());
     for (const TDbParam& parameter : call.Params) {
         const auto input = inputIndex(script_, parameter.Name);
-        if (!input)
+        if (!input) {
             throw EDatabaseError("Procedura " + script_.Name + " nemá parametr " + shownText(parameter.Name) + ".",
                                  "ML919");
+        }
         values[*input] = parameterValue(script_.Inputs[*input].Kind, script_.Inputs[*input].Name, parameter.Value);
     }
     return values;
@@ -85,25 +92,30 @@ std::vector<TDbValue> SQLiteProcedure::inputValues(const TProcedureCall& call) c
 TCallResult SQLiteProcedure::run(const TProcedureCall& call) {
     const std::vector<TDbValue> inputs = inputValues(call);
     TCallResult result;
-    for (Step& step : steps_)
+    for (Step& step : steps_) {
         runStep(step, inputs, call.Open, result);
+    }
     return result;
 }
 
 void SQLiteProcedure::runStep(Step& step, std::span<const TDbValue> inputs, bool open, TCallResult& result) {
     const SQLiteStatementUse use(step.Statement);
-    for (std::size_t i = 0; i < step.Inputs.size(); ++i)
+    for (std::size_t i = 0; i < step.Inputs.size(); ++i) {
         step.Statement.bind(static_cast<int>(i) + 1, inputs[step.Inputs[i]]);
+    }
 
     TResultTable table{step.Columns, {}};
-    while (step.Statement.step())
+    while (step.Statement.step()) {
         table.Rows.push_back(step.Statement.row());
+    }
 
-    if (step.Columns.empty() || isGuard(step.Columns))
+    if (step.Columns.empty() || isGuard(step.Columns)) {
         return;
+    }
     if (areOutputs(script_, step.Columns)) {
-        for (std::size_t i = 0; i < script_.Outputs.size() && !table.Rows.empty(); ++i)
+        for (std::size_t i = 0; i < script_.Outputs.size() && !table.Rows.empty(); ++i) {
             result.Outputs.push_back({script_.Outputs[i], table.Rows.front()[i]});
+        }
     } else if (open) {
         result.Sets.push_back(std::move(table));
     }
@@ -114,8 +126,9 @@ SQLiteScriptFunction::SQLiteScriptFunction(SQLiteSession& session, SqlScript scr
     const int status =
         sqlite3_create_function_v2(session.handle(), script_.Name.c_str(), static_cast<int>(script_.Inputs.size()),
                                    SQLITE_UTF8 | SQLITE_INNOCUOUS, this, call, nullptr, nullptr, nullptr);
-    if (status != SQLITE_OK)
+    if (status != SQLITE_OK) {
         session.fail(status, script_.Name);
+    }
 }
 
 void SQLiteScriptFunction::call(sqlite3_context* context, int count, sqlite3_value** values) {
@@ -125,15 +138,19 @@ void SQLiteScriptFunction::call(sqlite3_context* context, int count, sqlite3_val
 }
 
 void SQLiteScriptFunction::run(sqlite3_context* context, std::span<sqlite3_value*> values) {
-    if (statements_.empty())
+    if (statements_.empty()) {
         statements_ = prepareStatements(session_, script_.Text);
+    }
     for (SQLiteStatement& statement : statements_) {
         const SQLiteStatementUse use(statement);
-        for (int i = 1; i <= statement.parameterCount(); ++i)
-            if (const auto input = inputIndex(script_, statement.parameterName(i)))
+        for (int i = 1; i <= statement.parameterCount(); ++i) {
+            if (const auto input = inputIndex(script_, statement.parameterName(i))) {
                 statement.bind(i, values[*input]);
-        if (statement.step() && &statement == &statements_.back())
+            }
+        }
+        if (statement.step() && &statement == &statements_.back()) {
             sqlite3_result_value(context, statement.engineValue(0));
+        }
     }
 }
 

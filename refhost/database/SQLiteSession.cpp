@@ -15,14 +15,17 @@ void checkPlace(const std::string& file, bool create) {
     std::error_code error;
     const std::filesystem::path path(file);
     const std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
-    if (!std::filesystem::is_directory(folder, error))
+    if (!std::filesystem::is_directory(folder, error)) {
         throw EDatabaseError(
             "Složka „" + folder.string() + "“ pro databázi neexistuje. Vytvořte ji, nebo zvolte jinou.", "ML915");
-    if (std::filesystem::is_directory(path, error))
+    }
+    if (std::filesystem::is_directory(path, error)) {
         throw EDatabaseError("„" + file + "“ je složka, ne soubor databáze. Zvolte jiný soubor.", "ML915");
-    if (!create && !std::filesystem::exists(path, error))
+    }
+    if (!create && !std::filesystem::exists(path, error)) {
         throw EDatabaseError("Soubor databáze „" + file + "“ neexistuje. Zvolte jiný, nebo databázi vytvořte.",
                              "ML915");
+    }
 }
 
 bool isReading(int action) {
@@ -43,8 +46,9 @@ SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSe
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | (create ? SQLITE_OPEN_CREATE : 0);
     const int status = sqlite3_open_v2(file_.c_str(), &opened, flags, nullptr);
     handle_.reset(opened);
-    if (status != SQLITE_OK)
+    if (status != SQLITE_OK) {
         fail(status, "open");
+    }
     sqlite3_busy_timeout(handle(), static_cast<int>(patience.count()));
     sqlite3_db_config(handle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
     sqlite3_db_config(handle(), SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
@@ -55,13 +59,15 @@ SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSe
 
 void SQLiteSession::execute(const std::string& sql) {
     const int status = sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr);
-    if (status != SQLITE_OK)
+    if (status != SQLITE_OK) {
         fail(status, sql);
+    }
 }
 
 void SQLiteSession::fail(int code, std::string_view statement) {
-    if (const auto failure = std::exchange(failure_, std::nullopt))
+    if (const auto failure = std::exchange(failure_, std::nullopt)) {
         throw *failure;
+    }
     throw sqliteError(code, handle(), file_, statement);
 }
 
@@ -72,8 +78,9 @@ bool SQLiteSession::takeWrites() {
 int SQLiteSession::authorize(void* session, int action, const char* /*first*/, const char* /*second*/,
                              const char* database, const char* /*trigger*/) {
     auto& self = *static_cast<SQLiteSession*>(session);
-    if (isWriting(action) && database != nullptr && std::string_view(database) == "main")
+    if (isWriting(action) && database != nullptr && std::string_view(database) == "main") {
         self.writes_ = true;
+    }
     return self.access_ == Access::Everything || isReading(action) ? SQLITE_OK : SQLITE_DENY;
 }
 
@@ -83,8 +90,9 @@ SQLiteTransaction::SQLiteTransaction(SQLiteSession& session, Kind kind) : sessio
 
 SQLiteTransaction::~SQLiteTransaction() {
     // The engine may have rolled back by itself; a rollback that fails leaves nothing that could be done here.
-    if (sqlite3_get_autocommit(session_.handle()) == 0)
+    if (sqlite3_get_autocommit(session_.handle()) == 0) {
         sqlite3_exec(session_.handle(), "rollback", nullptr, nullptr, nullptr);
+    }
 }
 
 void SQLiteTransaction::commit() {

@@ -14,14 +14,18 @@ std::string upperAscii(std::string_view name) {
 }
 
 int bindValue(sqlite3_stmt* statement, int index, const TDbValue& value) {
-    if (const auto* number = std::get_if<std::int64_t>(&value))
+    if (const auto* number = std::get_if<std::int64_t>(&value)) {
         return sqlite3_bind_int64(statement, index, *number);
-    if (const auto* flag = std::get_if<bool>(&value))
+    }
+    if (const auto* flag = std::get_if<bool>(&value)) {
         return sqlite3_bind_int(statement, index, *flag ? 1 : 0);
-    if (const auto* number = std::get_if<double>(&value))
+    }
+    if (const auto* number = std::get_if<double>(&value)) {
         return sqlite3_bind_double(statement, index, *number);
-    if (const auto* text = std::get_if<AnsiString>(&value))
+    }
+    if (const auto* text = std::get_if<AnsiString>(&value)) {
         return sqlite3_bind_text64(statement, index, text->data(), text->size(), SQLITE_STATIC, SQLITE_UTF8);
+    }
     return sqlite3_bind_null(statement, index);
 }
 
@@ -33,8 +37,9 @@ SQLiteStatement::SQLiteStatement(SQLiteSession& session, std::string_view& sql) 
     const int status = sqlite3_prepare_v3(session.handle(), sql.data(), static_cast<int>(sql.size()),
                                           SQLITE_PREPARE_PERSISTENT, &prepared, &tail);
     handle_.reset(prepared);
-    if (status != SQLITE_OK)
+    if (status != SQLITE_OK) {
         session.fail(status, sql);
+    }
     sql.remove_prefix(static_cast<std::size_t>(tail - sql.data()));
 }
 
@@ -44,21 +49,25 @@ std::string SQLiteStatement::parameterName(int index) const {
 }
 
 void SQLiteStatement::bind(int index, const TDbValue& value) {
-    if (const int status = bindValue(handle_.get(), index, value); status != SQLITE_OK)
+    if (const int status = bindValue(handle_.get(), index, value); status != SQLITE_OK) {
         session_->fail(status, text());
+    }
 }
 
 void SQLiteStatement::bind(int index, sqlite3_value* value) {
-    if (const int status = sqlite3_bind_value(handle_.get(), index, value); status != SQLITE_OK)
+    if (const int status = sqlite3_bind_value(handle_.get(), index, value); status != SQLITE_OK) {
         session_->fail(status, text());
+    }
 }
 
 bool SQLiteStatement::step() {
     const int status = sqlite3_step(handle_.get());
-    if (status == SQLITE_ROW)
+    if (status == SQLITE_ROW) {
         return true;
-    if (status != SQLITE_DONE)
+    }
+    if (status != SQLITE_DONE) {
         session_->fail(status, text());
+    }
     return false;
 }
 
@@ -69,8 +78,9 @@ void SQLiteStatement::reset() noexcept {
 
 std::vector<std::string> SQLiteStatement::columns() const {
     std::vector<std::string> names;
-    for (int i = 0; i < columnCount(); ++i)
+    for (int i = 0; i < columnCount(); ++i) {
         names.push_back(upperAscii(sqlite3_column_name(handle_.get(), i)));
+    }
     return names;
 }
 
@@ -93,8 +103,9 @@ TDbValue SQLiteStatement::value(int column) const {
 std::vector<TDbValue> SQLiteStatement::row() const {
     std::vector<TDbValue> values;
     values.reserve(static_cast<std::size_t>(columnCount()));
-    for (int i = 0; i < columnCount(); ++i)
+    for (int i = 0; i < columnCount(); ++i) {
         values.push_back(value(i));
+    }
     return values;
 }
 
@@ -107,8 +118,9 @@ std::vector<SQLiteStatement> prepareStatements(SQLiteSession& session, std::stri
     std::vector<SQLiteStatement> statements;
     while (!script.empty()) {
         SQLiteStatement statement(session, script);
-        if (!statement.isEmpty())
+        if (!statement.isEmpty()) {
             statements.push_back(std::move(statement));
+        }
     }
     return statements;
 }

@@ -55,8 +55,9 @@ TDbValue idOrNull(int id) {
 int vatRateId(std::string_view name) {
     int id = 1;
     for (const VatRate& rate : c_VatRates) {
-        if (rate.Name == name)
+        if (rate.Name == name) {
             return id;
+        }
         ++id;
     }
     throw std::logic_error("there is no VAT rate " + std::string(name));
@@ -64,8 +65,9 @@ int vatRateId(std::string_view name) {
 
 Rows named(std::span<const char* const> names) {
     Rows rows;
-    for (const char* name : names)
+    for (const char* name : names) {
         rows.push_back({integer(static_cast<int>(rows.size()) + 1), text(name)});
+    }
     return rows;
 }
 
@@ -73,9 +75,10 @@ void writeParameters(Database& database) {
     database.insertRows("UZIVATEL", Columns{"ID", "JMENO"}, named(c_Users));
     database.insertRows("SKLAD", Columns{"ID", "NAZEV"}, named(c_Warehouses));
     Rows rates;
-    for (const VatRate& rate : c_VatRates)
+    for (const VatRate& rate : c_VatRates) {
         rates.push_back({integer(static_cast<int>(rates.size()) + 1), text(rate.Name), text(rate.Percent),
                          text(rate.FirstDay), rate.LastDay == nullptr ? TDbValue() : text(rate.LastDay)});
+    }
     database.insertRows("DPH", Columns{"ID", "NAZEV", "SAZBA", "PLATIOD", "PLATIDO"}, rates);
     // Local VAT is off; its rate waits for a company that turns it on.
     const Rows parameters{{text("DPH"), text("DPHBLIC"), text("0")},
@@ -86,21 +89,24 @@ void writeParameters(Database& database) {
 
 void writeSuppliers(Database& database) {
     Rows rows;
-    for (const Supplier& supplier : suppliers())
+    for (const Supplier& supplier : suppliers()) {
         rows.push_back({integer(static_cast<int>(rows.size()) + 1), text(supplier.Name), text(supplier.Town)});
+    }
     database.insertRows("DODAVATEL", Columns{"ID", "JMENO", "MESTO"}, rows);
 }
 
 void writeGroups(Database& database, std::string_view table, const std::vector<StockGroup>& groups,
                  const std::string& parentColumn) {
     Rows rows;
-    for (const StockGroup& group : groups)
+    for (const StockGroup& group : groups) {
         rows.push_back({integer(static_cast<int>(rows.size()) + 1), text(group.Name), integer(group.ParentId)});
+    }
     Columns columns{"ID", "NAZEV", parentColumn};
     if (parentColumn.empty()) {
         columns.pop_back();
-        for (Row& row : rows)
+        for (Row& row : rows) {
             row.pop_back();
+        }
     }
     database.insertRows(table, columns, rows);
 }
@@ -110,23 +116,26 @@ void writeStock(Database& database, const Stock& stock) {
     writeGroups(database, "SKUPSPOL2", stock.Groups2, "SSP1ID");
     writeGroups(database, "SKUPSPOL3", stock.Groups3, "SSP2ID");
     Rows items;
-    for (const StockItem& item : stock.Items)
+    for (const StockItem& item : stock.Items) {
         items.push_back({integer(static_cast<int>(items.size()) + 1), text(item.Name), integer(item.Group3Id),
                          integer(vatRateId(item.VatRate)), idOrNull(item.ShelfLifeDays), flag(item.IsActive)});
+    }
     database.insertRows("SKLADPOL", Columns{"ID", "NAZEV", "SSP3ID", "DPHID", "TRVANLIVOSTDNU", "AKTIVNI"}, items);
     Rows units;
-    for (const StockUnit& unit : stock.Units)
+    for (const StockUnit& unit : stock.Units) {
         units.push_back({integer(static_cast<int>(units.size()) + 1), integer(unit.ItemId), integer(unit.Place),
                          text(unit.Name), text(quantityText(unit.Factor))});
+    }
     database.insertRows("SKPL", Columns{"ID", "SKLPID", "PORADI", "NAZEV", "FAKTOR"}, units);
 }
 
 void writePriceLists(Database& database, const PriceLists& prices) {
     Rows rows;
-    for (const PriceListEntry& entry : prices.entries())
+    for (const PriceListEntry& entry : prices.entries()) {
         rows.push_back({integer(static_cast<int>(rows.size()) + 1), integer(entry.SupplierId), integer(entry.ItemId),
                         text(dateText(entry.FirstDay)), entry.LastDay ? text(dateText(*entry.LastDay)) : TDbValue(),
                         text(priceText(entry.UnitPrice)), text(decimalText(entry.Discount, 2))});
+    }
     database.insertRows("DODCENIK", Columns{"ID", "DODVID", "SKLPID", "PLATIOD", "PLATIDO", "CENA", "SLEVA"}, rows);
 }
 
@@ -153,8 +162,9 @@ void writeOrders(Database& database, const std::vector<Order>& orders) {
                              isTemplate ? TDbValue() : text(momentText(order.OrderedOn, order.TimeOfDay)),
                              idOrNull(order.SupplierId), integer(order.WarehouseId), flag(order.IsOpen)});
         int place = 0;
-        for (const OrderLine& line : order.Lines)
+        for (const OrderLine& line : order.Lines) {
             lines.push_back(orderLineRow(order, line, ++place));
+        }
     }
     database.insertRows("DODOBJEDNAVKA",
                         Columns{"ID", "VZOR", "CISLO", "NAZEV", "OBJEDNANIDC", "DODVID", "SKLDID", "OTEVRENO"},
@@ -189,11 +199,13 @@ void writeDeliveryNotes(Database& database, const std::vector<DeliveryNote>& not
         documents.push_back({integer(note.Id), text(note.Number), text(dateText(note.Date)), integer(note.SupplierId),
                              integer(note.WarehouseId), flag(note.IsOpen)});
         int place = 0;
-        for (const NoteLine& line : note.Lines)
+        for (const NoteLine& line : note.Lines) {
             lines.push_back(
                 noteLineRow(note, line, stock.item(line.ItemId), static_cast<int>(lines.size()) + 1, ++place));
-        for (const int orderId : note.OrderIds)
+        }
+        for (const int orderId : note.OrderIds) {
             sources.push_back({integer(static_cast<int>(sources.size()) + 1), integer(note.Id), integer(orderId)});
+        }
     }
     database.insertRows("DODAK", Columns{"ID", "CISLO", "DATUM", "DODVID", "SKLDID", "OTEVRENO"}, documents);
     database.insertRows("DODAKPOL",
@@ -216,8 +228,9 @@ void createSampleCompany(Database& database, int extraLines, std::chrono::sys_da
     const PriceLists prices(stock, firstDay, today);
     std::vector<Order> orders = makeOrders(stock, prices, firstDay, today);
     std::vector<DeliveryNote> notes = makeDeliveries(orders, today);
-    if (extraLines > 0)
+    if (extraLines > 0) {
         addLongDocuments(orders, notes, stock, extraLines, today);
+    }
 
     writeParameters(database);
     writeSuppliers(database);

@@ -26,12 +26,13 @@ SqlScript::Parameter readParameter(std::string_view declaration, std::string_vie
     const std::size_t blank = std::min(declaration.find(' '), declaration.size());
     const std::string_view kind = TrimText(declaration.substr(blank));
     SqlScript::Parameter parameter{std::string(declaration.substr(0, blank)), ParameterKind::Text};
-    if (kind == "integer")
+    if (kind == "integer") {
         parameter.Kind = ParameterKind::Integer;
-    else if (kind == "boolean")
+    } else if (kind == "boolean") {
         parameter.Kind = ParameterKind::Boolean;
-    else if (!kind.empty() && kind != "text")
+    } else if (!kind.empty() && kind != "text") {
         throw std::logic_error(std::string(path) + ": unknown kind of parameter: " + std::string(kind));
+    }
     return parameter;
 }
 
@@ -48,26 +49,28 @@ std::vector<std::string> readNames(std::string_view list) {
 std::string_view partText(std::string_view name, std::string_view path, std::span<const SqlFile> files) {
     const std::string partPath = "parts/" + std::string(name) + ".sql";
     const auto part = std::ranges::find(files, std::string_view(partPath), &SqlFile::Path);
-    if (part == files.end())
+    if (part == files.end()) {
         throw std::logic_error(std::string(path) + ": there is no " + partPath);
+    }
     return part->Text;
 }
 
 void readText(SqlScript& script, std::string_view text, std::string_view path, std::span<const SqlFile> files) {
     while (!text.empty()) {
         const std::string_view line = takeLine(text);
-        if (const auto input = after(line, "-- in:"); !input.empty())
+        if (const auto input = after(line, "-- in:"); !input.empty()) {
             script.Inputs.push_back(readParameter(input, path));
-        else if (const auto output = after(line, "-- out:"); !output.empty())
+        } else if (const auto output = after(line, "-- out:"); !output.empty()) {
             script.Outputs.emplace_back(output);
-        else if (const auto columns = after(line, "-- returns:"); !columns.empty())
+        } else if (const auto columns = after(line, "-- returns:"); !columns.empty()) {
             script.Results.push_back(readNames(columns));
-        else if (after(line, "-- after failure:") == "staging refused")
+        } else if (after(line, "-- after failure:") == "staging refused") {
             script.FailureRefusesStaging = true;
-        else if (const auto part = after(line, "-- include:"); !part.empty())
+        } else if (const auto part = after(line, "-- include:"); !part.empty()) {
             readText(script, partText(part, path, files), path, files);
-        else
+        } else {
             script.Text.append(line).append("\n");
+        }
     }
 }
 
@@ -82,8 +85,9 @@ SqlScript readSqlScript(const SqlFile& file, std::span<const SqlFile> files) {
 
 SqlScript builtInScript(std::string_view path, std::span<const SqlFile> files) {
     const auto file = std::ranges::find(files, path, &SqlFile::Path);
-    if (file == files.end())
+    if (file == files.end()) {
         throw std::logic_error("there is no built-in script " + std::string(path));
+    }
     return readSqlScript(*file, files);
 }
 

@@ -71,15 +71,17 @@ void LookupDialog::buildLayout(const Languages& languages, bool isEmpty) {
 
 /// A search that matches nothing leaves nothing to pick, and the list open.
 void LookupDialog::acceptPick() {
-    if (list_->table().currentRow())
+    if (list_->table().currentRow()) {
         accept();
+    }
 }
 
 std::optional<TLookupPick> LookupDialog::pick() const {
     const ResultTable& table = list_->table();
     const auto row = table.currentRow();
-    if (result() != QDialog::Accepted || !row)
+    if (result() != QDialog::Accepted || !row) {
         return std::nullopt;
+    }
     return TLookupPick{table.result().text(*row, displayColumn_), table.result().text(*row, keyColumn_)};
 }
 

@@ -12,12 +12,14 @@ std::string lookupQuery(std::string_view form, std::string_view condition, const
     static const QRegularExpression pattern(QStringLiteral("\\AKordan3:([A-Za-z0-9_]+)\\.([A-Za-z0-9_]+)\\z"));
     const QString identifier = QString::fromUtf8(form.data(), static_cast<qsizetype>(form.size()));
     const QRegularExpressionMatch match = pattern.match(identifier);
-    if (!match.hasMatch())
+    if (!match.hasMatch()) {
         throw EHostError(languages.label(texts::lookupUnknown).arg(identifier).toStdString());
+    }
     std::string sql =
         "select * from " + u"%1_%2_V"_qs.arg(match.captured(1), match.captured(2)).toUpper().toStdString();
-    if (!condition.empty())
+    if (!condition.empty()) {
         sql += " where " + std::string(condition);
+    }
     return sql;
 }
 

@@ -80,8 +80,9 @@ void DocumentScreen::refresh() {
 }
 
 void DocumentScreen::showLines() {
-    if (refreshing_)
+    if (refreshing_) {
         return;
+    }
     const ResultTable& documents = documents_->table();
     const auto row = documents.currentRow();
     if (!row) {

@@ -55,8 +55,9 @@ MainWindow::MainWindow(MainWindowParts parts) : parts_(std::move(parts)) {
     buildScreens();
     buildActions();
     buildStatusBar();
-    if (!parts_.moduleMissing.empty())
+    if (!parts_.moduleMissing.empty()) {
         addModuleNotice();
+    }
 }
 
 void MainWindow::start() {
@@ -154,13 +155,15 @@ void MainWindow::enterScreen() {
 }
 
 void MainWindow::insertLines() {
-    if (inserting_)
+    if (inserting_) {
         return;
+    }
     const QScopedValueRollback inserting(inserting_, true);
     DocumentScreen& screen = currentScreen();
     DocumentDataSet dataSet = screen.dataSet();
-    if (parts_.insertLines(std::string(screen.definition().code), dataSet))
+    if (parts_.insertLines(std::string(screen.definition().code), dataSet)) {
         screen.refresh();
+    }
 }
 
 } // namespace refhost

@@ -33,8 +33,9 @@ std::span<const ScreenDefinition> screenDefinitions() {
 }
 
 const ScreenDefinition& findScreen(std::string_view code, const Languages& languages) {
-    if (const ScreenDefinition* screen = screenOfCode(code))
+    if (const ScreenDefinition* screen = screenOfCode(code)) {
         return *screen;
+    }
     const QString name = QString::fromUtf8(code.data(), static_cast<qsizetype>(code.size()));
     throw EHostError(languages.label(texts::unknownScreen).arg(name).toStdString());
 }

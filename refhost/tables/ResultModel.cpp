@@ -38,8 +38,9 @@ QString groupDigits(QString number, const TFormatSettings& settings) {
     const QString separator = QString::fromStdString(settings.ThousandSeparator);
     const qsizetype point = number.indexOf(QLatin1Char(settings.DecimalSeparator));
     const qsizetype first = number.startsWith(u'-') ? 1 : 0;
-    for (qsizetype position = (point < 0 ? number.size() : point) - 3; position > first; position -= 3)
+    for (qsizetype position = (point < 0 ? number.size() : point) - 3; position > first; position -= 3) {
         number.insert(position, separator);
+    }
     return number;
 }
 
@@ -59,22 +60,26 @@ void ResultModel::setTable(TResultTable table, std::string_view firstColumn) {
 
 void ResultModel::chooseColumns(std::string_view firstColumn) {
     shown_.clear();
-    for (std::size_t column = 0; column < table_.Columns.size(); ++column)
-        if (isShownColumn(table_.Columns[column]))
+    for (std::size_t column = 0; column < table_.Columns.size(); ++column) {
+        if (isShownColumn(table_.Columns[column])) {
             shown_.push_back(
                 {column, columnKind(table_, column, settings_), isAmountColumn(table_.Columns[column]), std::nullopt});
+        }
+    }
     const auto first = std::find_if(shown_.begin(), shown_.end(), [&](const Shown& each) {
         return SameDbName(table_.Columns[each.source], firstColumn);
     });
-    if (first != shown_.end())
+    if (first != shown_.end()) {
         std::rotate(shown_.begin(), first, std::next(first));
+    }
 }
 
 std::optional<std::size_t> ResultModel::sourceColumn(std::string_view column) const {
     const auto found = std::find_if(table_.Columns.begin(), table_.Columns.end(),
                                     [&](const AnsiString& each) { return SameDbName(each, column); });
-    if (found == table_.Columns.end())
+    if (found == table_.Columns.end()) {
         return std::nullopt;
+    }
     return static_cast<std::size_t>(std::distance(table_.Columns.begin(), found));
 }
 
@@ -84,24 +89,27 @@ bool ResultModel::hasColumn(std::string_view column) const {
 
 AnsiString ResultModel::text(int row, std::string_view column) const {
     const auto source = sourceColumn(column);
-    if (!source)
+    if (!source) {
         return {};
+    }
     return TField(table_.Columns[*source], table_.Rows[static_cast<std::size_t>(row)][*source], settings_).AsString();
 }
 
 std::optional<int> ResultModel::shownColumn(std::string_view column) const {
     const auto found = std::find_if(shown_.begin(), shown_.end(),
                                     [&](const Shown& each) { return SameDbName(table_.Columns[each.source], column); });
-    if (found == shown_.end())
+    if (found == shown_.end()) {
         return std::nullopt;
+    }
     return static_cast<int>(std::distance(shown_.begin(), found));
 }
 
 std::vector<AnsiString> ResultModel::shownColumns() const {
     std::vector<AnsiString> names;
     names.reserve(shown_.size());
-    for (const Shown& column : shown_)
+    for (const Shown& column : shown_) {
         names.push_back(table_.Columns[column.source]);
+    }
     return names;
 }
 
@@ -121,8 +129,9 @@ QStringList ResultModel::longTexts(int column) const {
     QSet<QString> texts;
     for (const std::size_t row : rows) {
         const bool isShort = sizes[row] * 4 < sizes[rows.front()] * 3;
-        if (isShort || sizes[row] == 0 || texts.size() >= c_measuredTexts)
+        if (isShort || sizes[row] == 0 || texts.size() >= c_measuredTexts) {
             break;
+        }
         texts.insert(displayText(row, shown));
     }
     return texts.values();
@@ -130,19 +139,22 @@ QStringList ResultModel::longTexts(int column) const {
 
 bool ResultModel::isLess(int leftRow, int rightRow, int column) const {
     const Shown& shown = shown_[static_cast<std::size_t>(column)];
-    if (!shown.keys)
+    if (!shown.keys) {
         shown.keys.emplace(table_, shown.source, shown.kind, settings_);
+    }
     return shown.keys->isLess(static_cast<std::size_t>(leftRow), static_cast<std::size_t>(rightRow));
 }
 
 const QString& ResultModel::searchText(int row) const {
-    if (searchTexts_.empty())
+    if (searchTexts_.empty()) {
         for (std::size_t each = 0; each < table_.Rows.size(); ++each) {
             QStringList texts;
-            for (const Shown& column : shown_)
+            for (const Shown& column : shown_) {
                 texts.append(shownText(each, column));
+            }
             searchTexts_.push_back(foldForSearch(texts.join(u'\n')));
         }
+    }
     return searchTexts_[static_cast<std::size_t>(row)];
 }
 
@@ -170,8 +182,9 @@ int ResultModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant ResultModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
+    }
     const auto row = static_cast<std::size_t>(index.row());
     const Shown& column = shown_[static_cast<std::size_t>(index.column())];
     switch (role) {
@@ -181,8 +194,9 @@ QVariant ResultModel::data(const QModelIndex& index, int role) const {
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (column.kind == ColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft));
     case Qt::ForegroundRole:
-        if (isGreyed(row))
+        if (isGreyed(row)) {
             return greyText();
+        }
         return {};
     default:
         return {};
@@ -190,17 +204,21 @@ QVariant ResultModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant ResultModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount())
+    if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
         return {};
+    }
     const Shown& column = shown_[static_cast<std::size_t>(section)];
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole) {
         return columnTitle(table_.Columns[column.source], languages_);
+    }
     // The key that sorts by the column stands in its tooltip, so that it can be learned.
-    if (role == Qt::ToolTipRole && section < c_sortKeyCount)
+    if (role == Qt::ToolTipRole && section < c_sortKeyCount) {
         return QStringLiteral("Alt+%1").arg(section + 1);
-    if (role == Qt::TextAlignmentRole)
+    }
+    if (role == Qt::TextAlignmentRole) {
         return QVariant::fromValue(Qt::AlignVCenter |
                                    (column.kind == ColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft));
+    }
     return {};
 }
 

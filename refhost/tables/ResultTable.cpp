@@ -51,44 +51,51 @@ void ResultTable::setTable(TResultTable table, std::string_view firstColumn) {
     const auto columnsBefore = model_->shownColumns();
     model_->setTable(std::move(table), firstColumn);
     fitColumns(model_->shownColumns() != columnsBefore);
-    if (key.empty() || !selectKey(key))
+    if (key.empty() || !selectKey(key)) {
         keepSomeRowCurrent(row);
+    }
     Q_EMIT currentRowChanged();
 }
 
 /// As wide as the longest text of each column, never narrower than before: widths do not jump from document to
 /// document. Once somebody has dragged a width, all stay as they are.
 void ResultTable::fitColumns(bool isNewLayout) {
-    if (isNewLayout)
+    if (isNewLayout) {
         widthsAreSet_ = false;
-    if (widthsAreSet_)
+    }
+    if (widthsAreSet_) {
         return;
+    }
     const QScopedValueRollback fitting(fitting_, true);
     const int margin = style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1;
     for (int column = 0; column < order_->columnCount(); ++column) {
         int text = 0;
-        for (const QString& each : model_->longTexts(column))
+        for (const QString& each : model_->longTexts(column)) {
             text = std::max(text, fontMetrics().horizontalAdvance(each) + 2 * margin + 1);
+        }
         const int wanted = std::max(horizontalHeader()->sectionSizeHint(column), std::min(text, c_widestColumn));
         setColumnWidth(column, isNewLayout ? wanted : std::max(wanted, columnWidth(column)));
     }
 }
 
 void ResultTable::sortBy(std::string_view column, Qt::SortOrder order) {
-    if (const auto shown = model_->shownColumn(column))
+    if (const auto shown = model_->shownColumn(column)) {
         sortByColumn(*shown, order);
+    }
 }
 
 std::optional<int> ResultTable::sortColumnOfKey(const QKeyEvent& event) {
     const bool isDigit = event.key() >= Qt::Key_1 && event.key() < Qt::Key_1 + c_sortKeyCount;
-    if (!isDigit || (event.modifiers() & ~Qt::KeypadModifier) != Qt::AltModifier)
+    if (!isDigit || (event.modifiers() & ~Qt::KeypadModifier) != Qt::AltModifier) {
         return std::nullopt;
+    }
     return event.key() - Qt::Key_1;
 }
 
 void ResultTable::sortByPlace(int column) {
-    if (column >= order_->columnCount())
+    if (column >= order_->columnCount()) {
         return;
+    }
     const QHeaderView& header = *horizontalHeader();
     const bool isSortedUp =
         header.sortIndicatorSection() == column && header.sortIndicatorOrder() == Qt::AscendingOrder;
@@ -98,15 +105,17 @@ void ResultTable::sortByPlace(int column) {
 void ResultTable::setSearch(const QString& typed) {
     const int row = currentIndex().row();
     order_->setSearch(typed);
-    if (!currentIndex().isValid())
+    if (!currentIndex().isValid()) {
         keepSomeRowCurrent(row);
+    }
     scrollTo(currentIndex());
 }
 
 std::optional<int> ResultTable::currentRow() const {
     const QModelIndex current = currentIndex();
-    if (!current.isValid())
+    if (!current.isValid()) {
         return std::nullopt;
+    }
     return order_->mapToSource(current).row();
 }
 
@@ -140,8 +149,9 @@ int ResultTable::shownRowCount() const {
 
 /// The row that took the place of the one that is gone, or the last one.
 void ResultTable::keepSomeRowCurrent(int wantedRow) {
-    if (order_->rowCount() > 0)
+    if (order_->rowCount() > 0) {
         selectShownRow(std::clamp(wantedRow, 0, order_->rowCount() - 1));
+    }
 }
 
 void ResultTable::selectShownRow(int row) {
@@ -152,19 +162,21 @@ void ResultTable::selectShownRow(int row) {
 
 void ResultTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
-    if (current.row() != previous.row() || current.isValid() != previous.isValid())
+    if (current.row() != previous.row() || current.isValid() != previous.isValid()) {
         Q_EMIT currentRowChanged();
+    }
 }
 
 void ResultTable::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const std::optional<int> sortColumn = sortColumnOfKey(*event);
-    if (isEnter && currentIndex().isValid())
+    if (isEnter && currentIndex().isValid()) {
         Q_EMIT rowActivated();
-    else if (sortColumn)
+    } else if (sortColumn) {
         sortByPlace(*sortColumn);
-    else
+    } else {
         QTableView::keyPressEvent(event);
+    }
 }
 
 } // namespace refhost

@@ -8,9 +8,11 @@ QString foldForSearch(const QString& text) {
     const QString decomposed = text.normalized(QString::NormalizationForm_D);
     QString folded;
     folded.reserve(decomposed.size());
-    for (const QChar character : decomposed)
-        if (character.category() != QChar::Mark_NonSpacing)
+    for (const QChar character : decomposed) {
+        if (character.category() != QChar::Mark_NonSpacing) {
             folded.append(character);
+        }
+    }
     return folded.toCaseFolded();
 }
 

@@ -80,10 +80,12 @@ void SearchableTable::updateCount() {
 bool SearchableTable::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress) {
         auto& key = *static_cast<QKeyEvent*>(event);
-        if (watched == table_ && takeTableKey(key))
+        if (watched == table_ && takeTableKey(key)) {
             return true;
-        if (watched == search_ && takeSearchKey(key))
+        }
+        if (watched == search_ && takeSearchKey(key)) {
             return true;
+        }
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -93,8 +95,9 @@ bool SearchableTable::takeTableKey(const QKeyEvent& event) {
         search_->clear();
         return true;
     }
-    if (!isTyping(event))
+    if (!isTyping(event)) {
         return false;
+    }
     search_->setFocus(Qt::OtherFocusReason);
     search_->end(false);
     search_->insert(event.text());
@@ -106,8 +109,9 @@ bool SearchableTable::takeSearchKey(QKeyEvent& event) {
         search_->clear();
         return true;
     }
-    if (!isTableKey(event))
+    if (!isTableKey(event)) {
         return false;
+    }
     QCoreApplication::sendEvent(table_, &event);
     return true;
 }

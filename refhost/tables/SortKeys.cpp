@@ -19,8 +19,9 @@ constexpr double c_beforeEverything = -std::numeric_limits<double>::infinity();
 
 std::optional<double> numberOf(const AnsiString& text) {
     const std::optional<AnsiString> decimal = TextToDecimalText(text);
-    if (!decimal)
+    if (!decimal) {
         return std::nullopt;
+    }
     double number = 0;
     std::from_chars(decimal->data(), decimal->data() + decimal->size(), number);
     return number;
@@ -28,8 +29,9 @@ std::optional<double> numberOf(const AnsiString& text) {
 
 std::optional<double> momentOf(const AnsiString& text, const TFormatSettings& settings) {
     const std::optional<TDateTime> moment = TextToDateTime(text, settings);
-    if (!moment)
+    if (!moment) {
         return std::nullopt;
+    }
     return static_cast<double>(moment->time_since_epoch().count());
 }
 
@@ -45,10 +47,12 @@ bool isColumnOf(ColumnKind kind, const TResultTable& table, std::size_t column, 
     bool hasValue = false;
     for (std::size_t row = 0; row < table.Rows.size(); ++row) {
         const AnsiString text = textOf(table, row, column, settings);
-        if (text.empty())
+        if (text.empty()) {
             continue;
-        if (!measure(text, kind, settings))
+        }
+        if (!measure(text, kind, settings)) {
             return false;
+        }
         hasValue = true;
     }
     return hasValue;
@@ -58,8 +62,9 @@ std::vector<double> measureAll(const TResultTable& table, std::size_t column, Co
                                const TFormatSettings& settings) {
     std::vector<double> keys;
     keys.reserve(table.Rows.size());
-    for (std::size_t row = 0; row < table.Rows.size(); ++row)
+    for (std::size_t row = 0; row < table.Rows.size(); ++row) {
         keys.push_back(measure(textOf(table, row, column, settings), kind, settings).value_or(c_beforeEverything));
+    }
     return keys;
 }
 
@@ -70,25 +75,29 @@ std::vector<QCollatorSortKey> collateAll(const TResultTable& table, std::size_t 
     collator.setNumericMode(true);
     std::vector<QCollatorSortKey> keys;
     keys.reserve(table.Rows.size());
-    for (std::size_t row = 0; row < table.Rows.size(); ++row)
+    for (std::size_t row = 0; row < table.Rows.size(); ++row) {
         keys.push_back(collator.sortKey(QString::fromStdString(textOf(table, row, column, settings))));
+    }
     return keys;
 }
 
 } // namespace
 
 ColumnKind columnKind(const TResultTable& table, std::size_t column, const TFormatSettings& settings) {
-    for (const ColumnKind kind : {ColumnKind::Number, ColumnKind::Moment})
-        if (isColumnOf(kind, table, column, settings))
+    for (const ColumnKind kind : {ColumnKind::Number, ColumnKind::Moment}) {
+        if (isColumnOf(kind, table, column, settings)) {
             return kind;
+        }
+    }
     return ColumnKind::Text;
 }
 
 SortKeys::SortKeys(const TResultTable& table, std::size_t column, ColumnKind kind, const TFormatSettings& settings) {
-    if (kind == ColumnKind::Text)
+    if (kind == ColumnKind::Text) {
         keys_ = collateAll(table, column, settings);
-    else
+    } else {
         keys_ = measureAll(table, column, kind, settings);
+    }
 }
 
 bool SortKeys::isLess(std::size_t leftRow, std::size_t rightRow) const {

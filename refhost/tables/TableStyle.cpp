@@ -15,8 +15,9 @@ TableStyle::TableStyle(QObject* parent) : QProxyStyle(QApplication::style()->obj
 }
 
 int TableStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
-    if (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin)
+    if (metric == PM_FocusFrameHMargin || metric == PM_HeaderMargin) {
         return c_cellMargin;
+    }
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
 

@@ -20,29 +20,37 @@ constexpr std::string_view c_Tables[] = {
 };
 
 std::string valueText(const TDbValue& value) {
-    if (const auto* number = std::get_if<std::int64_t>(&value))
+    if (const auto* number = std::get_if<std::int64_t>(&value)) {
         return std::to_string(*number);
-    if (const auto* text = std::get_if<AnsiString>(&value))
+    }
+    if (const auto* text = std::get_if<AnsiString>(&value)) {
         return *text;
-    if (const auto* flag = std::get_if<bool>(&value))
+    }
+    if (const auto* flag = std::get_if<bool>(&value)) {
         return *flag ? "true" : "false";
-    if (const auto* number = std::get_if<double>(&value))
+    }
+    if (const auto* number = std::get_if<double>(&value)) {
         return "floating " + std::to_string(*number); // no result of the contract is one
+    }
     return "-";
 }
 
 std::string tableText(const TResultTable& table, const Columns& columns) {
     std::vector<std::size_t> shown;
-    for (std::size_t i = 0; i < table.Columns.size(); ++i)
-        if (columns.empty())
+    for (std::size_t i = 0; i < table.Columns.size(); ++i) {
+        if (columns.empty()) {
             shown.push_back(i);
-    for (const std::string& column : columns)
+        }
+    }
+    for (const std::string& column : columns) {
         shown.push_back(static_cast<std::size_t>(std::ranges::find(table.Columns, column) - table.Columns.begin()));
+    }
     std::string text;
     for (const std::vector<TDbValue>& row : table.Rows) {
         text += text.empty() ? "" : "\n";
-        for (std::size_t i = 0; i < shown.size(); ++i)
+        for (std::size_t i = 0; i < shown.size(); ++i) {
             text += (i == 0 ? "" : " | ") + valueText(row.at(shown[i]));
+        }
     }
     return text;
 }
@@ -54,10 +62,12 @@ std::string answer(Database& database, const std::string& procedure, const Param
     try {
         const TCallResult result = database.Execute({procedure, parameters, true});
         std::string text;
-        for (std::size_t i = 0; i < result.Sets.size(); ++i)
+        for (std::size_t i = 0; i < result.Sets.size(); ++i) {
             text += (i == 0 ? "" : "\n\n") + tableText(result.Sets[i], i == 0 ? columns : Columns{});
-        for (const TDbParam& output : result.Outputs)
+        }
+        for (const TDbParam& output : result.Outputs) {
             text += (text.empty() ? "" : "\n") + output.Name + " = " + valueText(output.Value);
+        }
         return text;
     } catch (const EDatabaseError& error) {
         return error.Code() + " " + error.Message();
@@ -88,8 +98,9 @@ TDbValue id(std::int64_t value) {
 std::string digest(Database& database, const std::vector<std::string>& except) {
     std::string text;
     for (const std::string_view table : c_Tables) {
-        if (std::ranges::find(except, table) != except.end())
+        if (std::ranges::find(except, table) != except.end()) {
             continue;
+        }
         std::string content = tableText(database.Query("select * from " + std::string(table)), {});
         std::vector<std::string> lines;
         for (std::size_t start = 0; start <= content.size();) {
@@ -99,17 +110,20 @@ std::string digest(Database& database, const std::vector<std::string>& except) {
         }
         std::ranges::sort(lines); // a table has no order of its own
         text += std::string(table) + "\n";
-        for (const std::string& line : lines)
+        for (const std::string& line : lines) {
             text += line + "\n";
+        }
     }
     return text;
 }
 
 std::vector<std::string> procedureNames() {
     std::vector<std::string> names;
-    for (const SqlFile& file : sqliteFiles())
-        if (file.Path.starts_with("procedures/"))
+    for (const SqlFile& file : sqliteFiles()) {
+        if (file.Path.starts_with("procedures/")) {
             names.emplace_back(sqlObjectName(file));
+        }
+    }
     return names;
 }
 

@@ -29,8 +29,9 @@ protected:
         sqlite3_stmt* prepared = nullptr;
         sqlite3_prepare_v2(database_.get(), ("select " + expression).c_str(), -1, &prepared, nullptr);
         const std::unique_ptr<sqlite3_stmt, FinalizeStatement> statement(prepared);
-        if (sqlite3_step(prepared) != SQLITE_ROW)
+        if (sqlite3_step(prepared) != SQLITE_ROW) {
             return std::string("error: ") + sqlite3_errmsg(database_.get());
+        }
         const auto* text = sqlite3_column_text(prepared, 0);
         return text == nullptr ? "null" : reinterpret_cast<const char*>(text);
     }
@@ -61,8 +62,9 @@ TEST_F(DecimalFunctions, GiveNullForNull) {
     for (const char* call :
          {"dec_add(null, '1')", "dec_add('1', null)", "dec_sub('1', null)", "dec_mul(null, null)",
           "dec_div(null, '1', 2)", "dec_div('1', null, 2)", "dec_div('1', '2', null)", "dec_round(null, 2)",
-          "dec_round('1', null)", "dec_fixed(null, 2)", "dec_abs(null)", "dec_neg(null)", "dec_cmp('1', null)"})
+          "dec_round('1', null)", "dec_fixed(null, 2)", "dec_abs(null)", "dec_neg(null)", "dec_cmp('1', null)"}) {
         EXPECT_EQ(valueOf(call), "null") << call;
+    }
 }
 
 TEST_F(DecimalFunctions, MistakesFailTheStatement) {

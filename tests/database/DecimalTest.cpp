@@ -16,13 +16,16 @@ TEST(Decimal, TextsBecomeCanonical) {
         {"+01.50", "1.5"}, {"-012", "-12"}, {"100", "100"},                    // zeros before the point count
         {".5", "0.5"},     {"5.", "5"},     {"0.070", "0.07"}, {"0089", "89"}, // no octal reading
     };
-    for (const Row& row : rows)
+    for (const Row& row : rows) {
         EXPECT_EQ(canonicalDecimal(row.Text), row.Canonical) << row.Text;
+    }
 }
 
 TEST(Decimal, WhatIsNoNumberIsRefused) {
-    for (const char* text : {"", "-", "+", ".", "1,5", "1e3", "nan", "inf", " 1", "1 ", "0x10", "--1", "1.2.3", "１２"})
+    for (const char* text :
+         {"", "-", "+", ".", "1,5", "1e3", "nan", "inf", " 1", "1 ", "0x10", "--1", "1.2.3", "１２"}) {
         EXPECT_THROW(canonicalDecimal(text), DecimalError) << text;
+    }
 }
 
 TEST(Decimal, ATextPastTheLengthLimitIsRefused) {
@@ -54,8 +57,9 @@ TEST(Decimal, RoundingGoesHalfAwayFromZero) {
         {"0.4", 0, "0"},        {"-0.004", 2, "0"}, // no negative zero
         {"999.995", 2, "1000"}, {"1.2", 6, "1.2"},
     };
-    for (const Row& row : rows)
+    for (const Row& row : rows) {
         EXPECT_EQ(roundedDecimal(row.Text, row.Decimals), row.Rounded) << row.Text;
+    }
 }
 
 TEST(Decimal, AQuotientIsRoundedOnceFromItsExactValue) {

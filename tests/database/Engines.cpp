@@ -19,8 +19,9 @@ class TemporaryFolder {
 public:
     TemporaryFolder() {
         std::string pattern = (std::filesystem::temp_directory_path() / "melvark-database-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr)
+        if (mkdtemp(pattern.data()) == nullptr) {
             throw std::runtime_error("no temporary folder could be made");
+        }
         path_ = pattern;
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
@@ -59,8 +60,9 @@ std::string newDatabaseUrl(Engine engine) {
 }
 
 std::unique_ptr<Database> openAs(const std::string& url, const std::string& user, const TFormatSettings& settings) {
-    if (!url.starts_with(c_PostgreSQL))
+    if (!url.starts_with(c_PostgreSQL)) {
         return openDatabase(url, user, settings, OpenMode::Existing);
+    }
     PrivateServer::instance().addRole(user, "melvark_owner");
     return openDatabase(url + " user=" + user, user, settings, OpenMode::Existing);
 }

@@ -46,8 +46,9 @@ const std::vector<HostileValue>& hostileValues() {
 
 /// What a procedure may change besides: what it is there to keep for the user.
 std::vector<std::string> ownTables(const std::string& procedure) {
-    if (procedure.find("NASTAVENI") != std::string::npos)
+    if (procedure.find("NASTAVENI") != std::string::npos) {
         return {"UZIVATEL", "EDITORNASTAVENI", "EDITORNASTAVENIDEF", "EDITOROKNO"};
+    }
     return {};
 }
 
@@ -75,8 +76,9 @@ TDbValue usualValue(std::string_view parameter) {
 
 /// An answer, or a refusal in words. Codes above 900 are those of the connections: failures that nobody foresaw.
 bool isInOrder(const std::string& text) {
-    if (!text.starts_with("ML"))
+    if (!text.starts_with("ML")) {
         return true;
+    }
     return text.substr(0, 5) < "ML900" && text.size() > 30 && text.size() < 1000 && text.ends_with(".");
 }
 
@@ -89,8 +91,9 @@ public:
     std::map<std::string, std::string> inAllParameters() {
         return answers([this](const std::string& procedure, const TDbValue& value, const Columns& inputs) {
             Parameters parameters;
-            for (const std::string& input : inputs)
+            for (const std::string& input : inputs) {
                 parameters.push_back({input, value});
+            }
             return std::map<std::string, std::string>{{"all", call(procedure, parameters)}};
         });
     }
@@ -101,8 +104,9 @@ public:
             std::map<std::string, std::string> texts;
             for (const std::string& tried : inputs) {
                 Parameters parameters;
-                for (const std::string& input : inputs)
+                for (const std::string& input : inputs) {
                     parameters.push_back({input, input == tried ? value : usualValue(input)});
+                }
                 texts[upper(tried)] = call(procedure, parameters);
             }
             return texts;
@@ -116,20 +120,22 @@ private:
         for (const std::string& procedure : procedureNames()) {
             const TProcedureInfo info = database_->Describe(procedure);
             const std::string before = digest(*database_, ownTables(procedure));
-            for (const HostileValue& value : hostileValues())
+            for (const HostileValue& value : hostileValues()) {
                 for (const auto& [where, text] : calls(procedure, value.Value, info.Inputs)) {
                     const std::string what = procedure + " with " + value.Name + " in " + where;
                     EXPECT_TRUE(isInOrder(text)) << what << ": " << text;
                     all[what] = text;
                 }
+            }
             EXPECT_EQ(digest(*database_, ownTables(procedure)), before) << procedure;
         }
         return all;
     }
 
     std::string call(const std::string& procedure, const Parameters& parameters) {
-        if (procedure != "MELVARKEDITORResetTemp")
+        if (procedure != "MELVARKEDITORResetTemp") {
             answer(*database_, "MELVARKEDITORResetTemp"); // so that a row of a save is judged itself
+        }
         return answer(*database_, procedure, parameters);
     }
 
@@ -149,8 +155,9 @@ std::string differences(const std::map<std::string, std::string>& one,
     for (const auto& [what, answered] : one) {
         const auto found = other.find(what);
         const std::string theirs = found == other.end() ? "not called" : found->second;
-        if (theirs != answered && ++count <= 20)
+        if (theirs != answered && ++count <= 20) {
             text += what + ":\n  " + answered.substr(0, 300) + "\n  " + theirs.substr(0, 300) + "\n";
+        }
     }
     return text;
 }

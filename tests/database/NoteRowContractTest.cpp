@@ -155,7 +155,7 @@ TEST_P(NoteRowContract, ATotalMayDifferByAsMuchAsRoundingCanTake) {
         {"1000000", "1", "1000002.02", true}, {"1000000", "1", "1000002.03", false},
         {"3", "0.333333", "1", true},         {"123456789", "0.01", "1234567.89", true},
     };
-    for (const ToleranceCase& c : cases)
+    for (const ToleranceCase& c : cases) {
         for (const Pair& pair : c_Pairs) {
             const std::string text = staged({{"a_SKLADPOL", "Mouka hladká"},
                                              {"a_MNOZSTVI", c.Quantity},
@@ -164,6 +164,7 @@ TEST_P(NoteRowContract, ATotalMayDifferByAsMuchAsRoundingCanTake) {
             EXPECT_EQ(text.substr(0, 5), c.Accepted ? "" : "ML052")
                 << c.Quantity << " · " << c.Unit << " = " << c.Total << " " << pair.Unit;
         }
+    }
 }
 
 TEST_P(NoteRowContract, ThePairThatClashesFirstIsNamed) {

@@ -14,8 +14,9 @@ constexpr const char* c_RefusedBefore = "ML041 Předchozí ukládání bylo odm�
 
 Cells item(const std::string& name, const std::string& quantity, const std::string& orderLine = "") {
     Cells cells = {{"a_SKLADPOL", name}, {"a_MNOZSTVI", quantity}};
-    if (!orderLine.empty())
+    if (!orderLine.empty()) {
         cells["a_DOBSID"] = orderLine;
+    }
     return cells;
 }
 
@@ -147,8 +148,9 @@ TEST_P(NoteSavingContract, ANoteMayBringMoreThanWasOrderedAndTakeBack) {
 TEST_P(NoteSavingContract, RowsOfOneSaveMayCompleteAnOrderLineTogether) {
     const auto database = ownCompany();
     beginSave(*database);
-    for (const char* quantity : {"30", "30", "5"}) // 60 kg were left: the third row comes after the last of them
+    for (const char* quantity : {"30", "30", "5"}) { // 60 kg were left: the third row comes after the last of them
         EXPECT_EQ(stageNoteRow(*database, item("Mouka hladká", quantity, "101")), "");
+    }
     EXPECT_EQ(saveNote(*database, id(c_OpenNote)), "");
     EXPECT_EQ(orderLine(*database, 101), "105 | 1"); // 40 + 65
 }

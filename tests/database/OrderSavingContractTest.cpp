@@ -10,14 +10,16 @@ class OrderSavingContract : public Contract {};
 /// A row of flour in its main unit.
 Cells flour(const std::string& quantity, const std::string& supplier = "") {
     Cells cells = {{"a_SKLADPOL", "Mouka hladká"}, {"a_SKPLID", "11"}, {"a_JEDNOTKY", "kg"}, {"a_MNOZSTVI", quantity}};
-    if (!supplier.empty())
+    if (!supplier.empty()) {
         cells["a_DODAVATEL"] = supplier;
+    }
     return cells;
 }
 
 Cells with(Cells cells, const Cells& changes) {
-    for (const auto& [name, text] : changes)
+    for (const auto& [name, text] : changes) {
         cells[name] = text;
+    }
     return cells;
 }
 
@@ -230,8 +232,9 @@ TEST_P(OrderSavingContract, SourcesAreRecordedOnce) {
     const auto database = ownCompany();
     EXPECT_EQ(savedRow(*database, c_FreeOrder, flour("1"), {.Order = id(-1), .Template = id(0)}), "");
     EXPECT_EQ(sources(*database), "");
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(savedRow(*database, c_FreeOrder, flour("1"), {.Order = id(c_Order), .Note = id(c_OpenNote)}), "");
+    }
     EXPECT_EQ(savedRow(*database, c_FreeOrder, flour("1"), {.Template = id(c_Template)}), "");
     EXPECT_EQ(rows(*database, "select count(*), sum(DODKIDZDROJ), sum(DDOBIDZDROJ) from DODOBJZDROJ where DDOBID = 5"),
               "3 | 2 | 8"); // note 2, order 1 and template 7

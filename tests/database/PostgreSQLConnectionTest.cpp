@@ -101,8 +101,9 @@ TEST(PostgreSQLConnection, ANulInATextIsRefusedAndNotCutOff) {
 TEST(PostgreSQLConnection, AProcedureIsPreparedOnceInASession) {
     const ServerCompany company;
     const auto database = company.open();
-    for (std::int64_t id = 1; id <= 3; ++id)
+    for (std::int64_t id = 1; id <= 3; ++id) {
         database->Execute(serverCall("MELVARKEDITORDodakObnovData", {{"a_DODKID", id}}));
+    }
     EXPECT_EQ(rowsOf(*database, "select count(*) from pg_prepared_statements where statement like '%dodakobnovdata(%'"),
               "1");
 }
@@ -113,8 +114,9 @@ TEST(PostgreSQLConnection, AQueryIsOneReadingStatement) {
     EXPECT_EQ(rowsOf(*database, "select ID, CISLO, null as NIC from DODAK order by ID"), "1,DL1,-|2,DL2,-");
     EXPECT_THAT(database->Query("select ID as id, CISLO from DODAK").Columns, ElementsAre("ID", "CISLO"));
     for (const char* sql : {"delete from DODAK", "delete from DODAK returning ID", "select 1; select 2", "",
-                            "drop table DODAK", "commit", "copy DODAK to stdout", "select 1; delete from DODAK"})
+                            "drop table DODAK", "commit", "copy DODAK to stdout", "select 1; delete from DODAK"}) {
         EXPECT_EQ(failure([&] { database->Query(sql); }).Code(), "ML920") << sql;
+    }
     EXPECT_EQ(failure([&] { database->Query("select from from"); }).Code(), "ML930") << "a mistake in one statement";
     EXPECT_EQ(rowsOf(*database, "select count(*) from DODAK"), "2");
 }

@@ -12,9 +12,11 @@ namespace {
 
 std::vector<std::string> procedures() {
     std::vector<std::string> names;
-    for (const SqlFile& file : postgresqlFiles())
-        if (file.Path.starts_with("procedures/"))
+    for (const SqlFile& file : postgresqlFiles()) {
+        if (file.Path.starts_with("procedures/")) {
             names.emplace_back(sqlObjectName(file));
+        }
+    }
     return names;
 }
 

@@ -55,11 +55,14 @@ TEST(PostgreSQLRoles, AClerkIsRefusedWhatTheProceduresStandOn) {
     const ServerCompany company;
     const auto clerk = clerkOf(company);
     for (const char* sql : {"select * from ITEM_V", "select * from PRICE_V", "select * from DELIVERY_V",
-                            "select refuse('ML000', 'x')", "select user_row()", "select parse_number('1')"})
+                            "select refuse('ML000', 'x')", "select user_row()", "select parse_number('1')"}) {
         EXPECT_EQ(failure([&] { clerk->Query(sql); }).Code(), "ML924") << sql;
-    for (const char* sql : {"create table T (A integer)", "create temporary table NOTE_STAGED (A integer)",
-                            "create function F() returns integer language sql as 'select 1'", "set role melvark_owner"})
+    }
+    for (const char* sql :
+         {"create table T (A integer)", "create temporary table NOTE_STAGED (A integer)",
+          "create function F() returns integer language sql as 'select 1'", "set role melvark_owner"}) {
         EXPECT_EQ(failure([&] { clerk->runScript(sql); }).Code(), "ML924") << sql;
+    }
 }
 
 TEST(PostgreSQLRoles, WhoIsNoClerkIsRefusedEverything) {

@@ -9,8 +9,9 @@ namespace {
 
 std::string sqlText(std::string_view text) {
     std::string literal = "'";
-    for (const char c : text)
+    for (const char c : text) {
         literal += c == '\'' ? "''" : std::string(1, c);
+    }
     return literal + "'";
 }
 
@@ -30,8 +31,9 @@ TEST(PostgreSQLTexts, NumbersAreReadByTheRuleOfTheProgram) {
     const auto database = company.open();
     for (const valuetext::NumberCase& row : valuetext::numberCases) {
         std::string expected = isBlank(row.text) ? "-" : std::string(row.decimal.value_or("ML001"));
-        if (row.text.starts_with("123456789012345678,"))
+        if (row.text.starts_with("123456789012345678,")) {
             expected = "ML005"; // more digits than the tables hold
+        }
         EXPECT_EQ(valueOf(*database, "trim_scale(parse_number(" + sqlText(row.text) + "))"), expected)
             << row.text << ": " << row.remark;
     }
@@ -40,10 +42,11 @@ TEST(PostgreSQLTexts, NumbersAreReadByTheRuleOfTheProgram) {
 TEST(PostgreSQLTexts, IntegersAreReadByTheRuleOfTheProgram) {
     const ServerCompany company;
     const auto database = company.open();
-    for (const valuetext::IntegerCase& row : valuetext::integerCases)
+    for (const valuetext::IntegerCase& row : valuetext::integerCases) {
         EXPECT_EQ(valueOf(*database, "as_integer(" + sqlText(row.text) + ")"),
                   row.value ? std::to_string(*row.value) : "-")
             << row.text << ": " << row.remark;
+    }
 }
 
 TEST(PostgreSQLTexts, DatesAreReadByTheRuleOfTheProgram) {
@@ -103,8 +106,9 @@ TEST(PostgreSQLTexts, MomentsAreReadInTheLocalesOrderOrAsIso) {
     EXPECT_EQ(moment("1.2.2027"), "2027-02-01 00:00:00");
     EXPECT_EQ(moment("2027-02-01 03:04:05"), "2027-02-01 03:04:05");
     for (const char* text : {"1.2.27", "1.2.2027 24:00", "1.2.2027 3", "1.2.2027 3:60", "1.2.2027 3:04:05:06",
-                             "31.4.2027", "2027-02-01T03:04:05", "1.2.202703:04", "nan"})
+                             "31.4.2027", "2027-02-01T03:04:05", "1.2.202703:04", "nan"}) {
         EXPECT_EQ(moment(text), "ML002") << text;
+    }
     EXPECT_EQ(moment(" "), "-");
 }
 

@@ -17,8 +17,9 @@ constexpr const char* c_Model = "melvark_model";
 
 std::filesystem::path newFolder() {
     std::string pattern = (std::filesystem::temp_directory_path() / "melvark-server-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr)
+    if (mkdtemp(pattern.data()) == nullptr) {
         throw std::runtime_error("no temporary folder could be made");
+    }
     return pattern;
 }
 
@@ -54,8 +55,9 @@ PrivateServer::~PrivateServer() {
 
 void PrivateServer::run(const std::string& command) const {
     const std::string line = "'" MELVARK_SOURCE_DIR "/packaging/private-server' " + command + " >/dev/null";
-    if (std::system(line.c_str()) != 0)
+    if (std::system(line.c_str()) != 0) {
         throw std::runtime_error("failed: " + line);
+    }
 }
 
 std::string PrivateServer::copyOf(const std::string& model) {
@@ -80,8 +82,9 @@ std::string PrivateServer::newEmptyDatabase() {
 void PrivateServer::addRole(const std::string& name, const std::string& group) {
     PostgreSQLSession session = administrator("postgres");
     const std::vector<TDbValue> parameters{name};
-    if (PQntuples(session.execute("select from pg_roles where rolname = $1", parameters).get()) == 0)
+    if (PQntuples(session.execute("select from pg_roles where rolname = $1", parameters).get()) == 0) {
         session.execute("create role " + session.quoted(name) + " login in role " + session.quoted(group));
+    }
 }
 
 std::string PrivateServer::address(const std::string& database, const std::string& role) const {

@@ -11,8 +11,9 @@ namespace {
 
 std::uint64_t powerOfTen(unsigned exponent) {
     std::uint64_t power = 1;
-    while (exponent-- > 0)
+    while (exponent-- > 0) {
         power *= 10;
+    }
     return power;
 }
 
@@ -24,17 +25,20 @@ std::string RandomLines::number(std::uint64_t largest, unsigned decimals) {
     const auto scale = static_cast<unsigned>(chance(10) ? decimals + 2 : below(decimals + 1));
     const std::uint64_t power = powerOfTen(scale);
     std::string digits = std::to_string(below(largest * power));
-    if (digits.size() <= scale)
+    if (digits.size() <= scale) {
         digits.insert(0, scale + 1 - digits.size(), '0');
-    if (scale > 0)
+    }
+    if (scale > 0) {
         digits.insert(digits.size() - scale, 1, ',');
+    }
     return (chance(6) ? "-" : "") + digits;
 }
 
 std::string RandomLines::prices(unsigned density, std::uint64_t largest, unsigned decimals) {
     std::string row;
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 4; ++i) {
         row += (i == 0 ? "" : " ") + (chance(density) ? number(largest, decimals) : "-");
+    }
     return row;
 }
 
@@ -45,15 +49,17 @@ std::string RandomLines::rate() {
 
 std::string RandomLines::discount() {
     constexpr std::array<const char*, 6> c_Discounts{"", "0", "10", "12,5", "99,99", "100"};
-    if (chance(60))
+    if (chance(60)) {
         return c_Discounts[below(c_Discounts.size())];
+    }
     return number(chance(98) ? 100 : 1000, 2);
 }
 
 std::string RandomLines::quantity() {
     constexpr std::array<const char*, 6> c_Quantities{"", "0", "1", "12", "-1", "0,0000001"};
-    if (chance(30))
+    if (chance(30)) {
         return c_Quantities[below(c_Quantities.size())];
+    }
     return number(chance(50) ? 10 : 1000, chance(70) ? 3 : 6);
 }
 
@@ -78,10 +84,12 @@ RecalculationInput RandomLines::next() {
     line.Quantity = quantity();
     line.Focus = key();
     // An emptied price in focus changes nothing, so few of them are enough.
-    if (isPriceKey(line.Focus) && priceText(line, line.Focus).empty() && chance(80))
+    if (isPriceKey(line.Focus) && priceText(line, line.Focus).empty() && chance(80)) {
         line.Focus = "MNOZSTVI";
-    for (std::uint64_t marks = below(5); marks > 0; --marks)
+    }
+    for (std::uint64_t marks = below(5); marks > 0; --marks) {
         line.Changed += key() + ";";
+    }
     line.Recalculate = !chance(5);
     return line;
 }

@@ -23,8 +23,9 @@ constexpr int c_DefaultSeed = 20270201;
 
 /// The argument at `index` as a positive number, `fallback` when it is not there, nothing when it is no such number.
 std::optional<int> numberArgument(std::span<char*> arguments, std::size_t index, int fallback) {
-    if (index >= arguments.size())
+    if (index >= arguments.size()) {
         return fallback;
+    }
     const auto number = TextToInt(arguments[index]);
     return number && *number > 0 ? std::optional<int>(*number) : std::nullopt;
 }
@@ -33,14 +34,16 @@ int sweep(int lines, int seed) {
     const auto embedded = refhost::newDatabase(refhost::Engine::SQLite);
     const auto server = refhost::newDatabase(refhost::Engine::PostgreSQL);
     const std::array<refhost::Database*, 2> databases{embedded.get(), server.get()};
-    for (refhost::Database* database : databases)
+    for (refhost::Database* database : databases) {
         refhost::addRecalculationCompany(*database);
+    }
 
     const auto result = refhost::sweepRecalculation(databases, static_cast<std::uint64_t>(seed), lines);
     std::printf("seed %d: %d lines recalculated and saved, %d as sent, %d refused\n", seed, result.Recalculated,
                 result.AsSent, result.Refused);
-    if (result.Difference.empty())
+    if (result.Difference.empty()) {
         return 0;
+    }
     std::printf("%s\n", result.Difference.c_str());
     return 1;
 }

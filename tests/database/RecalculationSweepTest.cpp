@@ -13,8 +13,9 @@ TEST(RecalculationSweep, BothEnginesGiveEqualTextsThatSavingAccepts) {
     const auto embedded = newDatabase(Engine::SQLite);
     const auto server = newDatabase(Engine::PostgreSQL);
     const std::array<Database*, 2> databases{embedded.get(), server.get()};
-    for (Database* database : databases)
+    for (Database* database : databases) {
         addRecalculationCompany(*database);
+    }
 
     const SweepResult result = sweepRecalculation(databases, 20270201, 500);
 

@@ -114,8 +114,9 @@ constexpr Engine c_Engines[] = {Engine::SQLite, Engine::PostgreSQL};
 
 std::vector<RecalculationCase> allCases() {
     std::vector<RecalculationCase> all;
-    for (const auto cases : {focusCases(), truthCases(), discountCases(), amountCases()})
+    for (const auto cases : {focusCases(), truthCases(), discountCases(), amountCases()}) {
         all.insert(all.end(), cases.begin(), cases.end());
+    }
     return all;
 }
 

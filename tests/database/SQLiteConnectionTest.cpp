@@ -14,8 +14,9 @@ TEST(SQLiteConnection, EveryProcedureIsPreparedAndDeclaresItsParametersAndResult
     const auto database = file.createCompany();
     int procedures = 0;
     for (const SqlFile& script : sqliteFiles()) {
-        if (!script.Path.starts_with("procedures/"))
+        if (!script.Path.starts_with("procedures/")) {
             continue;
+        }
         ++procedures;
         EXPECT_NO_THROW(database->Describe(std::string(sqlObjectName(script)))) << script.Path;
     }
@@ -68,12 +69,13 @@ TEST(SQLiteConnection, AnIntegerParameterTakesWhatIsAnInteger) {
         {"null: there is no such note", {}, "ML010"},
         {"NUL", AnsiString("1\0", 2), "ML007"},
     };
-    for (const ParameterCase& c : cases)
+    for (const ParameterCase& c : cases) {
         EXPECT_EQ(refusalCode([&] {
                       database->Execute(procedureCall("MELVARKEDITORDodakCheckMaster", {{"a_DODKID", c.DocumentId}}));
                   }),
                   c.Code)
             << c.Name;
+    }
 }
 
 TEST(SQLiteConnection, ATextIsKeptWholeOrRefused) {
@@ -115,8 +117,9 @@ TEST(SQLiteConnection, AQueryIsOneReadingStatement) {
     for (const char* sql :
          {"delete from DODAK", "select 1; select 2", "", "-- nothing", "pragma foreign_keys = off",
           "attach ':memory:' as OTHER", "create temp table T (X)", "begin", "update STAGING set STATE = 'open'",
-          "pragma journal_mode", "insert into SKLAD (NAZEV) values ('X') returning ID"})
+          "pragma journal_mode", "insert into SKLAD (NAZEV) values ('X') returning ID"}) {
         EXPECT_EQ(refusalCode([&] { database->Query(sql); }), "ML920") << sql;
+    }
     EXPECT_EQ(refusalCode([&] { database->Query(AnsiString("select 1\0", 9)); }), "ML007");
     EXPECT_EQ(rowsText(*database, "with N as (select CISLO from DODAK) select CISLO from N order by CISLO"),
               "DL-1|DL-2");

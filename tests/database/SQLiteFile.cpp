@@ -20,10 +20,12 @@ constexpr const char* c_Company = R"(
 )";
 
 std::string valueText(const TDbValue& value) {
-    if (const auto* number = std::get_if<std::int64_t>(&value))
+    if (const auto* number = std::get_if<std::int64_t>(&value)) {
         return std::to_string(*number);
-    if (const auto* text = std::get_if<AnsiString>(&value))
+    }
+    if (const auto* text = std::get_if<AnsiString>(&value)) {
         return *text;
+    }
     return "-";
 }
 
@@ -31,8 +33,9 @@ std::string valueText(const TDbValue& value) {
 
 SQLiteFile::SQLiteFile() {
     std::string pattern = (std::filesystem::temp_directory_path() / "melvark-file-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr)
+    if (mkdtemp(pattern.data()) == nullptr) {
         throw std::runtime_error("no temporary folder could be made");
+    }
     folder_ = pattern;
     path_ = folder_ / "company.db";
 }
@@ -62,8 +65,9 @@ std::string rowsText(Database& database, const std::string& sql) {
     std::string text;
     for (const std::vector<TDbValue>& row : database.Query(sql).Rows) {
         text += text.empty() ? "" : "|";
-        for (std::size_t i = 0; i < row.size(); ++i)
+        for (std::size_t i = 0; i < row.size(); ++i) {
             text += (i == 0 ? "" : ",") + valueText(row[i]);
+        }
     }
     return text;
 }

@@ -22,8 +22,9 @@ struct Case {
 void expectValues(std::span<const Case> cases) {
     const SQLiteFile file;
     const auto database = file.open();
-    for (const Case& c : cases)
+    for (const Case& c : cases) {
         EXPECT_EQ(value(*database, c.Expression), c.Value) << c.Expression;
+    }
 }
 
 TEST(SQLiteFunctions, NumbersOfPeopleAreRead) {

@@ -86,12 +86,13 @@ TEST(SQLiteSession, TwoConnectionsAppendToOneNoteWithoutLoss) {
     const SQLiteFile file;
     const auto first = file.createCompany();
     const auto second = file.open("dvorak");
-    for (int i = 1; i <= 5; ++i)
+    for (int i = 1; i <= 5; ++i) {
         for (Database* database : {static_cast<Database*>(first.get()), static_cast<Database*>(second.get())}) {
             reset(*database);
             insert(*database, std::to_string(i));
             save(*database, 2);
         }
+    }
     EXPECT_EQ(rowsText(*first, "select count(*), max(PORADI) from DODAKPOL where DODKID = 2"), "10,10");
 }
 

@@ -92,8 +92,9 @@ TEST(SampleSuppliers, SellGroupsThatExist) {
     const sample::Stock stock = sample::makeStock();
     for (const sample::Supplier& supplier : sample::suppliers()) {
         std::size_t sold = 0;
-        for (const sample::StockGroup& group : stock.Groups2)
+        for (const sample::StockGroup& group : stock.Groups2) {
             sold += sample::sells(supplier, group.Name) ? 1U : 0U;
+        }
         EXPECT_EQ(sold, static_cast<std::size_t>(std::ranges::count(supplier.Assortment, '|')) + 1) << supplier.Name;
     }
 }
@@ -130,8 +131,9 @@ TEST(SampleCompany, IsTheSameEveryTimeOnTheSameDay) {
     createSampleCompany(*again, 0, c_SampleToday);
 
     const auto expected = sampleContent(sampleCompany());
-    for (const auto& [table, rows] : sampleContent(*again))
+    for (const auto& [table, rows] : sampleContent(*again)) {
         EXPECT_TRUE(rows == expected.at(table)) << table;
+    }
 }
 
 TEST(SampleCompany, IsTheSameOnBothEngines) {
@@ -141,8 +143,9 @@ TEST(SampleCompany, IsTheSameOnBothEngines) {
     const auto expected = sampleContent(sampleCompany());
     for (const auto& [table, rows] : sampleContent(*server)) {
         ASSERT_EQ(rows.size(), expected.at(table).size()) << table;
-        for (std::size_t row = 0; row < rows.size(); ++row)
+        for (std::size_t row = 0; row < rows.size(); ++row) {
             ASSERT_EQ(rows[row], expected.at(table)[row]) << table;
+        }
     }
 }
 

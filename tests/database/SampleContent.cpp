@@ -39,12 +39,15 @@ bool isDecimalColumn(const std::string& column) {
 }
 
 std::string valueText(const TDbValue& value) {
-    if (const auto* integer = std::get_if<std::int64_t>(&value))
+    if (const auto* integer = std::get_if<std::int64_t>(&value)) {
         return std::to_string(*integer);
-    if (const auto* text = std::get_if<AnsiString>(&value))
+    }
+    if (const auto* text = std::get_if<AnsiString>(&value)) {
         return *text;
-    if (std::holds_alternative<std::monostate>(value))
+    }
+    if (std::holds_alternative<std::monostate>(value)) {
         return "-";
+    }
     throw std::logic_error("a value is neither integer nor text nor null");
 }
 
@@ -52,8 +55,9 @@ std::string rowText(const TResultTable& table, const std::vector<TDbValue>& row)
     std::string text;
     for (std::size_t column = 0; column < row.size(); ++column) {
         std::string value = valueText(row[column]);
-        if (value != "-" && isDecimalColumn(table.Columns[column]))
+        if (value != "-" && isDecimalColumn(table.Columns[column])) {
             value = canonicalDecimal(value);
+        }
         text += (column == 0 ? "" : " | ") + value;
     }
     return text;
@@ -73,8 +77,9 @@ Database& sampleCompany() {
 std::vector<std::string> queryRows(Database& database, const std::string& sql) {
     const TResultTable table = database.Query(sql);
     std::vector<std::string> rows;
-    for (const std::vector<TDbValue>& row : table.Rows)
+    for (const std::vector<TDbValue>& row : table.Rows) {
         rows.push_back(rowText(table, row));
+    }
     return rows;
 }
 
@@ -92,8 +97,9 @@ std::int64_t count(const std::string& what) {
 
 std::map<std::string, std::vector<std::string>> sampleContent(Database& database) {
     std::map<std::string, std::vector<std::string>> content;
-    for (const auto& [table, order] : c_Tables)
+    for (const auto& [table, order] : c_Tables) {
         content[table] = queryRows(database, "select * from " + table + " order by " + order);
+    }
     return content;
 }
 

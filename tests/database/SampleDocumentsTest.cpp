@@ -156,8 +156,9 @@ TEST(SampleDeliveryNotes, AnEmptyOneWaitsForAnOrderOfASupplierWithThreeEarlierNo
 
 const std::vector<std::string> c_PriceKeys = [] {
     std::vector<std::string> keys;
-    for (const PriceRow& row : c_PriceRows)
+    for (const PriceRow& row : c_PriceRows) {
         keys.insert(keys.end(), row.Keys.begin(), row.Keys.end());
+    }
     return keys;
 }();
 
@@ -173,8 +174,9 @@ const TDbValue& cell(const TResultTable& table, const std::vector<TDbValue>& row
 
 /// The parameter of a staged row that takes a price cell: "JEDNCENABSESLEVOU" goes into "a_JEDNCENABSL".
 std::string stagedName(std::string key) {
-    if (key.ends_with("BEZSLEVY"))
+    if (key.ends_with("BEZSLEVY")) {
         return "a_" + key.substr(0, key.size() - 8);
+    }
     return "a_" + key.substr(0, key.size() - 8) + "SL";
 }
 
@@ -184,10 +186,12 @@ TEST(SampleDeliveryNotes, EveryLineWouldBeSavedAsItStands) {
     sampleCompany().Execute({"MELVARKEDITORResetTemp", {}, false});
     for (const std::vector<TDbValue>& row : lines.Rows) {
         TProcedureCall call{"MELVARKEDITORDodakInsertToTemp", {}, false};
-        for (const char* column : {"SKLADPOL", "SKLAD", "MNOZSTVI", "DPH", "SLEVA", "TRVANLIVOST"})
+        for (const char* column : {"SKLADPOL", "SKLAD", "MNOZSTVI", "DPH", "SLEVA", "TRVANLIVOST"}) {
             call.Params.push_back({"a_" + std::string(column), cell(lines, row, column)});
-        for (const std::string& key : c_PriceKeys)
+        }
+        for (const std::string& key : c_PriceKeys) {
             call.Params.push_back({stagedName(key), cell(lines, row, key)});
+        }
         ASSERT_NO_THROW(sampleCompany().Execute(call)) << std::get<std::int64_t>(row.at(0));
     }
     sampleCompany().Execute({"MELVARKEDITORResetTemp", {}, false});
@@ -207,9 +211,10 @@ TEST(SampleDeliveryNotes, PricesAreThoseThatTheEditorWouldReckon) {
                        {"a_JEDNCENABBEZSLEVY", cell(lines, row, "JEDNCENABBEZSLEVY")}};
         const TCallResult result = sampleCompany().Execute(call);
         const TResultTable& reckoned = result.Sets.at(0);
-        for (const std::string& key : c_PriceKeys)
+        for (const std::string& key : c_PriceKeys) {
             EXPECT_EQ(cell(reckoned, reckoned.Rows.at(0), key), cell(lines, row, key))
                 << key << " of line " << std::get<std::int64_t>(row.at(0));
+        }
     }
 }
 

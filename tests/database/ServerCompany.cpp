@@ -10,10 +10,12 @@ namespace refhost {
 namespace {
 
 std::string text(const TDbValue& value) {
-    if (const auto* number = std::get_if<std::int64_t>(&value))
+    if (const auto* number = std::get_if<std::int64_t>(&value)) {
         return std::to_string(*number);
-    if (const auto* words = std::get_if<AnsiString>(&value))
+    }
+    if (const auto* words = std::get_if<AnsiString>(&value)) {
         return *words;
+    }
     return std::holds_alternative<std::monostate>(value) ? "-" : "(another type)";
 }
 
@@ -58,8 +60,9 @@ bool ServerCompany::waitFor(const std::string& query, const std::string& wanted)
     const auto deadline = steady_clock::now() + std::chrono::seconds(30);
     while (steady_clock::now() < deadline) {
         const PostgreSQLResult result = session.execute(query);
-        if (PQntuples(result.get()) > 0 && PQgetvalue(result.get(), 0, 0) == wanted)
+        if (PQntuples(result.get()) > 0 && PQgetvalue(result.get(), 0, 0) == wanted) {
             return true;
+        }
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
     return false;
@@ -73,8 +76,9 @@ std::string rowsOf(Database& database, const std::string& sql) {
     std::string all;
     for (const std::vector<TDbValue>& row : database.Query(sql).Rows) {
         std::string line;
-        for (const TDbValue& value : row)
+        for (const TDbValue& value : row) {
             line += (line.empty() ? "" : ",") + text(value);
+        }
         all += (all.empty() ? "" : "|") + line;
     }
     return all;

@@ -180,11 +180,13 @@ TEST_P(SettingsContract, ANameIsUniqueForAUserAndAKindOfEditor) {
 
 TEST_P(SettingsContract, ANameIsNeitherEmptyNorTooLong) {
     std::string hundred;
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         hundred += "ř";
+    }
     std::string shown;
-    for (int i = 0; i < 60; ++i)
+    for (int i = 0; i < 60; ++i) {
         shown += "ř";
+    }
     EXPECT_EQ(keepNew(novakova(), ""), "ML062 Nastavení nemá název. Zapište jej.");
     EXPECT_EQ(keepNew(novakova(), "  "), "ML062 Nastavení nemá název. Zapište jej.");
     EXPECT_EQ(keepNew(novakova(), hundred + "a"), "ML064 Název „" + shown + "…“ je delší než 100 znaků. Zkraťte jej.");

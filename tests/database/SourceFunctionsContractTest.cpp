@@ -16,8 +16,9 @@ protected:
 
 std::string firstOf(const std::vector<std::string>& differences) {
     std::string text;
-    for (std::size_t i = 0; i < std::min<std::size_t>(differences.size(), 10); ++i)
+    for (std::size_t i = 0; i < std::min<std::size_t>(differences.size(), 10); ++i) {
         text += differences[i] + "\n";
+    }
     return text;
 }
 

@@ -62,8 +62,9 @@ constexpr SourceKind c_SourcesOfOrders[] = {
 };
 
 std::string replaced(std::string text, std::string_view word, const std::string& value) {
-    for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + value.size()))
+    for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + value.size())) {
         text.replace(at, word.size(), value);
+    }
     return text;
 }
 
@@ -77,16 +78,18 @@ std::string conditionFor(const SourceKind& kind, const Document& document) {
 template <typename T>
 std::vector<T> everyNth(const std::vector<T>& all, std::size_t step) {
     std::vector<T> taken;
-    for (std::size_t i = 0; i < all.size(); i += step)
+    for (std::size_t i = 0; i < all.size(); i += step) {
         taken.push_back(all[i]);
+    }
     return taken;
 }
 
 std::vector<Document> documents(Database& database, const std::string& sql, std::size_t step) {
     std::vector<Document> all;
-    for (const auto& row : database.Query(sql).Rows)
+    for (const auto& row : database.Query(sql).Rows) {
         all.push_back({std::get<std::int64_t>(row[0]), std::get<std::int64_t>(row[1]), std::get<std::int64_t>(row[2]),
                        std::get<AnsiString>(row[3])});
+    }
     return everyNth(all, step);
 }
 
@@ -94,8 +97,9 @@ std::vector<Candidate> candidates(Database& database, const SourceKind& kind, co
     std::vector<Candidate> all;
     const std::string sql =
         std::string("select _ID, ") + kind.Label + " from " + kind.List + " where " + condition + " order by _ID";
-    for (const auto& row : database.Query(sql).Rows)
+    for (const auto& row : database.Query(sql).Rows) {
         all.push_back({std::get<std::int64_t>(row[0]), std::get<AnsiString>(row[1])});
+    }
     return all;
 }
 
@@ -106,8 +110,9 @@ public:
     void run(const std::vector<Document>& documents, std::span<const SourceKind> kinds, const char* masterParameter) {
         for (const SourceKind& kind : kinds) {
             const std::vector<Candidate> all = candidates(database_, kind, "1 = 1");
-            for (const Document& document : documents)
+            for (const Document& document : documents) {
                 compare(document, kind, all, masterParameter);
+            }
         }
     }
 
@@ -140,19 +145,21 @@ private:
         try {
             return std::get<std::int64_t>(database_.Execute(check).Sets.at(0).Rows.at(0).at(0));
         } catch (const EDatabaseError& error) {
-            if (!error.Code().starts_with("ML02"))
+            if (!error.Code().starts_with("ML02")) {
                 throw; // no refusal of a source
+            }
             return 0;
         }
     }
 
     void expect(std::int64_t found, std::int64_t wanted, const Document& document, const SourceKind& kind,
                 const Candidate& candidate, const char* way) {
-        if (found != wanted)
+        if (found != wanted) {
             result_.Differences.push_back(std::string(kind.Check) + " for document " + std::to_string(document.Id) +
                                           ": candidate " + std::to_string(candidate.Id) + " (" + candidate.Label +
                                           ") " + way + " gives " + std::to_string(found) + ", its list says " +
                                           std::to_string(wanted));
+        }
     }
 
     Database& database_;

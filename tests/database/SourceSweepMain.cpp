@@ -22,8 +22,9 @@ int main(int count, char** arguments) {
             const SourceSweepResult result = sweepSources(*database, {.Documents = step(1), .Candidates = step(2)});
             std::printf("%s: %zu pairs, %zu differences\n", engineName(engine).c_str(), result.Pairs,
                         result.Differences.size());
-            for (const std::string& difference : result.Differences)
+            for (const std::string& difference : result.Differences) {
                 std::printf("  %s\n", difference.c_str());
+            }
             std::fflush(stdout);
             agree = agree && result.Differences.empty();
         }

@@ -6,8 +6,9 @@ namespace {
 
 Parameters parametersOf(const Cells& cells) {
     Parameters parameters;
-    for (const auto& [name, text] : cells)
+    for (const auto& [name, text] : cells) {
         parameters.push_back({name, text});
+    }
     return parameters;
 }
 

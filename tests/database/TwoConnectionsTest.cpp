@@ -24,13 +24,15 @@ protected:
         std::unique_ptr<Database> connections[] = {openAs(url_, "novakova"), openAs(url_, secondUser)};
         std::latch bothReady(2);
         std::vector<std::future<void>> clerks;
-        for (int clerk = 0; clerk < 2; ++clerk)
+        for (int clerk = 0; clerk < 2; ++clerk) {
             clerks.push_back(std::async(std::launch::async, [&, clerk] {
                 bothReady.arrive_and_wait();
                 work(*connections[clerk], clerk);
             }));
-        for (std::future<void>& clerk : clerks)
+        }
+        for (std::future<void>& clerk : clerks) {
             EXPECT_NO_THROW(clerk.get());
+        }
     }
 
 private:
@@ -43,8 +45,9 @@ void call(Database& database, const std::string& procedure, const Parameters& pa
 
 Parameters noteRow(const std::string& item, const std::string& quantity, const std::string& orderLine = {}) {
     Parameters row = {{"a_SKLADPOL", item}, {"a_MNOZSTVI", quantity}};
-    if (!orderLine.empty())
+    if (!orderLine.empty()) {
         row.push_back({"a_DOBSID", orderLine});
+    }
     return row;
 }
 
@@ -52,9 +55,10 @@ TEST_P(TwoConnections, LinesOfOneNoteAreNeitherLostNorDoubledNorMixed) {
     atOnce([](Database& database, int clerk) {
         for (int round = 0; round < c_Rounds; ++round) {
             call(database, "MELVARKEDITORResetTemp");
-            for (int i = 0; i < 3; ++i)
+            for (int i = 0; i < 3; ++i) {
                 call(database, "MELVARKEDITORDodakInsertToTemp",
                      noteRow("Sirup", std::to_string(1000 * (clerk + 1) + round)));
+            }
             call(database, "MELVARKEDITORDodakTempUloz", {{"a_DODKID", id(c_OpenNote)}});
         }
     });
@@ -112,12 +116,13 @@ TEST_P(TwoConnections, NewOrdersForOtherSuppliersGetNumbersOfTheirOwn) {
     atOnce([](Database& database, int clerk) {
         for (int round = 0; round < c_Rounds; ++round) {
             call(database, "MELVARKEDITORResetTemp");
-            for (const char* supplier : {"Nápoje Švec", "Čajovna Říp"})
+            for (const char* supplier : {"Nápoje Švec", "Čajovna Říp"}) {
                 call(database, "MELVARKEDITORDodObjInsertToTemp",
                      {{"a_SKLADPOL", AnsiString("Chléb")},
                       {"a_DODAVATEL", AnsiString(supplier)},
                       {"a_SKPLID", AnsiString("51")},
                       {"a_MNOZSTVI", AnsiString("1")}});
+            }
             call(database, "MELVARKEDITORDodObjTempUloz", {{"a_DDOBID", id(clerk == 0 ? c_Order : c_OrderOfBranch)}});
         }
     });
@@ -208,10 +213,11 @@ TEST_P(TwoConnections, ASettingIsLoadedOrSavedBeforeItIsDeletedOrRefused) {
         std::string other;
         atOnce(
             [&](Database& connection, int desk) {
-                if (desk == 1)
+                if (desk == 1) {
                     call(connection, "MELVARKEDITORNASTAVENISmaz", {setting});
-                else
+                } else {
                     other = answer(connection, "MELVARKEDITORNASTAVENINacti", {setting});
+                }
             },
             "svoboda");
         EXPECT_TRUE(other == "<a/>" || other.starts_with("ML060")) << other;
@@ -227,8 +233,9 @@ TEST_P(TwoConnections, ANoteIsClosedBeforeASaveOrAfterIt) {
         const int before = std::stoi(rows(*database, count));
         std::string saved;
         atOnce([&saved](Database& connection, int clerk) {
-            if (clerk == 1)
+            if (clerk == 1) {
                 return connection.runScript("update DODAK set OTEVRENO = 0 where ID = 2");
+            }
             call(connection, "MELVARKEDITORResetTemp");
             call(connection, "MELVARKEDITORDodakInsertToTemp", noteRow("Sirup", "1"));
             saved = outcome(connection, "MELVARKEDITORDodakTempUloz", {{"a_DODKID", id(c_OpenNote)}});

@@ -14,8 +14,9 @@ protected:
     /// A value as the engine reads it from a text and writes it for people, or the code of its refusal.
     static std::string readBack(const std::string& writer, const std::string& reader, std::string_view text) {
         std::string literal = "'";
-        for (const char c : text)
+        for (const char c : text) {
             literal += c == '\'' ? "''" : std::string(1, c);
+        }
         const std::string value = rows(sharedCompany(), "select " + writer + "(" + reader + "(" + literal + "'))");
         return value.starts_with("ML") ? value.substr(0, 5) : value;
     }
@@ -28,11 +29,11 @@ bool isBlank(std::string_view text) {
 TEST_P(ValueTextContract, NumbersAreReadAsParametersAre) {
     for (const valuetext::NumberCase& row : valuetext::numberCases) {
         std::string expected = "ML001";
-        if (isBlank(row.text))
+        if (isBlank(row.text)) {
             expected = "-"; // for a cell, nothing is no wrong number but none
-        else if (row.decimal && row.decimal->find('.') > 15 && row.decimal->size() > 15)
+        } else if (row.decimal && row.decimal->find('.') > 15 && row.decimal->size() > 15) {
             expected = "ML005"; // a document's number has no more than 15 digits before the point
-        else if (row.decimal) {
+        } else if (row.decimal) {
             expected = *row.decimal;
             std::ranges::replace(expected, '.', ','); // as Czech people write it
         }
@@ -43,9 +44,9 @@ TEST_P(ValueTextContract, NumbersAreReadAsParametersAre) {
 TEST_P(ValueTextContract, DatesAreReadInTheUsersOrder) {
     for (const valuetext::DateCase& row : valuetext::czechDateCases) {
         std::string expected = "ML002";
-        if (isBlank(row.text))
+        if (isBlank(row.text)) {
             expected = "-";
-        else if (row.date) {
+        } else if (row.date) {
             std::string year = std::to_string(static_cast<int>(row.date->year()));
             year.insert(0, 4 - year.size(), '0');
             expected = std::to_string(static_cast<unsigned>(row.date->day())) + "." +

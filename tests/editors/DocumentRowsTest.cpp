@@ -23,8 +23,9 @@ protected:
     std::vector<AnsiString> rowTexts(int row) const {
         std::vector<AnsiString> texts;
         for (const RColumn& column : defaults_) {
-            if (!cell(row, column.Name).empty())
+            if (!cell(row, column.Name).empty()) {
                 texts.push_back(column.Name + "=" + cell(row, column.Name));
+            }
         }
         return texts;
     }
@@ -52,8 +53,9 @@ TEST_F(DocumentRows, NoResultRowsLeaveExactlyOneEmptyRow) {
 
 TEST_F(DocumentRows, FillingForgetsWhatTheStoreHeldBefore) {
     for (const int rowsBefore : {1, 2, 5}) {
-        for (int row = 0; row < rowsBefore; ++row)
+        for (int row = 0; row < rowsBefore; ++row) {
             putLine(row, {{"DOBSID", "old"}, {"SLEVA", "old"}});
+        }
         fillFrom(dodakLines({}), "DOBSID");
         EXPECT_EQ(store_.GetRowCount(), 1);
         EXPECT_THAT(rowTexts(0), ElementsAre()) << rowsBefore << " rows before";

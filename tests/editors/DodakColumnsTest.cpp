@@ -94,8 +94,9 @@ protected:
     AnsiString boundTo(const RColumn& column) {
         AnsiString list = column.Values == &warehouses_ ? "warehouses" : column.Values == &rates_ ? "rates" : "-";
         called_ = "-";
-        if (column.Callback)
+        if (column.Callback) {
             column.Callback(1, 1, "");
+        }
         return list + " " + called_;
     }
 
@@ -160,8 +161,9 @@ TEST_F(DodakColumns, OfferTheLocalVatColumnsOnlyWhereTheCompanyHasLocalVat) {
     const auto offered = [](const std::vector<RColumn>& columns) {
         std::vector<AnsiString> names;
         for (const RColumn& column : columns) {
-            if (melvark::IsHiddenByUser(column))
+            if (melvark::IsHiddenByUser(column)) {
                 names.push_back(column.Name);
+            }
         }
         return names;
     };
@@ -180,8 +182,9 @@ TEST(EditTypes, AreNumberedFromOneInTheirTable) {
 }
 
 TEST(EditTypes, AreComparedExactly) {
-    for (const char* code : {"dodak", "DODAK ", "", "DODA", "OBJEDNAVKA"})
+    for (const char* code : {"dodak", "DODAK ", "", "DODA", "OBJEDNAVKA"}) {
         EXPECT_EQ(melvark::EditTypeNumber(c_DodakEditType, code), 0) << code;
+    }
 }
 
 } // namespace

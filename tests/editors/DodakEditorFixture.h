@@ -36,8 +36,9 @@ protected:
             use();
             QTimer::singleShot(0, &editor, [&] {
                 wasLeftOpen_ = editor.isVisible() && editor.ModalResult() == 0;
-                if (wasLeftOpen_)
+                if (wasLeftOpen_) {
                     editor.Close();
+                }
             });
         });
         return editor.ShowModal();
@@ -54,9 +55,10 @@ protected:
     /// The texts of the named columns in a grid row as one line.
     static AnsiString row(const TDodakEditBox& editor, int gridRow, const std::vector<AnsiString>& keys) {
         AnsiString line;
-        for (const AnsiString& key : keys)
+        for (const AnsiString& key : keys) {
             line +=
                 (&key == &keys.front() ? "" : " | ") + editor.StringGrid->Cells(editor.GetColumnByName(key), gridRow);
+        }
         return line;
     }
 
@@ -70,8 +72,9 @@ protected:
 
     /// Where the open in-place editor stands.
     static AnsiString openAt(const TDodakEditBox& editor) {
-        if (!editor.ActiveEditor())
+        if (!editor.ActiveEditor()) {
             return "closed";
+        }
         return editor.GetVisibleColumn(editor.EditCol()).Name + " in row " + std::to_string(editor.EditRow());
     }
 

@@ -62,9 +62,10 @@ TEST_F(DodakOpening, LocalVatIsOnForOneAlone) {
     for (const auto& [flag, expected] :
          std::initializer_list<std::pair<const char*, bool>>{{"1", true}, {"0", false}, {"", false}, {"2", false}}) {
         scriptInit(host_.connection, flag);
-        if (AnsiString(flag).empty())
+        if (AnsiString(flag).empty()) {
             host_.connection.procedure("MELVARKEDITORDodakInit")
                 .returns({{{"UZIVATEL", "DPHBLIC"}, {{AnsiString("novak"), std::monostate{}}}}});
+        }
         EXPECT_EQ(melvark::OpenDodak("SABLONA", 7, 40).LocalVat, expected) << "'" << flag << "'";
     }
 }

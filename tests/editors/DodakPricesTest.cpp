@@ -90,8 +90,9 @@ TEST_F(DodakPrices, ChangedCellsStandInTableOrderEachClosed) {
         SCOPED_TRACE(row.remark);
         store_.SetRowCount(1);
         store_.ResetModified();
-        for (const char* key : row.typed)
+        for (const char* key : row.typed) {
             type(0, key, "1");
+        }
         EXPECT_EQ(melvark::ChangedCells(columns(), store_, 0), row.list);
     }
 }
@@ -113,13 +114,15 @@ TEST_F(DodakPrices, ACellIsANumberWithPointOrComma) {
         {"12.5", c_Comma, 12.5}, {"12,5", c_Comma, 12.5},   {"12,5", c_Point, 12.5},     {"12.5", c_Point, 12.5},
         {" 7 ", c_Comma, 7},     {"-0,01", c_Comma, -0.01}, {"", c_Comma, std::nullopt}, {"  ", c_Point, std::nullopt},
     };
-    for (const NumberCase& row : cases)
+    for (const NumberCase& row : cases) {
         EXPECT_EQ(melvark::CellNumber(row.text, row.settings), row.number) << "'" << row.text << "'";
+    }
 }
 
 TEST_F(DodakPrices, AnythingElseIsNoNumber) {
-    for (const char* text : {"abc", "1,2,3", "1.234,5", "1e3", "nan", "12 %", "1 000"})
+    for (const char* text : {"abc", "1,2,3", "1.234,5", "1e3", "nan", "12 %", "1 000"}) {
         EXPECT_THROW(melvark::CellNumber(text, c_Comma), EConvertError) << text;
+    }
 }
 
 TEST_F(DodakPrices, ACellThatIsNoNumberStopsBeforeTheDatabaseIsAsked) {
@@ -164,8 +167,9 @@ TEST_F(DodakPrices, AResultColumnThatIsNoPriceIsNotRead) {
 TEST_F(DodakPrices, CellsComeBackInTableOrder) {
     databaseReturns({{"CENABSESLEVOU", "2"}, {"DPH", "0 %"}, {"JEDNCENABBEZSLEVY", "3"}, {"MNOZSTVI", "1"}});
     std::vector<AnsiString> keys;
-    for (const melvark::RecalculatedCell& written : recalculate())
+    for (const melvark::RecalculatedCell& written : recalculate()) {
         keys.push_back(written.Key);
+    }
     EXPECT_THAT(keys, ElementsAre("JEDNCENABBEZSLEVY", "CENABSESLEVOU", "DPH", "MNOZSTVI"));
 }
 
@@ -205,15 +209,17 @@ TEST(Discount, IsEmptyOrFromZeroToAHundred) {
                                                                        {"100,01", false},
                                                                        {"-0,01", false},
                                                                        {"-5", false},
-                                                                       {"1000", false}})
+                                                                       {"1000", false}}) {
         EXPECT_EQ(melvark::IsDiscount(row.text, c_Comma), row.accepted) << row.text;
+    }
 }
 
 TEST(Discount, ThatIsNoNumberIsAConversionError) {
     RecordingHost host;
     TScopedHost scope(host);
-    for (const char* text : {"pět", "5 %", "1,2,3"})
+    for (const char* text : {"pět", "5 %", "1,2,3"}) {
         EXPECT_THROW(melvark::IsDiscount(text, c_Comma), EConvertError) << text;
+    }
 }
 
 } // namespace

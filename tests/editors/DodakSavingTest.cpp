@@ -19,8 +19,9 @@ protected:
 // which ones travel as number texts.
 TEST_F(DodakSaving, ARowsParametersStandInTheirOrderWithTheirColumns) {
     LineCells line;
-    for (const AnsiString& key : dodakKeys())
+    for (const AnsiString& key : dodakKeys()) {
         line[key] = key + ",";
+    }
     putLine(0, line);
     EXPECT_TRUE(insertRows());
     EXPECT_THAT(host_.connection.calls(),
@@ -45,14 +46,16 @@ TEST_F(DodakSaving, AnEmptyGridIsOneRowOfNulls) {
     EXPECT_EQ(std::count(line.begin(), line.end(), '='), 23);
     EXPECT_EQ(line.find('"'), AnsiString::npos) << line;
     std::size_t nulls = 0;
-    for (std::size_t at = line.find("=null"); at != AnsiString::npos; at = line.find("=null", at + 1))
+    for (std::size_t at = line.find("=null"); at != AnsiString::npos; at = line.find("=null", at + 1)) {
         ++nulls;
+    }
     EXPECT_EQ(nulls, 23u);
 }
 
 TEST_F(DodakSaving, RowsAreSentFromTheFirstToTheLast) {
-    for (int row = 0; row < 3; ++row)
+    for (int row = 0; row < 3; ++row) {
         putLine(row, {{"DOBSID", std::to_string(row)}});
+    }
     EXPECT_TRUE(insertRows());
     EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"0\","), SizeIs(1));
     EXPECT_TRUE(host_.connection.calls()[1].starts_with("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"1\","));
@@ -64,16 +67,18 @@ TEST_F(DodakSaving, TheUsersColumnOrderAndHiddenColumnsDoNotMatter) {
     insertRows();
     const std::vector<AnsiString> plain = host_.connection.takeCalls();
     std::reverse(active_.begin(), active_.end());
-    for (RColumn& column : active_)
+    for (RColumn& column : active_) {
         column.Visible = false;
+    }
     std::erase_if(active_, [](const RColumn& column) { return column.Name == "MNOZSTVI"; });
     insertRows();
     EXPECT_EQ(host_.connection.calls(), plain);
 }
 
 TEST_F(DodakSaving, AReportedFailureStopsAtOnce) {
-    for (int row = 0; row < 3; ++row)
+    for (int row = 0; row < 3; ++row) {
         putLine(row, {{"DOBSID", std::to_string(row)}});
+    }
     host_.connection.procedure("MELVARKEDITORDodakInsertToTemp").failsCall(2);
     EXPECT_FALSE(insertRows());
     EXPECT_THAT(host_.connection.calls(), SizeIs(2));

@@ -21,10 +21,12 @@ protected:
 
     /// Puts the line into the store row, unmarked.
     void putLine(int row, const LineCells& line) {
-        if (store_.GetRowCount() <= row)
+        if (store_.GetRowCount() <= row) {
             store_.SetRowCount(row + 1);
-        for (const auto& [key, text] : line)
+        }
+        for (const auto& [key, text] : line) {
             store_.SetCellWithNoChange(columns().ByKey(key).DataColumn, row, text);
+        }
     }
 
     /// The user's change of a cell: written and marked.

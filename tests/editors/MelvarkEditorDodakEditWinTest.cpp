@@ -105,8 +105,9 @@ TEST_F(DodakEditorOpening, ListColumnsOfferWarehousesAndRates) {
     const auto choices = [&](const char* key) {
         const auto* combo = qobject_cast<QComboBox*>(editor->GetColumnSettings(key).Editor);
         std::vector<AnsiString> texts;
-        for (int index = 0; combo && index < combo->count(); ++index)
+        for (int index = 0; combo && index < combo->count(); ++index) {
             texts.push_back(combo->itemText(index).toStdString());
+        }
         return texts;
     };
     EXPECT_THAT(choices("SKLAD"), ElementsAre("Brno", "Praha"));
@@ -116,8 +117,9 @@ TEST_F(DodakEditorOpening, ListColumnsOfferWarehousesAndRates) {
 TEST_F(DodakEditorOpening, LocalVatColumnsAreHiddenOnesThatTheClerkMayShowOnlyWithLocalVat) {
     const auto hiddenColumns = [](const TDodakEditBox& editor) {
         std::vector<AnsiString> captions;
-        for (const QAction* item : editor.SkryteSloupce->actions())
+        for (const QAction* item : editor.SkryteSloupce->actions()) {
             captions.push_back(item->text().toStdString());
+        }
         return captions;
     };
     const auto without = open();
@@ -404,8 +406,9 @@ class DodakEditorSaving : public DodakEditorFixture {
 protected:
     std::vector<AnsiString> names(const std::vector<AnsiString>& lines) {
         std::vector<AnsiString> found;
-        for (const AnsiString& line : lines)
+        for (const AnsiString& line : lines) {
             found.push_back(line.substr(0, line.find('(')));
+        }
         return found;
     }
 };

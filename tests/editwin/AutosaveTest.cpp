@@ -46,8 +46,9 @@ TEST_F(Autosave, AnErrorOfATickIsShownAndTheEditingGoesOn) {
     open();
     int writes = 0;
     form->SetOnSaveDataToTempFile([&] {
-        if (++writes == 1)
+        if (++writes == 1) {
             throw EInOutError("disk je plný");
+        }
     });
     tick();
     EXPECT_THAT(host.errors(), ElementsAre("disk je plný"));

@@ -17,8 +17,9 @@ protected:
     /// Captions of the submenu's items, in order.
     std::vector<AnsiString> hiddenItems() {
         std::vector<AnsiString> captions;
-        for (const QAction* const item : form->SkryteSloupce->actions())
+        for (const QAction* const item : form->SkryteSloupce->actions()) {
             captions.push_back(item->text().toStdString());
+        }
         return captions;
     }
 
@@ -48,8 +49,9 @@ protected:
 TEST_F(ColumnMenu, ItsItemsStandInOrder) {
     make();
     std::vector<AnsiString> captions;
-    for (const QAction* const item : form->ColumnsPopupMenu->actions())
+    for (const QAction* const item : form->ColumnsPopupMenu->actions()) {
         captions.push_back(item->isSeparator() ? "-" : item->text().toStdString());
+    }
     EXPECT_THAT(captions, ElementsAre("Nadpis a vlastnosti sloupce", "Skrýt sloupec", "-", "Editovatelný - automaticky",
                                       "Editovatelný - výběrem", "Needitovatelný", "-", "Skryté sloupce"));
 }
@@ -180,8 +182,9 @@ TEST_F(ColumnMenu, TheSubmenuIsDisabledWhileNothingIsHidden) {
 
 TEST_F(ColumnMenu, HidingEveryColumnLeavesTheIndicatorAlone) {
     open();
-    for (int count = grid().ColCount() - 1; count > 0; --count)
+    for (int count = grid().ColCount() - 1; count > 0; --count) {
         hide(1);
+    }
     ASSERT_EQ(grid().ColCount(), 1);
     EXPECT_EQ(grid().FixedCols(), 0);
     EXPECT_EQ(openCellText(), "none");

@@ -53,8 +53,9 @@ protected:
     }
 
     void typeText(const char* letters) {
-        for (; *letters; ++letters)
+        for (; *letters; ++letters) {
             QTest::keyClick(form->windowHandle(), *letters);
+        }
     }
 
     bool becomesOpen(const AnsiString& cell) {
@@ -162,8 +163,9 @@ TEST_F(EditBoxOnDisplay, TheDropDownOfAListIsNotLeavingTheCell) {
     settle();
     EXPECT_EQ(openCellText(), "5,1");
     EXPECT_THAT(log.lines, IsEmpty());
-    for (const Qt::Key each : {Qt::Key_Down, Qt::Key_Return})
+    for (const Qt::Key each : {Qt::Key_Down, Qt::Key_Return}) {
         QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), each);
+    }
     ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
     settle();
     EXPECT_EQ(openCellText(), "5,1") << "choosing does not leave the cell yet";
@@ -224,11 +226,12 @@ TEST_F(EditBoxOnDisplay, ARefusedValueIsReportedWhenTheMenuIsClosedOrItsItemPick
         settle();
         const std::size_t before = manager.boxes().size();
         EXPECT_EQ(before, picks ? 0U : 1U) << "no box over an open menu";
-        if (picks)
+        if (picks) {
             QTest::mouseClick(form->ColumnsPopupMenu, Qt::LeftButton, {},
                               form->ColumnsPopupMenu->actionGeometry(form->SkrytSloupec).center());
-        else
+        } else {
             QTest::keyClick(form->ColumnsPopupMenu, Qt::Key_Escape);
+        }
         settle();
         EXPECT_EQ(manager.boxes().size(), before + 1);
         EXPECT_EQ(QApplication::focusWidget(), &sharedEdit());

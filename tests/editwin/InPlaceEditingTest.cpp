@@ -316,8 +316,9 @@ TEST_F(InPlaceEditing, TabbingFromTheButtonsIntoTheGridOpensItsCurrentCell) {
     for (int step = 0; step < 8 && form->focusWidget() != &grid(); ++step) {
         key(Qt::Key_Tab);
         settle();
-        if (openCellText() != "none")
+        if (openCellText() != "none") {
             break;
+        }
     }
     EXPECT_EQ(openCellText(), "2,2");
 }

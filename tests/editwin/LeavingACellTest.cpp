@@ -62,23 +62,26 @@ protected:
     int dataCol() const { return isList() ? 4 : 7; }
     AnsiString before() const { return isList() ? "Hlavní" : "5"; }
     AnsiString typed() const {
-        if (isList())
+        if (isList()) {
             return "Vedlejší";
+        }
         return outcome() == Outcome::RefusedByCheck ? "abc" : "42";
     }
 
     void openAndChange() {
         log.answer = [this] {
-            if (outcome() == Outcome::CallbackThrows)
+            if (outcome() == Outcome::CallbackThrows) {
                 throw EDatabaseError("spojení ztraceno");
+            }
             return outcome() != Outcome::CallbackFalse;
         };
         open();
         openCell(col(), 1);
-        if (isList())
+        if (isList()) {
             key(Qt::Key_Down);
-        else
+        } else {
             type(QString::fromStdString(typed()));
+        }
     }
 
     void leave() {
@@ -177,10 +180,11 @@ TEST_P(LeavingACell, EndsAsItsOutcomeSays) {
     openAndChange();
     leave();
     if (asksForCommit(way())) {
-        if (outcome() == Outcome::Accepted)
+        if (outcome() == Outcome::Accepted) {
             expectAccepted();
-        else
+        } else {
             expectRefused();
+        }
         return;
     }
     expectNothingCommitted();
@@ -202,8 +206,9 @@ std::vector<std::tuple<Way, Editor, Outcome>> allLeavings() {
             for (const Outcome outcome :
                  {Outcome::Accepted, Outcome::RefusedByCheck, Outcome::CallbackFalse, Outcome::CallbackThrows}) {
                 // The values of a list are not checked.
-                if (editor != Editor::List || outcome != Outcome::RefusedByCheck)
+                if (editor != Editor::List || outcome != Outcome::RefusedByCheck) {
                     all.emplace_back(static_cast<Way>(way), editor, outcome);
+                }
             }
         }
     }

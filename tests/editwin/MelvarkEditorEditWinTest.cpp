@@ -101,8 +101,9 @@ TEST_F(EditBox, EveryControlIsFoundByItsName) {
     make();
     for (const char* const name :
          {"MainPanel", "TopPanel", "gbPraceScenami", "chbPrepocetCen", "lblWarning", "StringGrid", "ButtonPanel",
-          "OkBtn", "OKDalsiBtn", "CancelBtn", "MenuBtn", "ColumnsPopupMenu", "SettingsPopupMenu", "SkryteSloupce"})
+          "OkBtn", "OKDalsiBtn", "CancelBtn", "MenuBtn", "ColumnsPopupMenu", "SettingsPopupMenu", "SkryteSloupce"}) {
         EXPECT_NE(form->findChild<QWidget*>(QString::fromLatin1(name)), nullptr) << name;
+    }
 }
 
 TEST_F(EditBox, TheUsersLanguageReplacesItsTexts) {
@@ -268,8 +269,9 @@ TEST_F(EditBox, LooksColumnsUpByPlaceNameAndData) {
 
 TEST_F(EditBox, OnlyColumnsWithAValueListHaveAnEditorOfTheirOwn) {
     make();
-    for (const RColumn& column : form->DefaultColumns())
+    for (const RColumn& column : form->DefaultColumns()) {
         EXPECT_EQ(column.Editor != nullptr, column.Name == "SKLAD") << column.Name;
+    }
     EXPECT_EQ(combo().count(), 3);
     EXPECT_EQ(combo().itemText(2), u"Výdejna"_qs);
     EXPECT_TRUE(combo().isHidden());

@@ -25,8 +25,9 @@ protected:
     /// Captions of the menu's items, the checked one in brackets.
     std::vector<AnsiString> items() {
         std::vector<AnsiString> texts;
-        for (const QAction* const item : form->SettingsPopupMenu->actions())
+        for (const QAction* const item : form->SettingsPopupMenu->actions()) {
             texts.push_back(item->isChecked() ? "(" + item->text().toStdString() + ")" : item->text().toStdString());
+        }
         return texts;
     }
 };

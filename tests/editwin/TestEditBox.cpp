@@ -90,8 +90,9 @@ TestEditBox::TestEditBox(TLibraryManager* manager, const std::vector<RColumn>& c
     DataGrid().SetRowCount(static_cast<int>(lines().size()));
     for (int row = 0; row < DataGrid().GetRowCount(); ++row) {
         for (const auto& [name, text] : lines()[static_cast<std::size_t>(row)]) {
-            if (IsValidColumnName(name))
+            if (IsValidColumnName(name)) {
                 DataGrid().SetCells(GetColumnSettings(name).DataColumn, row, text);
+            }
         }
     }
     DataGrid().ResetModified();
@@ -170,8 +171,9 @@ void EditBoxTest::openColumnMenu(int col) {
 void EditBoxTest::pick(QAction* item) {
     ASSERT_TRUE(item->isEnabled()) << "the item is disabled";
     item->trigger();
-    if (QWidget* const popup = form->ColumnsPopupMenu; popup->isVisible())
+    if (QWidget* const popup = form->ColumnsPopupMenu; popup->isVisible()) {
         popup->close();
+    }
     settle();
 }
 
@@ -183,8 +185,9 @@ void EditBoxTest::settle() {
 }
 
 AnsiString EditBoxTest::openCellText() {
-    if (!form->ActiveEditor())
+    if (!form->ActiveEditor()) {
         return "none";
+    }
     return std::to_string(form->EditCol()) + "," + std::to_string(form->EditRow());
 }
 
@@ -194,8 +197,9 @@ AnsiString EditBoxTest::stored(int dataCol, int row) {
 
 AnsiString EditBoxTest::rowText(int row) {
     AnsiString text;
-    for (int col = 1; col < grid().ColCount(); ++col)
+    for (int col = 1; col < grid().ColCount(); ++col) {
         text += (col > 1 ? "|" : "") + grid().Cells(col, row);
+    }
     return text;
 }
 

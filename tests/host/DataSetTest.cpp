@@ -98,8 +98,9 @@ class OneColumn : public TDataSet {
 public:
     bool IsEmpty() const override { return false; }
     std::optional<TField> FindField(std::string_view name) const override {
-        if (!SameDbName(name, "_ID"))
+        if (!SameDbName(name, "_ID")) {
             return std::nullopt;
+        }
         return TField("_ID", std::int64_t{42}, TFormatSettings::Czech());
     }
 };

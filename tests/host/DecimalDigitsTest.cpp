@@ -33,8 +33,9 @@ TEST(DecimalDigits, AreTheShortestOfTheValue) {
         {123456789.125, "123456789|125", ""},
         {5e-324, "0|" + AnsiString(323, '0') + "5", "the smallest double"},
     };
-    for (const DigitsCase& c : cases)
+    for (const DigitsCase& c : cases) {
         EXPECT_EQ(plain(melvark::ToDecimalDigits(c.value)), c.digits) << c.remark;
+    }
 }
 
 TEST(DecimalDigits, TakeIntegersExactly) {

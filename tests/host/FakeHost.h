@@ -14,22 +14,25 @@ public:
     TProcedureInfo Describe(const AnsiString& procedure) override {
         ++describeCount;
         const auto found = procedures.find(procedure);
-        if (found == procedures.end())
+        if (found == procedures.end()) {
             throw EDatabaseError("Procedura " + procedure + " neexistuje.");
+        }
         return found->second;
     }
 
     TCallResult Execute(const TProcedureCall& call) override {
         calls.push_back(call);
-        if (fails)
+        if (fails) {
             throw EDatabaseError("Doklad je uzavřen.", "MV001");
+        }
         return answer;
     }
 
     TResultTable Query(const AnsiString& sql) override {
         queries.push_back(sql);
-        if (fails)
+        if (fails) {
             throw EDatabaseError("Spojení je přerušeno.");
+        }
         return queryAnswer;
     }
 

@@ -24,8 +24,9 @@ struct FormatCase {
 };
 
 void expectCases(const std::vector<FormatCase>& cases, const TFormatSettings& settings = TFormatSettings::Czech()) {
-    for (const FormatCase& c : cases)
+    for (const FormatCase& c : cases) {
         EXPECT_EQ(Format(c.format, c.arguments, settings), c.text) << c.format << ' ' << c.remark;
+    }
 }
 
 TEST(Format, WritesTexts) {

@@ -71,8 +71,9 @@ TEST(GetWord, GivesTheFieldAtTheIndex) {
         {"a,", 1, "", "an empty last field"},
         {" a , b ", 1, " b ", "blanks belong to the field"},
     };
-    for (const WordCase& c : cases)
+    for (const WordCase& c : cases) {
         EXPECT_EQ(GetWord(c.text, c.index, ','), c.word) << '"' << c.text << "\" " << c.index << ' ' << c.remark;
+    }
 }
 
 TEST(GetWord, PartsByTheSeparatorGiven) {

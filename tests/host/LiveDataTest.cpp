@@ -116,8 +116,9 @@ TEST_F(LiveStoredProcTest, AsksTheDatabaseForItsDescriptionOnce) {
 TEST_F(LiveStoredProcTest, ParameterReferencesStayValid) {
     TLiveStoredProc proc("Uloz");
     TLiveParam& id = proc.ParamByName("a_ID");
-    for (const char* name : {"a_NAZEV", "a_CENA", "a_SDILENE", "a_OBNOVDATA"})
+    for (const char* name : {"a_NAZEV", "a_CENA", "a_SDILENE", "a_OBNOVDATA"}) {
         proc.ParamByName(name);
+    }
     EXPECT_EQ(&proc.ParamByName("a_id"), &id);
 }
 
@@ -259,8 +260,9 @@ TEST(LiveQuery, ReadsTheRowsOfItsText) {
 
     EXPECT_EQ(host.connection.queries, std::vector<AnsiString>{"select NAZEV from SKLAD_V order by NAZEV"});
     AnsiString all;
-    for (; !query.Eof(); query.Next())
+    for (; !query.Eof(); query.Next()) {
         all += query.FieldByName("nazev").AsString() + ";";
+    }
     EXPECT_EQ(all, "Brno;Praha;");
 }
 

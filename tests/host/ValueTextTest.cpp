@@ -32,13 +32,15 @@ TEST(TrimText, DoesNotCutCharactersThatEndLikeANoBreakSpace) {
 }
 
 TEST(TextToFloat, FollowsTheTableWithAComma) {
-    for (const auto& c : valuetext::numberCases)
+    for (const auto& c : valuetext::numberCases) {
         EXPECT_EQ(TextToFloat(c.text, TFormatSettings::Czech()), c.czech) << '"' << c.text << "\" " << c.remark;
+    }
 }
 
 TEST(TextToFloat, FollowsTheTableWithAPoint) {
-    for (const auto& c : valuetext::numberCases)
+    for (const auto& c : valuetext::numberCases) {
         EXPECT_EQ(TextToFloat(c.text, TFormatSettings::English()), c.english) << '"' << c.text << "\" " << c.remark;
+    }
 }
 
 TEST(TextToFloat, RefusesWhatADoubleCannotHold) {
@@ -63,8 +65,9 @@ TEST(TextToDecimalText, FollowsTheTable) {
 }
 
 TEST(TextToInt, FollowsTheTable) {
-    for (const auto& c : valuetext::integerCases)
+    for (const auto& c : valuetext::integerCases) {
         EXPECT_EQ(TextToInt(c.text), c.value) << '"' << c.text << "\" " << c.remark;
+    }
 }
 
 TEST(TextToDate, FollowsTheTableInCzech) {
@@ -129,8 +132,9 @@ TEST(TextToDateTime, ReadsStoredMoments) {
         {"12:00", std::nullopt, "no date"},
         {"", std::nullopt, ""},
     };
-    for (const MomentCase& c : cases)
+    for (const MomentCase& c : cases) {
         EXPECT_EQ(TextToDateTime(c.text, TFormatSettings::Czech()), c.value) << '"' << c.text << "\" " << c.remark;
+    }
 }
 
 TEST(FloatToText, WritesTheShortestTextWithTheLocalesSeparator) {

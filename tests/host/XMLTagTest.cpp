@@ -11,13 +11,16 @@ const AnsiString declaration = R"(<?xml version="1.0" encoding="UTF-8"?>)";
 
 /// A tree as one text: "settings(columns(name=MNOZSTVI,width=60))".
 AnsiString shown(const TXMLTag* tag) {
-    if (tag == nullptr)
+    if (tag == nullptr) {
         return "(null)";
+    }
     AnsiString all = tag->GetName();
-    if (!tag->GetValue().empty())
+    if (!tag->GetValue().empty()) {
         all += "=" + tag->GetValue();
-    for (std::size_t i = 0; i < tag->GetTagsCount(); ++i)
+    }
+    for (std::size_t i = 0; i < tag->GetTagsCount(); ++i) {
         all += (i == 0 ? "(" : ",") + shown(&tag->GetTag(i));
+    }
     return tag->GetTagsCount() == 0 ? all : all + ")";
 }
 
@@ -35,10 +38,12 @@ AnsiString roundTrip(const AnsiString& value) {
 
 AnsiString nested(std::size_t depth) {
     AnsiString document;
-    for (std::size_t i = 0; i < depth; ++i)
+    for (std::size_t i = 0; i < depth; ++i) {
         document += "<a>";
-    for (std::size_t i = 0; i < depth; ++i)
+    }
+    for (std::size_t i = 0; i < depth; ++i) {
         document += "</a>";
+    }
     return document;
 }
 
@@ -64,16 +69,18 @@ TEST(XMLTag, FindsTheFirstChildOfAName) {
 TEST(XMLTag, ChildrenStayWhereTheyAre) {
     TXMLTag root("columns");
     TXMLTag& first = root.CreateTag("column");
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 100; ++i) {
         root.CreateTag("column");
+    }
     EXPECT_EQ(&root.GetTag(0), &first);
 }
 
 TEST(XMLTag, DestroysADeepTreeWithoutRecursion) {
     TXMLTag root("a");
     TXMLTag* tag = &root;
-    for (int i = 0; i < 500'000; ++i)
+    for (int i = 0; i < 500'000; ++i) {
         tag = &tag->CreateTag("a");
+    }
     EXPECT_EQ(root.GetTagsCount(), 1U);
 }
 
@@ -91,8 +98,9 @@ struct DocumentCase {
 };
 
 void expectTrees(const std::vector<DocumentCase>& cases) {
-    for (const DocumentCase& c : cases)
+    for (const DocumentCase& c : cases) {
         EXPECT_EQ(parsed(c.document), c.tree) << c.remark;
+    }
 }
 
 TEST(ParseXML, ReadsWhatADocumentMayHoldBesides) {
@@ -195,8 +203,9 @@ TEST(ParseXML, LimitsTheDepth) {
 
 TEST(ParseXML, DepthIsNotTheNumberOfSiblings) {
     AnsiString document = "<a>";
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 1000; ++i) {
         document += "<b/>";
+    }
     const auto root = ParseXML(document + "</a>");
     ASSERT_NE(root, nullptr);
     EXPECT_EQ(root->GetTagsCount(), 1000U);
@@ -253,8 +262,9 @@ TEST(OutputXMLStr, ReadsBackEveryTextThatXmlCanHold) {
         "&#13;",
         "%s \\ \"'",
     };
-    for (const AnsiString& text : texts)
+    for (const AnsiString& text : texts) {
         EXPECT_EQ(roundTrip(text), text);
+    }
 }
 
 TEST(OutputXMLStr, DropsEveryControlCharacterThatXmlCannotHold) {
@@ -281,16 +291,18 @@ TEST(OutputXMLStr, DropsWhatIsNoCharacter) {
         "x\xF4\x90\x80\x80y", // beyond the last plane
         "x\xFE\xFFy",         // never in UTF-8
     };
-    for (const AnsiString& text : texts)
+    for (const AnsiString& text : texts) {
         EXPECT_EQ(roundTrip(text), "xy") << testing::PrintToString(text);
+    }
 }
 
 TEST(OutputXMLStr, IsWellFormedForAnyBytes) {
     std::mt19937 random(20270201);
     for (int i = 0; i < 2000; ++i) {
         AnsiString bytes(random() % 24, ' ');
-        for (char& byte : bytes)
+        for (char& byte : bytes) {
             byte = static_cast<char>(random() % 256);
+        }
         const AnsiString once = roundTrip(bytes);
         ASSERT_NE(once, "(not well-formed)") << testing::PrintToString(bytes);
         ASSERT_EQ(roundTrip(once), once) << "what was kept is kept again: " << testing::PrintToString(bytes);
@@ -327,8 +339,9 @@ TEST(OutputXMLStr, WritesADeepTreeWithoutRecursion) {
     constexpr std::size_t depth = 300'000;
     TXMLTag root("a");
     TXMLTag* tag = &root;
-    for (std::size_t i = 1; i < depth; ++i)
+    for (std::size_t i = 1; i < depth; ++i) {
         tag = &tag->CreateTag("a");
+    }
     EXPECT_EQ(OutputXMLStr(root).size(), declaration.size() + (depth - 1) * 7 + 4) << "<a></a> each, <a/> the last";
 }
 

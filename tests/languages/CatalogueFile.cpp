@@ -16,8 +16,9 @@ CatalogueEntry readEntry(QXmlStreamReader& xml) {
                                   : xml.name() == u"translation" ? &entry.translation
                                                                  : nullptr;
         const std::string read = xml.readElementText().toStdString();
-        if (text)
+        if (text) {
             *text = read;
+        }
     }
     return entry;
 }
@@ -30,8 +31,9 @@ std::vector<CatalogueEntry> readCatalogue(const QString& name) {
     QXmlStreamReader xml(&file);
     std::vector<CatalogueEntry> entries;
     while (!xml.atEnd()) {
-        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"message")
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"message") {
             entries.push_back(readEntry(xml));
+        }
     }
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
     return entries;

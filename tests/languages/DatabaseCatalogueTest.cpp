@@ -23,8 +23,9 @@ std::set<std::string> codesOfTheDatabase() {
     std::set<std::string> codes;
     for (const auto& file : std::filesystem::recursive_directory_iterator(MELVARK_SOURCES "/refhost/database")) {
         const std::string extension = file.path().extension().string();
-        if (extension != ".sql" && extension != ".cpp")
+        if (extension != ".sql" && extension != ".cpp") {
             continue;
+        }
         std::ostringstream text;
         text << std::ifstream(file.path()).rdbuf();
         const std::string source = text.str();
@@ -52,8 +53,9 @@ TEST(DatabaseCatalogue, NamesInEachSentenceTheThingsThatTheCzechOneNames) {
 TEST(DatabaseCatalogue, FormsOfOneCodeBearTheirCzechPatternInTheId) {
     for (const CatalogueEntry& entry : readCatalogue(u"database_en"_qs)) {
         const std::size_t bar = entry.id.find('|');
-        if (bar == std::string::npos)
+        if (bar == std::string::npos) {
             continue;
+        }
         EXPECT_EQ(entry.id.substr(bar + 1), entry.source);
         EXPECT_EQ(refhost::takeThingsOut(entry.source).pattern, entry.source) << "the pattern is not in its final form";
     }

@@ -25,8 +25,9 @@ std::string read(const std::filesystem::path& file) {
 std::string joinLiteral(const std::string& literal) {
     std::string joined;
     static const std::regex piece(R"re("((?:[^"\\]|\\.)*)")re");
-    for (std::sregex_iterator match(literal.begin(), literal.end(), piece), end; match != end; ++match)
+    for (std::sregex_iterator match(literal.begin(), literal.end(), piece), end; match != end; ++match) {
         joined += std::regex_replace((*match)[1].str(), std::regex(R"(\\(.))"), "$1");
+    }
     return joined;
 }
 
@@ -36,11 +37,13 @@ std::vector<FoundText> hostTexts() {
     std::vector<FoundText> found;
     for (const auto& file : std::filesystem::recursive_directory_iterator(MELVARK_SOURCES "/refhost")) {
         const std::string extension = file.path().extension().string();
-        if (extension != ".h" && extension != ".cpp")
+        if (extension != ".h" && extension != ".cpp") {
             continue;
+        }
         const std::string text = read(file.path());
-        for (std::sregex_iterator match(text.begin(), text.end(), entry), end; match != end; ++match)
+        for (std::sregex_iterator match(text.begin(), text.end(), entry), end; match != end; ++match) {
             found.push_back({joinLiteral((*match)[1].str()), joinLiteral((*match)[2].str())});
+        }
     }
     return found;
 }

@@ -156,11 +156,13 @@ std::set<std::string> literalKeys() {
     std::set<std::string> keys;
     for (const char* name : {"host/widgets", "editwin", "editors", "select", "dialogs", "main"}) {
         const std::filesystem::path folder = std::string(MELVARK_SOURCES "/") + name;
-        if (!std::filesystem::exists(folder)) // a folder that has nothing yet
+        if (!std::filesystem::exists(folder)) { // a folder that has nothing yet
             continue;
+        }
         for (const auto& file : std::filesystem::recursive_directory_iterator(folder)) {
-            if (file.path().extension() == ".cpp")
+            if (file.path().extension() == ".cpp") {
                 collectLiteralKeys(read(file.path()), keys);
+            }
         }
     }
     return keys;

@@ -15,7 +15,8 @@ void TranslatingLibraryManager::LocalizeForm(TLocalizableForm& form, const AnsiS
     form.VisitTexts([&](const TLocalizableForm::TText& text) {
         const std::string key = section + "\\" + text.Control + "\\" + text.Property;
         host_.note(key, text.Text);
-        if (const auto translation = host_.languages().translation(key, text.Text))
+        if (const auto translation = host_.languages().translation(key, text.Text)) {
             text.Replace(*translation);
+        }
     });
 }

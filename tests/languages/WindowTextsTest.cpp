@@ -114,10 +114,12 @@ void WindowTexts::forEachWindow(const std::function<void(const std::string& name
 
 /// The caption that gives a widget its letter; empty for a widget whose caption gives none.
 QString captionOf(const QWidget& widget) {
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget))
+    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
         return button->text();
-    if (const auto* box = qobject_cast<const QGroupBox*>(&widget))
+    }
+    if (const auto* box = qobject_cast<const QGroupBox*>(&widget)) {
         return box->title();
+    }
     const auto* label = qobject_cast<const QLabel*>(&widget);
     return label && label->buddy() ? label->text() : QString();
 }
@@ -133,18 +135,21 @@ TEST_P(WindowTexts, EachLetterBelongsToOneControlOfItsWindow) {
         std::map<QString, QString> taken;
         const auto take = [&](const QString& caption) {
             const QString letter = letterOf(caption);
-            if (letter.isEmpty())
+            if (letter.isEmpty()) {
                 return;
+            }
             const auto [other, isFree] = taken.emplace(letter, caption);
             EXPECT_TRUE(isFree) << caption.toStdString() << " against " << other->second.toStdString();
         };
         for (const QWidget* widget : window.findChildren<QWidget*>()) {
-            if (widget->isVisible())
+            if (widget->isVisible()) {
                 take(captionOf(*widget));
+            }
         }
         for (const QMenuBar* bar : window.findChildren<QMenuBar*>()) {
-            for (const QAction* menu : bar->actions())
+            for (const QAction* menu : bar->actions()) {
                 take(menu->text());
+            }
         }
         EXPECT_THAT(taken.size(), testing::Ge(name.find("message box 16") == std::string::npos ? 2u : 0u));
     });
@@ -152,8 +157,9 @@ TEST_P(WindowTexts, EachLetterBelongsToOneControlOfItsWindow) {
 
 TEST_P(WindowTexts, TheEditorLeavesTheLettersOfItsCellsAlone) {
     forEachWindow([](const std::string& name, QWidget& window) {
-        if (name != "editor")
+        if (name != "editor") {
             return;
+        }
         // In a cell Alt+C switches the recalculation off and Alt+P on: only the box of the recalculation may bear them.
         for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
             const QString letter = letterOf(button->text());
@@ -178,8 +184,9 @@ TEST_P(WindowTexts, EveryControlHasAnAccessibleName) {
         SCOPED_TRACE(name);
         EXPECT_FALSE(window.windowTitle().isEmpty());
         for (QWidget* widget : window.findChildren<QWidget*>()) {
-            if (!isControl(*widget))
+            if (!isControl(*widget)) {
                 continue;
+            }
             ++controls;
             QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(widget);
             ASSERT_NE(accessible, nullptr);

@@ -26,8 +26,9 @@ public:
     std::optional<TField> FindField(std::string_view name) const override {
         askedFor.emplace_back(name);
         const auto found = fields.find(name);
-        if (found == fields.end())
+        if (found == fields.end()) {
             return std::nullopt;
+        }
         return TField(found->first, found->second, TFormatSettings::Czech());
     }
 };
@@ -40,8 +41,9 @@ protected:
 
     static std::size_t editorsAlive() {
         std::size_t count = 0;
-        for (const QWidget* window : QApplication::topLevelWidgets())
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
             count += qobject_cast<const TDodakEditBox*>(window) ? 1 : 0;
+        }
         return count;
     }
 

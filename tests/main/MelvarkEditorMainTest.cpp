@@ -114,8 +114,9 @@ TEST_F(LibraryItem, WithoutALibraryManagerTheApplicationsBoxTells) {
 TEST_F(LibraryItem, AnEmptyDatasetIsFalseWithoutAWord) {
     dataSet_.isEmpty = true;
     dataSet_.fields.clear();
-    for (const char* params : {"DODAK", "DODAK,SABLONA", "DODOBJ,SABLONA", "unknown"})
+    for (const char* params : {"DODAK", "DODAK,SABLONA", "DODOBJ,SABLONA", "unknown"}) {
         EXPECT_FALSE(item_.Execute(params, &dataSet_, nullptr)) << params;
+    }
     EXPECT_FALSE(item_.Execute("DODAK,SABLONA", nullptr, nullptr));
     EXPECT_THAT(manager_.messages(), IsEmpty());
     EXPECT_THAT(host_.connection.calls(), IsEmpty());

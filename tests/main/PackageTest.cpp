@@ -54,8 +54,9 @@ TEST_F(Package, RegistersItsClassOnceForEachTimeItIsFreshlyInitialised) {
 }
 
 TEST_F(Package, ShowsNothingButItsEntryPoints) {
-    for (const char* symbol : {"_ZTI14TMelvarkEditor", "_ZTI13TDodakEditBox", "_ZTI8TEditBox", "_ZTI9EBadValue"})
+    for (const char* symbol : {"_ZTI14TMelvarkEditor", "_ZTI13TDodakEditBox", "_ZTI8TEditBox", "_ZTI9EBadValue"}) {
         EXPECT_EQ(library_.resolve(symbol), nullptr) << symbol;
+    }
 }
 
 } // namespace

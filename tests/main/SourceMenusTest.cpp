@@ -108,8 +108,9 @@ TEST_F(SourceMenus, EntriesThatShareAKeyAreToldApartByTheirBuiltInText) {
 }
 
 TEST_F(SourceMenus, ATagBeyondTheTableHasNoCode) {
-    for (const int tag : {-1, 0, 4})
+    for (const int tag : {-1, 0, 4}) {
         EXPECT_EQ(melvark::SourceCode(melvark::c_DodakMenu.Codes, tag), "") << tag;
+    }
     EXPECT_EQ(melvark::SourceCode(melvark::c_DodakMenu.Codes, 1), "DODOBJ");
     EXPECT_EQ(melvark::SourceCode(melvark::c_DodObjVzorMenu.Codes, 3), "SABLONA");
 }

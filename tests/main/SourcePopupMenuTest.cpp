@@ -46,8 +46,9 @@ private:
 
 std::vector<AnsiString> captions(const QMenu& menu) {
     std::vector<AnsiString> texts;
-    for (const QAction* item : menu.actions())
+    for (const QAction* item : menu.actions()) {
         texts.push_back(item->text().toStdString());
+    }
     return texts;
 }
 

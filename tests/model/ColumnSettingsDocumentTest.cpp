@@ -28,8 +28,9 @@ std::vector<RColumn> builtIn() {
 /// A document that names columns and says nothing else of them.
 AnsiString documentNaming(std::initializer_list<const char*> names) {
     AnsiString columns;
-    for (const char* name : names)
+    for (const char* name : names) {
         columns += AnsiString("<column><name>") + name + "</name></column>";
+    }
     return "<settings><columns>" + columns + "</columns></settings>";
 }
 
@@ -114,8 +115,9 @@ TEST(ColumnSettingsDocument, WhatIsWrittenIsReadBack) {
     EXPECT_EQ(read.Recalculation, false);
     EXPECT_EQ(layoutOf(read.Columns), "C A KEY# B");
     EXPECT_EQ(dataColumnsOf(read.Columns), "3 1 0 2");
-    for (std::size_t index = 0; index < shaped.size(); ++index)
+    for (std::size_t index = 0; index < shaped.size(); ++index) {
         EXPECT_EQ(shapeOf(read.Columns[index]), shapeOf(shaped[index]));
+    }
 }
 
 struct OrderRow {

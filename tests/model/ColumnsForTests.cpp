@@ -26,17 +26,19 @@ RColumn keyColumn(AnsiString name, int dataColumn, bool visible) {
 AnsiString layoutOf(std::span<const RColumn> columns) {
     AnsiString layout;
     for (const RColumn& column : columns) {
-        if (column.ColumnType == ctHidden)
+        if (column.ColumnType == ctHidden) {
             layout = withBlankBetween(layout, column.Name + "#");
-        else
+        } else {
             layout = withBlankBetween(layout, column.Visible ? column.Name : "(" + column.Name + ")");
+        }
     }
     return layout;
 }
 
 AnsiString dataColumnsOf(std::span<const RColumn> columns) {
     AnsiString numbers;
-    for (const RColumn& column : columns)
+    for (const RColumn& column : columns) {
         numbers = withBlankBetween(numbers, std::to_string(column.DataColumn));
+    }
     return numbers;
 }

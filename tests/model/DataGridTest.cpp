@@ -12,17 +12,20 @@ TDataGrid filledStore(int cols, int rows) {
     TDataGrid store;
     store.SetColCount(cols);
     store.SetRowCount(rows);
-    for (int col = 0; col < cols; ++col)
-        for (int row = 0; row < rows; ++row)
+    for (int col = 0; col < cols; ++col) {
+        for (int row = 0; row < rows; ++row) {
             store.SetCells(col, row, std::to_string(col) + "." + std::to_string(row));
+        }
+    }
     return store;
 }
 
 /// A row at a glance: its first `cols` texts, parted by "|", "!" behind a marked one.
 AnsiString rowText(const TDataGrid& store, int row, int cols) {
     AnsiString text;
-    for (int col = 0; col < cols; ++col)
+    for (int col = 0; col < cols; ++col) {
         text += (col == 0 ? "" : "|") + store.GetCells(col, row) + (store.GetModified(col, row) ? "!" : "");
+    }
     return text;
 }
 
@@ -128,8 +131,9 @@ TEST(DataGrid, RowCountOfZeroEmptiesEveryRow) {
     store.SetRowCount(0);
 
     EXPECT_EQ(store.GetRowCount(), 1);
-    for (int row = 0; row < 3; ++row)
+    for (int row = 0; row < 3; ++row) {
         EXPECT_EQ(rowText(store, row, 2), "|") << "row " << row;
+    }
 }
 
 TEST(DataGrid, RowCountOfZeroEmptiesAStoreOfOneRowToo) {
@@ -146,8 +150,9 @@ TEST(DataGrid, ShrinkingEmptiesTheLastKeptRowToo) {
 
     EXPECT_EQ(store.GetRowCount(), 5);
     EXPECT_EQ(rowText(store, 0, 2), "0.0!|1.0!");
-    for (int row = 1; row < 5; ++row)
+    for (int row = 1; row < 5; ++row) {
         EXPECT_EQ(rowText(store, row, 2), "|") << "row " << row;
+    }
 }
 
 TEST(DataGrid, ShrinkingEmptiesTheLastKeptColumnToo) {
@@ -246,9 +251,11 @@ TEST(DataGrid, TenThousandRowsOfThirtyColumnsKeepEachValueAtItsPlace) {
     EXPECT_EQ(store.GetCells(0, 0), "0.0");
     EXPECT_EQ(store.GetCells(17, 4'321), "17.4321");
     int marked = 0;
-    for (int col = 0; col < cols; ++col)
-        for (int row = 0; row < rows; ++row)
+    for (int col = 0; col < cols; ++col) {
+        for (int row = 0; row < rows; ++row) {
             marked += store.GetModified(col, row) ? 1 : 0;
+        }
+    }
     EXPECT_EQ(marked, 1);
 }
 

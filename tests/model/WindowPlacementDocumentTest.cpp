@@ -12,11 +12,13 @@ const WindowPlacement current{.Left = 100, .Top = 200, .Width = 790, .Height = 4
 
 /// "left top width height" and " maximized", or "nothing".
 AnsiString placementText(const std::optional<WindowPlacement>& placement) {
-    if (!placement)
+    if (!placement) {
         return "nothing";
+    }
     AnsiString text;
-    for (const int number : {placement->Left, placement->Top, placement->Width, placement->Height})
+    for (const int number : {placement->Left, placement->Top, placement->Width, placement->Height}) {
         text += (text.empty() ? "" : " ") + std::to_string(number);
+    }
     return text + (placement->Maximized ? " maximized" : "");
 }
 

@@ -128,8 +128,9 @@ TEST(CommandLine, KeepsTheValuesOfACallInOrderAndPartsThemAtTheFirstEqualsSign) 
 TEST(CommandLine, UsageNamesEveryCommand) {
     for (const char* option :
          {"--execute", "--document", "--call", "--batch", "--query", "--documents", "--show", "--create-database",
-          "--lines", "--database", "--user", "--locale", "--language", "--trace"})
+          "--lines", "--database", "--user", "--locale", "--language", "--trace"}) {
         EXPECT_THAT(usageText(), HasSubstr(option));
+    }
 }
 
 } // namespace

@@ -24,8 +24,9 @@ protected:
         runDataCommand(parseCommandLine(words), {database_, settings_, languages_, in, out});
         std::vector<std::string> lines;
         std::istringstream printed(out.str());
-        for (std::string line; std::getline(printed, line);)
+        for (std::string line; std::getline(printed, line);) {
             lines.push_back(line);
+        }
         return lines;
     }
 

@@ -19,8 +19,9 @@ namespace {
 class KeptErrors : public ErrorDisplay {
 public:
     void show(const ErrorReport& report) override {
-        if (fails)
+        if (fails) {
             throw std::bad_alloc();
+        }
         sentences.push_back(report.sentence);
     }
 

@@ -13,9 +13,11 @@ class NamedImage : public testing::TestWithParam<const char*> {};
 /// How many pixels are painted at all, in percent.
 int inkedPercent(const QImage& image) {
     int inked = 0;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
             inked += image.pixelColor(x, y).alpha() > 128 ? 1 : 0;
+        }
+    }
     return inked * 100 / (image.width() * image.height());
 }
 

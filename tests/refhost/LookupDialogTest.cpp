@@ -37,8 +37,9 @@ protected:
     std::vector<std::string> numbers() const {
         std::vector<std::string> result;
         const QAbstractItemModel& model = *static_cast<const QTableView&>(table()).model();
-        for (int row = 0; row < model.rowCount(); ++row)
+        for (int row = 0; row < model.rowCount(); ++row) {
             result.push_back(model.index(row, 0).data().toString().toStdString());
+        }
         return result;
     }
 

@@ -40,8 +40,9 @@ protected:
                                      {.Columns = {"_ID", "CISLO"}, .Rows = {{std::int64_t{9}, AnsiString("OB-1")}}});
         host_.connection.answerQuery("select * from SCREEN_DODOBJVZOR_V order by _ID",
                                      {.Columns = {"_ID", "CISLO"}, .Rows = {}});
-        for (const int document : {101, 102, 103})
+        for (const int document : {101, 102, 103}) {
             host_.connection.answerQuery(linesQuery("DODAK", document), linesOf(document));
+        }
         host_.connection.answerQuery(linesQuery("DODOBJ", 9), linesOf(9));
         insertLines_ = [this](const std::string& params, TDataSet& dataSet) {
             executed_.push_back(params + " " + dataSet.FieldByName("_ID").AsString());

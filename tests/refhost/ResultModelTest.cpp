@@ -21,15 +21,17 @@ class ResultModelTest : public testing::Test {
 protected:
     std::vector<std::string> rows(const QAbstractItemModel& model) const {
         std::vector<std::string> result;
-        for (int row = 0; row < model.rowCount(); ++row)
+        for (int row = 0; row < model.rowCount(); ++row) {
             result.push_back(rowText(model, row));
+        }
         return result;
     }
 
     std::string header() const {
         QStringList titles;
-        for (int column = 0; column < model_.columnCount(); ++column)
+        for (int column = 0; column < model_.columnCount(); ++column) {
             titles.append(model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        }
         return titles.join(u" | "_qs).toStdString();
     }
 
@@ -139,8 +141,9 @@ TEST_F(ResultModelTest, TellsTheLongTextsOfAColumnForItsWidth) {
 
 TEST_F(ResultModelTest, FindsTheLongestTextBehindThousandsOfOthers) {
     TResultTable table{.Columns = {"JMENO"}, .Rows = {}};
-    for (int row = 1000; row < 9000; ++row)
+    for (int row = 1000; row < 9000; ++row) {
         table.Rows.push_back({"Dodavatel " + std::to_string(row)});
+    }
     table.Rows.push_back({AnsiString("Dodavatel 10000")});
     model_.setTable(table);
 

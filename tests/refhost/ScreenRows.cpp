@@ -31,7 +31,8 @@ TResultTable linesOf(int document) {
 
 std::string rowText(const QAbstractItemModel& model, int row) {
     QStringList cells;
-    for (int column = 0; column < model.columnCount(); ++column)
+    for (int column = 0; column < model.columnCount(); ++column) {
         cells.append(model.index(row, column).data().toString());
+    }
     return cells.join(QStringLiteral(" | ")).toStdString();
 }

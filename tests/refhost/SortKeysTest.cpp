@@ -13,8 +13,9 @@ using testing::ElementsAre;
 
 TResultTable columnOf(const std::vector<TDbValue>& values) {
     TResultTable table{.Columns = {"A"}, .Rows = {}};
-    for (const TDbValue& value : values)
+    for (const TDbValue& value : values) {
         table.Rows.push_back({value});
+    }
     return table;
 }
 
@@ -27,8 +28,9 @@ std::vector<std::string> sorted(std::vector<std::string> texts, const TFormatSet
     std::stable_sort(order.begin(), order.end(),
                      [&](std::size_t left, std::size_t right) { return keys.isLess(left, right); });
     std::vector<std::string> result;
-    for (const std::size_t row : order)
+    for (const std::size_t row : order) {
         result.push_back(texts[row]);
+    }
     return result;
 }
 

@@ -26,16 +26,18 @@ protected:
     std::vector<std::string> lines() const {
         std::istringstream text(output_->str());
         std::vector<std::string> result;
-        for (std::string line; std::getline(text, line);)
+        for (std::string line; std::getline(text, line);) {
             result.push_back(line);
+        }
         return result;
     }
 
     /// The lines with the durations, which no test can know, replaced by 0.
     std::vector<std::string> linesWithoutTime() const {
         std::vector<std::string> result = lines();
-        for (std::string& line : result)
+        for (std::string& line : result) {
             line = std::regex_replace(line, std::regex("\"ms\":[0-9.e-]+"), "\"ms\":0");
+        }
         return result;
     }
 

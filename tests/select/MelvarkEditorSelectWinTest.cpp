@@ -44,8 +44,9 @@ protected:
             use();
             QTimer::singleShot(0, &box, [&] {
                 leftOpen = box.isVisible() && box.ModalResult() == 0;
-                if (leftOpen)
+                if (leftOpen) {
                     box.Close();
+                }
             });
         });
         return box.ShowModal();

@@ -24,8 +24,9 @@ QString hostProgram() {
 std::vector<std::string> linesOf(const QByteArray& text) {
     std::vector<std::string> lines;
     for (const QByteArray& line : text.split('\n')) {
-        if (!line.isEmpty())
+        if (!line.isEmpty()) {
             lines.push_back(line.toStdString());
+        }
     }
     return lines;
 }
@@ -42,8 +43,9 @@ HostSession::HostSession() {
 }
 
 HostSession::~HostSession() {
-    if (host_.state() != QProcess::NotRunning)
+    if (host_.state() != QProcess::NotRunning) {
         kill();
+    }
 }
 
 QStringList HostSession::withDatabase(const QStringList& arguments) const {
@@ -57,8 +59,9 @@ void HostSession::start(const QStringList& arguments) {
     host_.start(
         hostProgram(),
         withDatabase(QStringList{QStringLiteral("--trace"), folder_.filePath(QStringLiteral("trace"))} + arguments));
-    if (!host_.waitForStarted(c_LimitMs))
+    if (!host_.waitForStarted(c_LimitMs)) {
         fail(QStringLiteral("the host did not start"));
+    }
 }
 
 void HostSession::startEditor(const QString& params, int document) {
@@ -66,8 +69,9 @@ void HostSession::startEditor(const QString& params, int document) {
 }
 
 int HostSession::finish() {
-    if (!host_.waitForFinished(c_LimitMs))
+    if (!host_.waitForFinished(c_LimitMs)) {
         fail(QStringLiteral("the host did not end"));
+    }
     standardError_ = host_.readAllStandardError().toStdString();
     return host_.exitStatus() == QProcess::NormalExit ? host_.exitCode() : -1;
 }
@@ -84,9 +88,10 @@ bool HostSession::isRunning() const {
 void HostSession::runTool(const QStringList& arguments) const {
     QProcess tool;
     tool.start(QStringLiteral("xdotool"), arguments);
-    if (!tool.waitForFinished(c_LimitMs) || tool.exitCode() != 0)
+    if (!tool.waitForFinished(c_LimitMs) || tool.exitCode() != 0) {
         fail(QStringLiteral("xdotool ") + arguments.join(u' ') + QStringLiteral(": ") +
              QString::fromUtf8(tool.readAllStandardError()));
+    }
 }
 
 void HostSession::waitForWindow(const QString& title) {
@@ -98,8 +103,9 @@ void HostSession::waitForWindow(const QString& title) {
         try {
             return runTool(search);
         } catch (const std::runtime_error&) {
-            if (attempt == c_Searches)
+            if (attempt == c_Searches) {
                 throw;
+            }
         }
     }
 }
@@ -124,8 +130,9 @@ qsizetype HostSession::visibleWindows() const {
 void HostSession::openMenu(const QString& key) {
     const qsizetype before = visibleWindows();
     press({key});
-    if (!QTest::qWaitFor([&] { return visibleWindows() > before; }, c_LimitMs))
+    if (!QTest::qWaitFor([&] { return visibleWindows() > before; }, c_LimitMs)) {
         fail(QStringLiteral("no menu opened on ") + key);
+    }
 }
 
 void HostSession::pickFirstRow() {
@@ -138,26 +145,30 @@ void HostSession::waitForTrace(const std::string& text, int count) {
         const auto lines = trace();
         return std::ranges::count_if(lines, [&](const auto& line) { return line.find(text) != line.npos; }) >= count;
     };
-    if (!QTest::qWaitFor(isThere, c_LimitMs))
+    if (!QTest::qWaitFor(isThere, c_LimitMs)) {
         fail(QStringLiteral("the trace never had ") + QString::fromStdString(text));
+    }
 }
 
 std::vector<std::string> HostSession::trace() const {
     QFile file(folder_.filePath(QStringLiteral("trace")));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return {};
+    }
     static const std::regex time(",\"ms\":[0-9.e+-]+");
     std::vector<std::string> lines = linesOf(file.readAll());
-    for (std::string& line : lines)
+    for (std::string& line : lines) {
         line = std::regex_replace(line, time, "");
+    }
     return lines;
 }
 
 std::vector<std::string> HostSession::ask(const QStringList& arguments) const {
     QProcess command;
     command.start(hostProgram(), withDatabase(arguments));
-    if (!command.waitForFinished(c_LimitMs) || command.exitCode() != 0)
+    if (!command.waitForFinished(c_LimitMs) || command.exitCode() != 0) {
         fail(QString::fromUtf8(command.readAllStandardError()));
+    }
     return linesOf(command.readAllStandardOutput());
 }
 

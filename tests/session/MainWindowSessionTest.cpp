@@ -23,8 +23,9 @@ void insertFromTemplate(HostSession& session) {
 std::vector<std::string> checkedNotes(const HostSession& session) {
     std::vector<std::string> calls;
     for (const std::string& line : session.trace()) {
-        if (line.starts_with(R"({"call":"MELVARKEDITORDodakCheckMaster")"))
+        if (line.starts_with(R"({"call":"MELVARKEDITORDodakCheckMaster")")) {
             calls.push_back(line);
+        }
     }
     return calls;
 }

@@ -7,8 +7,9 @@ std::vector<AnsiString> priceParams() {
     for (const char* key : {"JEDNCENABBEZSLEVY", "JEDNDPHABEZSLEVY", "JEDNDPHBBEZSLEVY", "JEDNCENASBEZSLEVY",
                             "JEDNCENABSESLEVOU", "JEDNDPHASESLEVOU", "JEDNDPHBSESLEVOU", "JEDNCENASSESLEVOU",
                             "CENABSESLEVOU", "DPHASESLEVOU", "DPHBSESLEVOU", "CENASSESLEVOU", "CENABBEZSLEVY",
-                            "DPHABEZSLEVY", "DPHBBEZSLEVY", "CENASBEZSLEVY", "DPH", "SLEVA", "MNOZSTVI"})
+                            "DPHABEZSLEVY", "DPHBBEZSLEVY", "CENASBEZSLEVY", "DPH", "SLEVA", "MNOZSTVI"}) {
         names.push_back(AnsiString("a_") + key);
+    }
     return names;
 }
 
@@ -80,8 +81,9 @@ TResultTable dodakLines(const std::vector<LineCells>& lines) {
     std::vector<std::vector<AnsiString>> rows;
     for (const LineCells& line : lines) {
         auto& row = rows.emplace_back();
-        for (const AnsiString& key : dodakKeys())
+        for (const AnsiString& key : dodakKeys()) {
             row.push_back(line.contains(key) ? line.at(key) : "");
+        }
     }
     return resultTable(dodakKeys(), rows);
 }

@@ -22,14 +22,17 @@ void handleMessage(QtMsgType type, const QMessageLogContext&, const QString& mes
     const bool isWarning = type == QtWarningMsg || type == QtCriticalMsg;
     const bool isExpected = std::any_of(expectedParts().cbegin(), expectedParts().cend(),
                                         [&](const QString& part) { return message.contains(part); });
-    if (isPlatformChatter(message))
+    if (isPlatformChatter(message)) {
         return;
-    if (isWarning && !isExpected)
+    }
+    if (isWarning && !isExpected) {
         ADD_FAILURE() << "unexpected warning of Qt: " << message.toStdString();
-    else
+    } else {
         std::fprintf(stderr, "%s\n", qUtf8Printable(message));
-    if (type == QtFatalMsg)
+    }
+    if (type == QtFatalMsg) {
         std::abort();
+    }
 }
 
 } // namespace

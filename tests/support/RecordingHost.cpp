@@ -66,8 +66,9 @@ AnsiString RecordingConnection::folded(std::string_view name) {
 
 ProcedureScript& RecordingConnection::procedure(const AnsiString& name) {
     auto& script = procedures_[folded(name)];
-    if (!script)
+    if (!script) {
         script = std::make_unique<ProcedureScript>();
+    }
     return *script;
 }
 
@@ -96,8 +97,9 @@ std::vector<AnsiString> RecordingConnection::takeCalls() {
 
 ProcedureScript& RecordingConnection::known(const AnsiString& name) {
     const auto found = procedures_.find(folded(name));
-    if (found == procedures_.end())
+    if (found == procedures_.end()) {
         throw EDatabaseError("The database has no procedure " + name);
+    }
     return *found->second;
 }
 
@@ -108,8 +110,9 @@ TProcedureInfo RecordingConnection::Describe(const AnsiString& procedure) {
 TCallResult RecordingConnection::Execute(const TProcedureCall& call) {
     AnsiString line = call.Name + "(";
     for (const TDbParam& parameter : call.Params) {
-        if (&parameter != &call.Params.front())
+        if (&parameter != &call.Params.front()) {
             line += ", ";
+        }
         line += parameter.Name + "=" + shortText(parameter.Value);
     }
     calls_.push_back(line + (call.Open ? ") open" : ")"));
@@ -120,22 +123,26 @@ TCallResult RecordingConnection::Execute(const TProcedureCall& call) {
                            [&](const AnsiString& name) { return SameDbName(name, wanted); });
     };
     for (const TDbParam& parameter : call.Params) {
-        if (!declares(script.info_.Inputs, parameter.Name) && !declares(script.info_.Outputs, parameter.Name))
+        if (!declares(script.info_.Inputs, parameter.Name) && !declares(script.info_.Outputs, parameter.Name)) {
             throw EDatabaseError("The procedure " + call.Name + " has no parameter " + parameter.Name);
+        }
     }
     ++script.calls_;
-    if (const auto found = script.answersByCall_.find(script.calls_); found != script.answersByCall_.end())
+    if (const auto found = script.answersByCall_.find(script.calls_); found != script.answersByCall_.end()) {
         return found->second(call);
+    }
     return script.answer_ ? script.answer_(call) : script.result_;
 }
 
 TResultTable RecordingConnection::Query(const AnsiString& sql) {
     calls_.push_back(sql);
-    if (const auto refused = refusedQueries_.find(sql); refused != refusedQueries_.end())
+    if (const auto refused = refusedQueries_.find(sql); refused != refusedQueries_.end()) {
         throw EDatabaseError(refused->second);
+    }
     const auto found = queries_.find(sql);
-    if (found == queries_.end())
+    if (found == queries_.end()) {
         throw EDatabaseError("The test has no answer for the query: " + sql);
+    }
     return found->second;
 }
 
@@ -147,8 +154,9 @@ RecordingHost::~RecordingHost() = default;
 std::optional<AnsiString> RecordingHost::Translation(std::string_view key, std::string_view builtIn) const {
     const AnsiString plainKey(key);
     auto found = translations.find(plainKey + "|" + AnsiString(builtIn));
-    if (found == translations.end())
+    if (found == translations.end()) {
         found = translations.find(plainKey);
+    }
     return found == translations.end() ? std::nullopt : std::optional(found->second);
 }
 
@@ -177,10 +185,12 @@ RecordingLibraryManager::~RecordingLibraryManager() = default;
 
 int RecordingLibraryManager::MessageBox(const AnsiString& text, int flags) {
     boxes_.push_back(std::to_string(flags) + ": " + text);
-    if (whileBoxIsShown)
+    if (whileBoxIsShown) {
         whileBoxIsShown();
-    if (boxAnswers.empty())
+    }
+    if (boxAnswers.empty()) {
         return flags == c_MessageBoxQuestion ? c_ResultNo : c_ResultOk;
+    }
     const int answer = boxAnswers.front();
     boxAnswers.pop_front();
     return answer;
@@ -194,10 +204,12 @@ std::optional<TLookupPick> RecordingLibraryManager::LookupList(const AnsiString&
                                                                const AnsiString& keyColumn,
                                                                const AnsiString& condition) {
     lookups_.push_back(form + " " + displayColumn + " " + keyColumn + " [" + condition + "]");
-    if (whileLookupIsShown)
+    if (whileLookupIsShown) {
         whileLookupIsShown();
-    if (lookupAnswers.empty())
+    }
+    if (lookupAnswers.empty()) {
         return std::nullopt;
+    }
     auto answer = lookupAnswers.front();
     lookupAnswers.pop_front();
     return answer;
@@ -207,15 +219,17 @@ void RecordingLibraryManager::LocalizeForm(TLocalizableForm& form, const AnsiStr
     localizedSections_.push_back(section);
     form.VisitTexts([&](const TLocalizableForm::TText& text) {
         const auto found = formTexts.find(section + "\\" + text.Control + "\\" + text.Property);
-        if (found != formTexts.end())
+        if (found != formTexts.end()) {
             text.Replace(found->second);
+        }
     });
 }
 
 TResultTable resultTable(std::vector<AnsiString> columns, const std::vector<std::vector<AnsiString>>& rows) {
     TResultTable table{std::move(columns), {}};
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         table.Rows.emplace_back(row.begin(), row.end());
+    }
     return table;
 }
 

@@ -195,8 +195,9 @@ private:
 class DerivedForm : public BaseForm {
 public:
     DerivedForm(bool& destroyed, bool fails) : BaseForm(destroyed) {
-        if (fails)
+        if (fails) {
             throw Exception("Canceled");
+        }
         Constructed();
     }
 };

@@ -101,8 +101,9 @@ TEST_F(FormTextsTest, ReplacesWhatItVisits) {
     auto* button = named<QPushButton>(QStringLiteral("OkBtn"), QStringLiteral("OK"));
     button->setToolTip(QStringLiteral("Uloží"));
     replaceAll("Translated");
-    for (const QString& text : {form.windowTitle(), label->text(), box->title(), button->text(), button->toolTip()})
+    for (const QString& text : {form.windowTitle(), label->text(), box->title(), button->text(), button->toolTip()}) {
         EXPECT_EQ(text, QStringLiteral("Translated"));
+    }
 }
 
 TEST_F(FormTextsTest, AReplacementAfterTheControlWentIsHarmless) {

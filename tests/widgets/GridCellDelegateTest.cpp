@@ -24,8 +24,9 @@ QRect inkOf(const QImage& image, QRgb background) {
     QRect ink;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != background)
+            if (image.pixel(x, y) != background) {
                 ink |= QRect(x, y, 1, 1);
+            }
         }
     }
     return ink;

@@ -23,8 +23,9 @@ public:
         layout.addWidget(&other);
         form.resize(520, 260);
         fill(3, 4);
-        for (int col = 1; col <= 3; ++col)
+        for (int col = 1; col <= 3; ++col) {
             grid.SetColWidths(col, 50 + 50 * col);
+        }
         other.setFocus(); // else the grid, as first in the tab order, would get it on showing
     }
 
@@ -40,8 +41,9 @@ public:
         for (int col = 1; col <= columns; ++col) {
             const std::string letter(1, static_cast<char>('A' + col - 1));
             grid.SetCells(col, 0, letter);
-            for (int row = 1; row <= rows; ++row)
+            for (int row = 1; row <= rows; ++row) {
                 grid.SetCells(col, row, letter + std::to_string(row));
+            }
         }
     }
 
@@ -61,15 +63,17 @@ public:
     /// The header row with its widths: "A:100|B:150".
     std::string headerText() const {
         std::string text;
-        for (int col = 1; col < grid.ColCount(); ++col)
+        for (int col = 1; col < grid.ColCount(); ++col) {
             text += (col > 1 ? "|" : "") + grid.Cells(col, 0) + ":" + std::to_string(grid.ColWidths(col));
+        }
         return text;
     }
 
     bool sectionsStandInOrder() const {
         for (int section = 0; section < grid.horizontalHeader()->count(); ++section) {
-            if (grid.horizontalHeader()->visualIndex(section) != section)
+            if (grid.horizontalHeader()->visualIndex(section) != section) {
                 return false;
+            }
         }
         return true;
     }

@@ -36,10 +36,11 @@ void press(QWidget& box, int key) {
 
 void click(QWidget& box, const char* name) {
     QPushButton* button = buttonOf(box, name);
-    if (button)
+    if (button) {
         QTest::mouseClick(button, Qt::LeftButton);
-    else
+    } else {
         ADD_FAILURE() << "no button " << name;
+    }
 }
 
 } // namespace

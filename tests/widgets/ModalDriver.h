@@ -33,8 +33,9 @@ private:
         } else if (waited_.hasExpired(5000)) {
             timer_.stop();
             ADD_FAILURE() << "no modal window named '" << name_.toStdString() << "' appeared";
-            if (modal)
+            if (modal) {
                 modal->close();
+            }
         }
     }
 

@@ -26,13 +26,15 @@ public:
 protected:
     void FormShow() override {
         events.emplace_back("show");
-        if (onShow)
+        if (onShow) {
             onShow();
+        }
     }
 
     void FormClose() override {
         events.push_back("close " + std::to_string(ModalResult()) + (isVisible() ? " visible" : " hidden"));
-        if (onClose)
+        if (onClose) {
             onClose();
+        }
     }
 };

@@ -47,8 +47,9 @@ template <class Condition>
 bool keyUntil(const QString& name, Condition condition) {
     for (int attempt = 0; attempt < 10; ++attempt) {
         key(name);
-        if (QTest::qWaitFor(condition, 500))
+        if (QTest::qWaitFor(condition, 500)) {
             return true;
+        }
     }
     return false;
 }

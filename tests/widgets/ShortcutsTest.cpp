@@ -20,10 +20,11 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->modifiers().testFlag(Qt::AltModifier) || event->key() == Qt::Key_Alt)
+        if (event->modifiers().testFlag(Qt::AltModifier) || event->key() == Qt::Key_Alt) {
             altKeys += event->key() == Qt::Key_Alt ? QList<int>() : QList<int>{event->key()};
-        else
+        } else {
             QLineEdit::keyPressEvent(event);
+        }
     }
 };
 

@@ -23,16 +23,18 @@ protected:
         for (int col = 1; col <= columns; ++col) {
             const std::string letter(1, static_cast<char>('A' + col - 1));
             model.SetCell(col, 0, letter);
-            for (int row = 1; row <= rows; ++row)
+            for (int row = 1; row <= rows; ++row) {
                 model.SetCell(col, row, letter + std::to_string(row));
+            }
         }
     }
 
     /// The row as one short text: "A1|B1|C1".
     std::string rowText(int row) {
         std::string text;
-        for (int col = 1; col < model.ColCount(); ++col)
+        for (int col = 1; col < model.ColCount(); ++col) {
             text += (col > 1 ? "|" : "") + model.Cell(col, row);
+        }
         return text;
     }
 };

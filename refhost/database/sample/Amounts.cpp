@@ -8,8 +8,9 @@ std::string decimalText(std::int64_t value, int decimals) {
     const bool isNegative = value < 0;
     std::string digits = std::to_string(isNegative ? -value : value);
     const auto places = static_cast<std::size_t>(decimals);
-    if (digits.size() <= places)
+    if (digits.size() <= places) {
         digits.insert(0, places + 1 - digits.size(), '0');
+    }
     digits.insert(digits.size() - places, ".");
     return canonicalDecimal((isNegative ? "-" : "") + digits);
 }

@@ -32,14 +32,16 @@ int yearOf(Day day) {
 
 Day workingDayFrom(Day day) {
     const std::chrono::weekday weekday(day);
-    if (weekday == std::chrono::Saturday)
+    if (weekday == std::chrono::Saturday) {
         return day + days(2);
+    }
     return weekday == std::chrono::Sunday ? day + days(1) : day;
 }
 
 Day afterWorkingDays(Day day, int count) {
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         day = workingDayFrom(day + days(1));
+    }
     return day;
 }
 

@@ -65,41 +65,49 @@ DeliveryNote Deliveries::begin(const Order& order, Day date) const {
 Quantity Deliveries::arriving(const OrderLine& line) {
     const int luck = random_.below(100);
     const Quantity whole = line.InMainUnit / c_One;
-    if (luck < c_MissingPercent)
+    if (luck < c_MissingPercent) {
         return 0;
-    if (luck < c_MissingPercent + c_PartialPercent)
+    }
+    if (luck < c_MissingPercent + c_PartialPercent) {
         return whole < 2 ? line.InMainUnit : c_One * std::max<Quantity>(1, whole * random_.between(30, 70) / 100);
-    if (luck < c_MissingPercent + c_PartialPercent + c_MorePercent)
+    }
+    if (luck < c_MissingPercent + c_PartialPercent + c_MorePercent) {
         return line.InMainUnit + c_One * std::max<Quantity>(1, whole / 10);
+    }
     return line.InMainUnit;
 }
 
 void Deliveries::addLine(DeliveryNote& note, OrderLine& line, Quantity amount) {
-    if (amount == 0)
+    if (amount == 0) {
         return;
+    }
     line.Delivered += amount;
     note.Lines.push_back({line.ItemId, amount, line.UnitPrice, line.Discount, line.Id});
 }
 
 void Deliveries::addRest(DeliveryNote& note, Order& order) {
-    for (OrderLine& line : order.Lines)
-        if (!line.isComplete())
+    for (OrderLine& line : order.Lines) {
+        if (!line.isComplete()) {
             addLine(note, line, line.InMainUnit - line.Delivered);
+        }
+    }
     note.OrderIds.push_back(order.Id);
 }
 
 void Deliveries::addReturn(DeliveryNote& note, const DeliveryNote& last) {
     NoteLine line = last.Lines[static_cast<std::size_t>(random_.below(static_cast<int>(last.Lines.size())))];
-    if (last.Date > note.Date || line.Amount < c_One)
+    if (last.Date > note.Date || line.Amount < c_One) {
         return;
+    }
     line.Amount = -c_One * std::min<Quantity>(line.Amount / c_One, random_.between(1, 3));
     line.OrderLineId = 0;
     note.Lines.push_back(line);
 }
 
 void Deliveries::keep(DeliveryNote note) {
-    if (note.Lines.empty())
+    if (note.Lines.empty()) {
         return;
+    }
     last_[Place(note.SupplierId, note.WarehouseId)] = note;
     notes_.push_back(std::move(note));
 }
@@ -108,21 +116,26 @@ void Deliveries::deliver(Order& order) {
     const Supplier& supplier = suppliers()[static_cast<std::size_t>(order.SupplierId) - 1];
     const Place place(order.SupplierId, order.WarehouseId);
     const Day date = afterWorkingDays(order.OrderedOn, supplier.WorkingDaysToDeliver + random_.below(2));
-    if (date > today_)
+    if (date > today_) {
         return;
+    }
     DeliveryNote note = begin(order, date);
     if (Order* earlier = std::exchange(unfinished_[place], nullptr);
-        earlier != nullptr && random_.chance(c_WithNextPercent))
+        earlier != nullptr && random_.chance(c_WithNextPercent)) {
         addRest(note, *earlier);
-    for (OrderLine& line : order.Lines)
+    }
+    for (OrderLine& line : order.Lines) {
         addLine(note, line, arriving(line));
+    }
     note.OrderIds.push_back(order.Id);
-    if (const auto last = last_.find(place); last != last_.end() && random_.chance(c_ReturnPercent))
+    if (const auto last = last_.find(place); last != last_.end() && random_.chance(c_ReturnPercent)) {
         addReturn(note, last->second);
+    }
     keep(std::move(note));
 
-    if (order.isComplete())
+    if (order.isComplete()) {
         return;
+    }
     const Day restDate = afterWorkingDays(date, random_.between(2, 4));
     if (!random_.chance(c_OwnNotePercent) || restDate > today_) {
         unfinished_[place] = &order;
@@ -143,8 +156,9 @@ std::vector<DeliveryNote> emptyNotes(const std::vector<Order>& orders, const std
             !order->isTemplate() && !order->Lines.empty() &&
             std::ranges::all_of(order->Lines, [](const OrderLine& line) { return line.Delivered == 0; });
         const bool isTaken = std::ranges::find(empty, order->SupplierId, &DeliveryNote::SupplierId) != empty.end();
-        if (!isWaiting || isTaken || std::ranges::count(notes, order->SupplierId, &DeliveryNote::SupplierId) < 3)
+        if (!isWaiting || isTaken || std::ranges::count(notes, order->SupplierId, &DeliveryNote::SupplierId) < 3) {
             continue;
+        }
         DeliveryNote note;
         note.Date = today;
         note.SupplierId = order->SupplierId;
@@ -164,8 +178,9 @@ void numberNotes(std::vector<DeliveryNote>& notes, Random& random) {
         auto& [year, running] = lastOf[note.SupplierId];
         const bool isFirst = year == 0;
         if (year != yearOf(note.Date) &&
-            suppliers()[static_cast<std::size_t>(note.SupplierId) - 1].Numbers != NumberStyle::Running)
+            suppliers()[static_cast<std::size_t>(note.SupplierId) - 1].Numbers != NumberStyle::Running) {
             running = 0;
+        }
         running += isFirst ? random.between(200, 4'000) : random.between(3, 60);
         year = yearOf(note.Date);
         note.Number =
@@ -177,9 +192,11 @@ void numberNotes(std::vector<DeliveryNote>& notes, Random& random) {
 
 std::vector<DeliveryNote> makeDeliveries(std::vector<Order>& orders, Day today) {
     Deliveries deliveries(today);
-    for (Order& order : orders)
-        if (!order.isTemplate() && !order.Lines.empty())
+    for (Order& order : orders) {
+        if (!order.isTemplate() && !order.Lines.empty()) {
             deliveries.deliver(order);
+        }
+    }
     std::vector<DeliveryNote> notes = deliveries.takeNotes();
     std::ranges::stable_sort(notes, {},
                              [](const DeliveryNote& note) { return std::tuple(note.Date, note.SupplierId); });
@@ -187,11 +204,14 @@ std::vector<DeliveryNote> makeDeliveries(std::vector<Order>& orders, Day today) 
     Random random(c_Stream);
     numberNotes(notes, random);
     const std::size_t openNotes = std::min(notes.size(), c_OpenNotes + c_EmptyNotes);
-    for (std::size_t i = notes.size() - openNotes; i < notes.size(); ++i)
+    for (std::size_t i = notes.size() - openNotes; i < notes.size(); ++i) {
         notes[i].IsOpen = true;
-    for (Order& order : orders)
-        if (!order.isTemplate())
+    }
+    for (Order& order : orders) {
+        if (!order.isTemplate()) {
             order.IsOpen = order.Lines.empty() || (!order.isComplete() && order.OrderedOn >= today - c_OrderStaysOpen);
+        }
+    }
     return notes;
 }
 

@@ -18,9 +18,11 @@ Quantity quantityAt(int line) {
 }
 
 int lastLineId(const std::vector<Order>& orders) {
-    for (auto order = orders.rbegin(); order != orders.rend(); ++order)
-        if (!order->Lines.empty())
+    for (auto order = orders.rbegin(); order != orders.rend(); ++order) {
+        if (!order->Lines.empty()) {
             return order->Lines.back().Id;
+        }
+    }
     return 0;
 }
 

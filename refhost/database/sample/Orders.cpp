@@ -78,8 +78,9 @@ OrderLine makeLine(const PriceListEntry& offer, const Stock& stock, Random& rand
     line.UnitPrice = offer.UnitPrice;
     line.Discount = offer.Discount;
     chooseQuantity(line, stock.item(offer.ItemId), stock, random);
-    if (random.chance(4))
+    if (random.chance(4)) {
         line.Comment = random.pick<std::string_view>(c_Comments);
+    }
     return line;
 }
 
@@ -159,9 +160,11 @@ std::vector<Order> emptyOrders(Day today) {
 
 void numberLines(std::vector<Order>& orders) {
     int lineId = 0;
-    for (Order& order : orders)
-        for (OrderLine& line : order.Lines)
+    for (Order& order : orders) {
+        for (OrderLine& line : order.Lines) {
             line.Id = ++lineId;
+        }
+    }
 }
 
 } // namespace
@@ -187,8 +190,9 @@ std::vector<Order> makeOrders(const Stock& stock, const PriceLists& prices, Day 
     }
     Random random(c_Stream);
     std::vector<Order> planned = planOrders(firstDay, today, random);
-    for (Order& order : planned)
+    for (Order& order : planned) {
         order.Lines = makeLines(prices.offers(order.SupplierId, order.OrderedOn), random.between(2, 11), stock, random);
+    }
     std::ranges::move(emptyOrders(today), std::back_inserter(planned));
     for (Order& order : planned) {
         order.Id = static_cast<int>(orders.size()) + 1;

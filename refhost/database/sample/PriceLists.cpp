@@ -24,8 +24,9 @@ Price printedPrice(Price price) {
 
 std::vector<Day> periodsFrom(Day firstDay, Day today) {
     std::vector<Day> firstDays;
-    for (Day first = halfYearOf(firstDay); first <= today; first = nextHalfYear(first))
+    for (Day first = halfYearOf(firstDay); first <= today; first = nextHalfYear(first)) {
         firstDays.push_back(first);
+    }
     return firstDays;
 }
 
@@ -39,13 +40,16 @@ void addOffers(std::vector<PriceListEntry>& entries, int supplierId, int itemId,
         const bool isNewest = i + 1 == periods.size();
         const bool isGap = random.chance(c_GapPercent);
         price = price * random.between(985, 1'040) / 1'000;
-        if (random.chance(c_NewDiscountPercent))
+        if (random.chance(c_NewDiscountPercent)) {
             discount = random.pick<int>(c_Discounts);
-        if (isGap || (isNewest && !item.IsActive))
+        }
+        if (isGap || (isNewest && !item.IsActive)) {
             continue;
+        }
         PriceListEntry entry{supplierId, itemId, periods[i], std::nullopt, printedPrice(price), discount};
-        if (!isNewest)
+        if (!isNewest) {
             entry.LastDay = periods[i + 1] - std::chrono::days(1);
+        }
         entries.push_back(entry);
     }
 }
@@ -61,15 +65,18 @@ bool isFirstSeller(std::size_t supplier, std::string_view group2) {
 PriceLists::PriceLists(const Stock& stock, Day firstDay, Day today) {
     const std::vector<Day> periods = periodsFrom(firstDay, today);
     Random random(c_Stream);
-    for (std::size_t supplier = 0; supplier < suppliers().size(); ++supplier)
+    for (std::size_t supplier = 0; supplier < suppliers().size(); ++supplier) {
         for (std::size_t item = 0; item < stock.Items.size(); ++item) {
             const StockItem& stocked = stock.Items[item];
-            if (!sells(suppliers()[supplier], stocked.Group2))
+            if (!sells(suppliers()[supplier], stocked.Group2)) {
                 continue;
-            if (random.chance(c_ListedPercent) || isFirstSeller(supplier, stocked.Group2))
+            }
+            if (random.chance(c_ListedPercent) || isFirstSeller(supplier, stocked.Group2)) {
                 addOffers(entries_, static_cast<int>(supplier) + 1, static_cast<int>(item) + 1, stocked, periods,
                           random);
+            }
         }
+    }
 }
 
 std::vector<PriceListEntry> PriceLists::offers(int supplierId, Day day) const {

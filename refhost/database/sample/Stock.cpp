@@ -25,8 +25,9 @@ struct Combination {
 /// The number behind the colon of "olivový:380", 100 where there is none.
 int pricePercent(std::string_view variety) {
     int percent = 100;
-    if (const std::size_t colon = variety.find(':'); colon != std::string_view::npos)
+    if (const std::size_t colon = variety.find(':'); colon != std::string_view::npos) {
         std::from_chars(variety.data() + colon + 1, variety.data() + variety.size(), percent);
+    }
     return percent;
 }
 
@@ -35,8 +36,9 @@ void addCombinations(std::vector<Combination>& combinations, const GoodsKind& ki
     while (!varieties.empty()) {
         const std::size_t end = std::min(varieties.find('|'), varieties.size());
         const std::string_view variety = varieties.substr(0, end);
-        for (const Packing& packing : kind.Packings)
+        for (const Packing& packing : kind.Packings) {
             combinations.push_back({&kind, variety.substr(0, variety.find(':')), pricePercent(variety), &packing});
+        }
         varieties.remove_prefix(std::min(end + 1, varieties.size()));
     }
 }
@@ -45,11 +47,13 @@ void addCombinations(std::vector<Combination>& combinations, const GoodsKind& ki
 std::vector<Combination> keptCombinations(const std::vector<Combination>& all, Random& random) {
     std::vector<std::size_t> places(all.size());
     std::iota(places.begin(), places.end(), std::size_t{0});
-    while (places.size() > c_ItemCount)
+    while (places.size() > c_ItemCount) {
         places.erase(places.begin() + random.below(static_cast<int>(places.size())));
+    }
     std::vector<Combination> kept;
-    for (const std::size_t place : places)
+    for (const std::size_t place : places) {
         kept.push_back(all[place]);
+    }
     return kept;
 }
 
@@ -58,18 +62,21 @@ int groupId(std::vector<StockGroup>& groups, std::string_view name, int parentId
     const auto found = std::ranges::find_if(
         groups, [&](const StockGroup& group) { return group.Name == name && group.ParentId == parentId; });
     const auto place = found - groups.begin();
-    if (found == groups.end())
+    if (found == groups.end()) {
         groups.push_back({name, parentId});
+    }
     return static_cast<int>(place) + 1;
 }
 
 void addUnits(Stock& stock, StockItem& item, int itemId, const Packing& packing) {
     item.FirstUnitId = static_cast<int>(stock.Units.size()) + 1;
     stock.Units.push_back({itemId, 0, packing.MainUnit, 1'000});
-    for (const PackedUnit& unit : packing.Secondary)
-        if (!unit.Name.empty())
+    for (const PackedUnit& unit : packing.Secondary) {
+        if (!unit.Name.empty()) {
             stock.Units.push_back(
                 {itemId, static_cast<int>(stock.Units.size()) + 1 - item.FirstUnitId, unit.Name, unit.Factor});
+        }
+    }
     item.UnitCount = static_cast<int>(stock.Units.size()) + 1 - item.FirstUnitId;
 }
 
@@ -96,13 +103,16 @@ void addItem(Stock& stock, const Combination& combination, Random& random) {
 
 Stock makeStock() {
     std::vector<Combination> all;
-    for (const auto kinds : {foodKinds(), drinkKinds(), householdKinds(), officeKinds(), toolKinds()})
-        for (const GoodsKind& kind : kinds)
+    for (const auto kinds : {foodKinds(), drinkKinds(), householdKinds(), officeKinds(), toolKinds()}) {
+        for (const GoodsKind& kind : kinds) {
             addCombinations(all, kind);
+        }
+    }
     Random random(c_Stream);
     Stock stock;
-    for (const Combination& combination : keptCombinations(all, random))
+    for (const Combination& combination : keptCombinations(all, random)) {
         addItem(stock, combination, random);
+    }
     return stock;
 }
 

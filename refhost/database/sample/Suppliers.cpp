@@ -71,8 +71,9 @@ bool sells(const Supplier& supplier, std::string_view group2) {
     std::string_view rest = supplier.Assortment;
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find('|'), rest.size());
-        if (rest.substr(0, end) == group2)
+        if (rest.substr(0, end) == group2) {
             return true;
+        }
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return false;
