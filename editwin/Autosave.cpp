@@ -9,7 +9,7 @@
 namespace melvark {
 
 Autosave::Autosave(QObject& form, std::function<void()> save) : FTimer(new QTimer(&form)) {
-    FTimer->setObjectName(u"AutosaveTimer"_qs);
+    FTimer->setObjectName(QStringLiteral("AutosaveTimer"));
     FTimer->setInterval(std::chrono::minutes(1));
     ConnectGuarded(FTimer, &QTimer::timeout, FTimer, std::move(save));
 }

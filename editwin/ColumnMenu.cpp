@@ -107,7 +107,7 @@ void ColumnMenu::RebuildHiddenItems() {
 
 QAction* ColumnMenu::MakeHiddenItem(const RColumn& column) {
     auto* const item = new QAction(PlainCaption(column.Caption), &FItems.HiddenColumns);
-    item->setObjectName(u"HiddenColumn"_qs + ToQString(column.Name));
+    item->setObjectName(QStringLiteral("HiddenColumn") + ToQString(column.Name));
     ConnectGuarded(item, &QAction::triggered, this, [this, item] { ShowColumnOf(item); });
     return item;
 }

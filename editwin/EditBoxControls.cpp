@@ -49,14 +49,14 @@ TMenuItem* MakeItem(QMenu* menu, const QString& name, const QString& caption) {
 
 void TEditBoxControls::BuildIn(TForm& form) {
     form.SetCaption("Melvark - editor");
-    MainPanel = Named(new QFrame(&form), u"MainPanel"_qs);
-    TopPanel = Named(new QFrame(MainPanel), u"TopPanel"_qs);
+    MainPanel = Named(new QFrame(&form), QStringLiteral("MainPanel"));
+    TopPanel = Named(new QFrame(MainPanel), QStringLiteral("TopPanel"));
     BuildTopPanel();
-    StringGrid = Named(new TStringGrid(MainPanel), u"StringGrid"_qs);
+    StringGrid = Named(new TStringGrid(MainPanel), QStringLiteral("StringGrid"));
     StringGrid->SetRowHeight(c_RowHeight);
     StringGrid->SetFixedRows(1);
     StringGrid->SetTabStop(false);
-    ButtonPanel = Named(new QFrame(&form), u"ButtonPanel"_qs);
+    ButtonPanel = Named(new QFrame(&form), QStringLiteral("ButtonPanel"));
     BuildButtons();
     BuildMenus(form);
 
@@ -76,17 +76,19 @@ void TEditBoxControls::BuildIn(TForm& form) {
 
 void TEditBoxControls::BuildTopPanel() {
     TopPanel->setMinimumHeight(c_TopPanelHeight);
-    gbPraceScenami = Named(new QGroupBox(u" Způsob práce s cenami  "_qs, TopPanel), u"gbPraceScenami"_qs);
+    gbPraceScenami =
+        Named(new QGroupBox(QStringLiteral(" Způsob práce s cenami  "), TopPanel), QStringLiteral("gbPraceScenami"));
     gbPraceScenami->setMinimumHeight(c_GroupBoxHeight);
-    chbPrepocetCen = Named(new QCheckBox(u"&po zadání hodnoty se ostatní údaje přepočítají"_qs, gbPraceScenami),
-                           u"chbPrepocetCen"_qs);
+    chbPrepocetCen =
+        Named(new QCheckBox(QStringLiteral("&po zadání hodnoty se ostatní údaje přepočítají"), gbPraceScenami),
+              QStringLiteral("chbPrepocetCen"));
     chbPrepocetCen->setChecked(true);
     chbPrepocetCen->setFocusPolicy(Qt::ClickFocus);
-    lblWarning =
-        Named(new QLabel(u"Upozornění: pokud se hodnoty nepřepočítávají automaticky, data nelze uložit, pokud "
-                         u"cena za jednotkové množství vynásobená množstvím není rovna celkové ceně položky!"_qs,
-                         gbPraceScenami),
-              u"lblWarning"_qs);
+    lblWarning = Named(
+        new QLabel(QStringLiteral("Upozornění: pokud se hodnoty nepřepočítávají automaticky, data nelze uložit, pokud "
+                                  "cena za jednotkové množství vynásobená množstvím není rovna celkové ceně položky!"),
+                   gbPraceScenami),
+        QStringLiteral("lblWarning"));
     lblWarning->setWordWrap(true);
 
     auto* const box = new QVBoxLayout(gbPraceScenami);
@@ -101,11 +103,11 @@ void TEditBoxControls::BuildTopPanel() {
 
 void TEditBoxControls::BuildButtons() {
     ButtonPanel->setMinimumWidth(c_ButtonPanelWidth);
-    OkBtn = MakeButton(ButtonPanel, u"OkBtn"_qs, "&OK", c_ResultOk);
-    OKDalsiBtn = MakeButton(ButtonPanel, u"OKDalsiBtn"_qs, "OK+Další", 0);
+    OkBtn = MakeButton(ButtonPanel, QStringLiteral("OkBtn"), "&OK", c_ResultOk);
+    OKDalsiBtn = MakeButton(ButtonPanel, QStringLiteral("OKDalsiBtn"), "OK+Další", 0);
     OKDalsiBtn->setEnabled(false);
-    CancelBtn = MakeButton(ButtonPanel, u"CancelBtn"_qs, "&Zrušit", c_ResultCancel);
-    MenuBtn = Named(new TMenuButton(ButtonPanel), u"MenuBtn"_qs);
+    CancelBtn = MakeButton(ButtonPanel, QStringLiteral("CancelBtn"), "&Zrušit", c_ResultCancel);
+    MenuBtn = Named(new TMenuButton(ButtonPanel), QStringLiteral("MenuBtn"));
     MenuBtn->SetCaption("---");
 
     auto* const column = new QVBoxLayout(ButtonPanel);
@@ -120,17 +122,18 @@ void TEditBoxControls::BuildButtons() {
 }
 
 void TEditBoxControls::BuildMenus(TForm& form) {
-    ColumnsPopupMenu = Named(new QMenu(&form), u"ColumnsPopupMenu"_qs);
-    NadpisVlastnostiSloupce =
-        MakeItem(ColumnsPopupMenu, u"NadpisVlastnostiSloupce"_qs, u"Nadpis a vlastnosti sloupce"_qs);
+    ColumnsPopupMenu = Named(new QMenu(&form), QStringLiteral("ColumnsPopupMenu"));
+    NadpisVlastnostiSloupce = MakeItem(ColumnsPopupMenu, QStringLiteral("NadpisVlastnostiSloupce"),
+                                       QStringLiteral("Nadpis a vlastnosti sloupce"));
     NadpisVlastnostiSloupce->setEnabled(false);
-    SkrytSloupec = MakeItem(ColumnsPopupMenu, u"SkrytSloupec"_qs, u"Skrýt sloupec"_qs);
+    SkrytSloupec = MakeItem(ColumnsPopupMenu, QStringLiteral("SkrytSloupec"), QStringLiteral("Skrýt sloupec"));
     ColumnsPopupMenu->addSeparator();
-    EditovatelnySloupecAutomaticky =
-        MakeItem(ColumnsPopupMenu, u"EditovatelnySloupecAutomaticky"_qs, u"Editovatelný - automaticky"_qs);
-    EditovatelnySloupecVyberem =
-        MakeItem(ColumnsPopupMenu, u"EditovatelnySloupecVyberem"_qs, u"Editovatelný - výběrem"_qs);
-    NeeditovatelnySloupec = MakeItem(ColumnsPopupMenu, u"NeeditovatelnySloupec"_qs, u"Needitovatelný"_qs);
+    EditovatelnySloupecAutomaticky = MakeItem(ColumnsPopupMenu, QStringLiteral("EditovatelnySloupecAutomaticky"),
+                                              QStringLiteral("Editovatelný - automaticky"));
+    EditovatelnySloupecVyberem = MakeItem(ColumnsPopupMenu, QStringLiteral("EditovatelnySloupecVyberem"),
+                                          QStringLiteral("Editovatelný - výběrem"));
+    NeeditovatelnySloupec =
+        MakeItem(ColumnsPopupMenu, QStringLiteral("NeeditovatelnySloupec"), QStringLiteral("Needitovatelný"));
     auto* const editability = new QActionGroup(ColumnsPopupMenu);
     // Optional: on a column that is never editable none of them is checked.
     editability->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
@@ -139,10 +142,10 @@ void TEditBoxControls::BuildMenus(TForm& form) {
         editability->addAction(item);
     }
     ColumnsPopupMenu->addSeparator();
-    SkryteSloupce = Named(ColumnsPopupMenu->addMenu(u"Skryté sloupce"_qs), u"SkryteSloupce"_qs);
+    SkryteSloupce = Named(ColumnsPopupMenu->addMenu(QStringLiteral("Skryté sloupce")), QStringLiteral("SkryteSloupce"));
     SkryteSloupce->menuAction()->setEnabled(false);
 
-    SettingsPopupMenu = Named(new QMenu(&form), u"SettingsPopupMenu"_qs);
+    SettingsPopupMenu = Named(new QMenu(&form), QStringLiteral("SettingsPopupMenu"));
     MenuBtn->SetPopupMenu(SettingsPopupMenu);
     MenuBtn->setEnabled(false);
 }

@@ -22,7 +22,7 @@ namespace melvark {
 
 InPlaceEditing::InPlaceEditing(GridEditing& editing, QWidget& form, std::function<void(const AnsiString&)> showErrorBox)
     : FEditing(editing), FForm(form), FShowErrorBox(std::move(showErrorBox)), FSharedEdit(new QLineEdit(&form)) {
-    FSharedEdit->setObjectName(u"SharedEdit"_qs);
+    FSharedEdit->setObjectName(QStringLiteral("SharedEdit"));
     FSharedEdit->setFont(GridFont());
     FSharedEdit->hide();
 }
@@ -33,7 +33,7 @@ void InPlaceEditing::CreateListEditors() {
             continue;
         }
         auto* const combo = new TGridComboBox(&FForm);
-        combo->setObjectName(u"GridComboBox"_qs + ToQString(column.Name));
+        combo->setObjectName(QStringLiteral("GridComboBox") + ToQString(column.Name));
         combo->setFont(GridFont());
         combo->SetItems(*column.Values);
         column.Editor = combo;

@@ -42,7 +42,7 @@ void fill(const std::string& url, const CommandLine& commandLine, const TFormatS
 /// leaves nothing that looks like a database.
 void createOwnDatabase(const CommandLine& commandLine, const TFormatSettings& settings) {
     const QString file = QString::fromStdString(defaultDatabaseFile());
-    const QString unfinished = file + u".part"_qs;
+    const QString unfinished = file + QStringLiteral(".part");
     QDir().mkpath(QFileInfo(file).path());
     for (const char16_t* suffix : {u"", u"-wal", u"-shm", u"-journal"}) {
         QFile::remove(unfinished + QString::fromUtf16(suffix));
@@ -57,7 +57,7 @@ void createOwnDatabase(const CommandLine& commandLine, const TFormatSettings& se
 
 std::string defaultDatabaseFile() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return (folder + u"/melvark/company.sqlite"_qs).toStdString();
+    return (folder + QStringLiteral("/melvark/company.sqlite")).toStdString();
 }
 
 std::unique_ptr<Database> openCompanyDatabase(const CommandLine& commandLine, const TFormatSettings& settings) {
@@ -82,7 +82,11 @@ std::string databaseLabel(const CommandLine& commandLine) {
     }
     static const QRegularExpression password(QStringLiteral("\\bpassword\\s*=\\s*('([^'\\\\]|\\\\.)*'|\\S+)\\s*"));
     static const QRegularExpression inAddress(QStringLiteral("(//[^/@:]*):[^/@]*@"));
-    return QString::fromStdString(url).remove(password).replace(inAddress, u"\\1@"_qs).trimmed().toStdString();
+    return QString::fromStdString(url)
+        .remove(password)
+        .replace(inAddress, QStringLiteral("\\1@"))
+        .trimmed()
+        .toStdString();
 }
 
 } // namespace refhost

@@ -75,7 +75,7 @@ QString Languages::label(const HostText& text) const {
 
 void Languages::installQtTexts(QCoreApplication& application) {
     // Qt's built-in language is English, so that its English catalogue is empty or absent.
-    auto texts = loadCatalogue(u"qtbase_"_qs + QString::fromStdString(language_));
+    auto texts = loadCatalogue(QStringLiteral("qtbase_") + QString::fromStdString(language_));
     if (!texts) {
         return;
     }

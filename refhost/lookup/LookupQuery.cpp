@@ -16,7 +16,7 @@ std::string lookupQuery(std::string_view form, std::string_view condition, const
         throw EHostError(languages.label(texts::lookupUnknown).arg(identifier).toStdString());
     }
     std::string sql =
-        "select * from " + u"%1_%2_V"_qs.arg(match.captured(1), match.captured(2)).toUpper().toStdString();
+        "select * from " + QStringLiteral("%1_%2_V").arg(match.captured(1), match.captured(2)).toUpper().toStdString();
     if (!condition.empty()) {
         sql += " where " + std::string(condition);
     }

@@ -99,9 +99,10 @@ void MainWindow::buildActions() {
 
     QMenu* view = menuBar()->addMenu(languages.label(texts::viewMenu));
     for (int index = 0; index < tabs_->count(); ++index) {
-        QAction* action = createAction(this, u"screenAction", u"&%1 %2"_qs.arg(index + 1).arg(tabs_->tabText(index)),
-                                       QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)));
-        action->setObjectName(u"screenAction%1"_qs.arg(index + 1));
+        QAction* action =
+            createAction(this, u"screenAction", QStringLiteral("&%1 %2").arg(index + 1).arg(tabs_->tabText(index)),
+                         QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)));
+        action->setObjectName(QStringLiteral("screenAction%1").arg(index + 1));
         melvark::ConnectGuarded(action, &QAction::triggered, this, [this, index] { showScreen(index); });
         view->addAction(action);
     }

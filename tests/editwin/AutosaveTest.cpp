@@ -9,7 +9,7 @@ using testing::ElementsAre;
 
 class Autosave : public EditBoxTest {
 protected:
-    QTimer& timer() { return *form->findChild<QTimer*>(u"AutosaveTimer"_qs); }
+    QTimer& timer() { return *form->findChild<QTimer*>(QStringLiteral("AutosaveTimer")); }
 
     /// One tick, without waiting a minute for it.
     void tick() {

@@ -24,7 +24,7 @@ protected:
     }
 
     QAction* hiddenItem(const QString& name) {
-        auto* const item = form->findChild<QAction*>(u"HiddenColumn"_qs + name);
+        auto* const item = form->findChild<QAction*>(QStringLiteral("HiddenColumn") + name);
         EXPECT_NE(item, nullptr);
         return item;
     }
@@ -108,7 +108,7 @@ TEST_F(ColumnMenu, ChangesEditability) {
 TEST_F(ColumnMenu, ANotEditableColumnKeepsTheCursorOnTheEditedCell) {
     open();
     openCell(c_CountCol, 2);
-    type(u"3"_qs);
+    type(QStringLiteral("3"));
     openColumnMenu(c_CountCol);
     pick(form->NeeditovatelnySloupec);
     EXPECT_EQ(openCellText(), "none");
@@ -121,7 +121,7 @@ TEST_F(ColumnMenu, ANotEditableColumnKeepsTheCursorOnTheEditedCell) {
 TEST_F(ColumnMenu, AnotherColumnsEditabilityLeavesTheOpenEditorAlone) {
     open();
     openCell(c_CountCol, 2);
-    type(u"3"_qs);
+    type(QStringLiteral("3"));
     openColumnMenu(c_PriceCol);
     pick(form->NeeditovatelnySloupec);
     EXPECT_EQ(openCellText(), "2,2");
@@ -154,10 +154,10 @@ TEST_F(ColumnMenu, AHiddenColumnComesBackInItsPlaceWithItsData) {
     const AnsiString line = rowText(1);
     hide(c_PriceCol);
     hide(c_CountCol);
-    pick(hiddenItem(u"CENA"_qs));
+    pick(hiddenItem(QStringLiteral("CENA")));
     EXPECT_EQ(rowText(0), "Název|Cena|Datum|Sklad|Kód|Poznámka|Typ");
     EXPECT_EQ(grid().ColWidths(2), 80);
-    pick(hiddenItem(u"POCET"_qs));
+    pick(hiddenItem(QStringLiteral("POCET")));
     EXPECT_EQ(rowText(0), header) << "the key column before them is not counted";
     EXPECT_EQ(rowText(1), line);
     EXPECT_THAT(hiddenItems(), ElementsAre("Sleva"));
@@ -167,13 +167,13 @@ TEST_F(ColumnMenu, ValuesTypedWhileAColumnWasHiddenAreThereWhenItComesBack) {
     open();
     hide(c_CountCol);
     form->DataGrid().SetCells(7, 1, "99");
-    pick(hiddenItem(u"POCET"_qs));
+    pick(hiddenItem(QStringLiteral("POCET")));
     EXPECT_EQ(grid().Cells(c_CountCol, 2), "99");
 }
 
 TEST_F(ColumnMenu, TheSubmenuIsDisabledWhileNothingIsHidden) {
     open();
-    pick(hiddenItem(u"SLEVA"_qs));
+    pick(hiddenItem(QStringLiteral("SLEVA")));
     EXPECT_FALSE(form->SkryteSloupce->menuAction()->isEnabled());
     EXPECT_EQ(rowText(1), "Šroub|5|1234,5|1.2.2027|Hlavní|A1|první|x|10");
     hide(9);
@@ -192,7 +192,7 @@ TEST_F(ColumnMenu, HidingEveryColumnLeavesTheIndicatorAlone) {
                 ElementsAre("Název", "Počet", "Cena", "Datum", "Sklad", "Kód", "Poznámka", "Typ", "Sleva"));
     openColumnMenu(0);
     form->ColumnsPopupMenu->close();
-    pick(hiddenItem(u"CENA"_qs));
+    pick(hiddenItem(QStringLiteral("CENA")));
     EXPECT_EQ(rowText(0), "Cena");
     EXPECT_EQ(grid().FixedCols(), 1);
     EXPECT_EQ(rowText(1), "1234,5");
@@ -220,7 +220,7 @@ TEST_F(ColumnMenu, AnAmpersandInACaptionIsShownAsItIs) {
 TEST_F(ColumnMenu, AMovedColumnTakesItsDataAndItsEditorAlong) {
     open();
     openCell(c_CountCol, 1);
-    type(u"42"_qs);
+    type(QStringLiteral("42"));
     grid().horizontalHeader()->moveSection(c_CountCol - 1, c_DateCol - 1);
     settle();
     EXPECT_EQ(columnOrder(), "[ID] NAZEV CENA DATUM POCET SKLAD KOD POZN TYP [SLEVA]");
@@ -249,6 +249,6 @@ TEST_F(ColumnMenu, ADraggedWidthIsRememberedWhenTheMouseIsReleased) {
     EXPECT_EQ(columnAt(c_CountCol).Width, 120);
     EXPECT_EQ(columnAt(c_NameCol).Width, 90);
     hide(c_CountCol);
-    pick(hiddenItem(u"POCET"_qs));
+    pick(hiddenItem(QStringLiteral("POCET")));
     EXPECT_EQ(grid().ColWidths(c_CountCol), 120);
 }

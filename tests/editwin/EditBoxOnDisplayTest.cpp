@@ -69,7 +69,7 @@ TEST_F(EditBoxOnDisplay, AClickOpensTheEditorWithTheFocusInIt) {
     ASSERT_TRUE(becomesOpen("7,2"));
     EXPECT_EQ(QApplication::focusWidget(), &sharedEdit());
     typeText("x");
-    EXPECT_EQ(sharedEdit().text(), u"x"_qs);
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("x"));
 }
 
 TEST_F(EditBoxOnDisplay, TheBoxOfARefusedValueComesAfterTheMouseButtonIsUp) {
@@ -103,7 +103,7 @@ TEST_F(EditBoxOnDisplay, ARealMessageBoxGivesTheFocusBackToTheRefusedEditor) {
         if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             box && box->isActiveWindow()) {
             ++boxes;
-            box->findChild<QPushButton*>(u"OkBtn"_qs)->click();
+            box->findChild<QPushButton*>(QStringLiteral("OkBtn"))->click();
         }
     });
     closer.start(20);
@@ -113,7 +113,7 @@ TEST_F(EditBoxOnDisplay, ARealMessageBoxGivesTheFocusBackToTheRefusedEditor) {
     settle();
     EXPECT_EQ(boxes, 1);
     EXPECT_EQ(openCellText(), "2,1");
-    EXPECT_EQ(sharedEdit().text(), u"abc"_qs);
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("abc"));
 }
 
 TEST_F(EditBoxOnDisplay, ClickingOkOnARefusedValueReportsOnceAndSavesNothing) {
@@ -169,7 +169,7 @@ TEST_F(EditBoxOnDisplay, TheDropDownOfAListIsNotLeavingTheCell) {
     ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() == nullptr; }));
     settle();
     EXPECT_EQ(openCellText(), "5,1") << "choosing does not leave the cell yet";
-    EXPECT_EQ(combo().currentText(), u"Vedlejší"_qs);
+    EXPECT_EQ(combo().currentText(), QStringLiteral("Vedlejší"));
     EXPECT_THAT(log.lines, IsEmpty());
     QTest::keyClick(form->windowHandle(), Qt::Key_Return);
     EXPECT_THAT(log.lines, ElementsAre("5,1=Vedlejší"));
@@ -186,7 +186,7 @@ TEST_F(EditBoxOnDisplay, AltPSetsTheSwitchInTheEditAndNeverTogglesIt) {
     settle();
     EXPECT_FALSE(form->GetPrepocetCen());
     EXPECT_EQ(QApplication::focusWidget(), &sharedEdit());
-    EXPECT_EQ(sharedEdit().text(), u"Šroub"_qs);
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("Šroub"));
 }
 
 TEST_F(EditBoxOnDisplay, TheMnemonicOfCancelWorksFromTheEdit) {

@@ -69,9 +69,9 @@ TEST(EditorEvents, KeyPressComesAfterAKeyDownThatLeftTheKey) {
                                  return true;
                              }});
     events.Watch(edit);
-    send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, u"a"_qs));
+    send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, QStringLiteral("a")));
     takesDown = true;
-    send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, u"a"_qs));
+    send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, QStringLiteral("a")));
     EXPECT_THAT(handlers, ElementsAre("down", "press", "down"));
     EXPECT_EQ(edit.text(), QString()) << "consumed keys type nothing";
 }
@@ -80,8 +80,8 @@ TEST(EditorEvents, AKeyThatNobodyTakesIsTheControls) {
     QLineEdit edit;
     EditorEvents events({.Enter = {}, .Exit = {}, .KeyDown = ignore, .KeyPress = ignore});
     events.Watch(edit);
-    send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, u"a"_qs));
-    EXPECT_EQ(edit.text(), u"a"_qs);
+    send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, QStringLiteral("a")));
+    EXPECT_EQ(edit.text(), QStringLiteral("a"));
 }
 
 TEST(EditorEvents, ItsKeysTakePrecedenceOverShortcutsOnlyWithAKeyDownHandler) {
@@ -109,7 +109,7 @@ TEST(EditorEvents, AnErrorOfAHandlerIsShownAndTheKeyIsGone) {
                          .KeyPress = {}});
     events.Watch(edit);
     send(edit, QFocusEvent(QEvent::FocusIn, Qt::TabFocusReason));
-    send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, u"a"_qs));
+    send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, QStringLiteral("a")));
     send(edit, QFocusEvent(QEvent::FocusOut, Qt::TabFocusReason));
     EXPECT_THAT(host.errors(), ElementsAre("enter", "key", "exit"));
     EXPECT_EQ(edit.text(), QString());

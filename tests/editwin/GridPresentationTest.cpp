@@ -60,7 +60,7 @@ TEST_F(GridPresentation, AStoreThatWasNeverSizedShowsOneEmptyRowToo) {
 TEST_F(GridPresentation, AColumnOfTheHiddenTypeHasNeitherPlaceNorItem) {
     open();
     EXPECT_EQ(form->GetColumnByName("ID"), 0);
-    EXPECT_EQ(form->findChild<QAction*>(u"HiddenColumnID"_qs), nullptr);
+    EXPECT_EQ(form->findChild<QAction*>(QStringLiteral("HiddenColumnID")), nullptr);
     EXPECT_EQ(form->SkryteSloupce->actions().size(), 1);
 }
 
@@ -95,7 +95,7 @@ TEST_F(GridPresentation, AValueThatDoesNotConvertIsShownAsItIs) {
 TEST_F(GridPresentation, APercentFormatShowsThePercentSign) {
     make();
     form->show();
-    form->ShowGridColumn(form->findChild<QAction*>(u"HiddenColumnSLEVA"_qs));
+    form->ShowGridColumn(form->findChild<QAction*>(QStringLiteral("HiddenColumnSLEVA")));
     EXPECT_EQ(look(9, 1), "10,00 %>");
 }
 
@@ -103,7 +103,7 @@ TEST_F(GridPresentation, CellsThatTheUserChangedAreBold) {
     open();
     EXPECT_EQ(look(c_CountCol, 1), "5|");
     openCell(c_CountCol, 1);
-    type(u"6"_qs);
+    type(QStringLiteral("6"));
     ASSERT_TRUE(form->HideEditor());
     EXPECT_EQ(look(c_CountCol, 1), "6|*");
     EXPECT_EQ(look(c_CountCol, 2), "6|");

@@ -20,15 +20,15 @@ TEST_F(InPlaceEditing, ShowingTheFormOpensTheFirstAutomaticCellEvenInColumnOne) 
     open();
     EXPECT_EQ(openCellText(), "1,1");
     EXPECT_EQ(form->focusWidget(), &sharedEdit());
-    EXPECT_EQ(sharedEdit().text(), u"Šroub"_qs);
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("Šroub"));
 }
 
 TEST_F(InPlaceEditing, AnOpenedEditHasItsWholeTextSelectedWithoutCountingAsAChange) {
     open();
-    EXPECT_EQ(sharedEdit().selectedText(), u"Šroub"_qs);
+    EXPECT_EQ(sharedEdit().selectedText(), QStringLiteral("Šroub"));
     EXPECT_FALSE(sharedEdit().isModified());
-    type(u"Vrut"_qs);
-    EXPECT_EQ(sharedEdit().text(), u"Vrut"_qs);
+    type(QStringLiteral("Vrut"));
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("Vrut"));
 }
 
 TEST_F(InPlaceEditing, TheEditorLiesExactlyOverItsCell) {
@@ -43,7 +43,7 @@ TEST_F(InPlaceEditing, TheEditorLiesExactlyOverItsCell) {
 TEST_F(InPlaceEditing, TypingBlanksAroundANumberStoresTheNumber) {
     open();
     openCell(c_CountCol, 1);
-    type(u"  7 "_qs);
+    type(QStringLiteral("  7 "));
     key(Qt::Key_Return);
     EXPECT_EQ(stored(7, 0), "7");
     EXPECT_EQ(grid().Cells(c_CountCol, 1), "7");
@@ -64,7 +64,7 @@ TEST_F(InPlaceEditing, AClearedNumberIsAcceptedAndStoredEmpty) {
 TEST_F(InPlaceEditing, ADecimalPointBecomesTheLocalesComma) {
     open();
     openCell(c_PriceCol, 1);
-    type(u"12.5"_qs);
+    type(QStringLiteral("12.5"));
     EXPECT_TRUE(form->HideEditor());
     EXPECT_EQ(stored(6, 0), "12,5");
 }
@@ -85,10 +85,10 @@ TEST_F(InPlaceEditing, LeavingWithoutTypingNormalisesTheGridOnly) {
 TEST_F(InPlaceEditing, ARefusalNamesTheValueBeforeTrimming) {
     open();
     openCell(c_CountCol, 1);
-    type(u" 7a "_qs);
+    type(QStringLiteral(" 7a "));
     EXPECT_FALSE(form->HideEditor());
     EXPECT_THAT(manager.boxes(), ElementsAre("16: Hodnota  7a  není celé číslo"));
-    EXPECT_EQ(sharedEdit().text(), u" 7a "_qs);
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral(" 7a "));
     EXPECT_EQ(stored(7, 0), "5");
     EXPECT_EQ(grid().Cells(c_CountCol, 1), "5");
 }
@@ -98,7 +98,7 @@ TEST_F(InPlaceEditing, EachKindOfValueHasItsOwnRefusal) {
     const std::pair<int, const char*> cases[] = {{c_CountCol, "16: Hodnota 1,5 není celé číslo"},
                                                  {c_PriceCol, "16: Hodnota 1.234,5 není desetinné číslo"},
                                                  {c_DateCol, "16: Hodnota 31.4. není datum"}};
-    const QString typed[] = {u"1,5"_qs, u"1.234,5"_qs, u"31.4."_qs};
+    const QString typed[] = {QStringLiteral("1,5"), QStringLiteral("1.234,5"), QStringLiteral("31.4.")};
     for (std::size_t i = 0; i < std::size(cases); ++i) {
         openCell(cases[i].first, 1);
         type(typed[i]);
@@ -121,7 +121,7 @@ TEST_F(InPlaceEditing, ACheckGivesTheFocusBackToAVisibleEditBox) {
 TEST_F(InPlaceEditing, AListSelectsTheItemOfTheCellWithoutRegardToCase) {
     open();
     openCell(c_WarehouseCol, 2);
-    EXPECT_EQ(combo().currentText(), u"Vedlejší"_qs);
+    EXPECT_EQ(combo().currentText(), QStringLiteral("Vedlejší"));
     EXPECT_FALSE(combo().isEditable());
 }
 
@@ -179,7 +179,7 @@ TEST_F(InPlaceEditing, EnterWithNowhereToGoLeavesTheValueUncommitted) {
     form->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
     ASSERT_EQ(openCellText(), "2,1");
-    type(u"8"_qs);
+    type(QStringLiteral("8"));
     key(Qt::Key_Return);
     EXPECT_EQ(openCellText(), "2,1");
     EXPECT_EQ(stored(7, 0), "5");
@@ -203,7 +203,7 @@ TEST_F(InPlaceEditing, EnterInTheGridItselfMovesOnFromItsCurrentCell) {
 TEST_F(InPlaceEditing, AClickOpensAManualCell) {
     open();
     openCell(c_NoteCol, 1);
-    EXPECT_EQ(sharedEdit().text(), u"první"_qs);
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("první"));
 }
 
 TEST_F(InPlaceEditing, AClickOnlySelectsCellsThatAreNotEditable) {
@@ -272,14 +272,14 @@ TEST_F(InPlaceEditing, AlternativeKeysSetAndClearTheRecalculation) {
             EXPECT_EQ(form->GetPrepocetCen(), each.after) << each.key << " on " << qPrintable(control->objectName());
         }
     }
-    EXPECT_EQ(sharedEdit().text(), u"Šroub"_qs) << "the keys type nothing";
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("Šroub")) << "the keys type nothing";
 }
 
 TEST_F(InPlaceEditing, CtrlEnterSavesFromEditorsAndFromTheOkAndCancelButtons) {
     open();
     saveSucceeds = false;
     openCell(c_CountCol, 1);
-    type(u"9"_qs);
+    type(QStringLiteral("9"));
     key(Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(saves, 1);
     EXPECT_EQ(stored(7, 0), "9");
@@ -329,7 +329,7 @@ TEST_F(InPlaceEditing, AnEditorScrolledOutOfViewStaysOpenAndComesBack) {
     form->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
     openCell(c_CountCol, 1);
-    type(u"77"_qs);
+    type(QStringLiteral("77"));
     const QRect place = sharedEdit().geometry();
 
     grid().ScrollToCell(1, 90);
@@ -341,7 +341,7 @@ TEST_F(InPlaceEditing, AnEditorScrolledOutOfViewStaysOpenAndComesBack) {
     settle();
     EXPECT_EQ(sharedEdit().geometry(), place);
     EXPECT_EQ(form->childAt(place.center()), &sharedEdit());
-    EXPECT_EQ(sharedEdit().text(), u"77"_qs);
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("77"));
     EXPECT_EQ(stored(7, 0), "5") << "scrolling commits nothing";
 }
 
@@ -351,7 +351,7 @@ TEST_F(InPlaceEditing, ARefusedEditorScrollsBackIntoView) {
     form->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
     openCell(c_CountCol, 1);
-    type(u"x"_qs);
+    type(QStringLiteral("x"));
     grid().ScrollToCell(1, 90);
     manager.whileBoxIsShown = [this] { EXPECT_FALSE(grid().CellRect(c_CountCol, 1).isNull()); };
     EXPECT_FALSE(form->HideEditor());
@@ -372,7 +372,7 @@ TEST_F(InPlaceEditing, AnEditorWiderThanTheGridDoesNotCoverTheButtons) {
 TEST_F(InPlaceEditing, ACommitInsideACommitsOwnBoxDoesNothing) {
     open();
     openCell(c_CountCol, 1);
-    type(u"x"_qs);
+    type(QStringLiteral("x"));
     bool nestedResult = true;
     manager.whileBoxIsShown = [&] {
         nestedResult = form->HideEditor();
@@ -383,17 +383,17 @@ TEST_F(InPlaceEditing, ACommitInsideACommitsOwnBoxDoesNothing) {
     EXPECT_FALSE(nestedResult);
     EXPECT_EQ(manager.boxes().size(), 1U);
     EXPECT_EQ(openCellText(), "2,1");
-    EXPECT_EQ(sharedEdit().text(), u"x"_qs);
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("x"));
 }
 
 TEST_F(InPlaceEditing, ARefusedValueCanBeMendedAndIsThenAccepted) {
     open();
     openCell(c_CountCol, 1);
-    type(u"x"_qs);
+    type(QStringLiteral("x"));
     key(Qt::Key_Return);
     ASSERT_EQ(manager.boxes().size(), 1U);
     sharedEdit().selectAll();
-    type(u"12"_qs);
+    type(QStringLiteral("12"));
     key(Qt::Key_Return);
     EXPECT_EQ(manager.boxes().size(), 1U);
     EXPECT_EQ(stored(7, 0), "12");

@@ -230,7 +230,7 @@ class LeavingACellAgain : public EditBoxTest {};
 TEST_F(LeavingACellAgain, EachNewAttemptIsReportedOnce) {
     open();
     openCell(c_CountCol, 1);
-    type(u"abc"_qs);
+    type(QStringLiteral("abc"));
     for (std::size_t attempt = 1; attempt <= 3; ++attempt) {
         key(Qt::Key_Tab);
         settle();
@@ -243,7 +243,7 @@ TEST_F(LeavingACellAgain, ACallbackThatRefusedIsAskedAgainForTheSameText) {
     open();
     log.answer = [] { return false; };
     openCell(c_CountCol, 1);
-    type(u"42"_qs);
+    type(QStringLiteral("42"));
     key(Qt::Key_Return);
     key(Qt::Key_Return);
     EXPECT_THAT(log.lines, ElementsAre("2,1=42", "2,1=42"));
@@ -255,7 +255,7 @@ TEST_F(LeavingACellAgain, ACallbackThatRefusedIsAskedAgainForTheSameText) {
 TEST_F(LeavingACellAgain, TheOkButtonNeverSavesPastARefusedValue) {
     open();
     openCell(c_CountCol, 1);
-    type(u"abc"_qs);
+    type(QStringLiteral("abc"));
     form->OkBtnClick(form->OkBtn);
     EXPECT_EQ(saves, 0);
     EXPECT_EQ(form->ModalResult(), 0);
@@ -264,7 +264,7 @@ TEST_F(LeavingACellAgain, TheOkButtonNeverSavesPastARefusedValue) {
 TEST_F(LeavingACellAgain, AShortcutOfTheOkButtonCommitsWithoutMovingTheFocus) {
     open();
     openCell(c_CountCol, 1);
-    type(u"42"_qs);
+    type(QStringLiteral("42"));
     form->OkBtn->click();
     settle();
     EXPECT_EQ(stored(7, 0), "42");
@@ -276,7 +276,7 @@ TEST_F(LeavingACellAgain, AFailedSaveIsReportedOnceAndKeepsEverythingTyped) {
     open();
     form->SetOnSaveData([]() -> bool { throw EDatabaseError("databáze je zamčená"); });
     openCell(c_CountCol, 1);
-    type(u"42"_qs);
+    type(QStringLiteral("42"));
     key(Qt::Key_Return, Qt::ControlModifier);
     settle();
     EXPECT_THAT(host.errors(), ElementsAre("databáze je zamčená"));
@@ -291,13 +291,13 @@ TEST_F(LeavingACellAgain, AFailedSaveIsReportedOnceAndKeepsEverythingTyped) {
 TEST_F(LeavingACellAgain, ComingBackFromAnotherWindowContinuesTheEditing) {
     open();
     openCell(c_CountCol, 1);
-    type(u"4"_qs);
+    type(QStringLiteral("4"));
     QWidget other;
     other.show();
     other.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
     form->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
-    type(u"2"_qs);
-    EXPECT_EQ(sharedEdit().text(), u"42"_qs) << "the half-typed number is neither selected nor committed";
+    type(QStringLiteral("2"));
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("42")) << "the half-typed number is neither selected nor committed";
 }

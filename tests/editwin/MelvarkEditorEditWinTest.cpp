@@ -47,13 +47,15 @@ TEST_F(EditBox, ShowingItLoadsTheImagesAndThePlacement) {
 TEST_F(EditBox, ItsControlsHaveTheirTextsAndStates) {
     open();
     EXPECT_EQ(form->Caption(), "Melvark - editor");
-    EXPECT_EQ(form->gbPraceScenami->title(), u" Způsob práce s cenami  "_qs);
-    EXPECT_EQ(form->chbPrepocetCen->text(), u"&po zadání hodnoty se ostatní údaje přepočítají"_qs);
+    EXPECT_EQ(form->gbPraceScenami->title(), QStringLiteral(" Způsob práce s cenami  "));
+    EXPECT_EQ(form->chbPrepocetCen->text(), QStringLiteral("&po zadání hodnoty se ostatní údaje přepočítají"));
     EXPECT_TRUE(form->GetPrepocetCen());
     EXPECT_FALSE(form->chbPrepocetCen->focusPolicy() & Qt::TabFocus);
-    EXPECT_EQ(form->lblWarning->text(),
-              u"Upozornění: pokud se hodnoty nepřepočítávají automaticky, data nelze uložit, pokud cena za jednotkové "
-              u"množství vynásobená množstvím není rovna celkové ceně položky!"_qs);
+    EXPECT_EQ(
+        form->lblWarning->text(),
+        QStringLiteral(
+            "Upozornění: pokud se hodnoty nepřepočítávají automaticky, data nelze uložit, pokud cena za jednotkové "
+            "množství vynásobená množstvím není rovna celkové ceně položky!"));
     EXPECT_EQ(form->OkBtn->Caption(), "&OK");
     EXPECT_EQ(form->OKDalsiBtn->Caption(), "OK+Další");
     EXPECT_FALSE(form->OKDalsiBtn->isEnabled());
@@ -113,7 +115,7 @@ TEST_F(EditBox, TheUsersLanguageReplacesItsTexts) {
     manager.formTexts[R"(KORDAN30\MelvarkEditorEditWin\Form\Caption)"] = "Melvark - items";
     make();
     EXPECT_EQ(form->CancelBtn->Caption(), "&Cancel");
-    EXPECT_EQ(form->SkrytSloupec->text(), u"Hide column"_qs);
+    EXPECT_EQ(form->SkrytSloupec->text(), QStringLiteral("Hide column"));
     EXPECT_EQ(form->Caption(), "Melvark - items");
     EXPECT_EQ(form->MenuBtn->Caption(), "No template");
 }
@@ -208,13 +210,13 @@ TEST_F(EditBox, WithoutALibraryManagerTheApplicationsOwnBoxIsShown) {
             box->findChild<QPushButton*>(button)->click();
         });
     };
-    answer(u"OkBtn"_qs);
+    answer(QStringLiteral("OkBtn"));
     EXPECT_EQ(plain.ShowErrorBox("Chybný údaj"), c_ResultOk);
-    answer(u"NoBtn"_qs);
+    answer(QStringLiteral("NoBtn"));
     EXPECT_EQ(plain.ShowConfirmDialog("Opravdu?"), c_ResultNo);
     ASSERT_EQ(seen.size(), 2U);
-    EXPECT_EQ(seen[0].title, u"Chyba"_qs);
-    EXPECT_EQ(seen[1].title, u"Potvrzení"_qs);
+    EXPECT_EQ(seen[0].title, QStringLiteral("Chyba"));
+    EXPECT_EQ(seen[1].title, QStringLiteral("Potvrzení"));
 }
 
 TEST_F(EditBox, ItWorksWithoutALibraryManager) {
@@ -273,7 +275,7 @@ TEST_F(EditBox, OnlyColumnsWithAValueListHaveAnEditorOfTheirOwn) {
         EXPECT_EQ(column.Editor != nullptr, column.Name == "SKLAD") << column.Name;
     }
     EXPECT_EQ(combo().count(), 3);
-    EXPECT_EQ(combo().itemText(2), u"Výdejna"_qs);
+    EXPECT_EQ(combo().itemText(2), QStringLiteral("Výdejna"));
     EXPECT_TRUE(combo().isHidden());
 }
 

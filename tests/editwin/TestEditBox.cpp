@@ -130,11 +130,11 @@ TestEditBox& EditBoxTest::open() {
 }
 
 QLineEdit& EditBoxTest::sharedEdit() {
-    return *form->findChild<QLineEdit*>(u"SharedEdit"_qs);
+    return *form->findChild<QLineEdit*>(QStringLiteral("SharedEdit"));
 }
 
 QComboBox& EditBoxTest::combo() {
-    return *form->findChild<QComboBox*>(u"GridComboBoxSKLAD"_qs);
+    return *form->findChild<QComboBox*>(QStringLiteral("GridComboBoxSKLAD"));
 }
 
 QPoint EditBoxTest::cellCentre(int col, int row) {

@@ -88,8 +88,8 @@ protected:
     RColumn columnAt(int col) { return form->GetVisibleColumn(col); }
 
     // The off-screen platform has no window manager for popup menus.
-    ExpectedWarning raising{u"This plugin does not support raise()"_qs};
-    ExpectedWarning grabbing{u"This plugin does not support grabbing the keyboard"_qs};
+    ExpectedWarning raising{QStringLiteral("This plugin does not support raise()")};
+    ExpectedWarning grabbing{QStringLiteral("This plugin does not support grabbing the keyboard")};
 
     RecordingHost host;
     TScopedHost installed{host};

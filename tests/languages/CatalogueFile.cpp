@@ -10,7 +10,7 @@ namespace {
 
 CatalogueEntry readEntry(QXmlStreamReader& xml) {
     CatalogueEntry entry{
-        .id = xml.attributes().value(u"id"_qs).toString().toStdString(), .source = {}, .translation = {}};
+        .id = xml.attributes().value(QStringLiteral("id")).toString().toStdString(), .source = {}, .translation = {}};
     while (xml.readNextStartElement()) {
         std::string* const text = xml.name() == u"source"        ? &entry.source
                                   : xml.name() == u"translation" ? &entry.translation

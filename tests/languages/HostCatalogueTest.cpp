@@ -64,7 +64,7 @@ TEST(HostCatalogue, HasEveryTextOfTheHostWithTheSamePlaceholders) {
 
 TEST(HostCatalogue, HasNoTextThatNobodyShowsAndGivesTheCzechTextAsItIs) {
     const std::vector<FoundText> found = hostTexts();
-    for (const CatalogueEntry& entry : readCatalogue(u"host_en"_qs)) {
+    for (const CatalogueEntry& entry : readCatalogue(QStringLiteral("host_en"))) {
         const bool isShown = std::ranges::any_of(found, [&](const FoundText& text) {
             return text.builtIn == entry.source && (entry.id == text.key || entry.id == text.key + "|" + text.builtIn);
         });

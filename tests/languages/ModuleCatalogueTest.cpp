@@ -64,9 +64,9 @@ void useBoxes(TranslatingHost& host) {
     const auto press = [](const char* button) {
         return [button](QWidget& box) { box.findChild<QPushButton*>(QString::fromLatin1(button))->click(); };
     };
-    const ModalDriver first(u"MessageBox"_qs, press("OkBtn"));
+    const ModalDriver first(QStringLiteral("MessageBox"), press("OkBtn"));
     editor.ShowErrorBox("x");
-    const ModalDriver second(u"MessageBox"_qs, press("YesBtn"));
+    const ModalDriver second(QStringLiteral("MessageBox"), press("YesBtn"));
     editor.ShowConfirmDialog("x");
 }
 
@@ -116,7 +116,7 @@ TEST(ModuleCatalogue, HasEveryTextThatTheModuleAsksForWithTheSamePlaceholders) {
 }
 
 TEST(ModuleCatalogue, HasNoTextThatNobodyAsksForAndGivesTheCzechTextAsItIs) {
-    for (const CatalogueEntry& entry : readCatalogue(u"module_en"_qs)) {
+    for (const CatalogueEntry& entry : readCatalogue(QStringLiteral("module_en"))) {
         const bool isAsked = std::ranges::any_of(askedTexts(), [&](const AskedText& text) {
             const auto& [key, builtIn] = text;
             return builtIn == entry.source && (entry.id == key || entry.id == key + "|" + builtIn);

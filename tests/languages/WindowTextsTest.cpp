@@ -79,7 +79,7 @@ void WindowTexts::showSelections(const std::function<void(const std::string&, QW
 
 void WindowTexts::showBoxes(const std::function<void(const std::string&, QWidget&)>& look) {
     for (const int flags : {c_MessageBoxError, c_MessageBoxQuestion}) {
-        const ModalDriver driver(u"MessageBox"_qs, [&](QWidget& box) {
+        const ModalDriver driver(QStringLiteral("MessageBox"), [&](QWidget& box) {
             look("message box " + std::to_string(flags), box);
             box.close();
         });

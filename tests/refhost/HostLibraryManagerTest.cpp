@@ -88,8 +88,8 @@ TEST_F(HostLibraryManagerTest, ANoteIsShownAndTraced) {
 
 TEST_F(HostLibraryManagerTest, ALookupGivesDisplayAndKeyOfThePickedRow) {
     host_.connection.answerQuery("select * from DODAK_NORMAL_V where _DODVID=3", deliveryNotes());
-    const ModalDriver driver(u"lookupDialog"_qs, [](QWidget&) {
-        QTest::keyClicks(focusedWidget(), u"chladek"_qs);
+    const ModalDriver driver(QStringLiteral("lookupDialog"), [](QWidget&) {
+        QTest::keyClicks(focusedWidget(), QStringLiteral("chladek"));
         QTest::keyClick(focusedWidget(), Qt::Key_Return);
     });
 
@@ -104,7 +104,8 @@ TEST_F(HostLibraryManagerTest, ALookupGivesDisplayAndKeyOfThePickedRow) {
 
 TEST_F(HostLibraryManagerTest, ALookupThatIsLeftGivesNothing) {
     host_.connection.answerQuery("select * from DODAK_NORMAL_V", deliveryNotes());
-    const ModalDriver driver(u"lookupDialog"_qs, [](QWidget&) { QTest::keyClick(focusedWidget(), Qt::Key_Escape); });
+    const ModalDriver driver(QStringLiteral("lookupDialog"),
+                             [](QWidget&) { QTest::keyClick(focusedWidget(), Qt::Key_Escape); });
 
     EXPECT_FALSE(manager_.LookupList("Kordan3:DODAK.Normal", "CISLO", "_ID", ""));
     EXPECT_THAT(output_->str(), HasSubstr("\"picked\":null"));

@@ -31,8 +31,8 @@ protected:
     static void type(const char* keys) { QTest::keyClicks(focusedWidget(), QString::fromUtf8(keys)); }
     static void press(Qt::Key key) { QTest::keyClick(focusedWidget(), key); }
 
-    ResultTable& table() const { return *dialog_->findChild<ResultTable*>(u"lookupTable"_qs); }
-    QLineEdit& search() const { return *dialog_->findChild<QLineEdit*>(u"searchEdit"_qs); }
+    ResultTable& table() const { return *dialog_->findChild<ResultTable*>(QStringLiteral("lookupTable")); }
+    QLineEdit& search() const { return *dialog_->findChild<QLineEdit*>(QStringLiteral("searchEdit")); }
 
     std::vector<std::string> numbers() const {
         std::vector<std::string> result;
@@ -99,7 +99,7 @@ TEST_F(LookupDialogTest, ASearchThatMatchesNothingPicksNothing) {
     type("nikde");
 
     press(Qt::Key_Return);
-    QTest::mouseClick(dialog_->findChild<QPushButton*>(u"pickButton"_qs), Qt::LeftButton);
+    QTest::mouseClick(dialog_->findChild<QPushButton*>(QStringLiteral("pickButton")), Qt::LeftButton);
 
     EXPECT_TRUE(dialog_->isVisible());
     EXPECT_FALSE(dialog_->pick());
@@ -144,7 +144,7 @@ TEST_F(LookupDialogTest, AltAndTheColumnsNumberSortAndTheSecondTimeTheOtherWayRo
 TEST_F(LookupDialogTest, TheSearchLineSortsByTheSameKeysAndKeepsItsText) {
     open(deliveryNotes());
     search().setFocus();
-    QTest::keyClicks(&search(), u"DL"_qs);
+    QTest::keyClicks(&search(), QStringLiteral("DL"));
 
     QTest::keyClick(&search(), Qt::Key_2, Qt::AltModifier);
 
@@ -163,8 +163,9 @@ TEST_F(LookupDialogTest, AnEmptyListSaysSo) {
     rows.Rows.clear();
     open(rows);
 
-    EXPECT_EQ(dialog_->findChild<QLabel*>(u"emptyLabel"_qs)->text(), u"Seznam neobsahuje žádný vhodný záznam.");
-    EXPECT_FALSE(dialog_->findChild<QPushButton*>(u"pickButton"_qs)->isEnabled());
+    EXPECT_EQ(dialog_->findChild<QLabel*>(QStringLiteral("emptyLabel"))->text(),
+              u"Seznam neobsahuje žádný vhodný záznam.");
+    EXPECT_FALSE(dialog_->findChild<QPushButton*>(QStringLiteral("pickButton"))->isEnabled());
     press(Qt::Key_Return);
     EXPECT_TRUE(dialog_->isVisible());
 }

@@ -70,12 +70,12 @@ protected:
         host_.connection.takeCalls();
     }
 
-    QWidget& screen() const { return *window_->findChild<QTabWidget*>(u"screens"_qs)->currentWidget(); }
-    ResultTable& documents() const { return *screen().findChild<ResultTable*>(u"documentsTable"_qs); }
+    QWidget& screen() const { return *window_->findChild<QTabWidget*>(QStringLiteral("screens"))->currentWidget(); }
+    ResultTable& documents() const { return *screen().findChild<ResultTable*>(QStringLiteral("documentsTable")); }
     QAbstractItemModel& shownDocuments() const { return *static_cast<QTableView&>(documents()).model(); }
-    ResultTable& lines() const { return *screen().findChild<ResultTable*>(u"linesTable"_qs); }
-    QLineEdit& search() const { return *screen().findChild<QLineEdit*>(u"searchEdit"_qs); }
-    QString linesTitle() const { return screen().findChild<QLabel*>(u"linesTitle"_qs)->text(); }
+    ResultTable& lines() const { return *screen().findChild<ResultTable*>(QStringLiteral("linesTable")); }
+    QLineEdit& search() const { return *screen().findChild<QLineEdit*>(QStringLiteral("searchEdit")); }
+    QString linesTitle() const { return screen().findChild<QLabel*>(QStringLiteral("linesTitle"))->text(); }
     static void press(int key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(focusedWidget(), static_cast<Qt::Key>(key), modifiers);
     }
@@ -121,11 +121,11 @@ TEST_F(MainWindowTest, MovingSidewaysReadsNothing) {
 TEST_F(MainWindowTest, TypingInTheDocumentsSearchesAndEscapeShowsThemAllAgain) {
     open();
 
-    QTest::keyClicks(focusedWidget(), u"capek"_qs); // the first key moves the cursor to the search line
+    QTest::keyClicks(focusedWidget(), QStringLiteral("capek")); // the first key moves the cursor to the search line
     EXPECT_EQ(search().text(), u"capek");
     EXPECT_EQ(shownDocuments().rowCount(), 1);
     EXPECT_EQ(linesTitle(), u"Položky dokladu DL-10");
-    EXPECT_EQ(screen().findChild<QLabel*>(u"countLabel"_qs)->text(), u"1 z 3");
+    EXPECT_EQ(screen().findChild<QLabel*>(QStringLiteral("countLabel"))->text(), u"1 z 3");
 
     press(Qt::Key_Escape);
     EXPECT_EQ(shownDocuments().rowCount(), 3);
@@ -136,7 +136,7 @@ TEST_F(MainWindowTest, ASearchThatMatchesNothingLeavesNoDocumentAndNoLines) {
     open();
 
     search().setFocus();
-    QTest::keyClicks(&search(), u"nikde"_qs);
+    QTest::keyClicks(&search(), QStringLiteral("nikde"));
 
     EXPECT_EQ(linesTitle(), u"Není vybrán žádný doklad");
     EXPECT_EQ(lines().result().rowCount(), 0);
@@ -220,8 +220,8 @@ TEST_F(MainWindowTest, TheKeyInsertsLinesIntoTheCurrentDocumentOfTheScreen) {
 
 TEST_F(MainWindowTest, TheButtonAndTheMenuInsertLinesToo) {
     open();
-    QAction& action = *window_->findChild<QAction*>(u"insertLinesAction"_qs);
-    QWidget* button = window_->findChild<QToolBar*>(u"tools"_qs)->widgetForAction(&action);
+    QAction& action = *window_->findChild<QAction*>(QStringLiteral("insertLinesAction"));
+    QWidget* button = window_->findChild<QToolBar*>(QStringLiteral("tools"))->widgetForAction(&action);
 
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_THAT(executed_, ElementsAre("DODAK 101"));
@@ -274,9 +274,9 @@ TEST_F(MainWindowTest, AnErrorOfARefreshIsShownAndWhatWasReadStays) {
 TEST_F(MainWindowTest, AMissingModuleIsToldAndTheScreensWork) {
     open("Modul „MelvarkEditor.so“ nebyl nalezen.");
 
-    EXPECT_EQ(window_->findChild<QLabel*>(u"moduleNotice"_qs)->text(),
+    EXPECT_EQ(window_->findChild<QLabel*>(QStringLiteral("moduleNotice"))->text(),
               u"Vkládání položek není k dispozici. Modul „MelvarkEditor.so“ nebyl nalezen.");
-    EXPECT_FALSE(window_->findChild<QAction*>(u"insertLinesAction"_qs)->isEnabled());
+    EXPECT_FALSE(window_->findChild<QAction*>(QStringLiteral("insertLinesAction"))->isEnabled());
     press(Qt::Key_F8);
     EXPECT_THAT(executed_, ElementsAre());
     press(Qt::Key_Down);
@@ -285,8 +285,8 @@ TEST_F(MainWindowTest, AMissingModuleIsToldAndTheScreensWork) {
 
 TEST_F(MainWindowTest, TheStatusBarNamesUserAndDatabase) {
     open();
-    EXPECT_EQ(window_->findChild<QLabel*>(u"userLabel"_qs)->text(), u"Uživatel: novakova");
-    EXPECT_EQ(window_->findChild<QLabel*>(u"databaseLabel"_qs)->text(), u"Databáze: /data/firma.sqlite");
+    EXPECT_EQ(window_->findChild<QLabel*>(QStringLiteral("userLabel"))->text(), u"Uživatel: novakova");
+    EXPECT_EQ(window_->findChild<QLabel*>(QStringLiteral("databaseLabel"))->text(), u"Databáze: /data/firma.sqlite");
 }
 
 TEST_F(MainWindowTest, ClosingItSaysSo) {

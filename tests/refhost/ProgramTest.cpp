@@ -29,7 +29,7 @@ protected:
     static Outcome run(const QStringList& words, const QByteArray& input = {}) {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"XDG_DATA_HOME"_qs, folder_->path());
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), folder_->path());
         process.setProcessEnvironment(environment);
         process.start(QString::fromUtf8(HOST_PROGRAM), words);
         process.write(input);
@@ -50,7 +50,7 @@ protected:
 };
 
 TEST_F(ProgramTest, AWrongCommandLineIsToldWithTheUsageOnTheErrorStream) {
-    const Outcome outcome = run({u"--colour"_qs});
+    const Outcome outcome = run({QStringLiteral("--colour")});
 
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(outcome.output, "");
@@ -58,26 +58,26 @@ TEST_F(ProgramTest, AWrongCommandLineIsToldWithTheUsageOnTheErrorStream) {
 }
 
 TEST_F(ProgramTest, HelpIsPrinted) {
-    const Outcome outcome = run({u"--help"_qs});
+    const Outcome outcome = run({QStringLiteral("--help")});
 
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.output, StartsWith("usage: melvark-host"));
 }
 
 TEST_F(ProgramTest, TheFirstUseMakesTheSampleCompanyInTheDataDirectory) {
-    const Outcome outcome = run({u"--documents"_qs, u"DODAK"_qs});
+    const Outcome outcome = run({QStringLiteral("--documents"), QStringLiteral("DODAK")});
 
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     EXPECT_TRUE(firstLine(outcome).value(u"id").isDouble());
-    EXPECT_TRUE(QFile::exists(file(u"melvark/company.sqlite"_qs)));
-    EXPECT_FALSE(QFile::exists(file(u"melvark/company.sqlite.part"_qs)));
+    EXPECT_TRUE(QFile::exists(file(QStringLiteral("melvark/company.sqlite"))));
+    EXPECT_FALSE(QFile::exists(file(QStringLiteral("melvark/company.sqlite.part"))));
 }
 
 TEST_F(ProgramTest, ADocumentsLinesAreAsManyAsItsListSays) {
-    const Outcome documents = run({u"--documents"_qs, u"DODOBJ"_qs});
+    const Outcome documents = run({QStringLiteral("--documents"), QStringLiteral("DODOBJ")});
     const QJsonObject order = firstLine(documents);
-    const Outcome lines =
-        run({u"--show"_qs, u"DODOBJ"_qs, u"--document"_qs, QString::number(order.value(u"id").toInt())});
+    const Outcome lines = run({QStringLiteral("--show"), QStringLiteral("DODOBJ"), QStringLiteral("--document"),
+                               QString::number(order.value(u"id").toInt())});
 
     EXPECT_EQ(lines.status, 0) << lines.errors;
     EXPECT_GT(order.value(u"lines").toInt(), 0);
@@ -87,13 +87,15 @@ TEST_F(ProgramTest, ADocumentsLinesAreAsManyAsItsListSays) {
 }
 
 TEST_F(ProgramTest, AQueryMustNotWrite) {
-    EXPECT_EQ(run({u"--query"_qs, u"delete from DODAKPOL"_qs}).status, 2);
-    const Outcome left = run({u"--query"_qs, u"select count(*) > 0 as LEFT_OVER from DODAKPOL"_qs});
+    EXPECT_EQ(run({QStringLiteral("--query"), QStringLiteral("delete from DODAKPOL")}).status, 2);
+    const Outcome left =
+        run({QStringLiteral("--query"), QStringLiteral("select count(*) > 0 as LEFT_OVER from DODAKPOL")});
     EXPECT_EQ(left.output, "{\"LEFT_OVER\":\"1\"}\n");
 }
 
 TEST_F(ProgramTest, ARefusalGoesToTheErrorStreamInOneSentenceFirst) {
-    const Outcome outcome = run({u"--call"_qs, u"MELVARKEDITORDodakCheckMaster"_qs, u"a_DODKID=999999"_qs});
+    const Outcome outcome = run(
+        {QStringLiteral("--call"), QStringLiteral("MELVARKEDITORDodakCheckMaster"), QStringLiteral("a_DODKID=999999")});
 
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(outcome.output, "");
@@ -101,8 +103,9 @@ TEST_F(ProgramTest, ARefusalGoesToTheErrorStreamInOneSentenceFirst) {
 }
 
 TEST_F(ProgramTest, ABatchRunsOnOneConnectionAndAnswersEveryCall) {
-    const Outcome outcome = run({u"--user"_qs, u"novakova"_qs, u"--call"_qs, u"--batch"_qs},
-                                "{\"call\":\"MELVARKEDITORDodObjInit\"}\n{\"call\":\"NENI\"}\n");
+    const Outcome outcome =
+        run({QStringLiteral("--user"), QStringLiteral("novakova"), QStringLiteral("--call"), QStringLiteral("--batch")},
+            "{\"call\":\"MELVARKEDITORDodObjInit\"}\n{\"call\":\"NENI\"}\n");
 
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     EXPECT_THAT(outcome.output, HasSubstr("\"UZIVATEL\":\"novakova\""));
@@ -111,26 +114,30 @@ TEST_F(ProgramTest, ABatchRunsOnOneConnectionAndAnswersEveryCall) {
 }
 
 TEST_F(ProgramTest, ACompanyOfExtraLinesIsMadeOnceAndNotOverAnother) {
-    const QString database = u"sqlite:"_qs + file(u"extra.sqlite"_qs);
-    const QStringList create{u"--database"_qs, database, u"--create-database"_qs, u"--lines"_qs, u"30"_qs};
+    const QString database = QStringLiteral("sqlite:") + file(QStringLiteral("extra.sqlite"));
+    const QStringList create{QStringLiteral("--database"), database, QStringLiteral("--create-database"),
+                             QStringLiteral("--lines"), QStringLiteral("30")};
 
     EXPECT_EQ(run(create).status, 0);
-    const Outcome templates = run({u"--database"_qs, database, u"--documents"_qs, u"DODOBJVZOR"_qs});
+    const Outcome templates =
+        run({QStringLiteral("--database"), database, QStringLiteral("--documents"), QStringLiteral("DODOBJVZOR")});
     EXPECT_THAT(templates.output, HasSubstr("\"lines\":30}"));
     EXPECT_EQ(run(create).status, 2);
 }
 
 TEST_F(ProgramTest, AMissingDatabaseIsAnErrorAndIsNotCreated) {
     const Outcome outcome =
-        run({u"--database"_qs, u"sqlite:"_qs + file(u"nowhere.sqlite"_qs), u"--query"_qs, u"select 1"_qs});
+        run({QStringLiteral("--database"), QStringLiteral("sqlite:") + file(QStringLiteral("nowhere.sqlite")),
+             QStringLiteral("--query"), QStringLiteral("select 1")});
 
     EXPECT_EQ(outcome.status, 2);
     EXPECT_THAT(outcome.errors, HasSubstr("nowhere.sqlite"));
-    EXPECT_FALSE(QFile::exists(file(u"nowhere.sqlite"_qs)));
+    EXPECT_FALSE(QFile::exists(file(QStringLiteral("nowhere.sqlite"))));
 }
 
 TEST_F(ProgramTest, ATraceFileThatCannotBeOpenedStopsTheProgramBeforeItWorks) {
-    const Outcome outcome = run({u"--trace"_qs, file(u"no-folder/trace.jsonl"_qs), u"--documents"_qs, u"DODAK"_qs});
+    const Outcome outcome = run({QStringLiteral("--trace"), file(QStringLiteral("no-folder/trace.jsonl")),
+                                 QStringLiteral("--documents"), QStringLiteral("DODAK")});
 
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(outcome.output, "");
