@@ -2,11 +2,11 @@
 
 #include "host/ValueText.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <optional>
-#include <set>
-#include <string_view>
 
 namespace refhost {
 
@@ -14,125 +14,222 @@ namespace {
 
 enum class Value { None, Needed, Optional };
 
-/// A command of the table: how it is asked for and which further options belong to it.
+/// A command: how it is asked for, what it works on and what the usage says about it.
 struct CommandRow {
     Command command;
-    std::string_view option;
+    const char* option;
     Value subject;
+    const char* operands;
     bool needsDocument;
+    const char* meaning;
 };
 
 constexpr std::array c_commands{
-    CommandRow{Command::Execute, "--execute", Value::Needed, true},
-    CommandRow{Command::Call, "--call", Value::Optional, false},
-    CommandRow{Command::Query, "--query", Value::Needed, false},
-    CommandRow{Command::Documents, "--documents", Value::Needed, false},
-    CommandRow{Command::Show, "--show", Value::Needed, true},
-    CommandRow{Command::CreateDatabase, "--create-database", Value::None, false},
-    CommandRow{Command::Help, "--help", Value::None, false},
+    CommandRow{Command::Execute, "--execute", Value::Needed, "PARAMS --document ID", true,
+               "opens the item editor on one document;\nexit status 0 confirmed, 1 not"},
+    CommandRow{Command::Call, "--call", Value::Optional, "PROCEDURE [NAME=VALUE ...]", false,
+               "runs one procedure and prints its rows and outputs as JSON lines"},
+    CommandRow{Command::Batch, "--batch", Value::None, "", false,
+               "runs the calls of standard input, one JSON line each:\n{\"call\":NAME,\"params\":{NAME:VALUE,...}};\n"
+               "--call PROCEDURE beside it serves the calls that name none"},
+    CommandRow{Command::Query, "--query", Value::Needed, "SQL", false,
+               "runs one read-only query and prints its rows as JSON lines"},
+    CommandRow{Command::Documents, "--documents", Value::Needed, "SCREEN", false,
+               "lists the documents of DODAK, DODOBJ or DODOBJVZOR as JSON lines"},
+    CommandRow{Command::Show, "--show", Value::Needed, "SCREEN --document ID", true,
+               "prints the stored lines of one document as JSON lines"},
+    CommandRow{Command::CreateDatabase, "--create-database", Value::None, "[--lines N]", false,
+               "fills an empty database with schema, procedures and sample data;\n"
+               "N adds one document of each kind with N lines"},
+    CommandRow{Command::Help, "--help", Value::None, "", false, "prints this text"},
 };
 
-/// An option that carries one text.
+/// One procedure may stand beside a batch; any other two commands exclude each other.
+constexpr bool standTogether(Command one, Command other) {
+    return one == other || (one == Command::Call && other == Command::Batch) ||
+           (one == Command::Batch && other == Command::Call);
+}
+
+/// An option that carries one text, for every command. What it may say is its validator's to decide.
 struct TextOptionRow {
-    std::string_view option;
+    const char* option;
+    const char* operand;
     std::string CommandLine::*field;
+    const char* meaning;
+    CLI::Validator allowed;
 };
 
-constexpr std::array c_textOptions{
-    TextOptionRow{"--database", &CommandLine::database}, TextOptionRow{"--user", &CommandLine::user},
-    TextOptionRow{"--locale", &CommandLine::locale},     TextOptionRow{"--language", &CommandLine::language},
-    TextOptionRow{"--trace", &CommandLine::traceFile},
-};
+CLI::Validator anyText() {
+    return CLI::Validator([](const std::string& value) { return value.empty() ? "needs a value" : std::string(); }, "");
+}
 
-/// An option that carries a number.
+CLI::Validator databaseName() {
+    return CLI::Validator(
+        [](const std::string& value) {
+            const bool isKnown = value.starts_with("sqlite:") || value.starts_with("postgresql:");
+            return isKnown ? std::string() : "begins with sqlite: or postgresql:";
+        },
+        "");
+}
+
+const std::vector<TextOptionRow>& textOptions() {
+    static const std::vector<TextOptionRow> rows{
+        {"--database", "sqlite:FILE | postgresql:CONNINFO", &CommandLine::database,
+         "the company's database; without it the user's own,\nmade with sample data on first start", databaseName()},
+        {"--user", "NAME", &CommandLine::user, "who works", anyText()},
+        {"--locale", "cs_CZ | en_GB", &CommandLine::locale, "how numbers and dates are written",
+         CLI::IsMember({"cs_CZ", "en_GB"})},
+        {"--language", "cs | en", &CommandLine::language, "the language of windows and messages",
+         CLI::IsMember({"cs", "en"})},
+        {"--trace", "FILE", &CommandLine::traceFile, "appends one JSON line for each service call", anyText()},
+    };
+    return rows;
+}
+
+/// An option that carries a number and belongs to some commands only.
 struct NumberOptionRow {
-    std::string_view option;
+    const char* option;
+    const char* operand;
     std::int32_t CommandLine::*field;
+    std::int32_t least;
+    std::vector<Command> commands;
+    const char* meaning;
 };
 
-constexpr std::array c_numberOptions{
-    NumberOptionRow{"--document", &CommandLine::document},
-    NumberOptionRow{"--lines", &CommandLine::lines},
-};
+const std::vector<NumberOptionRow>& numberOptions() {
+    static const std::vector<NumberOptionRow> rows{
+        // Record numbers are positive, but that is for the screen to say.
+        {"--document",
+         "ID",
+         &CommandLine::document,
+         std::numeric_limits<std::int32_t>::min(),
+         {Command::Execute, Command::Show},
+         "the document that a command works on"},
+        {"--lines", "N", &CommandLine::lines, 0, {Command::CreateDatabase}, "lines of the additional documents"},
+    };
+    return rows;
+}
 
-template <typename Rows>
-auto findRow(const Rows& rows, std::string_view option) -> const typename Rows::value_type* {
-    const auto row = std::find_if(rows.begin(), rows.end(), [&](const auto& each) { return each.option == option; });
-    return row == rows.end() ? nullptr : &*row;
+const CommandRow& rowOf(Command command) {
+    return *std::find_if(c_commands.begin(), c_commands.end(),
+                         [&](const CommandRow& row) { return row.command == command; });
 }
 
 bool looksLikeOption(std::string_view word) {
     return word.starts_with("--");
 }
 
-[[noreturn]] void refuse(std::string_view option, std::string_view reason) {
-    throw CommandLineError(std::string(option) + " " + std::string(reason));
+/// A value that was forgotten must not swallow the option behind it.
+CLI::Validator noOption() {
+    return CLI::Validator(
+        [](const std::string& value) { return looksLikeOption(value) ? "needs a value" : std::string(); }, "");
 }
 
-/// Takes the words one after the other; what belongs together is checked at the end, so that order does not matter.
+CLI::Validator wholeNumber(std::int32_t least) {
+    return CLI::Validator(
+        [least](const std::string& value) -> std::string {
+            const std::optional<std::int32_t> number = TextToInt(value);
+            if (!number) {
+                return "needs a whole number, not \"" + value + "\"";
+            }
+            return *number < least ? "must not be less than " + std::to_string(least) : "";
+        },
+        "");
+}
+
+[[noreturn]] void refuse(std::string_view option, std::string_view reason) {
+    throw CommandLineError(std::string(option) + ": " + std::string(reason));
+}
+
+/// Declares the rows of the tables to the parser and takes what it found. Words may stand in any order.
 class Reader {
 public:
-    explicit Reader(const std::vector<std::string>& words) : words_(words) {}
+    Reader() : app_("Melvark's reference host: opens its document screens, or runs one command.", "melvark-host") {
+        // Asking for help is a command like the others.
+        app_.set_help_flag();
+        // The values of a call have names that only the procedure knows.
+        app_.allow_extras();
+        app_.footer("Any error ends the program with exit status 2 and a message on the standard error output.");
+        app_.get_formatter()->column_width(c_helpColumn);
+        declareTexts();
+        declareNumbers();
+        declareCommands();
+    }
 
-    CommandLine read() {
-        while (position_ < words_.size()) {
-            readWord(words_[position_++]);
+    CommandLine read(const std::vector<std::string>& words) {
+        // The parser takes its words from the back.
+        std::vector<std::string> reversed(words.rbegin(), words.rend());
+        try {
+            app_.parse(std::move(reversed));
+        } catch (const CLI::ParseError& error) {
+            throw CommandLineError(error.what());
         }
+        readCommand();
+        std::ranges::for_each(app_.remaining(), [this](const std::string& word) { readArgument(word); });
         checkTogether();
         return std::move(result_);
     }
 
+    std::string usage() const { return app_.help(); }
+
 private:
-    void readWord(const std::string& word) {
-        if (looksLikeOption(word) && !given_.insert(word).second) {
-            refuse(word, "is given twice");
-        }
-        if (const auto* commandRow = findRow(c_commands, word)) {
-            readCommand(*commandRow);
-        } else if (const auto* textRow = findRow(c_textOptions, word)) {
-            result_.*(textRow->field) = readNonEmpty(textRow->option);
-        } else if (const auto* numberRow = findRow(c_numberOptions, word)) {
-            result_.*(numberRow->field) = readNumber(numberRow->option);
-        } else if (word != "--batch") {
-            readArgument(word);
+    static constexpr std::size_t c_helpColumn = 36;
+
+    CLI::Option* addOption(const char* name, std::string& target, const char* meaning) {
+        return app_
+            .add_option_function<std::string>(
+                name, [&target](const std::string& value) { target = value; }, meaning)
+            ->check(noOption());
+    }
+
+    void declareTexts() {
+        for (const TextOptionRow& row : textOptions()) {
+            addOption(row.option, result_.*row.field, row.meaning)->option_text(row.operand)->check(row.allowed);
         }
     }
 
-    void readCommand(const CommandRow& row) {
-        if (command_) {
-            refuse(row.option, "cannot be combined with " + std::string(command_->option));
-        }
-        command_ = &row;
-        result_.command = row.command;
-        if (row.subject == Value::Needed || (row.subject == Value::Optional && hasValue())) {
-            result_.subject = readValue(row.option);
+    void declareNumbers() {
+        for (const NumberOptionRow& row : numberOptions()) {
+            app_.add_option_function<std::string>(
+                    row.option,
+                    [this, field = row.field](const std::string& value) { result_.*field = TextToInt(value).value(); },
+                    row.meaning)
+                ->option_text(row.operand)
+                ->check(wholeNumber(row.least));
         }
     }
 
-    bool hasValue() const { return position_ < words_.size() && !looksLikeOption(words_[position_]); }
-
-    std::string readValue(std::string_view option) {
-        if (!hasValue()) {
-            refuse(option, "needs a value");
+    void declareCommands() {
+        for (const CommandRow& row : c_commands) {
+            CLI::Option* option = row.subject == Value::None ? app_.add_flag(row.option, row.meaning)
+                                                                   ->disable_flag_override()
+                                                                   ->multi_option_policy(CLI::MultiOptionPolicy::Throw)
+                                                             : addOption(row.option, result_.subject, row.meaning);
+            if (row.subject == Value::Optional) {
+                option->expected(0, 1);
+            }
+            if (row.needsDocument) {
+                option->needs(app_.get_option("--document"));
+            }
+            // Without a text of its own the usage would list what the command excludes.
+            option->option_text(*row.operands == '\0' ? " " : row.operands)->group("Commands");
+            for (const CommandRow* earlier = c_commands.begin(); earlier->command != row.command; ++earlier) {
+                if (!standTogether(earlier->command, row.command)) {
+                    option->excludes(app_.get_option(earlier->option));
+                }
+            }
         }
-        return words_[position_++];
     }
 
-    std::string readNonEmpty(std::string_view option) {
-        std::string value = readValue(option);
-        if (value.empty()) {
-            refuse(option, "needs a value");
-        }
-        return value;
-    }
+    bool isGiven(const char* option) const { return app_.count(option) > 0; }
 
-    std::int32_t readNumber(std::string_view option) {
-        const std::string text = readValue(option);
-        const std::optional<std::int32_t> number = TextToInt(text);
-        if (!number) {
-            refuse(option, "needs a whole number, not \"" + text + "\"");
+    /// A batch stands behind the call that may be beside it.
+    void readCommand() {
+        for (const CommandRow& row : c_commands) {
+            if (isGiven(row.option)) {
+                result_.command = row.command;
+            }
         }
-        return *number;
     }
 
     void readArgument(const std::string& word) {
@@ -143,93 +240,41 @@ private:
         result_.arguments.emplace_back(word.substr(0, equals), word.substr(equals + 1));
     }
 
-    bool isGiven(std::string_view option) const { return given_.contains(option); }
-
-    void checkTogether() {
-        if (isGiven("--batch")) {
-            checkBatch();
-        } else if (result_.command == Command::Call && result_.subject.empty()) {
+    void checkTogether() const {
+        if (result_.command == Command::Call && result_.subject.empty()) {
             refuse("--call", "needs a procedure");
         }
         if (!result_.arguments.empty() && result_.command != Command::Call) {
             throw CommandLineError("unknown word: " + result_.arguments.front().first +
-                                   "=... (values belong to --call)");
+                                   "=... (values belong to --call, those of a batch to its lines)");
         }
-        if (command_ && command_->needsDocument && !isGiven("--document")) {
-            refuse(command_->option, "needs --document");
-        }
-        if (isGiven("--document") && !(command_ && command_->needsDocument)) {
-            refuse("--document", "belongs to --execute or --show");
-        }
-        checkLines();
-        checkWords();
-    }
-
-    /// The calls of a batch come from standard input; a procedure named beside it serves the calls that name none.
-    void checkBatch() {
-        if (command_ && result_.command != Command::Call) {
-            refuse("--batch", "belongs to --call");
-        }
-        if (!result_.arguments.empty()) {
-            refuse("--batch", "reads its values from standard input");
-        }
-        result_.command = Command::Batch;
-    }
-
-    void checkLines() const {
-        if (isGiven("--lines") && result_.command != Command::CreateDatabase) {
-            refuse("--lines", "belongs to --create-database");
-        }
-        if (result_.lines < 0) {
-            refuse("--lines", "must not be negative");
+        for (const NumberOptionRow& row : numberOptions()) {
+            if (isGiven(row.option) && std::ranges::find(row.commands, result_.command) == row.commands.end()) {
+                refuse(row.option, "belongs to " + namesOf(row.commands));
+            }
         }
     }
 
-    void checkWords() const {
-        if (isGiven("--database") && !result_.database.starts_with("sqlite:") &&
-            !result_.database.starts_with("postgresql:")) {
-            refuse("--database", "begins with sqlite: or postgresql:");
+    static std::string namesOf(const std::vector<Command>& commands) {
+        std::string names;
+        for (const Command command : commands) {
+            names += (names.empty() ? "" : " or ") + std::string(rowOf(command).option);
         }
-        if (result_.locale != "cs_CZ" && result_.locale != "en_GB") {
-            refuse("--locale", "is cs_CZ or en_GB");
-        }
-        if (result_.language != "cs" && result_.language != "en") {
-            refuse("--language", "is cs or en");
-        }
+        return names;
     }
 
-    const std::vector<std::string>& words_;
-    std::size_t position_ = 0;
+    CLI::App app_;
     CommandLine result_;
-    const CommandRow* command_ = nullptr;
-    std::set<std::string, std::less<>> given_;
 };
 
 } // namespace
 
 CommandLine parseCommandLine(const std::vector<std::string>& words) {
-    return Reader(words).read();
+    return Reader().read(words);
 }
 
 std::string usageText() {
-    return R"(usage: melvark-host [--database sqlite:FILE | postgresql:CONNINFO] [--user NAME] [--locale cs_CZ | en_GB]
-                    [--language cs | en] [--trace FILE] [COMMAND]
-
-Without a command the host opens with its three document screens. Commands:
-  --execute PARAMS --document ID   opens the item editor on one document; exit status 0 confirmed, 1 not
-  --call PROCEDURE [NAME=VALUE ...]
-                                   runs one procedure and prints its rows and outputs as JSON lines
-  --call --batch                   runs the calls of standard input, one JSON line each:
-                                   {"call":NAME,"params":{NAME:VALUE,...}}
-  --query SQL                      runs one read-only query and prints its rows as JSON lines
-  --documents SCREEN               lists the documents of DODAK, DODOBJ or DODOBJVZOR as JSON lines
-  --show SCREEN --document ID      prints the stored lines of one document as JSON lines
-  --create-database [--lines N]    fills an empty database with schema, procedures and sample data;
-                                   N adds one document of each kind with N lines
-  --help                           prints this text
-
-Any error ends the program with exit status 2 and a message on the standard error output.
-)";
+    return Reader().usage();
 }
 
 } // namespace refhost

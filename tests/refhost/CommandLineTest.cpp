@@ -8,6 +8,7 @@ namespace refhost {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 using testing::Pair;
 
 struct GoodCase {
@@ -41,6 +42,11 @@ INSTANTIATE_TEST_SUITE_P(
         GoodCase{"EmptyParams", {"--execute", "", "--document", "1"}, Command::Execute, "", 1, 0},
         // Record numbers are positive, but that is for the screen to say.
         GoodCase{"NegativeDocument", {"--show", "DODAK", "--document", "-5"}, Command::Show, "DODAK", -5, 0},
+        GoodCase{"LeadingZeroIsDecimal", {"--show", "DODAK", "--document", "010"}, Command::Show, "DODAK", 10, 0},
+        GoodCase{"ValueBehindAnEqualsSign", {"--show=DODAK", "--document=7"}, Command::Show, "DODAK", 7, 0},
+        // Brackets and braces mean something to other programs; here they are the text.
+        GoodCase{"BracketsAreText", {"--query", "[a,b]"}, Command::Query, "[a,b]", 0, 0},
+        GoodCase{"BracesAreText", {"--query", "{}"}, Command::Query, "{}", 0, 0},
         GoodCase{"Call", {"--call", "MELVARKEDITORDodakInit"}, Command::Call, "MELVARKEDITORDodakInit", 0, 0},
         GoodCase{"CallBatch", {"--call", "--batch"}, Command::Batch, "", 0, 0},
         GoodCase{"BatchAlone", {"--batch"}, Command::Batch, "", 0, 0},
@@ -72,29 +78,34 @@ TEST_P(BadCommandLine, IsRefusedWithTheWordThatIsWrong) {
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, BadCommandLine,
-    testing::Values(BadCase{"UnknownOption", {"--colour", "red"}, "unknown word: --colour"},
-                    BadCase{"LooseWord", {"DODAK"}, "unknown word: DODAK"},
-                    BadCase{"NoValue", {"--database"}, "--database needs a value"},
-                    BadCase{"OptionInsteadOfValue", {"--user", "--batch"}, "--user needs a value"},
-                    BadCase{"EmptyValue", {"--user", ""}, "--user needs a value"},
-                    BadCase{"Twice", {"--user", "a", "--user", "b"}, "--user is given twice"},
-                    BadCase{"TwoCommands",
-                            {"--query", "select 1", "--documents", "DODAK"},
-                            "--documents cannot be combined with --query"},
-                    BadCase{"NoDocument", {"--execute", "DODAK"}, "--execute needs --document"},
-                    BadCase{"DocumentOfNothing", {"--document", "1"}, "--document belongs to --execute or --show"},
-                    BadCase{"DocumentIsText", {"--show", "DODAK", "--document", "first"}, "\"first\""},
-                    BadCase{"DocumentTooBig", {"--show", "DODAK", "--document", "2147483648"}, "\"2147483648\""},
-                    BadCase{"NoProcedure", {"--call"}, "--call needs a procedure"},
-                    BadCase{"ValuesInBatch", {"--call", "--batch", "a_ID=1"}, "--batch reads its values"},
-                    BadCase{"BatchOfQuery", {"--query", "select 1", "--batch"}, "--batch belongs to --call"},
-                    BadCase{"ValuesOfQuery", {"--query", "select 1", "a_ID=1"}, "belong to --call"},
-                    BadCase{"NamelessValue", {"--call", "X", "=1"}, "unknown word: =1"},
-                    BadCase{"LinesOfNothing", {"--lines", "5"}, "--lines belongs to --create-database"},
-                    BadCase{"NegativeLines", {"--create-database", "--lines", "-1"}, "--lines must not be negative"},
-                    BadCase{"OtherEngine", {"--database", "file.db"}, "--database begins with"},
-                    BadCase{"OtherLocale", {"--locale", "de_DE"}, "--locale is"},
-                    BadCase{"OtherLanguage", {"--language", "de"}, "--language is"}),
+    testing::Values(
+        BadCase{"UnknownOption", {"--colour", "red"}, "unknown word: --colour"},
+        BadCase{"LooseWord", {"DODAK"}, "unknown word: DODAK"},
+        BadCase{"NoValue", {"--database"}, "--database: 1 required"},
+        BadCase{"OptionInsteadOfValue", {"--user", "--batch"}, "--user: needs a value"},
+        BadCase{"EmptyValue", {"--user", ""}, "--user: needs a value"},
+        BadCase{"Twice", {"--user", "a", "--user", "b"}, "--user: At Most 1"},
+        BadCase{"CommandTwice", {"--batch", "--batch"}, "--batch: At Most 1"},
+        BadCase{"CommandWithAnAnswer", {"--batch=false"}, "batch was given a disallowed"},
+        BadCase{"UnknownOptionAmongValues", {"--call", "X", "a_ID=1", "--b=2"}, "unknown word: --b=2"},
+        BadCase{"TwoCommands", {"--query", "select 1", "--documents", "DODAK"}, "--query excludes --documents"},
+        BadCase{"NoDocument", {"--execute", "DODAK"}, "--execute requires --document"},
+        BadCase{"DocumentOfNothing", {"--document", "1"}, "--document: belongs to --execute or --show"},
+        BadCase{"DocumentIsText", {"--show", "DODAK", "--document", "first"}, "\"first\""},
+        BadCase{"DocumentIsNoDecimalNumber", {"--show", "DODAK", "--document", "0x10"}, "\"0x10\""},
+        BadCase{"DocumentTooBig", {"--show", "DODAK", "--document", "2147483648"}, "\"2147483648\""},
+        BadCase{"NoProcedure", {"--call"}, "--call: needs a procedure"},
+        BadCase{"ValuesInBatch",
+                {"--call", "--batch", "a_ID=1"},
+                "unknown word: a_ID=... (values belong to --call, those of a batch to its lines)"},
+        BadCase{"BatchOfQuery", {"--query", "select 1", "--batch"}, "--batch excludes --query"},
+        BadCase{"ValuesOfQuery", {"--query", "select 1", "a_ID=1"}, "belong to --call"},
+        BadCase{"NamelessValue", {"--call", "X", "=1"}, "unknown word: =1"},
+        BadCase{"LinesOfNothing", {"--lines", "5"}, "--lines: belongs to --create-database"},
+        BadCase{"NegativeLines", {"--create-database", "--lines", "-1"}, "--lines: must not be less than 0"},
+        BadCase{"OtherEngine", {"--database", "file.db"}, "--database: begins with"},
+        BadCase{"OtherLocale", {"--locale", "de_DE"}, "--locale: de_DE not in"},
+        BadCase{"OtherLanguage", {"--language", "de"}, "--language: de not in"}),
     [](const auto& row) { return row.param.name; });
 
 TEST(CommandLine, HasTheLocaleAndLanguageOfTheCompanyUntilToldOtherwise) {
@@ -131,6 +142,7 @@ TEST(CommandLine, UsageNamesEveryCommand) {
           "--lines", "--database", "--user", "--locale", "--language", "--trace"}) {
         EXPECT_THAT(usageText(), HasSubstr(option));
     }
+    EXPECT_THAT(usageText(), Not(HasSubstr("Excludes")));
 }
 
 } // namespace
