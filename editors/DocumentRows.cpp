@@ -58,6 +58,12 @@ std::vector<AnsiString> ReadTexts(TLiveResult& result, std::string_view column) 
     return texts;
 }
 
+std::vector<AnsiString> QueryTexts(const AnsiString& sql, std::string_view column) {
+    TLiveQuery query(sql);
+    query.LiveOpen();
+    return ReadTexts(query, column);
+}
+
 void SetRowParams(TLiveStoredProc& procedure, std::span<const RowParam> params, const DocumentColumns& columns,
                   const TDataGrid& store, int row) {
     for (const RowParam& param : params) {
@@ -89,6 +95,15 @@ bool InsertRows(const AnsiString& procedure, std::span<const RowParam> params, c
         }
     }
     return true;
+}
+
+bool TakeOverRows(const AnsiString& procedure, const IdParam& document, std::initializer_list<IdParam> sources) {
+    TLiveStoredProc closing(procedure);
+    closing.ParamByName(document.Param).SetAsInteger(document.ID);
+    for (const IdParam& source : sources) {
+        SetIdentifier(closing.ParamByName(source.Param), source.ID);
+    }
+    return closing.Exec(false);
 }
 
 } // namespace melvark

@@ -4,6 +4,7 @@
 #include "host/LiveData.h"
 #include "host/Types.h"
 
+#include <initializer_list>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,9 @@ void FillStore(TDataGrid& store, const DocumentColumns& columns, TLiveResult& re
 /// The column's texts in the rest of the result's rows, in the order returned.
 std::vector<AnsiString> ReadTexts(TLiveResult& result, std::string_view column);
 
+/// The column's texts in all rows of the query, in the order returned. Throws EDatabaseError.
+std::vector<AnsiString> QueryTexts(const AnsiString& sql, std::string_view column);
+
 /// How a cell travels to the database: as its text, or as number text, in which every comma becomes a point whatever
 /// the locale writes.
 enum class ParamForm { Text, NumberText };
@@ -49,6 +53,12 @@ struct RowParam {
 void SetRowParams(TLiveStoredProc& procedure, std::span<const RowParam> params, const DocumentColumns& columns,
                   const TDataGrid& store, int row);
 
+/// One identifier that a procedure gets.
+struct IdParam {
+    std::string_view Param;
+    int ID;
+};
+
 /// Sets an identifier, or null for none (c_NullValue).
 void SetIdentifier(TLiveParam& param, int id);
 
@@ -56,5 +66,9 @@ void SetIdentifier(TLiveParam& param, int id);
 /// inserted so far stay staged in the database, nothing is taken over. Database errors propagate.
 bool InsertRows(const AnsiString& procedure, std::span<const RowParam> params, const DocumentColumns& columns,
                 const TDataGrid& store);
+
+/// The closing call of a save: takes the staged rows over into the document and names the documents that they came
+/// from, null where none was chosen. False when the call reports failure; a refusal throws EDatabaseError.
+bool TakeOverRows(const AnsiString& procedure, const IdParam& document, std::initializer_list<IdParam> sources);
 
 } // namespace melvark

@@ -1,8 +1,8 @@
 #include "editors/DodakOpening.h"
 
+#include "editors/DocumentOpening.h"
 #include "editors/DocumentRows.h"
 #include "editors/EditTypes.h"
-#include "host/LangStr.h"
 
 EDodakEditBox::~EDodakEditBox() = default;
 
@@ -26,11 +26,7 @@ void Init(DodakOpening& opening) {
 } // namespace
 
 DodakOpening OpenDodak(const AnsiString& editType, int dodkId, int dodvId) {
-    const int fillMode = EditTypeNumber(c_DodakEditType, editType);
-    if (fillMode == 0) {
-        throw EDodakEditBox(
-            LangStr("KORDAN30\\MELVARKEDITOR\\INVALIDEDITTYPE", {editType}, "Neplatný typ editace (%s)"));
-    }
+    const int fillMode = RequireEditType<EDodakEditBox>(c_DodakEditType, editType);
     DodakOpening opening{.EditType = editType,
                          .FillMode = fillMode,
                          .DodkID = dodkId,
@@ -44,12 +40,6 @@ DodakOpening OpenDodak(const AnsiString& editType, int dodkId, int dodvId) {
 
 std::vector<AnsiString> FillDPHList(TLiveStoredProc& initialisation) {
     return ReadTexts(initialisation, "NAZEV");
-}
-
-std::vector<AnsiString> FillSkladList() {
-    TLiveQuery warehouses("select NAZEV from SKLAD_V order by NAZEV");
-    warehouses.LiveOpen();
-    return ReadTexts(warehouses, "NAZEV");
 }
 
 } // namespace melvark

@@ -42,7 +42,4 @@ DodakOpening OpenDodak(const AnsiString& editType, int dodkId, int dodvId);
 /// The names of the VAT rates in the procedure's current result set, in the order returned.
 std::vector<AnsiString> FillDPHList(TLiveStoredProc& initialisation);
 
-/// The names of all warehouses, sorted by the database.
-std::vector<AnsiString> FillSkladList();
-
 } // namespace melvark

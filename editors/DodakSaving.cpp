@@ -45,11 +45,8 @@ bool InsertDodakRows(const DocumentColumns& columns, const TDataGrid& store) {
 }
 
 bool TakeOverDodakRows(const DodakSaveTarget& target) {
-    TLiveStoredProc closing("MELVARKEDITORDodakTempUloz");
-    closing.ParamByName("a_DODKID").SetAsInteger(target.DodkID);
-    SetIdentifier(closing.ParamByName("a_DODKID_ZDROJ"), target.SourceDodkID);
-    SetIdentifier(closing.ParamByName("a_DDOBID_ZDROJ"), target.SourceOrderID);
-    return closing.Exec(false);
+    return TakeOverRows("MELVARKEDITORDodakTempUloz", {"a_DODKID", target.DodkID},
+                        {{"a_DODKID_ZDROJ", target.SourceDodkID}, {"a_DDOBID_ZDROJ", target.SourceOrderID}});
 }
 
 } // namespace melvark

@@ -1,19 +1,18 @@
 #include "editors/MelvarkEditorDodakEditWin.h"
 
+#include "editors/DocumentOpening.h"
 #include "editors/DodakColumns.h"
 #include "editors/DodakPrices.h"
 #include "editors/DodakSaving.h"
 #include "editors/DodakSources.h"
-#include "editwin/model/EditExceptions.h"
+#include "editors/SourceSteps.h"
 #include "host/HostServices.h"
 #include "host/LangStr.h"
-#include "host/LibraryManager.h"
-#include "host/LiveData.h"
 #include "host/widgets/StringGrid.h"
 #include "select/MelvarkEditorSelectWin.h"
 
-#include <array>
 #include <functional>
+#include <iterator>
 #include <utility>
 
 using namespace melvark;
@@ -22,10 +21,6 @@ namespace {
 
 constexpr int c_EditTypeNumber = 0;
 
-EEditBoxCanceled Canceled() {
-    return EEditBoxCanceled("Canceled");
-}
-
 } // namespace
 
 TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, const AnsiString& aEditType, int aID,
@@ -33,8 +28,8 @@ TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManage
     : TDodakEditBox(aOwner, aLibraryManager, OpenDodak(aEditType, aID, aDodvID)) {}
 
 TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, DodakOpening opening)
-    : TEditBox(aOwner, aLibraryManager, c_EditTypeNumber, "DODAK", opening.FillMode, opening.EditType, opening.UserName,
-               LoadDefaultColumnsSettings(opening, this)),
+    : TDocumentEditBox(aOwner, aLibraryManager, c_EditTypeNumber, "DODAK", opening.FillMode, opening.EditType,
+                       opening.UserName, LoadDefaultColumnsSettings(opening, this)),
       FOpening(std::move(opening)) {
     SetTopButtonPanelVisibility(true);
     SetTitle(LangStr(R"(KORDAN30\MELVARKEDITOR\DODAKAPPTITLE)", {}, "Vložení položek dodacího listu"));
@@ -43,8 +38,7 @@ TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManage
     }
     SetOnSaveData([this] { return SaveData(); });
     FillGrid(FOpening.FillMode);
-    DataGrid().ResetModified();
-    Constructed();
+    Filled();
 }
 
 TDodakEditBox::~TDodakEditBox() = default;
@@ -59,48 +53,29 @@ std::vector<RColumn> TDodakEditBox::LoadDefaultColumnsSettings(const DodakOpenin
 }
 
 bool TDodakEditBox::CheckMasterDodak(int aDodkID) {
-    TLiveStoredProc check("MELVARKEDITORDodakCheckMaster");
-    check.ParamByName("a_DODKID").SetAsInteger(aDodkID);
-    return check.Exec(false);
-}
-
-DocumentColumns TDodakEditBox::Columns() const {
-    return {ActiveColumns(), DefaultColumns()};
+    return CheckMasterDocument("MELVARKEDITORDodakCheckMaster", "a_DODKID", aDodkID);
 }
 
 void TDodakEditBox::FillGrid(int aFillMode) {
-    static constexpr std::array c_Fills{&TDodakEditBox::FillByOrder, &TDodakEditBox::FillByDeliveryNote,
-                                        &TDodakEditBox::FillByTemplate};
-    static_assert(c_Fills.size() == c_DodakEditType.size());
-    std::invoke(c_Fills.at(static_cast<std::size_t>(aFillMode) - 1), this);
+    static constexpr SourceStep<TDodakEditBox> c_Ways[] = {
+        {&TDodakEditBox::AskForOrder, &TDodakEditBox::FillGridFromObjednavka},
+        {&TDodakEditBox::AskForDeliveryNote, &TDodakEditBox::FillFromChosenDeliveryNote},
+        {nullptr, &TDodakEditBox::FillFromTemplate},
+    };
+    static_assert(std::size(c_Ways) == c_DodakEditType.size());
+    FillFromSource(*this, c_Ways, aFillMode);
 }
 
-void TDodakEditBox::FillByOrder() {
-    TSelectBox selection(this, LibraryManager());
-    selection.DodakSelectFromObjednavka(FOpening.DodkID, FOpening.DodvID);
-    if (selection.ShowModal() == c_ResultOk) {
-        FOrderID = selection.GetID();
-    }
-    if (FOrderID <= c_NullValue) {
-        throw Canceled();
-    }
-    FillGridFromObjednavka();
+void TDodakEditBox::AskForOrder() {
+    FOrderID = AskForSource([this](TSelectBox& selection) {
+                   selection.DodakSelectFromObjednavka(FOpening.DodkID, FOpening.DodvID);
+               }).ID;
 }
 
-void TDodakEditBox::FillByDeliveryNote() {
-    TSelectBox selection(this, LibraryManager());
-    selection.DodakSelectFromDodak(FOpening.DodkID, FOpening.DodvID);
-    if (selection.ShowModal() == c_ResultOk) {
-        FDeliveryNoteID = selection.GetID();
-    }
-    if (FDeliveryNoteID <= c_NullValue) {
-        throw Canceled();
-    }
-    FillGridFromDodak(selection.GetPrenesMnozstvi(), selection.GetPrenesCeny());
-}
-
-void TDodakEditBox::FillByTemplate() {
-    FillGridFromSablona(true, true);
+void TDodakEditBox::AskForDeliveryNote() {
+    FChoice = AskForSource(
+        [this](TSelectBox& selection) { selection.DodakSelectFromDodak(FOpening.DodkID, FOpening.DodvID); });
+    FDeliveryNoteID = FChoice.ID;
 }
 
 void TDodakEditBox::FillGridFromObjednavka() {

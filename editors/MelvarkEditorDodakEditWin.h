@@ -1,9 +1,7 @@
 #pragma once
 
-#include "editors/DocumentRows.h"
+#include "editors/DocumentEditBox.h"
 #include "editors/DodakOpening.h"
-#include "editors/EditTypes.h"
-#include "editwin/MelvarkEditorEditWin.h"
 
 #include <vector>
 
@@ -12,7 +10,7 @@
 ///
 /// Constructed for one delivery note, shown modally once by its workflow, and freed. It refreshes no screen. What the
 /// rules are stands beside it: DodakColumns, DodakSources, DodakPrices, DodakSaving.
-class TDodakEditBox : public TEditBox {
+class TDodakEditBox : public TDocumentEditBox {
     Q_OBJECT
 
 public:
@@ -38,17 +36,18 @@ private:
     static std::vector<RColumn> LoadDefaultColumnsSettings(const melvark::DodakOpening& opening, TDodakEditBox* form);
     static bool CheckMasterDodak(int aDodkID);
 
+    /// An unknown fill mode leaves one empty row.
     void FillGrid(int aFillMode);
-    void FillByOrder();
-    void FillByDeliveryNote();
-    void FillByTemplate();
+    void AskForOrder();
+    void AskForDeliveryNote();
     void FillGridFromObjednavka();
     void FillGridFromDodak(bool aPrenesMnozstvi, bool aPrenesCeny);
     void FillGridFromSablona(bool aPrenesMnozstvi, bool aPrenesCeny);
-
-    melvark::DocumentColumns Columns() const;
+    void FillFromChosenDeliveryNote() { FillGridFromDodak(FChoice.WithQuantities, FChoice.WithPrices); }
+    void FillFromTemplate() { FillGridFromSablona(true, true); }
 
     melvark::DodakOpening FOpening;
     int FOrderID = c_NullValue;        ///< The source supplier order, once one was chosen.
     int FDeliveryNoteID = c_NullValue; ///< The source delivery note, once one was chosen.
+    melvark::SourceChoice FChoice;     ///< What is wanted of it.
 };

@@ -12,6 +12,8 @@
 #include <QMenu>
 #include <QPushButton>
 
+#include <algorithm>
+
 namespace {
 
 using testing::AllOf;
@@ -195,6 +197,19 @@ TEST_F(DodakEditorSource, AnotherDeliveryNotesLinesAreFilledAsTheOptionsSay) {
     EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "", Qt::Key_Return, Qt::ControlModifier); }), c_ResultOk);
     EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakTempUloz"),
                 ElementsAre("MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=12, a_DDOBID_ZDROJ=null)"));
+}
+
+TEST_F(DodakEditorSource, TheDialogIsGoneWhenTheLinesAreAskedFor) {
+    bool wasThere = true;
+    host_.connection.procedure("MELVARKEDITORDodakGetPolozkyByObjednavka").answers([&](const TProcedureCall&) {
+        wasThere = std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* window) {
+            return window->objectName() == QStringLiteral("SelectBox");
+        });
+        return TCallResult{true, {dodakLines(sampleLines())}, {}};
+    });
+    ModalDriver dialog(QStringLiteral("SelectBox"), [](QWidget& box) { press(box, "OkBtn"); });
+    open("DODOBJ");
+    EXPECT_FALSE(wasThere);
 }
 
 TEST_F(DodakEditorSource, TheListOffersThisSuppliersDocumentsOnly) {
