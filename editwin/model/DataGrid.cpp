@@ -11,6 +11,11 @@ std::size_t AsSize(int index) {
     return static_cast<std::size_t>(index);
 }
 
+/// How many of `size` positions a count covers; one that was never set bounds nothing.
+std::size_t Covered(int count, std::size_t size) {
+    return count == 0 ? size : std::min(AsSize(count), size);
+}
+
 } // namespace
 
 TDataGridCell::TDataGridCell(AnsiString value) : FValue(std::move(value)) {}
@@ -42,7 +47,7 @@ void TDataGrid::SetCells(int col, int row, AnsiString value) {
 
 const AnsiString& TDataGrid::GetCells(int col, int row) const {
     static const AnsiString empty;
-    return HasCell(col, row) ? FColumns[AsSize(col)].Values[AsSize(row)] : empty;
+    return IsCounted(col, row) && HasCell(col, row) ? FColumns[AsSize(col)].Values[AsSize(row)] : empty;
 }
 
 void TDataGrid::SetModified(int col, int row, bool flag) {
@@ -55,11 +60,11 @@ void TDataGrid::SetModified(int col, int row, bool flag) {
 }
 
 bool TDataGrid::GetModified(int col, int row) const {
-    return HasCell(col, row) && FColumns[AsSize(col)].Modified[AsSize(row)];
+    return IsCounted(col, row) && IsMarked(col, row);
 }
 
 void TDataGrid::SetCellWithNoChange(int col, int row, AnsiString value) {
-    const bool modified = GetModified(col, row);
+    const bool modified = IsMarked(col, row);
     SetCells(col, row, std::move(value));
     if (!modified) {
         SetModified(col, row, false);
@@ -67,15 +72,19 @@ void TDataGrid::SetCellWithNoChange(int col, int row, AnsiString value) {
 }
 
 void TDataGrid::ResetModified() {
-    for (std::size_t col = 0; col < std::min(AsSize(FColCount), FColumns.size()); ++col) {
+    for (std::size_t col = 0; col < Covered(FColCount, FColumns.size()); ++col) {
         std::vector<bool>& marks = FColumns[col].Modified;
-        std::fill_n(marks.begin(), std::min(AsSize(FRowCount), marks.size()), false);
+        std::fill_n(marks.begin(), Covered(FRowCount, marks.size()), false);
     }
 }
 
 bool TDataGrid::HasCell(int col, int row) const {
     return col >= 0 && AsSize(col) < FColumns.size() && row >= 0 &&
            AsSize(row) < FColumns[AsSize(col)].Present.size() && FColumns[AsSize(col)].Present[AsSize(row)];
+}
+
+bool TDataGrid::IsMarked(int col, int row) const {
+    return HasCell(col, row) && FColumns[AsSize(col)].Modified[AsSize(row)];
 }
 
 /// The cell moved out of its column, which is made long enough to take it back; an empty one that is not marked when
@@ -107,9 +116,9 @@ void TDataGrid::PutCell(int col, int row, TDataGridCell cell) {
 
 /// Empties the positions from the given column and row up to the last counted ones.
 void TDataGrid::EmptyCells(int firstCol, int firstRow) {
-    for (int col = std::max(firstCol, 0); col < FColCount && AsSize(col) < FColumns.size(); ++col) {
-        TColumn& column = FColumns[AsSize(col)];
-        const std::size_t end = std::min(AsSize(FRowCount), column.Values.size());
+    for (std::size_t col = AsSize(std::max(firstCol, 0)); col < Covered(FColCount, FColumns.size()); ++col) {
+        TColumn& column = FColumns[col];
+        const std::size_t end = Covered(FRowCount, column.Values.size());
         for (std::size_t row = AsSize(std::max(firstRow, 0)); row < end; ++row) {
             column.Values[row] = AnsiString();
             column.Present[row] = false;

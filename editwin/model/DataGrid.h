@@ -29,13 +29,14 @@ private:
 /// each cell that the user changed. Values are texts as committed: numbers carry the locale's decimal separator.
 ///
 /// It knows nothing of columns' order or visibility (see RColumn::DataColumn) and never touches the grid. Reading a
-/// position that holds no cell, inside the counts or outside, gives "" and not modified. A write outside the counts is
-/// kept at its position and the counts do not grow. A negative coordinate of a write throws std::out_of_range.
+/// position that holds no cell or lies outside the counts gives "" and not modified. A write outside the counts is kept
+/// at its position, the counts do not grow, and it can be read once they have grown. A negative coordinate of a write
+/// throws std::out_of_range.
 class TDataGrid : public TDataObject {
 public:
     /// Sets the count of rows. Growing changes nothing but the count. Shrinking to n rows empties the rows from n - 1
-    /// on,
-    /// **the last kept row too**. A count is never below 1 once it was set; setting 0 empties every row and leaves one.
+    /// on, **the last kept row too**, in every column when the columns were never counted. A count is never below 1
+    /// once it was set; setting 0 empties every row and leaves one.
     void SetRowCount(int n);
     /// 0 until the rows are first counted.
     int GetRowCount() const { return FRowCount; }
@@ -52,10 +53,10 @@ public:
     bool GetModified(int col, int row) const;
     /// Writes a value that the program worked out: the mark stays as it was.
     void SetCellWithNoChange(int col, int row, AnsiString value);
-    /// Clears the mark of every cell within the counts.
+    /// Clears the mark of every cell within the counts; a dimension that was never counted has no bound.
     void ResetModified();
 
-    /// Whether the position was written since it was last emptied.
+    /// Whether the position, inside the counts or outside, was written since it was last emptied.
     bool HasCell(int col, int row) const;
 
 private:
@@ -67,6 +68,8 @@ private:
         std::vector<bool> Modified;
     };
 
+    bool IsCounted(int col, int row) const { return col < FColCount && row < FRowCount; }
+    bool IsMarked(int col, int row) const;
     TDataGridCell TakeCell(int col, int row);
     void PutCell(int col, int row, TDataGridCell cell);
     void EmptyCells(int firstCol, int firstRow);

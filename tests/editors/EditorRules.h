@@ -21,9 +21,7 @@ protected:
 
     /// Puts the line into the store row, unmarked.
     void putLine(int row, const LineCells& line) {
-        if (store_.GetRowCount() <= row) {
-            store_.SetRowCount(row + 1);
-        }
+        needRow(row);
         for (const auto& [key, text] : line) {
             store_.SetCellWithNoChange(columns().ByKey(key).DataColumn, row, text);
         }
@@ -31,10 +29,17 @@ protected:
 
     /// The user's change of a cell: written and marked.
     void type(int row, const AnsiString& key, const AnsiString& text) {
+        needRow(row);
         store_.SetCells(columns().ByKey(key).DataColumn, row, text);
     }
 
     AnsiString cell(int row, const AnsiString& key) const { return columns().Cell(store_, key, row); }
+
+    void needRow(int row) {
+        if (store_.GetRowCount() <= row) {
+            store_.SetRowCount(row + 1);
+        }
+    }
 
     RecordingHost host_;
     TScopedHost scope_{host_};

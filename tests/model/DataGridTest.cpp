@@ -7,11 +7,17 @@
 
 namespace {
 
-/// A store of the given size whose cells hold "column.row" and are all marked.
-TDataGrid filledStore(int cols, int rows) {
+/// A store of the given size without a cell.
+TDataGrid sizedStore(int cols, int rows) {
     TDataGrid store;
     store.SetColCount(cols);
     store.SetRowCount(rows);
+    return store;
+}
+
+/// A store of the given size whose cells hold "column.row" and are all marked.
+TDataGrid filledStore(int cols, int rows) {
+    TDataGrid store = sizedStore(cols, rows);
     for (int col = 0; col < cols; ++col) {
         for (int row = 0; row < rows; ++row) {
             store.SetCells(col, row, std::to_string(col) + "." + std::to_string(row));
@@ -50,7 +56,8 @@ TEST(DataGrid, NeverWrittenPositionReadsEmptyAndNotModified) {
 }
 
 TEST(DataGrid, WritingAValueMarksTheCell) {
-    TDataGrid store;
+    TDataGrid store = sizedStore(2, 3);
+
     store.SetCells(1, 2, "Praha");
 
     EXPECT_EQ(store.GetCells(1, 2), "Praha");
@@ -60,7 +67,7 @@ TEST(DataGrid, WritingAValueMarksTheCell) {
 }
 
 TEST(DataGrid, WritingTheTextAlreadyStoredStillMarksTheCell) {
-    TDataGrid store;
+    TDataGrid store = sizedStore(1, 1);
     store.SetCells(0, 0, "7");
     store.SetModified(0, 0, false);
 
@@ -76,7 +83,8 @@ TEST(DataGrid, ClearingTheMarkOfANeverWrittenPositionMakesNoCell) {
 }
 
 TEST(DataGrid, MarkingANeverWrittenPositionMakesAnEmptyCell) {
-    TDataGrid store;
+    TDataGrid store = sizedStore(1, 4);
+
     store.SetModified(0, 3, true);
 
     EXPECT_TRUE(store.HasCell(0, 3));
@@ -86,7 +94,7 @@ TEST(DataGrid, MarkingANeverWrittenPositionMakesAnEmptyCell) {
 }
 
 TEST(DataGrid, DerivedValueLeavesTheMarkAsItWas) {
-    TDataGrid store;
+    TDataGrid store = sizedStore(2, 1);
     store.SetCells(0, 0, "typed");
 
     store.SetCellWithNoChange(0, 0, "derived");
@@ -131,6 +139,7 @@ TEST(DataGrid, RowCountOfZeroEmptiesEveryRow) {
     store.SetRowCount(0);
 
     EXPECT_EQ(store.GetRowCount(), 1);
+    store.SetRowCount(3);
     for (int row = 0; row < 3; ++row) {
         EXPECT_EQ(rowText(store, row, 2), "|") << "row " << row;
     }
@@ -173,6 +182,7 @@ TEST(DataGrid, EmptiedPositionStartsAnewWhenItIsMarked) {
 
     store.SetModified(0, 1, true);
 
+    store.SetRowCount(2);
     EXPECT_EQ(rowText(store, 1, 1), "!") << "the former text is gone";
 }
 
@@ -202,10 +212,70 @@ TEST(DataGrid, WriteOutsideTheCountsIsKeptAndTheCountsDoNotGrow) {
 
     store.SetCells(4, 6, "far");
 
-    EXPECT_EQ(store.GetCells(4, 6), "far");
-    EXPECT_TRUE(store.GetModified(4, 6));
+    EXPECT_TRUE(store.HasCell(4, 6));
     EXPECT_EQ(store.GetColCount(), 2);
     EXPECT_EQ(store.GetRowCount(), 2);
+}
+
+TEST(DataGrid, WhatLiesOutsideTheCountsReadsEmptyUntilTheyHaveGrown) {
+    TDataGrid store = filledStore(2, 2);
+    store.SetCells(4, 1, "right");
+    store.SetCells(1, 6, "below");
+
+    EXPECT_EQ(rowText(store, 1, 5), "0.1!|1.1!|||");
+    EXPECT_EQ(rowText(store, 6, 2), "|");
+    store.SetColCount(5);
+    EXPECT_EQ(rowText(store, 1, 5), "0.1!|1.1!|||right!");
+    EXPECT_EQ(rowText(store, 6, 2), "|") << "its row is not counted yet";
+    store.SetRowCount(7);
+    EXPECT_EQ(rowText(store, 6, 2), "|below!");
+}
+
+TEST(DataGrid, DerivedValueOutsideTheCountsLeavesTheMarkAsItWas) {
+    TDataGrid store = filledStore(1, 1);
+    store.SetCells(0, 1, "typed");
+
+    store.SetCellWithNoChange(0, 1, "derived");
+    store.SetCellWithNoChange(0, 2, "derived");
+
+    store.SetRowCount(3);
+    EXPECT_EQ(rowText(store, 1, 1), "derived!");
+    EXPECT_EQ(rowText(store, 2, 1), "derived");
+}
+
+TEST(DataGrid, ShrinkingRowsEmptiesColumnsThatWereNeverCounted) {
+    TDataGrid store;
+    store.SetRowCount(3);
+    store.SetCells(1, 0, "kept");
+    store.SetCells(1, 2, "gone");
+
+    store.SetRowCount(2);
+
+    EXPECT_TRUE(store.HasCell(1, 0));
+    EXPECT_FALSE(store.HasCell(1, 2));
+}
+
+TEST(DataGrid, ShrinkingColumnsEmptiesRowsThatWereNeverCounted) {
+    TDataGrid store;
+    store.SetColCount(3);
+    store.SetCells(0, 1, "kept");
+    store.SetCells(2, 1, "gone");
+
+    store.SetColCount(2);
+
+    EXPECT_TRUE(store.HasCell(0, 1));
+    EXPECT_FALSE(store.HasCell(2, 1));
+}
+
+TEST(DataGrid, ResetClearsTheMarksOfColumnsThatWereNeverCounted) {
+    TDataGrid store;
+    store.SetRowCount(1);
+    store.SetCells(1, 0, "loaded");
+
+    store.ResetModified();
+
+    store.SetColCount(2);
+    EXPECT_EQ(rowText(store, 0, 2), "|loaded");
 }
 
 TEST(DataGrid, CellOutsideTheCountsOutlivesShrinkingAndReset) {
@@ -215,8 +285,8 @@ TEST(DataGrid, CellOutsideTheCountsOutlivesShrinkingAndReset) {
     store.SetRowCount(1);
     store.ResetModified();
 
-    EXPECT_EQ(store.GetCells(0, 6), "far");
-    EXPECT_TRUE(store.GetModified(0, 6)) << "cells are kept by their position, whatever the counts";
+    store.SetRowCount(7);
+    EXPECT_EQ(rowText(store, 6, 2), "far!|") << "cells are kept by their position, whatever the counts";
 }
 
 TEST(DataGrid, PositionFarOutsideReadsEmpty) {
@@ -235,7 +305,7 @@ TEST(DataGrid, NegativePositionReadsEmptyAndRefusesAWrite) {
 }
 
 TEST(DataGrid, TextIsKeptByteForByte) {
-    TDataGrid store;
+    TDataGrid store = sizedStore(1, 1);
     const AnsiString text("  \xC5\x99\0;\n", 7);
     store.SetCells(0, 0, text);
     EXPECT_EQ(store.GetCells(0, 0), text);
