@@ -53,11 +53,13 @@ void SendCell(TLiveParam& param, std::string_view key, const AnsiString& text, c
     }
 }
 
-std::vector<RecalculatedCell> ReadCells(const TLiveResult& result) {
+/// A key that the result or the editor lacks is left alone.
+std::vector<RecalculatedCell> ReadCells(const TLiveResult& result, const DocumentColumns& columns) {
     std::vector<RecalculatedCell> cells;
     for (const std::string_view key : c_PriceKeys) {
-        if (result.HasField(key)) {
-            cells.push_back({AnsiString(key), result.FieldByName(key).AsString()});
+        const int dataColumn = columns.ByKey(key).DataColumn;
+        if (dataColumn >= 0 && result.HasField(key)) {
+            cells.push_back({dataColumn, result.FieldByName(key).AsString()});
         }
     }
     return cells;
@@ -92,7 +94,7 @@ std::optional<double> CellNumber(std::string_view text, const TFormatSettings& s
     throw NotANumber(text);
 }
 
-std::vector<RecalculatedCell> Recalculate(TDataGrid& store, const DocumentColumns& columns,
+std::vector<RecalculatedCell> Recalculate(const TDataGrid& store, const DocumentColumns& columns,
                                           const RecalculationRequest& request, const TFormatSettings& settings) {
     TLiveStoredProc prices("MELVARKEDITORDodakVypocetCen");
     prices.ParamByName("a_ZMENENEBUNKY").SetAsString(ChangedCells(columns, store, request.Row));
@@ -106,12 +108,7 @@ std::vector<RecalculatedCell> Recalculate(TDataGrid& store, const DocumentColumn
     if (!prices.Exec(true) || prices.Eof()) {
         return {};
     }
-    std::vector<RecalculatedCell> cells = ReadCells(prices);
-    std::erase_if(cells, [&](const RecalculatedCell& cell) { return columns.ByKey(cell.Key).DataColumn < 0; });
-    for (const RecalculatedCell& cell : cells) {
-        store.SetCellWithNoChange(columns.ByKey(cell.Key).DataColumn, request.Row, cell.Text);
-    }
-    return cells;
+    return ReadCells(prices, columns);
 }
 
 bool IsDiscount(std::string_view text, const TFormatSettings& settings) {

@@ -34,14 +34,14 @@ struct RecalculationRequest {
 
 /// One cell that a recalculation brought back.
 struct RecalculatedCell {
-    AnsiString Key;
+    int DataColumn = -1;
     AnsiString Text;
 };
 
-/// Has the database recalculate the row and writes what it brings back into the store, unmarked, since the clerk did
-/// not fix these values. Returns the written cells in order, for the grid. Throws EConvertError before the database is
-/// asked when a cell is no number, and EDatabaseError; either leaves the row as it was.
-std::vector<RecalculatedCell> Recalculate(TDataGrid& store, const DocumentColumns& columns,
+/// Has the database recalculate the row. Returns what it brings back, in order, to be written as derived values: the
+/// clerk did not fix them. Throws EConvertError before the database is asked when a cell is no number, and
+/// EDatabaseError.
+std::vector<RecalculatedCell> Recalculate(const TDataGrid& store, const DocumentColumns& columns,
                                           const RecalculationRequest& request, const TFormatSettings& settings);
 
 /// Whether the text is a discount: empty, or a number from 0 to 100, both included. Throws EConvertError for a text

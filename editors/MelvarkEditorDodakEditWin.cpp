@@ -97,9 +97,7 @@ bool TDodakEditBox::PrepocetCen(int aCol, int aRow, const AnsiString&) {
     const RecalculationRequest request{
         .Row = RowToDataGridRow(aRow), .FocusKey = GetVisibleColumn(aCol).Name, .RecalculatesAll = GetPrepocetCen()};
     for (const RecalculatedCell& cell : Recalculate(DataGrid(), Columns(), request, CurrentHost().FormatSettings())) {
-        if (const int shownAt = GetColumnByName(cell.Key); shownAt > 0) {
-            StringGrid->SetCells(shownAt, aRow, cell.Text);
-        }
+        Cells().WriteDerived(cell.DataColumn, request.Row, cell.Text);
     }
     return true;
 }

@@ -1,5 +1,6 @@
 #include "editwin/ColumnMenu.h"
 
+#include "editwin/CellWriter.h"
 #include "editwin/InPlaceEditing.h"
 #include "editwin/model/ColumnList.h"
 #include "host/widgets/Guard.h"
@@ -14,8 +15,8 @@
 
 namespace melvark {
 
-ColumnMenu::ColumnMenu(GridEditing& editing, InPlaceEditing& keeper, const Items& items)
-    : FEditing(editing), FKeeper(keeper), FItems(items) {}
+ColumnMenu::ColumnMenu(GridEditing& editing, CellWriter& writer, InPlaceEditing& keeper, const Items& items)
+    : FEditing(editing), FWriter(writer), FKeeper(keeper), FItems(items) {}
 
 void ColumnMenu::OpenAt(int col, int row, const QPoint& globalPos) {
     FPopupColumn = row == 0 ? std::max(col, 0) : 0;
@@ -86,7 +87,7 @@ void ColumnMenu::ShowColumnOf(const QAction* item) {
     column->Visible = true;
     FEditing.Grid.SetCells(place, 0, column->Caption);
     FEditing.Grid.SetColWidths(place, column->Width);
-    FEditing.FillGridColumn(place);
+    FWriter.ShowColumn(column->DataColumn);
     QAction* const shownItem = std::exchange(column->HiddenMenuItem, nullptr);
     FItems.HiddenColumns.removeAction(shownItem);
     // Later: the item may be the very sender of this call.

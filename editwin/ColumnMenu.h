@@ -10,6 +10,7 @@ class QPoint;
 
 namespace melvark {
 
+class CellWriter;
 class InPlaceEditing;
 
 /// What the user does to columns with the mouse on the header: the menu that hides them, shows them again and sets
@@ -29,7 +30,7 @@ public:
         QMenu& HiddenColumns;
     };
 
-    ColumnMenu(GridEditing& editing, InPlaceEditing& keeper, const Items& items);
+    ColumnMenu(GridEditing& editing, CellWriter& writer, InPlaceEditing& keeper, const Items& items);
 
     /// A right click at a grid cell. Only the header row has the menu; elsewhere the popup column becomes 0.
     void OpenAt(int col, int row, const QPoint& globalPos);
@@ -58,6 +59,7 @@ private:
     void UpdateSubmenu();
 
     GridEditing& FEditing;
+    CellWriter& FWriter;
     InPlaceEditing& FKeeper;
     Items FItems;
     int FPopupColumn = 0;

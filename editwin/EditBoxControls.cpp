@@ -54,7 +54,6 @@ void TEditBoxControls::BuildIn(TForm& form) {
     BuildTopPanel();
     StringGrid = Named(new TStringGrid(MainPanel), QStringLiteral("StringGrid"));
     StringGrid->SetRowHeight(c_RowHeight);
-    StringGrid->SetFixedRows(1);
     StringGrid->SetTabStop(false);
     ButtonPanel = Named(new QFrame(&form), QStringLiteral("ButtonPanel"));
     BuildButtons();

@@ -2,6 +2,7 @@
 
 #include "editwin/model/Column.h"
 #include "editwin/model/DataGrid.h"
+#include "editwin/model/RowView.h"
 
 #include <string_view>
 #include <vector>
@@ -12,15 +13,18 @@ namespace melvark {
 
 /// What the helpers of the editor form share: the grid that shows, the store that holds the values, the two column
 /// lists and the document editor's rule. The form owns one and hands it to each helper, so that no helper knows the
-/// form.
+/// form. Values are written by CellWriter alone.
 ///
-/// Grid column k >= 1 is the k-th shown active column, grid row r >= 1 is store row r - 1; the cell there holds store
-/// cell (DataColumn of that column, r - 1). Row 0 is the header, column 0 the indicator.
+/// Grid column k >= 1 is the k-th shown active column, Rows tells the store row of a grid row; the cell there shows the
+/// store cell of the column's DataColumn in that row. Row 0 is the header, column 0 the indicator.
 struct GridEditing {
     explicit GridEditing(TStringGrid& grid) : Grid(grid) {}
+    GridEditing(const GridEditing&) = delete;
+    GridEditing& operator=(const GridEditing&) = delete;
 
     TStringGrid& Grid;
     TDataGrid Store;
+    const RowView Rows{Store};
     std::vector<RColumn> Defaults; ///< As handed in, never reordered.
     std::vector<RColumn> Active;   ///< What the user made of them, in the order of the grid.
     TIsEditable Rule;              ///< The document editor's rule; empty lets every cell pass.
@@ -29,10 +33,6 @@ struct GridEditing {
     /// long as the active list is not changed.
     RColumn* ColumnAt(int gridCol);
     const RColumn* ColumnAt(int gridCol) const;
-    /// The store row of a grid row.
-    int StoreRow(int gridRow) const;
-    /// Writes the store's texts into every data cell of a grid column.
-    void FillGridColumn(int gridCol);
 };
 
 } // namespace melvark

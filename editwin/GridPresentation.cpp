@@ -1,10 +1,9 @@
 #include "editwin/GridPresentation.h"
 
+#include "editwin/CellWriter.h"
 #include "editwin/model/ColumnList.h"
 #include "editwin/model/DisplayFormat.h"
 #include "host/HostServices.h"
-
-#include <algorithm>
 
 namespace melvark {
 
@@ -32,13 +31,12 @@ void GridPresentation::ApplyColumns() {
     grid.SetColWidths(0, c_IndicatorWidth);
     grid.SetColCount(1 + VisibleColumnCount(FEditing.Active));
     grid.SetFixedCols(grid.ColCount() > 1 ? 1 : 0);
-    grid.SetRowCount(1 + std::max(FEditing.Store.GetRowCount(), 1));
     for (int col = 1; col < grid.ColCount(); ++col) {
         const RColumn& column = *FEditing.ColumnAt(col);
         grid.SetCells(col, 0, column.Caption);
         grid.SetColWidths(col, column.Width);
-        FEditing.FillGridColumn(col);
     }
+    FWriter.ShowAll();
 }
 
 TCellLook GridPresentation::Look(int col, int row) const {
@@ -49,7 +47,7 @@ TCellLook GridPresentation::Look(int col, int row) const {
     }
     return {.Text = DisplayText(*column, text, CurrentHost().FormatSettings()),
             .Align = Alignment(column->Align),
-            .Bold = FEditing.Store.GetModified(column->DataColumn, FEditing.StoreRow(row))};
+            .Bold = FEditing.Store.GetModified(column->DataColumn, FEditing.Rows.StoreRow(row))};
 }
 
 void GridPresentation::ShowHintOf(int col, int row) {

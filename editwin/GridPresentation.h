@@ -5,11 +5,13 @@
 
 namespace melvark {
 
+class CellWriter;
+
 /// How columns and values appear in the grid: the rebuilding from the active columns and the store, the look of a cell
 /// and the header's hints. It changes neither the store nor the columns.
 class GridPresentation {
 public:
-    explicit GridPresentation(GridEditing& editing) : FEditing(editing) {}
+    GridPresentation(GridEditing& editing, CellWriter& writer) : FEditing(editing), FWriter(writer) {}
 
     /// Gives the grid one column for each shown active one, with caption and width, and all texts of the store. A store
     /// without rows shows one empty row.
@@ -25,6 +27,7 @@ public:
 
 private:
     GridEditing& FEditing;
+    CellWriter& FWriter;
 };
 
 } // namespace melvark

@@ -1,5 +1,6 @@
 #include "editwin/InPlaceEditing.h"
 
+#include "editwin/CellWriter.h"
 #include "editwin/GridComboBox.h"
 #include "editwin/model/EditExceptions.h"
 #include "editwin/model/ValueChecks.h"
@@ -20,8 +21,13 @@
 
 namespace melvark {
 
-InPlaceEditing::InPlaceEditing(GridEditing& editing, QWidget& form, std::function<void(const AnsiString&)> showErrorBox)
-    : FEditing(editing), FForm(form), FShowErrorBox(std::move(showErrorBox)), FSharedEdit(new QLineEdit(&form)) {
+InPlaceEditing::InPlaceEditing(GridEditing& editing, CellWriter& writer, QWidget& form,
+                               std::function<void(const AnsiString&)> showErrorBox)
+    : FEditing(editing),
+      FWriter(writer),
+      FForm(form),
+      FShowErrorBox(std::move(showErrorBox)),
+      FSharedEdit(new QLineEdit(&form)) {
     FSharedEdit->setObjectName(QStringLiteral("SharedEdit"));
     FSharedEdit->setFont(GridFont());
     FSharedEdit->hide();
@@ -135,11 +141,12 @@ AnsiString InPlaceEditing::CheckedText(const RColumn& column) const {
 }
 
 bool InPlaceEditing::CommitText(const RColumn& column, const AnsiString& text, bool isChanged) {
-    FEditing.Grid.SetCells(FEditCol, FEditRow, text);
+    const int storeRow = FEditing.Rows.StoreRow(FEditRow);
     if (!isChanged) {
+        FWriter.Show(column.DataColumn, storeRow, text);
         return true;
     }
-    FEditing.Store.SetCells(column.DataColumn, FEditing.StoreRow(FEditRow), text);
+    FWriter.WriteTyped(column.DataColumn, storeRow, text);
     // A copy: the callback may change the column list.
     const TColumnCallback callback = column.Callback;
     return !callback || callback(FEditCol, FEditRow, text);

@@ -16,6 +16,8 @@ class QWidget;
 
 namespace melvark {
 
+class CellWriter;
+
 /// The keeper of in-place editing, one for each form: it opens an editor over a cell, commits it to the grid and the
 /// store, and sees to it that a refused value is neither lost nor reported twice.
 ///
@@ -30,7 +32,8 @@ class InPlaceEditing : public QObject {
 
 public:
     /// The shared edit box and the list editors become children of `form`. `showErrorBox` shows a modal box.
-    InPlaceEditing(GridEditing& editing, QWidget& form, std::function<void(const AnsiString&)> showErrorBox);
+    InPlaceEditing(GridEditing& editing, CellWriter& writer, QWidget& form,
+                   std::function<void(const AnsiString&)> showErrorBox);
 
     /// Makes a list editor for each default column with a value list and keeps it in the column's Editor.
     void CreateListEditors();
@@ -85,6 +88,7 @@ private:
     void Settle();
 
     GridEditing& FEditing;
+    CellWriter& FWriter;
     QWidget& FForm;
     std::function<void(const AnsiString&)> FShowErrorBox;
     QLineEdit* FSharedEdit;

@@ -28,9 +28,10 @@ TEditBox::TEditBox(TComponent* owner, TLibraryManager* libraryManager, std::int3
       FLibraryManager(libraryManager),
       FKind{editType, editTypeOffset, std::move(firstNamePart), std::move(secondNamePart), std::move(userName)},
       FEditing(*CreateControls().StringGrid),
-      FKeeper(FEditing, *this, [this](const AnsiString& text) { ShowErrorBox(text); }),
-      FPresentation(FEditing),
-      FColumnMenu(FEditing, FKeeper,
+      FWriter(FEditing),
+      FKeeper(FEditing, FWriter, *this, [this](const AnsiString& text) { ShowErrorBox(text); }),
+      FPresentation(FEditing, FWriter),
+      FColumnMenu(FEditing, FWriter, FKeeper,
                   {*ColumnsPopupMenu, *SkrytSloupec, *EditovatelnySloupecAutomaticky, *EditovatelnySloupecVyberem,
                    *NeeditovatelnySloupec, *SkryteSloupce}),
       FSettings(FEditing, SettingsStore(editType + editTypeOffset),
@@ -202,7 +203,7 @@ RColumn TEditBox::GetDataColumn(int dataIndex) const {
 }
 
 int TEditBox::RowToDataGridRow(int row) const {
-    return FEditing.StoreRow(row);
+    return FEditing.Rows.StoreRow(row);
 }
 
 void TEditBox::InitGrid() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editwin/Autosave.h"
+#include "editwin/CellWriter.h"
 #include "editwin/ColumnMenu.h"
 #include "editwin/EditBoxControls.h"
 #include "editwin/EditorEvents.h"
@@ -79,10 +80,13 @@ public:
     RColumn GetColumnSettings(const AnsiString& name) const;
     RColumn GetDataColumn(int dataIndex) const;
     int RowToDataGridRow(int row) const;
+    const melvark::RowView& Rows() const { return FEditing.Rows; }
     const std::vector<RColumn>& ActiveColumns() const { return FEditing.Active; }
     const std::vector<RColumn>& DefaultColumns() const { return FEditing.Defaults; }
     TDataGrid& DataGrid() { return FEditing.Store; }
     const TDataGrid& DataGrid() const { return FEditing.Store; }
+    /// The one way for a value into the store and the grid.
+    melvark::CellWriter& Cells() { return FWriter; }
 
     /// Sizes the store for the layout in force so far, at least one column, and then loads the last settings. Who fills
     /// the store sizes it for its own columns.
@@ -160,6 +164,7 @@ private:
     std::function<void()> FOnSaveDataToTempFile;
 
     melvark::GridEditing FEditing;
+    melvark::CellWriter FWriter;
     melvark::InPlaceEditing FKeeper;
     melvark::GridPresentation FPresentation;
     melvark::ColumnMenu FColumnMenu;

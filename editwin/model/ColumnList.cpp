@@ -61,6 +61,21 @@ const RColumn* FindByDataColumn(std::span<const RColumn> columns, int dataColumn
     return OrNull(columns, std::ranges::find(columns, dataColumn, &RColumn::DataColumn));
 }
 
+std::vector<int> GridColumnsOfData(std::span<const RColumn> columns, int dataColumn) {
+    std::vector<int> gridColumns;
+    int gridColumn = 0;
+    for (const RColumn& column : columns) {
+        if (!IsShown(column)) {
+            continue;
+        }
+        ++gridColumn;
+        if (column.DataColumn == dataColumn) {
+            gridColumns.push_back(gridColumn);
+        }
+    }
+    return gridColumns;
+}
+
 bool IsValidName(std::span<const RColumn> defaults, std::string_view name) {
     return FindByName(defaults, name) != nullptr;
 }

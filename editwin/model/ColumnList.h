@@ -35,6 +35,10 @@ const RColumn* FindByName(std::span<const RColumn> columns, std::string_view nam
 /// The column of that data column, or null.
 const RColumn* FindByDataColumn(std::span<const RColumn> columns, int dataColumn);
 
+/// The grid columns that show the data column, from left to right: none when it is hidden, more than one when a stored
+/// layout binds two columns to the same data.
+std::vector<int> GridColumnsOfData(std::span<const RColumn> columns, int dataColumn);
+
 /// Whether the editor knows the name. Asked of the default columns, since a stored setting may have dropped a column
 /// from the active ones.
 bool IsValidName(std::span<const RColumn> defaults, std::string_view name);

@@ -35,6 +35,8 @@ class TStringGrid : public QTableView {
 public:
     /// Width of the border around the client area in which CellRect counts, in pixels.
     static constexpr int c_BorderWidth = 2;
+    /// The header row is the one fixed row, however many rows there are.
+    static constexpr int c_FixedRows = 1;
 
     explicit TStringGrid(QWidget* parent);
     ~TStringGrid() override;
@@ -43,12 +45,9 @@ public:
     int RowCount() const;
     void SetColCount(int count);
     void SetRowCount(int count);
-    /// What the owner says about fixed columns and rows (0 or 1). The header row and the indicator column are always
-    /// painted as such.
+    /// What the owner says about fixed columns (0 or 1). The indicator column is always painted as one.
     int FixedCols() const { return FFixedCols; }
-    int FixedRows() const { return FFixedRows; }
     void SetFixedCols(int count) { FFixedCols = count; }
-    void SetFixedRows(int count) { FFixedRows = count; }
 
     /// The text of a cell, header cells included; empty outside the counts, where writing has no effect.
     const AnsiString& Cells(int col, int row) const;
@@ -147,7 +146,6 @@ private:
     mutable TCellPresentation FPresentation;
     AnsiString FHint;
     int FFixedCols = 0;
-    int FFixedRows = 0;
     bool FMovingBack = false;
     bool FEditorRequestQueued = false;
 };

@@ -38,7 +38,6 @@ TEST_F(GridPresentation, ShowsTheVisibleColumnsAndTheStoresTexts) {
     EXPECT_EQ(grid().ColWidths(c_CodeCol), 40);
     EXPECT_EQ(grid().RowCount(), 4);
     EXPECT_EQ(grid().FixedCols(), 1);
-    EXPECT_EQ(grid().FixedRows(), 1);
 }
 
 TEST_F(GridPresentation, AStoreWithoutRowsShowsOneEmptyRow) {

@@ -39,6 +39,18 @@ TEST(ColumnList, GridColumnsAreTheShownColumnsCountedFromOne) {
     EXPECT_EQ(VisibleColumnCount({}), 0);
 }
 
+TEST(ColumnList, EveryShownColumnOfADataColumnIsFound) {
+    auto columns = sampleColumns();
+    columns.push_back(shownColumn("A2", 1));
+    const auto gridColumnsOf = [&](int dataColumn) { return GridColumnsOfData(columns, dataColumn); };
+
+    EXPECT_EQ(gridColumnsOf(3), std::vector{2});
+    EXPECT_EQ(gridColumnsOf(1), (std::vector{1, 4})) << "two columns show the same data";
+    EXPECT_EQ(gridColumnsOf(2), std::vector<int>{}) << "hidden by the user";
+    EXPECT_EQ(gridColumnsOf(4), std::vector<int>{}) << "of the hidden type";
+    EXPECT_EQ(gridColumnsOf(9), std::vector<int>{}) << "bound to none";
+}
+
 TEST(ColumnList, NamedColumnIsFoundAtItsGridColumn) {
     struct Row {
         const char* remark;

@@ -1,0 +1,78 @@
+#include "editwin/CellWriter.h"
+
+#include "editwin/model/ColumnList.h"
+#include "host/widgets/StringGrid.h"
+
+#include <QScopeGuard>
+
+#include <utility>
+
+namespace melvark {
+
+static_assert(RowView::c_FixedRows == TStringGrid::c_FixedRows);
+
+void CellWriter::WriteTyped(int dataColumn, int storeRow, const AnsiString& text) {
+    FEditing.Store.SetCells(dataColumn, storeRow, text);
+    Written(dataColumn, storeRow, text);
+}
+
+void CellWriter::WriteDerived(int dataColumn, int storeRow, const AnsiString& text) {
+    FEditing.Store.SetCellWithNoChange(dataColumn, storeRow, text);
+    Written(dataColumn, storeRow, text);
+}
+
+void CellWriter::Written(int dataColumn, int storeRow, const AnsiString& text) {
+    if (FManyDepth > 0) {
+        FWrittenColumns.insert(dataColumn);
+    } else {
+        Show(dataColumn, storeRow, text);
+    }
+}
+
+void CellWriter::Show(int dataColumn, int storeRow, const AnsiString& text) {
+    const int gridRow = FEditing.Rows.GridRow(storeRow);
+    if (gridRow == 0) {
+        return;
+    }
+    for (const int gridCol : GridColumnsOfData(FEditing.Active, dataColumn)) {
+        FEditing.Grid.SetCells(gridCol, gridRow, text);
+    }
+}
+
+void CellWriter::WriteMany(const std::function<void()>& writes) {
+    ++FManyDepth;
+    const auto finish = qScopeGuard([this] {
+        if (--FManyDepth > 0) {
+            return;
+        }
+        for (const int dataColumn : std::exchange(FWrittenColumns, {})) {
+            ShowColumn(dataColumn);
+        }
+    });
+    writes();
+}
+
+void CellWriter::ShowColumn(int dataColumn) {
+    for (const int gridCol : GridColumnsOfData(FEditing.Active, dataColumn)) {
+        ShowIn(gridCol, dataColumn);
+    }
+}
+
+void CellWriter::ShowAll() {
+    FEditing.Grid.SetRowCount(FEditing.Rows.GridRowCount());
+    for (int gridCol = 1; gridCol < FEditing.Grid.ColCount(); ++gridCol) {
+        if (const RColumn* const column = FEditing.ColumnAt(gridCol)) {
+            ShowIn(gridCol, column->DataColumn);
+        }
+    }
+}
+
+void CellWriter::ShowIn(int gridCol, int dataColumn) {
+    std::vector<AnsiString> texts;
+    for (int row = RowView::c_FixedRows; row < FEditing.Grid.RowCount(); ++row) {
+        texts.push_back(FEditing.Store.GetCells(dataColumn, FEditing.Rows.StoreRow(row)));
+    }
+    FEditing.Grid.SetColumnCells(gridCol, std::move(texts));
+}
+
+} // namespace melvark

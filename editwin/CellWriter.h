@@ -1,0 +1,48 @@
+#pragma once
+
+#include "editwin/GridEditing.h"
+#include "host/Types.h"
+
+#include <functional>
+#include <set>
+
+namespace melvark {
+
+/// The one door for cell values: it writes a value into the store and shows it in every grid column that is bound to
+/// its data column. A cell is named by data column and store row, whatever the grid shows of it; a cell that is not
+/// shown is only stored.
+///
+/// It checks nothing and calls nobody: checks and callbacks belong to whoever writes. The document's filling, which
+/// happens before anything is shown, writes to the store alone.
+class CellWriter {
+public:
+    explicit CellWriter(GridEditing& editing) : FEditing(editing) {}
+    CellWriter(const CellWriter&) = delete;
+    CellWriter& operator=(const CellWriter&) = delete;
+
+    /// A value that the clerk gave: the cell counts as changed from then on.
+    void WriteTyped(int dataColumn, int storeRow, const AnsiString& text);
+    /// A value that follows from others: the cell counts as changed only when it did before.
+    void WriteDerived(int dataColumn, int storeRow, const AnsiString& text);
+    /// Shows a text that is not stored: the tidy spelling of a value that the clerk left as it was.
+    void Show(int dataColumn, int storeRow, const AnsiString& text);
+
+    /// Runs `writes`, which writes any number of cells, and shows them afterwards, column by column at once, also when
+    /// it throws. Within it the grid still shows what was there before. Calls may be nested; the outermost shows.
+    void WriteMany(const std::function<void()>& writes);
+
+    /// Shows what the store holds of one data column.
+    void ShowColumn(int dataColumn);
+    /// Gives the grid as many rows as the store and shows all its values. The grid has its columns already.
+    void ShowAll();
+
+private:
+    void Written(int dataColumn, int storeRow, const AnsiString& text);
+    void ShowIn(int gridCol, int dataColumn);
+
+    GridEditing& FEditing;
+    int FManyDepth = 0;
+    std::set<int> FWrittenColumns; ///< Data columns to be shown when the outermost WriteMany ends.
+};
+
+} // namespace melvark

@@ -1,0 +1,128 @@
+#include "editwin/CellWriter.h"
+
+#include "host/widgets/StringGrid.h"
+#include "tests/editwin/TestEditBox.h"
+
+#include <QAbstractItemModel>
+#include <QAction>
+#include <QMenu>
+#include <QSignalSpy>
+
+#include <stdexcept>
+
+namespace {
+
+constexpr int c_NameData = 8;
+constexpr int c_PriceData = 6;
+constexpr int c_CodeData = 3;
+constexpr int c_DiscountData = 0;
+
+class CellWriter : public EditBoxTest {
+protected:
+    melvark::CellWriter& cells() { return form->Cells(); }
+    bool isMarked(int dataColumn, int row) const { return form->DataGrid().GetModified(dataColumn, row); }
+};
+
+TEST_F(CellWriter, ATypedValueIsStoredMarkedAndShown) {
+    open();
+    cells().WriteTyped(c_CodeData, 2, "X9");
+    EXPECT_EQ(stored(c_CodeData, 2), "X9");
+    EXPECT_TRUE(isMarked(c_CodeData, 2));
+    EXPECT_EQ(grid().Cells(c_CodeCol, 3), "X9");
+    EXPECT_EQ(rowText(2), "Matice|6|2||vedlejší|B2||y") << "no other row";
+}
+
+TEST_F(CellWriter, ADerivedValueLeavesTheMarkAsItWas) {
+    open();
+    cells().WriteTyped(c_CodeData, 1, "typed");
+    cells().WriteDerived(c_CodeData, 1, "derived");
+    cells().WriteDerived(c_PriceData, 1, "3,50");
+    EXPECT_TRUE(isMarked(c_CodeData, 1));
+    EXPECT_FALSE(isMarked(c_PriceData, 1));
+    EXPECT_EQ(stored(c_PriceData, 1), "3,50");
+    EXPECT_EQ(rowText(2), "Matice|6|3,50||vedlejší|derived||y");
+}
+
+TEST_F(CellWriter, AShownTextIsNotStored) {
+    open();
+    cells().Show(c_PriceData, 1, "2,00");
+    EXPECT_EQ(grid().Cells(c_PriceCol, 2), "2,00");
+    EXPECT_EQ(stored(c_PriceData, 1), "2");
+    EXPECT_FALSE(isMarked(c_PriceData, 1));
+}
+
+TEST_F(CellWriter, AValueFollowsItsColumnToWhereverItWasMoved) {
+    open();
+    grid().MoveColumn(c_PriceCol, c_NameCol);
+    form->StringGridColumnMoved(c_PriceCol, c_NameCol);
+    cells().WriteDerived(c_PriceData, 1, "7,00");
+    EXPECT_EQ(rowText(2), "7,00|Matice|6||vedlejší|B2||y");
+}
+
+TEST_F(CellWriter, AValueOfAHiddenColumnIsOnlyStoredUntilTheColumnIsShown) {
+    open();
+    cells().WriteDerived(c_DiscountData, 1, "12,5");
+    EXPECT_EQ(rowText(2), "Matice|6|2||vedlejší|B2||y");
+    EXPECT_EQ(stored(c_DiscountData, 1), "12,5");
+    pick(form->SkryteSloupce->actions().front());
+    EXPECT_EQ(rowText(2), "Matice|6|2||vedlejší|B2||y|12,5");
+}
+
+TEST_F(CellWriter, EveryColumnOfTheSameDataShowsTheValue) {
+    std::vector<RColumn> columns = testColumns(log);
+    columns.push_back(RColumn{.Name = "NAZEV2", .Visible = true, .ColumnType = ctReadOnly, .DataColumn = c_NameData});
+    form = std::make_unique<TestEditBox>(&manager, columns);
+    form->show();
+    cells().WriteTyped(c_NameData, 1, "Nýt");
+    EXPECT_EQ(rowText(2), "Nýt|6|2||vedlejší|B2||y|Nýt");
+}
+
+TEST_F(CellWriter, ManyValuesAreShownOnceWhenAllAreWritten) {
+    open();
+    const QSignalSpy changes(grid().model(), &QAbstractItemModel::dataChanged);
+    cells().WriteMany([&] {
+        for (int row = 0; row < 3; ++row) {
+            cells().WriteTyped(c_CodeData, row, "K" + std::to_string(row));
+            cells().WriteDerived(c_PriceData, row, std::to_string(row));
+        }
+        EXPECT_EQ(grid().Cells(c_CodeCol, 2), "B2") << "not yet shown";
+        EXPECT_EQ(stored(c_CodeData, 1), "K1");
+    });
+    EXPECT_EQ(rowText(2), "Matice|6|1||vedlejší|K1||y");
+    EXPECT_EQ(rowText(3), "Podložka||2||Zrušený|K2||z");
+    EXPECT_EQ(changes.count(), 2) << "one for each column";
+}
+
+TEST_F(CellWriter, NestedWritingIsShownByTheOutermost) {
+    open();
+    cells().WriteMany([&] {
+        cells().WriteMany([&] { cells().WriteTyped(c_CodeData, 1, "inner"); });
+        EXPECT_EQ(grid().Cells(c_CodeCol, 2), "B2");
+    });
+    EXPECT_EQ(grid().Cells(c_CodeCol, 2), "inner");
+}
+
+TEST_F(CellWriter, WhatWasWrittenBeforeAnErrorIsShown) {
+    open();
+    EXPECT_THROW(cells().WriteMany([&] {
+        cells().WriteTyped(c_CodeData, 1, "K1");
+        throw std::runtime_error("refused");
+    }),
+                 std::runtime_error);
+    EXPECT_EQ(grid().Cells(c_CodeCol, 2), "K1");
+    cells().WriteTyped(c_CodeData, 2, "K2");
+    EXPECT_EQ(grid().Cells(c_CodeCol, 3), "K2") << "single values are shown at once again";
+}
+
+TEST_F(CellWriter, TheGridGetsTheStoresRowsWhenAllIsShown) {
+    open();
+    form->DataGrid().SetRowCount(5);
+    cells().WriteTyped(c_NameData, 4, "Nýt");
+    EXPECT_EQ(grid().RowCount(), 4);
+    cells().ShowAll();
+    EXPECT_EQ(grid().RowCount(), 6);
+    EXPECT_EQ(rowText(4), "|||||||");
+    EXPECT_EQ(rowText(5), "Nýt|||||||");
+}
+
+} // namespace
