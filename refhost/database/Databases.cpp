@@ -3,24 +3,46 @@
 #include "host/Exceptions.h"
 #include "refhost/database/ParameterValues.h"
 #include "refhost/database/PostgreSQLConnection.h"
+#include "refhost/database/PostgreSQLUpgrade.h"
 #include "refhost/database/SQLiteConnection.h"
+#include "refhost/database/SQLiteUpgrade.h"
 
 namespace refhost {
 
+namespace {
+
+constexpr std::string_view c_SQLite = "sqlite:";
+constexpr std::string_view c_PostgreSQL = "postgresql:";
+
+[[noreturn]] void refuseAddress(const std::string& url) {
+    throw EDatabaseError("Adresa databáze „" + shownText(url) +
+                             "“ není známá. Zadejte sqlite:SOUBOR nebo postgresql:PŘIPOJENÍ.",
+                         "ML915");
+}
+
+} // namespace
+
 std::unique_ptr<Database> openDatabase(const std::string& url, const std::string& user, const TFormatSettings& settings,
                                        OpenMode mode) {
-    constexpr std::string_view c_SQLite = "sqlite:";
     if (url.starts_with(c_SQLite)) {
         return std::make_unique<SQLiteConnection>(url.substr(c_SQLite.size()), user, settings,
                                                   mode == OpenMode::Create);
     }
-    constexpr std::string_view c_PostgreSQL = "postgresql:";
     if (url.starts_with(c_PostgreSQL)) {
         return std::make_unique<PostgreSQLConnection>(url.substr(c_PostgreSQL.size()), settings);
     }
-    throw EDatabaseError("Adresa databáze „" + shownText(url) +
-                             "“ není známá. Zadejte sqlite:SOUBOR nebo postgresql:PŘIPOJENÍ.",
-                         "ML915");
+    refuseAddress(url);
+}
+
+UpgradeReport upgradeDatabase(const std::string& url) {
+    if (url.starts_with(c_SQLite)) {
+        return upgradeSQLiteFile(url.substr(c_SQLite.size()));
+    }
+    if (url.starts_with(c_PostgreSQL)) {
+        PostgreSQLSession session(url.substr(c_PostgreSQL.size()), TFormatSettings{});
+        return upgradePostgreSQLSchema(session);
+    }
+    refuseAddress(url);
 }
 
 } // namespace refhost

@@ -2,6 +2,7 @@
 
 #include "host/FormatSettings.h"
 #include "refhost/database/Database.h"
+#include "refhost/database/UpgradeReport.h"
 
 #include <memory>
 #include <string>
@@ -21,5 +22,10 @@ enum class OpenMode { Existing, Create };
 /// refused.
 std::unique_ptr<Database> openDatabase(const std::string& url, const std::string& user, const TFormatSettings& settings,
                                        OpenMode mode);
+
+/// Brings the database that the address names to this program's version; nothing when it has that already.
+/// SQLiteUpgrade.h and PostgreSQLUpgrade.h tell what that means on each engine. Throws EDatabaseError or EInOutError
+/// with nothing changed.
+UpgradeReport upgradeDatabase(const std::string& url);
 
 } // namespace refhost

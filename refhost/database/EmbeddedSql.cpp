@@ -8,4 +8,14 @@ std::string_view sqlObjectName(const SqlFile& file) {
     return name.substr(0, name.size() - c_Extension.size());
 }
 
+std::string folderText(std::span<const SqlFile> files, std::string_view folder) {
+    std::string text;
+    for (const SqlFile& file : files) {
+        if (file.Path.starts_with(folder)) {
+            text.append(file.Text).append("\n");
+        }
+    }
+    return text;
+}
+
 } // namespace refhost

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace refhost {
@@ -18,5 +19,8 @@ std::span<const SqlFile> postgresqlFiles();
 
 /// The name of a file's object: its file name without folder and ".sql".
 std::string_view sqlObjectName(const SqlFile& file);
+
+/// The texts of all files whose paths start with `folder`, one after the other.
+std::string folderText(std::span<const SqlFile> files, std::string_view folder);
 
 } // namespace refhost

@@ -25,6 +25,8 @@ constexpr Sentence c_Sentences[] = {
     {"28", "ML917", "Databáze „", "“ odmítla přihlášení. Zkontrolujte jméno a heslo."},
     {"53100", "ML923", "Pro databázi „", "“ není na disku serveru místo. Obraťte se na správce."},
     {"23503", "ML925", "V databázi „", "“ už není něco, na co se změna odvolává. Načtěte data znovu."},
+    {"2BP01", "ML929", "V databázi „",
+     "“ závisí na pohledech nebo funkcích něco vlastního. Odstraňte to a převod zopakujte."},
     {"42501", "ML924", "V databázi „", "“ k tomu nemáte oprávnění. Požádejte o ně správce."},
 };
 

@@ -1,8 +1,11 @@
 #include "refhost/database/PostgreSQLSchema.h"
 
 #include "host/Exceptions.h"
+#include "host/ValueText.h"
 #include "refhost/database/EmbeddedSql.h"
 #include "refhost/database/PostgreSQLRows.h"
+#include "refhost/database/PostgreSQLShipped.h"
+#include "refhost/database/SchemaVersion.h"
 
 namespace refhost {
 
@@ -10,8 +13,6 @@ namespace {
 
 /// What marks the schema as ours, before the version.
 constexpr std::string_view c_Mark = "Melvark, version ";
-/// Raised with every change of the tables, views, functions or procedures.
-constexpr std::string_view c_Version = "1";
 
 constexpr const char* c_SchemaComment =
     "select coalesce(pg_catalog.obj_description(oid, 'pg_namespace'), '') from pg_catalog.pg_namespace "
@@ -27,23 +28,47 @@ void runFolder(PostgreSQLSession& session, std::string_view folder) {
 
 } // namespace
 
-bool hasPostgreSQLSchema(PostgreSQLSession& session) {
+std::int64_t postgresqlSchemaVersion(PostgreSQLSession& session) {
     const TResultTable table = resultTable(session.execute(c_SchemaComment, {}).get());
     if (table.Rows.empty()) {
-        return false;
+        return 0;
     }
     const AnsiString comment = std::get<AnsiString>(table.Rows.front().front());
-    if (!comment.starts_with(c_Mark)) {
+    const auto version = comment.starts_with(c_Mark) ? TextToInt(comment.substr(c_Mark.size())) : std::nullopt;
+    if (!version) {
         throw EDatabaseError("Schéma „melvark“ v databázi „" + session.database() +
                                  "“ patří jinému programu. Zvolte jinou databázi.",
                              "ML913");
     }
-    if (comment.substr(c_Mark.size()) != c_Version) {
-        throw EDatabaseError("Databáze „" + session.database() +
-                                 "“ je jiné verze než tento program. Použijte program, který ji vytvořil.",
-                             "ML914");
+    return *version;
+}
+
+bool hasPostgreSQLSchema(PostgreSQLSession& session) {
+    const std::int64_t version = postgresqlSchemaVersion(session);
+    if (version != 0 && version != c_SchemaVersion) {
+        throw otherVersionError(session.database(), version);
     }
-    return true;
+    return version != 0;
+}
+
+void beginPostgreSQLSchema(PostgreSQLSession& session) {
+    runFolder(session, "roles.sql");
+    session.execute("set local role melvark_owner");
+    // Functions, views and procedures stand on one another; what is missing shows when they are called.
+    session.execute("set local check_function_bodies = off");
+}
+
+void createPostgreSQLRoutines(PostgreSQLSession& session) {
+    runFolder(session, "types/");
+    runFolder(session, "functions/");
+    runFolder(session, "views/");
+    runFolder(session, "procedures/");
+    markShipped(session);
+}
+
+void finishPostgreSQLSchema(PostgreSQLSession& session) {
+    runFolder(session, "privileges.sql");
+    session.execute("comment on schema melvark is '" + std::string(c_Mark) + std::to_string(c_SchemaVersion) + "'");
 }
 
 void createPostgreSQLSchema(PostgreSQLSession& session) {
@@ -51,17 +76,10 @@ void createPostgreSQLSchema(PostgreSQLSession& session) {
         throw EDatabaseError("Databáze „" + session.database() + "“ už tabulky má. Zvolte prázdnou databázi.", "ML921");
     }
     PostgreSQLTransaction transaction(session, PostgreSQLTransaction::Kind::Writing);
-    runFolder(session, "roles.sql");
-    session.execute("comment on schema melvark is '" + std::string(c_Mark) + std::string(c_Version) + "'");
-    session.execute("set local role melvark_owner");
-    // Functions, views and procedures stand on one another; what is missing shows when they are called.
-    session.execute("set local check_function_bodies = off");
+    beginPostgreSQLSchema(session);
     runFolder(session, "tables.sql");
-    runFolder(session, "types/");
-    runFolder(session, "functions/");
-    runFolder(session, "views/");
-    runFolder(session, "procedures/");
-    runFolder(session, "privileges.sql");
+    createPostgreSQLRoutines(session);
+    finishPostgreSQLSchema(session);
     transaction.commit();
 }
 

@@ -158,6 +158,7 @@ PostgreSQLResult PostgreSQLSession::checked(PGresult* result, std::string_view s
         throw lostLinkError(database_, PQerrorMessage(handle()), statement);
     }
     switch (PQresultStatus(owned.get())) {
+    case PGRES_EMPTY_QUERY: // a script of comments only
     case PGRES_COMMAND_OK:
     case PGRES_TUPLES_OK:
     case PGRES_COPY_IN:

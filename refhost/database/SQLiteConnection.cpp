@@ -3,17 +3,14 @@
 #include "refhost/database/DecimalFunctions.h"
 #include "refhost/database/EmbeddedSql.h"
 #include "refhost/database/SQLiteFunctions.h"
+#include "refhost/database/SQLiteSchema.h"
+#include "refhost/database/SchemaVersion.h"
 
 #include <algorithm>
 
 namespace refhost {
 
 namespace {
-
-/// Marks our files ("MLVR"), so that no other program's data is taken for ours.
-constexpr std::int64_t c_ApplicationId = 0x4D4C5652;
-/// Raised with every change of the tables or views.
-constexpr std::int64_t c_SchemaVersion = 1;
 
 constexpr const char* c_RefuseStaging = "update temp.STAGING set STATE = 'refused'";
 
@@ -31,17 +28,6 @@ const SqlFile* findProcedure(std::string_view name) {
         }
     }
     return nullptr;
-}
-
-/// The texts of all files of a folder, one after the other.
-std::string folderText(std::string_view folder) {
-    std::string text;
-    for (const SqlFile& file : sqliteFiles()) {
-        if (file.Path.starts_with(folder)) {
-            text.append(file.Text).append("\n");
-        }
-    }
-    return text;
 }
 
 std::string insertStatement(std::string_view table, std::span<const std::string> columns) {
@@ -88,26 +74,13 @@ SQLiteConnection::SQLiteConnection(const std::string& file, const std::string& u
 
 SQLiteConnection::~SQLiteConnection() = default;
 
-std::int64_t SQLiteConnection::pragma(const std::string& name) {
-    const std::string sql = "pragma " + name;
-    std::string_view text = sql;
-    SQLiteStatement statement(session_, text);
-    return statement.step() ? std::get<std::int64_t>(statement.value(0)) : 0;
-}
-
 void SQLiteConnection::checkOwner() {
-    const std::int64_t applicationId = pragma("application_id");
-    const bool isEmpty = applicationId == 0 && pragma("page_count") == 0;
+    const std::int64_t version = sqliteSchemaVersion(session_);
     if (sqlite3_db_readonly(session_.handle(), "main") == 1) {
         session_.fail(SQLITE_READONLY, "open");
     }
-    if (!isEmpty && applicationId != c_ApplicationId) {
-        throw EDatabaseError("Soubor „" + session_.file() + "“ patří jinému programu. Zvolte jiný soubor.", "ML913");
-    }
-    if (!isEmpty && pragma("user_version") != c_SchemaVersion) {
-        throw EDatabaseError("Databáze „" + session_.file() +
-                                 "“ je jiné verze než tento program. Použijte program, který ji vytvořil.",
-                             "ML914");
+    if (version != 0 && version != c_SchemaVersion) {
+        throw otherVersionError(session_.file(), version);
     }
 }
 
@@ -123,7 +96,7 @@ void SQLiteConnection::registerFunctions() {
 }
 
 void SQLiteConnection::createSessionTables() {
-    session_.execute(folderText("session/"));
+    session_.execute(folderText(sqliteFiles(), "session/"));
 }
 
 void SQLiteConnection::useWriteAheadLog() {
@@ -133,20 +106,12 @@ void SQLiteConnection::useWriteAheadLog() {
 }
 
 bool SQLiteConnection::hasSchema() {
-    return pragma("application_id") == c_ApplicationId;
+    return sqliteSchemaVersion(session_) != 0;
 }
 
 void SQLiteConnection::createSchema() {
-    if (hasSchema()) {
-        throw EDatabaseError("Databáze „" + session_.file() + "“ už tabulky má. Zvolte prázdný soubor.", "ML921");
-    }
+    createSQLiteSchema(session_);
     useWriteAheadLog();
-    SQLiteTransaction transaction(session_, SQLiteTransaction::Kind::Writing);
-    session_.execute(folderText("tables.sql"));
-    session_.execute(folderText("views/"));
-    session_.execute("pragma application_id = " + std::to_string(c_ApplicationId));
-    session_.execute("pragma user_version = " + std::to_string(c_SchemaVersion));
-    transaction.commit();
 }
 
 void SQLiteConnection::insertRows(std::string_view table, std::span<const std::string> columns,

@@ -43,7 +43,6 @@ private:
     void registerFunctions();
     void createSessionTables();
     void useWriteAheadLog();
-    std::int64_t pragma(const std::string& name);
     SQLiteProcedure& procedure(const AnsiString& name);
 
     SQLiteSession session_; // First: statements of functions and procedures are gone before it closes.

@@ -284,8 +284,16 @@
         <translation>“%1” belongs to another program. Choose another database.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML914">
-        <source>Databáze „%1“ je jiné verze než tento program. Použijte program, který ji vytvořil.</source>
-        <translation>Database “%1” is of another version than this program. Use the program that created it.</translation>
+        <source>Databáze „%1“ je starší než tento program. Převeďte ji příkazem melvark-host --upgrade-database.</source>
+        <translation>Database “%1” is older than this program. Upgrade it with the command melvark-host --upgrade-database.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML914|Databáze „%1“ je novější než tento program. Nainstalujte program její verze.">
+        <source>Databáze „%1“ je novější než tento program. Nainstalujte program její verze.</source>
+        <translation>Database “%1” is newer than this program. Install the program of its version.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML914|Databáze „%1“ byla mezitím převedena na jinou verzi. Ukončete program a spusťte jej znovu.">
+        <source>Databáze „%1“ byla mezitím převedena na jinou verzi. Ukončete program a spusťte jej znovu.</source>
+        <translation>Database “%1” was upgraded to another version meanwhile. Quit the program and start it again.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML915">
         <source>Soubor databáze „%1“ nelze otevřít. Zkontrolujte jeho umístění a oprávnění.</source>
@@ -370,6 +378,26 @@
     <message id="MELVARKHOST\REFUSAL\ML930|České řazení není v systému k dispozici. Obraťte se na správce.">
         <source>České řazení není v systému k dispozici. Obraťte se na správce.</source>
         <translation>Czech collation is not available on this system. Contact your administrator.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML926">
+        <source>Tabulka „%1“ má navíc sloupec „%2“, který by převod ztratil. Přesuňte jej do vlastní tabulky.</source>
+        <translation>Table “%1” has an additional column “%2”, which the upgrade would lose. Move it to a table of your own.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML927">
+        <source>Údaje v tabulce „%1“ neodpovídají pravidlům nové verze. Opravte je a převod zopakujte.</source>
+        <translation>Data of table “%1” break the rules of the new version. Correct them and repeat the upgrade.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML927|Údaje v tabulce „%1“ se odvolávají na něco, co v databázi není. Opravte je a převod zopakujte.">
+        <source>Údaje v tabulce „%1“ se odvolávají na něco, co v databázi není. Opravte je a převod zopakujte.</source>
+        <translation>Data of table “%1” refer to something that the database lacks. Correct them and repeat the upgrade.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML928">
+        <source>Vaši úpravu „%1“ nelze v nové verzi ponechat. Upravte ji, nebo ji odstraňte, a převod zopakujte.</source>
+        <translation>Your own “%1” cannot be kept in the new version. Adapt it or remove it, and repeat the upgrade.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML929">
+        <source>V databázi „%1“ závisí na pohledech nebo funkcích něco vlastního. Odstraňte to a převod zopakujte.</source>
+        <translation>In database “%1” something of your own depends on our views or functions. Remove it and repeat the upgrade.</translation>
     </message>
 </context>
 </TS>

@@ -37,13 +37,13 @@ private:
     std::filesystem::path path_;
 };
 
+} // namespace
+
 std::string newSQLiteUrl() {
     static const TemporaryFolder folder;
     static int count = 0;
     return "sqlite:" + (folder.path() / ("company" + std::to_string(++count) + ".db")).string();
 }
-
-} // namespace
 
 std::string engineName(Engine engine) {
     return engine == Engine::SQLite ? "SQLite" : "PostgreSQL";

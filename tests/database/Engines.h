@@ -17,6 +17,9 @@ std::string engineName(Engine engine);
 /// with the test program. Throws EDatabaseError.
 std::unique_ptr<Database> newDatabase(Engine engine);
 
+/// The address of a file that is not there yet; it disappears with the test program.
+std::string newSQLiteUrl();
+
 /// The address of such a database, for tests that open it more than once.
 std::string newDatabaseUrl(Engine engine);
 /// One more connection to it, as any user: on the server his role is made, with the right to prepare a test's data too.

@@ -84,7 +84,7 @@ TEST(PostgreSQLOpening, AnotherProgramsSchemaOrAnotherVersionIsRefused) {
     EXPECT_EQ(failure([&] { company.open(); }).Code(), "ML913");
     PrivateServer::instance()
         .administrator(company.name())
-        .execute("comment on schema melvark is 'Melvark, version 0'");
+        .execute("comment on schema melvark is 'Melvark, version 99'");
     EXPECT_EQ(failure([&] { company.open(); }).Code(), "ML914");
 }
 

@@ -2,7 +2,8 @@
 -- who work with the company: it runs the procedures and reads the views and nothing else (privileges.sql). A new clerk is
 -- a login role with "in role melvark_clerk".
 --
--- Runs as the role that makes the database. Roles belong to the whole server, so they may be there from another database.
+-- Runs as the role that makes or upgrades the database, which may well be no superuser: it has "createrole" and owns the
+-- database. Roles belong to the whole server, so they may be there from another database. All of it may run again.
 
 do $$
 begin
@@ -12,10 +13,14 @@ begin
     if to_regrole('melvark_clerk') is null then
         create role melvark_clerk nologin;
     end if;
+    -- Who makes the schema for melvark_owner has to be able to act as that role.
+    if not pg_has_role('melvark_owner', 'member') then
+        grant melvark_owner to current_user;
+    end if;
 end
 $$;
 
-create schema melvark authorization melvark_owner;
+create schema if not exists melvark authorization melvark_owner;
 
 -- The rows of a save lie in temporary tables. The procedures make them as their owner, so nobody else needs the right; and
 -- nobody else must have it, for a procedure would write into a clerk's own table of that name and run its triggers.

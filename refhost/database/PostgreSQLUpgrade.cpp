@@ -1,0 +1,74 @@
+#include "refhost/database/PostgreSQLUpgrade.h"
+
+#include "host/Exceptions.h"
+#include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/PostgreSQLSchema.h"
+#include "refhost/database/PostgreSQLShipped.h"
+#include "refhost/database/SchemaVersion.h"
+#include "refhost/database/UpgradeSteps.h"
+
+namespace refhost {
+
+namespace {
+
+/// Waits until nobody is in the middle of a call, and keeps everybody out until the end of the transaction.
+constexpr const char* c_LockTables =
+    "do $$ declare company text; begin "
+    "select string_agg(c.oid::regclass::text, ', ') into company from pg_catalog.pg_class c "
+    "where c.relnamespace = 'melvark'::regnamespace and c.relkind = 'r'; "
+    "execute 'lock table ' || company || ' in access exclusive mode'; end $$";
+
+/// Refuses a version that cannot be upgraded; false when there is nothing to do.
+bool isOlder(const PostgreSQLSession& session, std::int64_t version) {
+    if (version == 0) {
+        throw EDatabaseError("Databáze „" + session.database() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
+    }
+    if (version > c_SchemaVersion) {
+        throw otherVersionError(session.database(), version);
+    }
+    return version < c_SchemaVersion;
+}
+
+void putBackReplaced(PostgreSQLSession& session, const std::vector<ReplacedRoutine>& replaced, UpgradeReport& report) {
+    for (const ReplacedRoutine& routine : replaced) {
+        try {
+            putBack(session, routine);
+        } catch (const EDatabaseError& error) {
+            throw EDatabaseError(
+                "Vaši úpravu „" + routine.Name +
+                    "“ nelze v nové verzi ponechat. Upravte ji, nebo ji odstraňte, a převod zopakujte.",
+                "ML928", error.Details());
+        }
+        report.Kept.push_back(routine.Name);
+    }
+}
+
+} // namespace
+
+UpgradeReport upgradePostgreSQLSchema(PostgreSQLSession& session) {
+    UpgradeReport report;
+    report.From = postgresqlSchemaVersion(session);
+    if (!isOlder(session, report.From)) {
+        return report;
+    }
+    PostgreSQLTransaction transaction(session, PostgreSQLTransaction::Kind::Writing);
+    session.execute(c_LockTables);
+    // Asked again now that nobody else can write: another upgrade may have been first.
+    report.From = postgresqlSchemaVersion(session);
+    if (!isOlder(session, report.From)) {
+        return report;
+    }
+    beginPostgreSQLSchema(session);
+    session.execute(folderText(postgresqlFiles(), "upgrades/shipped-" + std::to_string(report.From) + ".sql"));
+    const std::vector<ReplacedRoutine> replaced = replacedRoutines(session);
+    dropShipped(session, replaced);
+    session.execute(upgradeSteps(postgresqlFiles(), report.From));
+    createPostgreSQLRoutines(session);
+    putBackReplaced(session, replaced, report);
+    finishPostgreSQLSchema(session);
+    session.execute("notify " + std::string(c_UpgradeChannel));
+    transaction.commit();
+    return report;
+}
+
+} // namespace refhost

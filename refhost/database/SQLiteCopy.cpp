@@ -1,0 +1,61 @@
+#include "refhost/database/SQLiteCopy.h"
+
+#include "refhost/database/SQLiteSession.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <filesystem>
+#include <unistd.h>
+
+namespace refhost {
+
+namespace {
+
+/// Makes an empty file that only its owner may read, under the first name that is free.
+std::string makeEmptyFile(const std::string& wanted) {
+    std::string name = wanted;
+    for (int number = 2;; ++number) {
+        const int descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        if (descriptor >= 0) {
+            close(descriptor);
+            return name;
+        }
+        if (errno != EEXIST) {
+            throw EInOutError("Kopii databáze „" + name +
+                              "“ nelze založit. Zkontrolujte místo na disku a oprávnění ke složce.");
+        }
+        name = wanted + "-" + std::to_string(number);
+    }
+}
+
+void copyPages(const std::string& file, const std::string& copy) {
+    constexpr std::chrono::seconds c_Patience{30};
+    const SQLiteSession source(file, {}, TFormatSettings{}, false, c_Patience);
+    SQLiteSession target(copy, {}, TFormatSettings{}, false, c_Patience);
+    constexpr int c_AllPages = -1;
+    sqlite3_backup* backup = sqlite3_backup_init(target.handle(), "main", source.handle(), "main");
+    if (backup == nullptr) {
+        target.fail(sqlite3_errcode(target.handle()), "backup");
+    }
+    sqlite3_backup_step(backup, c_AllPages);
+    if (const int status = sqlite3_backup_finish(backup); status != SQLITE_OK) {
+        target.fail(status, "backup");
+    }
+}
+
+} // namespace
+
+std::string copySQLiteFile(const std::string& file, std::string_view suffix) {
+    const std::string copy = makeEmptyFile(file + std::string(suffix));
+    try {
+        copyPages(file, copy);
+    } catch (const EDatabaseError&) {
+        std::error_code ignored; // the failure of the copy is what matters
+        std::filesystem::remove(copy, ignored);
+        throw;
+    }
+    return copy;
+}
+
+} // namespace refhost

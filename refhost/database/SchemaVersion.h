@@ -1,0 +1,22 @@
+#pragma once
+
+#include "host/Exceptions.h"
+
+#include <cstdint>
+#include <string_view>
+
+namespace refhost {
+
+/// The version of the tables, views, functions and procedures that this program brings, the same on both engines. A
+/// database remembers the version that it was made or upgraded by. It rises with every release that changes the SQL;
+/// tests/schema-digest holds it against the files.
+inline constexpr std::int64_t c_SchemaVersion = 2;
+
+/// The refusal of a database of another version, which says what to do: an older one is to be upgraded, a newer one
+/// needs a newer program.
+EDatabaseError otherVersionError(std::string_view database, std::int64_t version);
+
+/// The refusal of every call after another program has upgraded the database under a running one.
+EDatabaseError upgradedMeanwhileError(std::string_view database);
+
+} // namespace refhost

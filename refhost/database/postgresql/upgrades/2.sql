@@ -1,0 +1,2 @@
+-- From version 1 to 2: what changes in tables, constraints, indices and data. Functions, views and procedures are made
+-- anew from their own files by every upgrade and need nothing here; they are gone while this runs.
