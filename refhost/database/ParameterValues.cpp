@@ -3,6 +3,7 @@
 #include "host/Exceptions.h"
 #include "host/FormatSettings.h"
 #include "host/ValueText.h"
+#include "refhost/database/RefusalTable.h"
 
 #include <cmath>
 #include <optional>
@@ -35,10 +36,10 @@ bool isUtf8(const AnsiString& text) {
 
 void checkText(std::string_view name, const AnsiString& text) {
     if (text.find('\0') != AnsiString::npos) {
-        throw EDatabaseError("Text v parametru " + AnsiString(name) + " obsahuje znak NUL. Odstraňte jej.", "ML007");
+        throw refusal("ML007", {AnsiString(name)});
     }
     if (!isUtf8(text)) {
-        throw EDatabaseError("Text v parametru " + AnsiString(name) + " není platné UTF-8. Opravte kódování.", "ML009");
+        throw refusal("ML009", {AnsiString(name)});
     }
 }
 
@@ -46,9 +47,7 @@ TDbValue integerValue(std::string_view name, const TDbValue& value) {
     if (const auto number = TextToInt(plainText(value))) {
         return std::int64_t{*number};
     }
-    throw EDatabaseError("Hodnota „" + shownText(plainText(value)) + "“ parametru " + AnsiString(name) +
-                             " není celé číslo. Zadejte celé číslo od -2147483648 do 2147483647.",
-                         "ML003");
+    throw refusal("ML003", {shownText(plainText(value)), AnsiString(name)});
 }
 
 TDbValue booleanValue(std::string_view name, const TDbValue& value) {
@@ -59,14 +58,12 @@ TDbValue booleanValue(std::string_view name, const TDbValue& value) {
     if (SameDbName(text, "0") || SameDbName(text, "false")) {
         return std::int64_t{0};
     }
-    throw EDatabaseError("Hodnota „" + shownText(text) + "“ parametru " + AnsiString(name) +
-                             " není ano ani ne. Zadejte 1, 0, true nebo false.",
-                         "ML004");
+    throw refusal("ML004", {shownText(text), AnsiString(name)});
 }
 
 TDbValue textValue(std::string_view name, const TDbValue& value) {
     if (const auto* number = std::get_if<double>(&value); number != nullptr && !std::isfinite(*number)) {
-        throw EDatabaseError("Hodnota parametru " + AnsiString(name) + " není číslo.", "ML008");
+        throw refusal("ML008", {AnsiString(name)});
     }
     return plainText(value);
 }

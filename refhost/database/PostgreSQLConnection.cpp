@@ -4,6 +4,7 @@
 #include "refhost/database/PostgreSQLErrors.h"
 #include "refhost/database/PostgreSQLRows.h"
 #include "refhost/database/PostgreSQLSchema.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SqlScript.h"
 
 #include <algorithm>
@@ -45,8 +46,7 @@ void raiseSequence(PostgreSQLSession& session, const std::string& table) {
 }
 
 [[noreturn]] void refuseQuery(const AnsiString& sql) {
-    throw EDatabaseError("Dotaz není jedním čtecím příkazem: „" + shownText(sql) + "“. Zadejte jeden příkaz select.",
-                         "ML920");
+    throw refusal("ML920", {shownText(sql)});
 }
 
 } // namespace
@@ -108,7 +108,7 @@ const PostgreSQLProcedure& PostgreSQLConnection::procedure(const AnsiString& nam
         throw EDatabaseError("Databáze „" + session_.database() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
     }
     if (!found) {
-        throw EDatabaseError("Databáze nemá proceduru „" + shownText(name) + "“. Obraťte se na správce.", "ML918");
+        throw refusal("ML918", {shownText(name)});
     }
     return procedures_.emplace(key, *std::move(found)).first->second;
 }

@@ -2,6 +2,7 @@
 
 #include "host/Exceptions.h"
 #include "refhost/database/PostgreSQLRows.h"
+#include "refhost/database/RefusalTable.h"
 
 #include <algorithm>
 
@@ -83,7 +84,7 @@ const PostgreSQLProcedure::Parameter& PostgreSQLProcedure::input(const TProcedur
     const auto found =
         std::ranges::find_if(inputs_, [name](const Parameter& parameter) { return SameDbName(parameter.Name, name); });
     if (found == inputs_.end()) {
-        throw EDatabaseError("Procedura " + call.Name + " nemá parametr " + shownText(name) + ".", "ML919");
+        throw refusal("ML919", {shownText(call.Name), shownText(name)});
     }
     return *found;
 }

@@ -2,6 +2,7 @@
 
 #include "refhost/database/DecimalFunctions.h"
 #include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteFunctions.h"
 #include "refhost/database/SQLiteSchema.h"
 #include "refhost/database/SchemaVersion.h"
@@ -55,8 +56,7 @@ private:
 };
 
 [[noreturn]] void refuseQuery(const AnsiString& sql) {
-    throw EDatabaseError("Dotaz není jedním čtecím příkazem: „" + shownText(sql) + "“. Zadejte jeden příkaz select.",
-                         "ML920");
+    throw refusal("ML920", {shownText(sql)});
 }
 
 } // namespace
@@ -147,7 +147,7 @@ SQLiteProcedure& SQLiteConnection::procedure(const AnsiString& name) {
     }
     const SqlFile* file = findProcedure(name);
     if (file == nullptr) {
-        throw EDatabaseError("Databáze nemá proceduru „" + shownText(name) + "“. Obraťte se na správce.", "ML918");
+        throw refusal("ML918", {shownText(name)});
     }
     if (!hasSchema()) {
         throw EDatabaseError("Databáze „" + session_.file() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");

@@ -3,12 +3,14 @@
 #include "host/ValueText.h"
 #include "refhost/database/Decimal.h"
 #include "refhost/database/ParameterValues.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteCall.h"
 
 #include <algorithm>
 #include <chrono>
 #include <ctime>
 #include <stdexcept>
+#include <vector>
 
 namespace refhost {
 
@@ -19,8 +21,9 @@ using std::chrono::year_month_day;
 constexpr std::size_t c_MostWholeDigits = 15;
 constexpr std::size_t c_MostDecimals = 50;
 
-std::string labelled(const SQLiteCall& call, const std::string& text) {
-    return call.text(1).value_or("Hodnota") + " „" + shownText(text) + "“";
+/// What the refusal of a typed text names: its label, then the text.
+std::vector<std::string> labelled(const SQLiteCall& call, const std::string& text) {
+    return {call.text(1).value_or("Hodnota"), shownText(text)};
 }
 
 /// The number of digits before and after the point of a canonical decimal.
@@ -36,7 +39,11 @@ std::pair<std::size_t, std::size_t> digitCounts(std::string_view decimal) {
 }
 
 void refuse(const SQLiteCall& call) {
-    throw EDatabaseError(call.text(1).value_or(std::string()), call.text(0).value_or(std::string()));
+    std::vector<std::string> named;
+    for (std::size_t i = 1; i < call.count(); ++i) {
+        named.push_back(shownText(call.text(i).value_or("NULL")));
+    }
+    throw refusal(call.text(0).value_or(std::string()), named);
 }
 
 void parseNumber(const SQLiteCall& call) {
@@ -46,20 +53,16 @@ void parseNumber(const SQLiteCall& call) {
     }
     const auto number = TextToDecimalText(*text);
     if (!number) {
-        throw EDatabaseError(
-            labelled(call, *text) + " není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku.", "ML001");
+        throw refusal("ML001", labelled(call, *text));
     }
     const auto [whole, decimals] = digitCounts(*number);
     if (whole > c_MostWholeDigits || decimals > c_MostDecimals) {
-        throw EDatabaseError(labelled(call, *text) +
-                                 " je příliš dlouhé číslo. Zapište nejvýše 15 číslic před desetinnou čárkou a 50 za "
-                                 "ní.",
-                             "ML005");
+        throw refusal("ML005", labelled(call, *text));
     }
     if (call.count() > 2 && decimals > static_cast<std::size_t>(call.integer(2))) {
-        throw EDatabaseError(labelled(call, *text) + " má příliš mnoho desetinných míst. Zapište nejvýše " +
-                                 std::to_string(call.integer(2)) + ".",
-                             "ML006");
+        std::vector<std::string> named = labelled(call, *text);
+        named.push_back(std::to_string(call.integer(2)));
+        throw refusal("ML006", named);
     }
     call.give(*number);
 }
@@ -109,7 +112,7 @@ TDateTime storedMoment(const std::string& text) {
 }
 
 [[noreturn]] void refuseDate(const SQLiteCall& call, const std::string& text) {
-    throw EDatabaseError(labelled(call, text) + " není datum. Zapište existující den, měsíc a rok.", "ML002");
+    throw refusal("ML002", labelled(call, text));
 }
 
 void parseDate(const SQLiteCall& call) {
@@ -219,7 +222,7 @@ struct Entry {
 // None is declared deterministic: the engine would evaluate a call with constant arguments once at the start of a
 // statement, and a refusal would come for rows that the statement never reaches.
 constexpr Entry c_Functions[] = {
-    {"refuse", 2, sqliteFunction<refuse>},
+    {"refuse", -1, sqliteFunction<refuse>},
     {"parse_number", 1, sqliteFunction<parseNumber>},
     {"parse_number", 2, sqliteFunction<parseNumber>},
     {"parse_number", 3, sqliteFunction<parseNumber>},

@@ -1,5 +1,6 @@
 #include "refhost/database/SQLiteProcedure.h"
 
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteCall.h"
 
 #include <algorithm>
@@ -81,8 +82,7 @@ std::vector<TDbValue> SQLiteProcedure::inputValues(const TProcedureCall& call) c
     for (const TDbParam& parameter : call.Params) {
         const auto input = inputIndex(script_, parameter.Name);
         if (!input) {
-            throw EDatabaseError("Procedura " + script_.Name + " nemá parametr " + shownText(parameter.Name) + ".",
-                                 "ML919");
+            throw refusal("ML919", {shownText(call.Name), shownText(parameter.Name)});
         }
         values[*input] = parameterValue(script_.Inputs[*input].Kind, script_.Inputs[*input].Name, parameter.Value);
     }

@@ -23,7 +23,7 @@ std::set<std::string> codesOfTheDatabase() {
     std::set<std::string> codes;
     for (const auto& file : std::filesystem::recursive_directory_iterator(MELVARK_SOURCES "/refhost/database")) {
         const std::string extension = file.path().extension().string();
-        if (extension != ".sql" && extension != ".cpp") {
+        if (extension != ".txt" && extension != ".sql" && extension != ".cpp") {
             continue;
         }
         std::ostringstream text;

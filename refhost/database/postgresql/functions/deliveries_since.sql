@@ -10,6 +10,6 @@ begin
     elsif as_integer(months) between 0 and 1200 then
         return moment::date - make_interval(months => as_integer(months));
     end if;
-    perform refuse('ML070', 'Počet měsíců „' || shown(months) || '“ není celé číslo od 0 do 1200. Opravte parametr firmy.');
+    perform refuse('ML070', months);
 end
 $$;

@@ -10,14 +10,11 @@ declare
 begin
     if (picked is not null and picked_name is null)
        or (picked is null and entry is not null and cardinality(named) = 0) then
-        perform refuse('ML030', 'Skupina ' || group_level || '. úrovně „' || shown(coalesce(entry, picked::text))
-                                    || '“ neexistuje. Opravte název, nebo ji vyberte ze seznamu.');
+        perform refuse('ML030', group_level::text, coalesce(entry, picked::text));
     elsif picked is not null and entry is not null and picked <> all (named) then
-        perform refuse('ML032', 'Zapsáno je „' || shown(entry) || '“, ale vybráno bylo „' || shown(picked_name)
-                                    || '“. Vyberte ze seznamu znovu.');
+        perform refuse('ML032', entry, picked_name);
     elsif picked is null and cardinality(named) > 1 then
-        perform refuse('ML031', 'Název „' || shown(entry) || '“ má více skupin ' || group_level
-                                    || '. úrovně. Vyberte tu správnou ze seznamu.');
+        perform refuse('ML031', entry, group_level::text);
     end if;
     return coalesce(picked, named[1]);
 end

@@ -8,7 +8,7 @@ declare
     rate constant integer := (select r.ID from DPH r where r.NAZEV = name);
 begin
     if name is not null and rate is null then
-        perform refuse('ML110', 'Sazba DPH „' || shown(name) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.');
+        perform refuse('ML110', name);
     end if;
     return rate;
 end
@@ -25,12 +25,9 @@ begin
     join DODOBJEDNAVKA o on o.ID = p.DDOBID and o.VZOR = 0
     where p.ID = as_integer(note_line_order_line.id);
     if note_line_order_line.id is not null and ordered.ID is null then
-        perform refuse('ML049', 'Řádek objednávky „' || shown(note_line_order_line.id)
-                                    || '“ neexistuje. Načtěte položky z objednávky znovu.');
+        perform refuse('ML049', note_line_order_line.id);
     elsif ordered.SKLPID <> item then
-        perform refuse('ML050', 'Řádek objednávky „' || shown(note_line_order_line.id) || '“ je pro jinou položku než „'
-                                    || (select shown(i.NAZEV) from SKLADPOL i where i.ID = item)
-                                    || '“. Načtěte položky z objednávky znovu.');
+        perform refuse('ML050', note_line_order_line.id, (select i.NAZEV from SKLADPOL i where i.ID = item));
     end if;
     return ordered.ID;
 end
@@ -51,10 +48,8 @@ declare
 begin
     for pair in 1..8 loop
         if abs(line.MNOZSTVI * unit_prices[pair] - totals[pair]) > allowed then
-            perform refuse('ML052', 'Celková cena ' || total_text(totals[pair]) || ' položky „'
-                || (select shown(i.NAZEV) from SKLADPOL i where i.ID = line.SKLPID)
-                || '“ neodpovídá množství ' || number_text(line.MNOZSTVI) || ' krát jednotkové ceně '
-                || number_text(unit_prices[pair]) || '. Opravte jednu z nich.');
+            perform refuse('ML052', total_text(totals[pair]), (select i.NAZEV from SKLADPOL i where i.ID = line.SKLPID),
+                           number_text(line.MNOZSTVI), number_text(unit_prices[pair]));
         end if;
     end loop;
 end

@@ -6,7 +6,7 @@ create function refuse_unknown_supplier_name(name text) returns void
 language plpgsql as $$
 begin
     if name is not null and not exists (select from DODAVATEL v where v.JMENO = name) then
-        perform refuse('ML045', 'Dodavatel „' || shown(name) || '“ neexistuje. Vyberte dodavatele ze seznamu.');
+        perform refuse('ML045', name);
     end if;
 end
 $$;
@@ -20,8 +20,7 @@ declare
 begin
     foreach quantity in array sent loop
         if quantity.MNOZSTVI <> 0 and quantity.SKPLID is null then
-            perform refuse('ML048', 'Množství položky „' || shown(item_name)
-                || '“ nemá jednotku. Množství vymažte, nebo vyberte položku, která tu jednotku má.');
+            perform refuse('ML048', item_name);
         end if;
     end loop;
     foreach quantity in array sent loop
@@ -31,8 +30,7 @@ begin
                            where u.SKLPID = item
                              and (quantity.SKPLID is null or u.ID = as_integer(quantity.SKPLID))
                              and (quantity.JEDNOTKY is null or u.NAZEV = quantity.JEDNOTKY)) then
-            perform refuse('ML047', 'Jednotka „' || shown(coalesce(quantity.JEDNOTKY, quantity.SKPLID))
-                || '“ nepatří k položce „' || shown(item_name) || '“. Načtěte řádek znovu.');
+            perform refuse('ML047', coalesce(quantity.JEDNOTKY, quantity.SKPLID), item_name);
         end if;
     end loop;
 end

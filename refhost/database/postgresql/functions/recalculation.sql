@@ -86,8 +86,7 @@ declare
     rate constant numeric := case kind when 'DPHA' then rate_a else rate_l end;
 begin
     if prices.cenab is null and rate = 0 then
-        raise exception using errcode = 'ML112',
-            message = 'Cenu bez DPH nelze dopočítat z daně při sazbě 0 %. Zadejte nejprve cenu bez DPH.';
+        perform refuse('ML112');
     end if;
     completed.cenab := coalesce(prices.cenab, rounded_quotient(part * 100, rate, decimals));
     completed.dpha := coalesce(prices.dpha, round(completed.cenab * rate_a * 0.01, decimals));
@@ -241,8 +240,7 @@ begin
     if typed(rate_name) is not null then
         select RATE.SAZBA into percentage from DPH as RATE where RATE.NAZEV = typed(rate_name);
         if not found then
-            raise exception using errcode = 'ML110',
-                message = 'Sazba DPH „' || shown(typed(rate_name)) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.';
+            perform refuse('ML110', typed(rate_name));
         end if;
     end if;
     return percentage;
@@ -264,8 +262,7 @@ create function recalculation_discount(discount numeric) returns numeric
 language plpgsql stable as $$
 begin
     if discount < 0 or discount > 100 then
-        raise exception using errcode = 'ML111',
-            message = 'Sleva ' || number_text(discount) || ' % není přípustná. Zadejte slevu od 0 do 100 %.';
+        perform refuse('ML111', number_text(discount));
     end if;
     return coalesce(round(discount, 2), 0);
 end

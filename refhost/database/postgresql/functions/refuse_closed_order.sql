@@ -3,10 +3,7 @@ create function refuse_closed_order(id integer) returns void
 language sql as $$
     select refuse_unknown_order(refuse_closed_order.id);
 
-    select refuse('ML013', case o.VZOR
-                      when 1 then 'Vzor objednávky „' || shown(o.CISLO) || '“ je uzavřený. Otevřete jej, nebo vyberte jiný.'
-                      else 'Objednávka „' || shown(o.CISLO) || '“ je uzavřená. Otevřete ji, nebo vyberte jinou.'
-                  end)
+    select refuse(case o.VZOR when 1 then 'ML013/template' else 'ML013' end, o.CISLO)
     from DODOBJEDNAVKA o
     where o.ID = refuse_closed_order.id and o.OTEVRENO = 0
 $$;

@@ -6,7 +6,7 @@ language sql as $$
 
     select refuse_unknown_setting(refuse_foreign_setting.id);
 
-    select refuse('ML061', 'Nastavení „' || shown(s.NAZEV) || '“ patří jinému uživateli. Uložte si je jako nové.')
+    select refuse('ML061', s.NAZEV)
     from EDITORNASTAVENI s
     join UZIVATEL u on u.ID = s.UZIVID
     where s.ID = refuse_foreign_setting.id and u.JMENO <> current_user_name()

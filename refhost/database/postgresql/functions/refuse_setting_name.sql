@@ -5,12 +5,12 @@ create function refuse_setting_name(name text, type integer, id integer) returns
 language sql as $$
     select from UZIVATEL where JMENO = current_user_name() for no key update;
 
-    select refuse('ML062', 'Nastavení nemá název. Zapište jej.') where typed(name) is null;
+    select refuse('ML062') where typed(name) is null;
 
-    select refuse('ML064', 'Název „' || shown(typed(name)) || '“ je delší než 100 znaků. Zkraťte jej.')
+    select refuse('ML064', typed(name))
     where char_length(typed(name)) > 100;
 
-    select refuse('ML063', 'Nastavení s názvem „' || shown(s.NAZEV) || '“ už máte. Zvolte jiný název.')
+    select refuse('ML063', s.NAZEV)
     from EDITORNASTAVENI s
     join UZIVATEL u on u.ID = s.UZIVID
     where s.NAZEV = typed(name) and s.TYPEDITACE = type and u.JMENO = current_user_name()

@@ -3,9 +3,9 @@ create function refuse_unknown_item(name text) returns void
 language plpgsql as $$
 begin
     if name is null then
-        perform refuse('ML042', 'Řádek nemá skladovou položku. Doplňte ji, nebo řádek vyprázdněte.');
+        perform refuse('ML042');
     elsif not exists (select from SKLADPOL i where i.NAZEV = name) then
-        perform refuse('ML043', 'Skladová položka „' || shown(name) || '“ neexistuje. Vyberte jinou.');
+        perform refuse('ML043', name);
     end if;
 end
 $$;

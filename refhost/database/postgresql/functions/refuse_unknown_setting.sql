@@ -1,8 +1,7 @@
 -- Refuses a column setting that does not exist or that another user keeps for himself (ML060).
 create function refuse_unknown_setting(id integer) returns void
 language sql as $$
-    select refuse('ML060', 'Nastavení s identifikátorem ' || coalesce(refuse_unknown_setting.id::text, 'NULL')
-                               || ' neexistuje nebo není sdílené. Vyberte jiné.')
+    select refuse('ML060', refuse_unknown_setting.id::text)
     where not exists (select
                       from EDITORNASTAVENI s
                       join UZIVATEL u on u.ID = s.UZIVID

@@ -5,7 +5,7 @@ language sql as $$
     select from DODAK where ID = note for key share;
     select from DODOBJEDNAVKA where ID = source_order for key share;
 
-    select refuse('ML055', 'Zdrojový doklad s identifikátorem ' || s.ID || ' neexistuje. Zvolte zdroj znovu.')
+    select refuse('ML055', s.ID::text)
     from (select note as ID where note > 0 and not exists (select from DODAK d where d.ID = note)
           union all
           select source_order

@@ -12,24 +12,16 @@ declare
 begin
     select c.* into first from unnest(candidates) c order by c.ID limit 1;
     if picked is null and entry is null then
-        perform refuse('ML020', 'Zdroj není zadán. Zapište jej, nebo jej vyberte ze seznamu.');
+        perform refuse('ML020');
     elsif first.ID is null then
-        perform refuse('ML021', kind || ' „' || shown(coalesce(entry, picked::text))
-                                    || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.');
+        perform refuse('ML021', kind, coalesce(entry, picked::text));
     elsif picked is not null and entry is not null and not first.NAMED then
-        perform refuse('ML022', 'Zapsáno je „' || shown(entry) || '“, ale vybráno bylo „' || shown(first.LABEL)
-                                    || '“. Vyberte ze seznamu znovu.');
+        perform refuse('ML022', entry, first.LABEL);
     elsif cardinality(admissible) = 0 then
-        perform refuse(first.FAULT, kind || ' „' || shown(first.LABEL) || '“ ' || case first.FAULT
-            when 'ML024' then 'patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného dodavatele.'
-            when 'ML025' then 'patří jinému skladu než tento doklad. Vyberte ze seznamu doklad stejného skladu.'
-            when 'ML026' then 'má už všechny položky dodané. Vyberte objednávku, na které něco zbývá.'
-            when 'ML027' then 'je právě upravovaný doklad. Vyberte jako zdroj jiný.'
-            when 'ML028' then 'nemá k datu ' || date_text(day) || ' žádný platný ceník. Vyberte jiného dodavatele.'
-            when 'ML029' then 'v posledních měsících nic nedodal. Vyberte jiného dodavatele.'
-        end);
+        -- What a fault's sentence has no place for is not shown.
+        perform refuse(first.FAULT, kind, first.LABEL, date_text(day));
     elsif cardinality(admissible) > 1 then
-        perform refuse('ML023', 'Označení „' || shown(entry) || '“ má více záznamů. Vyberte ten správný ze seznamu.');
+        perform refuse('ML023', entry);
     end if;
     return admissible[1];
 end

@@ -23,9 +23,9 @@ declare
     state constant text := coalesce(current_setting('melvark.staging', true), '');
 begin
     if state = 'refused' then
-        perform refuse('ML041', 'Předchozí ukládání bylo odmítnuto. Uložte doklad znovu.');
+        perform refuse('ML041');
     elsif state <> 'open' or not has_own_staging() then
-        perform refuse('ML040', 'Ukládání nebylo zahájeno. Uložte doklad znovu.');
+        perform refuse('ML040');
     end if;
 end
 $$;

@@ -32,14 +32,11 @@ begin
     if typed(value) is null then
         return null;
     elsif parts is null then
-        raise exception using errcode = 'ML001', message = label || ' „' || shown(value)
-            || '“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku.';
+        perform refuse('ML001', label, value);
     elsif length(parts[2]) > 15 or length(parts[3]) > 50 then
-        raise exception using errcode = 'ML005', message = label || ' „' || shown(value)
-            || '“ je příliš dlouhé číslo. Zapište nejvýše 15 číslic před desetinnou čárkou a 50 za ní.';
+        perform refuse('ML005', label, value);
     elsif length(parts[3]) > decimals then
-        raise exception using errcode = 'ML006', message = label || ' „' || shown(value)
-            || '“ má příliš mnoho desetinných míst. Zapište nejvýše ' || decimals || '.';
+        perform refuse('ML006', label, value, decimals::text);
     end if;
     return concat(parts[1], '0', parts[2], '.', parts[3], '0')::numeric;
 end
@@ -104,8 +101,7 @@ begin
     end if;
     day := case when parts[4] = '' then calendar_date(years, parts[2]::integer, parts[3]::integer) end;
     if day is null then
-        raise exception using errcode = 'ML002',
-            message = label || ' „' || shown(value) || '“ není datum. Zapište existující den, měsíc a rok.';
+        perform refuse('ML002', label, value);
     end if;
     return day;
 end
@@ -138,8 +134,7 @@ declare
                                           read_moment(typed(value), 'YMD', '-'));
 begin
     if moment is null and typed(value) is not null then
-        raise exception using errcode = 'ML002',
-            message = 'Hodnota „' || shown(value) || '“ není datum. Zapište existující den, měsíc a rok.';
+        perform refuse('ML002', 'Hodnota', value);
     end if;
     return moment;
 end

@@ -10,8 +10,7 @@ returns setof order_row
 language sql stable as $$
     select refuse_unknown_order(a_DDOBIDMASTER);
 
-    select refuse('ML021', 'Dodací list „' || coalesce(a_DODKID::text, 'NULL')
-                               || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
+    select refuse('ML021', 'Dodací list', a_DODKID::text)
     where not exists (select from DODAK where ID = a_DODKID);
 
     select r.*

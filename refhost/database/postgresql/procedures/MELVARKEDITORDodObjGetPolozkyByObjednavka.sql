@@ -13,7 +13,7 @@ returns setof order_row
 language sql stable as $$
     select refuse_unknown_order(a_DDOBIDMASTER);
 
-    select refuse('ML021', 'Objednávka „' || a_DDOBID || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
+    select refuse('ML021', 'Objednávka', a_DDOBID::text)
     where a_DDOBID > 0 and not exists (select from DODOBJEDNAVKA where ID = a_DDOBID);
 
     with LATEST as (

@@ -16,7 +16,7 @@ returns setof note_row
 language sql stable as $$
     select refuse_unknown_note(a_DODKID);
 
-    select refuse('ML021', 'Dodací list „' || a_DODKIDMASTER || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
+    select refuse('ML021', 'Dodací list', a_DODKIDMASTER::text)
     where a_DODKIDMASTER > 0 and not exists (select from DODAK where ID = a_DODKIDMASTER);
 
     with LATEST as (

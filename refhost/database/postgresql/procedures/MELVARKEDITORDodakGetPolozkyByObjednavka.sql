@@ -9,8 +9,7 @@ returns setof note_row
 language sql stable as $$
     select refuse_unknown_note(a_DODKID);
 
-    select refuse('ML021', 'Objednávka „' || coalesce(a_DDOBID::text, 'NULL')
-                               || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
+    select refuse('ML021', 'Objednávka', a_DDOBID::text)
     where not exists (select from DODOBJEDNAVKA where ID = a_DDOBID and VZOR = 0);
 
     select r.*

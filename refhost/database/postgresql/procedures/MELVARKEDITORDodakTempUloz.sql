@@ -28,22 +28,19 @@ begin
     perform refuse_closed_note(a_DODKID);
     perform refuse_unknown_source(a_DODKID_ZDROJ, a_DDOBID_ZDROJ);
 
-    perform refuse('ML053', 'Sazba DPH „' || r.NAZEV || '“ neplatí k datu ' || date_text(d.DATUM)
-                                || ' dodacího listu. Vyberte platnou sazbu.')
+    perform refuse('ML053', r.NAZEV, date_text(d.DATUM))
     from pg_temp.NOTE_STAGED s
     join DPH r on r.ID = (s.LINE).DPHID
     join DODAK d on d.ID = a_DODKID
     where d.DATUM < r.PLATIOD or d.DATUM > r.PLATIDO
     order by s.PLACE;
 
-    perform refuse('ML049', 'Řádek objednávky „' || (s.LINE).DOBSID
-                                || '“ neexistuje. Načtěte položky z objednávky znovu.')
+    perform refuse('ML049', (s.LINE).DOBSID::text)
     from pg_temp.NOTE_STAGED s
     where (s.LINE).DOBSID is not null and not exists (select from DODOBJPOL p where p.ID = (s.LINE).DOBSID)
     order by s.PLACE;
 
-    perform refuse('ML054', 'Položka „' || shown(i.NAZEV) || '“ objednávky „' || shown(o.CISLO)
-                                || '“ už je dodaná celá. Načtěte položky z objednávky znovu.')
+    perform refuse('ML054', i.NAZEV, o.CISLO)
     from pg_temp.NOTE_STAGED s
     join DODOBJPOL p on p.ID = (s.LINE).DOBSID and p.KOMPLETNI = 1
     join DODOBJEDNAVKA o on o.ID = p.DDOBID

@@ -4,7 +4,7 @@
 create function MELVARKEDITORNASTAVENIUlozNastaveniOkna(a_TYPEDITACE integer default null, a_DATA text default null)
 returns void
 language sql as $$
-    select refuse('ML065', 'Druh editoru není zadán. Zadejte jej.') where a_TYPEDITACE is null;
+    select refuse('ML065') where a_TYPEDITACE is null;
 
     insert into EDITOROKNO (UZIVID, TYPEDITACE, DATA)
     values (user_row(), a_TYPEDITACE, a_DATA)

@@ -14,7 +14,7 @@ declare
     added integer;
 begin
     if a_TYPEDITACE is null then
-        perform refuse('ML065', 'Druh editoru není zadán. Zadejte jej.');
+        perform refuse('ML065');
     end if;
     perform user_row();
     perform refuse_setting_name(a_NAZEV, a_TYPEDITACE, null);

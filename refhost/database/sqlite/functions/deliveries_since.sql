@@ -9,5 +9,5 @@
 select case
            when :months is null then '0000-01-01'
            when as_integer(:months) between 0 and 1200 then months_before(:moment, as_integer(:months))
-           else refuse('ML070', 'Počet měsíců „' || shown(:months) || '“ není celé číslo od 0 do 1200. Opravte parametr firmy.')
+           else refuse('ML070', :months)
        end;

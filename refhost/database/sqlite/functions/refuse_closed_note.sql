@@ -4,6 +4,6 @@
 
 select refuse_unknown_note(:id);
 
-select refuse('ML011', 'Dodací list „' || shown(CISLO) || '“ je uzavřený. Otevřete jej, nebo vyberte jiný.')
+select refuse('ML011', CISLO)
 from DODAK
 where ID = :id and OTEVRENO = 0;

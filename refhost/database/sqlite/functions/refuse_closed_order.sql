@@ -4,9 +4,6 @@
 
 select refuse_unknown_order(:id);
 
-select refuse('ML013', case VZOR
-                  when 1 then 'Vzor objednávky „' || shown(CISLO) || '“ je uzavřený. Otevřete jej, nebo vyberte jiný.'
-                  else 'Objednávka „' || shown(CISLO) || '“ je uzavřená. Otevřete ji, nebo vyberte jinou.'
-              end)
+select refuse(iif(VZOR, 'ML013/template', 'ML013'), CISLO)
 from DODOBJEDNAVKA
 where ID = :id and OTEVRENO = 0;

@@ -2,7 +2,7 @@
 -- refused (ML041).
 
 select case STATE
-           when 'closed' then refuse('ML040', 'Ukládání nebylo zahájeno. Uložte doklad znovu.')
-           when 'refused' then refuse('ML041', 'Předchozí ukládání bylo odmítnuto. Uložte doklad znovu.')
+           when 'closed' then refuse('ML040')
+           when 'refused' then refuse('ML041')
        end
 from temp.STAGING;

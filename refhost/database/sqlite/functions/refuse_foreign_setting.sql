@@ -4,7 +4,7 @@
 
 select refuse_unknown_setting(:id);
 
-select refuse('ML061', 'Nastavení „' || shown(s.NAZEV) || '“ patří jinému uživateli. Uložte si je jako nové.')
+select refuse('ML061', s.NAZEV)
 from EDITORNASTAVENI s
 join UZIVATEL u on u.ID = s.UZIVID
 where s.ID = :id and u.JMENO <> current_user_name();

@@ -5,19 +5,17 @@
 -- in: group2
 -- in: group3
 
-select refuse('ML033', 'Není zadána žádná skupina. Zadejte skupinu aspoň jedné úrovně.')
+select refuse('ML033')
 where not (coalesce(:group1, 0) > 0 or coalesce(:group2, 0) > 0 or coalesce(:group3, 0) > 0);
 
 with CHOSEN (LEVEL, ID) as (values (1, :group1), (2, :group2), (3, :group3))
-select refuse('ML030', 'Skupina ' || LEVEL || '. úrovně „' || ID
-                           || '“ neexistuje. Opravte název, nebo ji vyberte ze seznamu.')
+select refuse('ML030', LEVEL, ID)
 from CHOSEN c
 where c.ID > 0 and not exists (select 1 from GROUP_V g where g.LEVEL = c.LEVEL and g.ID = c.ID)
 order by c.LEVEL;
 
 with CHOSEN (LEVEL, ID) as (values (1, :group1), (2, :group2), (3, :group3))
-select refuse('ML034', 'Skupina ' || low.LEVEL || '. úrovně „' || shown(low.NAZEV) || '“ neleží pod skupinou „'
-                           || shown(high.NAZEV) || '“. Vyberte skupiny, které k sobě patří.')
+select refuse('ML034', low.LEVEL, low.NAZEV, high.NAZEV)
 from CHOSEN c
 join GROUP_V low on low.LEVEL = c.LEVEL and low.ID = c.ID
 join GROUP_V high on high.LEVEL = (select max(a.LEVEL) from CHOSEN a where a.LEVEL < c.LEVEL and a.ID > 0)

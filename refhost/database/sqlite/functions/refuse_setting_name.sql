@@ -6,12 +6,12 @@
 -- in: id
 
 select case
-           when typed(:name) is null then refuse('ML062', 'Nastavení nemá název. Zapište jej.')
+           when typed(:name) is null then refuse('ML062')
            when length(typed(:name)) > 100
-               then refuse('ML064', 'Název „' || shown(typed(:name)) || '“ je delší než 100 znaků. Zkraťte jej.')
+               then refuse('ML064', typed(:name))
        end;
 
-select refuse('ML063', 'Nastavení s názvem „' || shown(s.NAZEV) || '“ už máte. Zvolte jiný název.')
+select refuse('ML063', s.NAZEV)
 from EDITORNASTAVENI s
 join UZIVATEL u on u.ID = s.UZIVID
 where s.NAZEV = typed(:name) and s.TYPEDITACE = :type and u.JMENO = current_user_name() and s.ID is not :id;

@@ -3,7 +3,7 @@
 -- in: name
 
 select case
-           when :name is null then refuse('ML042', 'Řádek nemá skladovou položku. Doplňte ji, nebo řádek vyprázdněte.')
+           when :name is null then refuse('ML042')
            when not exists (select 1 from SKLADPOL where NAZEV = :name)
-               then refuse('ML043', 'Skladová položka „' || shown(:name) || '“ neexistuje. Vyberte jinou.')
+               then refuse('ML043', :name)
        end;

@@ -2,6 +2,5 @@
 --
 -- in: id
 
-select refuse('ML010', 'Dodací list s identifikátorem ' || coalesce(:id, 'NULL')
-                           || ' neexistuje. Obnovte seznam a vyberte jiný.')
+select refuse('ML010', :id)
 where not exists (select 1 from DODAK where ID = :id);

@@ -2,6 +2,5 @@
 --
 -- in: id
 
-select refuse('ML012', 'Objednávka ani vzor objednávky s identifikátorem ' || coalesce(:id, 'NULL')
-                           || ' neexistuje. Obnovte seznam a vyberte jiný doklad.')
+select refuse('ML012', :id)
 where not exists (select 1 from DODOBJEDNAVKA where ID = :id);

@@ -2,8 +2,7 @@
 --
 -- in: id
 
-select refuse('ML060', 'Nastavení s identifikátorem ' || coalesce(:id, 'NULL')
-                           || ' neexistuje nebo není sdílené. Vyberte jiné.')
+select refuse('ML060', :id)
 where not exists (select 1
                   from EDITORNASTAVENI s
                   join UZIVATEL u on u.ID = s.UZIVID

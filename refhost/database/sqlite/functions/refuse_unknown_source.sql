@@ -4,7 +4,7 @@
 -- in: note
 -- in: order
 
-select refuse('ML055', 'Zdrojový doklad s identifikátorem ' || ID || ' neexistuje. Zvolte zdroj znovu.')
+select refuse('ML055', ID)
 from (select :note as ID where :note > 0 and :note not in (select ID from DODAK)
       union all
       select :order where :order > 0 and :order not in (select ID from DODOBJEDNAVKA));

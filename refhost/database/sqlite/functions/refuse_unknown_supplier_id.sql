@@ -2,5 +2,5 @@
 --
 -- in: id
 
-select refuse('ML021', 'Dodavatel „' || coalesce(:id, 'NULL') || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
+select refuse('ML021', 'Dodavatel', :id)
 where not exists (select 1 from DODAVATEL where ID = :id);

@@ -2,5 +2,5 @@
 --
 -- in: name
 
-select refuse('ML044', 'Sklad „' || shown(:name) || '“ neexistuje. Vyberte sklad ze seznamu.')
+select refuse('ML044', :name)
 where :name is not null and not exists (select 1 from SKLAD where NAZEV = :name);

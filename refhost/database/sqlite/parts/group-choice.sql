@@ -3,22 +3,19 @@
 --
 -- returns: ID
 
-select refuse('ML030', 'Skupina ' || LEVEL || '. úrovně „' || shown(coalesce(TYPED, ID))
-                           || '“ neexistuje. Opravte název, nebo ji vyberte ze seznamu.') as refusal
+select refuse('ML030', LEVEL, coalesce(TYPED, ID)) as refusal
 from GROUP_SOUGHT s
 where coalesce(TYPED, ID) is not null
   and not exists (select 1
                   from GROUP_V g
                   where g.LEVEL = s.LEVEL and (g.ID = s.ID or (s.ID is null and lower(g.NAZEV) = lower(s.TYPED))));
 
-select refuse('ML032', 'Zapsáno je „' || shown(s.TYPED) || '“, ale vybráno bylo „' || shown(g.NAZEV)
-                           || '“. Vyberte ze seznamu znovu.') as refusal
+select refuse('ML032', s.TYPED, g.NAZEV) as refusal
 from GROUP_SOUGHT s
 join GROUP_V g on g.LEVEL = s.LEVEL and g.ID = s.ID
 where lower(s.TYPED) <> lower(g.NAZEV);
 
-select refuse('ML031', 'Název „' || shown(s.TYPED) || '“ má více skupin ' || s.LEVEL
-                           || '. úrovně. Vyberte tu správnou ze seznamu.') as refusal
+select refuse('ML031', s.TYPED, s.LEVEL) as refusal
 from GROUP_SOUGHT s
 where s.ID is null
   and (select count(*) from GROUP_V g where g.LEVEL = s.LEVEL and lower(g.NAZEV) = lower(s.TYPED)) > 1;

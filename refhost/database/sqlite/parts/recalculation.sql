@@ -15,7 +15,7 @@ update RECALC_LINE
 set RATE_A = case
         when typed(DPH) is null then '0'
         else coalesce((select dec_round(SAZBA, 2) from DPH as RATE where RATE.NAZEV = typed(RECALC_LINE.DPH)),
-                      refuse('ML110', 'Sazba DPH „' || shown(typed(DPH)) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.'))
+                      refuse('ML110', typed(DPH)))
     end,
     RATE_L = coalesce((select dec_round(parse_number(RATE.HODNOTA), 2)
                        from GLOBALPARAM as RATE
@@ -25,7 +25,7 @@ where RECALCULATE;
 
 -- A discount is judged as it was typed: 100.001 is refused although it would round to 100.
 update RECALC_LINE
-set SLEVA = refuse('ML111', 'Sleva ' || number_text(SLEVA) || ' % není přípustná. Zadejte slevu od 0 do 100 %.')
+set SLEVA = refuse('ML111', number_text(SLEVA))
 where RECALCULATE and (dec_cmp(SLEVA, 0) < 0 or dec_cmp(SLEVA, 100) > 0);
 
 update RECALC_LINE
@@ -55,7 +55,7 @@ update RECALC_PRICE
 set CENAB = case
         when TRUTH_KIND = 'DPHA' and RATE_A <> '0' then dec_div(dec_mul(DPHA, 100), RATE_A, DECIMALS)
         when TRUTH_KIND = 'DPHB' and RATE_L <> '0' then dec_div(dec_mul(DPHB, 100), RATE_L, DECIMALS)
-        else refuse('ML112', 'Cenu bez DPH nelze dopočítat z daně při sazbě 0 %. Zadejte nejprve cenu bez DPH.')
+        else refuse('ML112')
     end
 from RECALC_LINE as L
 where L.LINE = RECALC_PRICE.LINE and GIVEN and TRUTH_KIND in ('DPHA', 'DPHB') and CENAB is null;

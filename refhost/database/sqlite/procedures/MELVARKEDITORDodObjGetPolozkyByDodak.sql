@@ -8,8 +8,7 @@
 
 select refuse_unknown_order(:a_DDOBIDMASTER) as refusal;
 
-select refuse('ML021', 'Dodací list „' || coalesce(:a_DODKID, 'NULL')
-                           || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.') as refusal
+select refuse('ML021', 'Dodací list', :a_DODKID) as refusal
 where not exists (select 1 from DODAK where ID = :a_DODKID);
 
 delete from ORDER_FILL;

@@ -11,7 +11,7 @@
 
 select refuse_unknown_order(:a_DDOBIDMASTER) as refusal;
 
-select refuse('ML021', 'Objednávka „' || :a_DDOBID || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.') as refusal
+select refuse('ML021', 'Objednávka', :a_DDOBID) as refusal
 where :a_DDOBID > 0 and not exists (select 1 from DODOBJEDNAVKA where ID = :a_DDOBID);
 
 delete from ORDER_FILL;

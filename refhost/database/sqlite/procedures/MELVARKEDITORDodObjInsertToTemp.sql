@@ -39,7 +39,7 @@ select refuse_unknown_item(SKLADPOL) as refusal from ORDER_SENT;
 
 select refuse_unknown_warehouse(SKLAD) as refusal from ORDER_SENT;
 
-select refuse('ML045', 'Dodavatel „' || shown(DODAVATEL) || '“ neexistuje. Vyberte dodavatele ze seznamu.') as refusal
+select refuse('ML045', DODAVATEL) as refusal
 from ORDER_SENT
 where DODAVATEL is not null
   and not exists (select 1 from DODAVATEL where JMENO = ORDER_SENT.DODAVATEL);
@@ -47,14 +47,12 @@ where DODAVATEL is not null
 update ORDER_SENT_QUANTITY
 set MNOZSTVI = coalesce(parse_number(MNOZSTVI, LABEL, 6), '0');
 
-select refuse('ML048', 'Množství položky „' || shown(s.SKLADPOL)
-                           || '“ nemá jednotku. Množství vymažte, nebo vyberte položku, která tu jednotku má.') as refusal
+select refuse('ML048', s.SKLADPOL) as refusal
 from ORDER_SENT s
 join ORDER_SENT_QUANTITY q on q.MNOZSTVI <> '0' and q.SKPLID is null
 order by q.SLOT;
 
-select refuse('ML047', 'Jednotka „' || shown(coalesce(q.JEDNOTKY, q.SKPLID)) || '“ nepatří k položce „'
-                           || shown(s.SKLADPOL) || '“. Načtěte řádek znovu.') as refusal
+select refuse('ML047', coalesce(q.JEDNOTKY, q.SKPLID), s.SKLADPOL) as refusal
 from ORDER_SENT s
 join SKLADPOL i on i.NAZEV = s.SKLADPOL
 join ORDER_SENT_QUANTITY q on coalesce(q.SKPLID, q.JEDNOTKY) is not null

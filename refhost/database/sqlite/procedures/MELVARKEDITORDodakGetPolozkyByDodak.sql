@@ -14,8 +14,7 @@
 
 select refuse_unknown_note(:a_DODKID) as refusal;
 
-select refuse('ML021', 'Dodací list „' || :a_DODKIDMASTER || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.')
-           as refusal
+select refuse('ML021', 'Dodací list', :a_DODKIDMASTER) as refusal
 where :a_DODKIDMASTER > 0 and not exists (select 1 from DODAK where ID = :a_DODKIDMASTER);
 
 delete from NOTE_FILL;

@@ -9,8 +9,7 @@
 
 select refuse_unknown_note(:a_DODKID) as refusal;
 
-select refuse('ML021', 'Objednávka „' || coalesce(:a_DDOBID, 'NULL')
-                           || '“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.') as refusal
+select refuse('ML021', 'Objednávka', :a_DDOBID) as refusal
 where not exists (select 1 from DODOBJEDNAVKA where ID = :a_DDOBID and VZOR = 0);
 
 delete from NOTE_FILL;

@@ -52,12 +52,11 @@ select refuse_unknown_item(SKLADPOL) as refusal from NOTE_SENT;
 
 select refuse_unknown_warehouse(SKLAD) as refusal from NOTE_SENT;
 
-select refuse('ML110', 'Sazba DPH „' || shown(DPH) || '“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.') as refusal
+select refuse('ML110', DPH) as refusal
 from NOTE_SENT
 where DPH is not null and not exists (select 1 from DPH where NAZEV = NOTE_SENT.DPH);
 
-select refuse('ML049', 'Řádek objednávky „' || shown(DOBSID)
-                           || '“ neexistuje. Načtěte položky z objednávky znovu.') as refusal
+select refuse('ML049', DOBSID) as refusal
 from NOTE_SENT
 where DOBSID is not null
   and not exists (select 1
@@ -65,8 +64,7 @@ where DOBSID is not null
                   join DODOBJEDNAVKA o on o.ID = p.DDOBID and o.VZOR = 0
                   where p.ID = as_integer(NOTE_SENT.DOBSID));
 
-select refuse('ML050', 'Řádek objednávky „' || shown(DOBSID) || '“ je pro jinou položku než „' || shown(SKLADPOL)
-                           || '“. Načtěte položky z objednávky znovu.') as refusal
+select refuse('ML050', DOBSID, SKLADPOL) as refusal
 from NOTE_SENT
 join DODOBJPOL p on p.ID = as_integer(DOBSID)
 join SKLADPOL i on i.ID = p.SKLPID
@@ -92,7 +90,7 @@ select as_integer(DOBSID),
        parse_number(DPHB, 'Celková cena', 2), parse_number(CENAS, 'Celková cena', 2)
 from NOTE_SENT as SENT;
 
-select refuse('ML111', 'Sleva ' || number_text(SLEVA) || ' % není přípustná. Zadejte slevu od 0 do 100 %.') as refusal
+select refuse('ML111', number_text(SLEVA)) as refusal
 from NOTE_LAST
 where dec_cmp(SLEVA, 0) < 0 or dec_cmp(SLEVA, 100) > 0;
 
@@ -102,9 +100,7 @@ from NOTE_SENT as SENT
 where PLACE = (select PLACE from NOTE_LAST);
 
 -- Prices are rounded to their decimals, so that a total may differ from quantity times unit price by that much.
-select refuse('ML052', 'Celková cena ' || total_text(CENA) || ' položky „' || shown(i.NAZEV)
-                           || '“ neodpovídá množství ' || number_text(MNOZSTVI) || ' krát jednotkové ceně '
-                           || number_text(JEDNCENA) || '. Opravte jednu z nich.') as refusal
+select refuse('ML052', total_text(CENA), i.NAZEV, number_text(MNOZSTVI), number_text(JEDNCENA)) as refusal
 from NOTE_PAIR
 join SKLADPOL i on i.ID = SKLPID
 where MNOZSTVI <> '0'

@@ -5,7 +5,7 @@
 -- in: a_TYPEDITACE integer
 -- in: a_DATA
 
-select refuse('ML065', 'Druh editoru není zadán. Zadejte jej.') as refusal where :a_TYPEDITACE is null;
+select refuse('ML065') as refusal where :a_TYPEDITACE is null;
 
 -- include: user-row
 

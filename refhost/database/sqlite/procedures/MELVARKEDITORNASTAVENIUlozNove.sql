@@ -9,7 +9,7 @@
 -- in: a_DATA
 -- returns: ID
 
-select refuse('ML065', 'Druh editoru není zadán. Zadejte jej.') as refusal where :a_TYPEDITACE is null;
+select refuse('ML065') as refusal where :a_TYPEDITACE is null;
 
 select refuse_setting_name(:a_NAZEV, :a_TYPEDITACE, null) as refusal;
 

@@ -1,0 +1,87 @@
+#include "refhost/database/RefusalTable.h"
+
+#include "refhost/database/EmbeddedSql.h"
+
+#include <gtest/gtest.h>
+#include <regex>
+#include <set>
+#include <stdexcept>
+
+namespace refhost {
+
+namespace {
+
+std::set<std::string> tableKeys() {
+    std::set<std::string> keys;
+    for (const RefusalRow& row : refusalRows()) {
+        keys.emplace(row.Key);
+    }
+    return keys;
+}
+
+/// The texts of all SQL of an engine, without the comments.
+std::string statements(std::span<const SqlFile> files) {
+    static const std::regex comment("--[^\n]*");
+    std::string text;
+    for (const SqlFile& file : files) {
+        if (file.Path != "functions/refusal_sentence.sql") {
+            text += std::regex_replace(std::string(file.Text), comment, "") + "\n";
+        }
+    }
+    return text;
+}
+
+std::set<std::string> quotedKeys(const std::string& sql) {
+    static const std::regex key("'(ML[0-9]{3}(/[a-z]+)?)'");
+    return {std::sregex_token_iterator(sql.begin(), sql.end(), key, 1), std::sregex_token_iterator()};
+}
+
+TEST(RefusalTable, FillsThePlacesOfASentence) {
+    const EDatabaseError error = refusal("ML034", {"2", "Mouky", "Nápoje"});
+
+    EXPECT_EQ(error.Message(),
+              "Skupina 2. úrovně „Mouky“ neleží pod skupinou „Nápoje“. Vyberte skupiny, které k sobě patří.");
+    EXPECT_EQ(error.Code(), "ML034");
+}
+
+TEST(RefusalTable, LeavesAPlaceInTheNameOfAThingAlone) {
+    EXPECT_EQ(refusal("ML022", {"{2}", "DL-1"}).Message(),
+              "Zapsáno je „{2}“, ale vybráno bylo „DL-1“. Vyberte ze seznamu znovu.");
+}
+
+TEST(RefusalTable, GivesTheFormsOfOneCodeThatCode) {
+    EXPECT_EQ(refusal("ML013/template", {"VZ-2"}).Code(), "ML013");
+}
+
+TEST(RefusalTable, KnowsNoOtherKeyAndLeavesNoPlaceEmpty) {
+    EXPECT_THROW(refusal("ML000"), std::logic_error);
+    EXPECT_THROW(refusal("ML034", {"2", "Mouky"}), std::logic_error);
+}
+
+TEST(RefusalTable, HasEveryKeyThatTheSqlOfAnEngineRefusesWith) {
+    const std::set<std::string> known = tableKeys();
+    for (const auto files : {sqliteFiles(), postgresqlFiles()}) {
+        const std::set<std::string> used = quotedKeys(statements(files));
+        EXPECT_GT(used.size(), 40U) << "the keys are not recognised any more";
+        for (const std::string& key : used) {
+            EXPECT_TRUE(known.contains(key)) << key;
+        }
+    }
+}
+
+/// A sentence has one place to stand: no engine and no function spells one out beside the table.
+TEST(RefusalTable, IsTheOnlyPlaceOfItsSentences) {
+    for (const auto files : {sqliteFiles(), postgresqlFiles()}) {
+        const std::string sql = statements(files);
+        for (const RefusalRow& row : refusalRows()) {
+            const std::string sentence(row.Sentence);
+            const std::string ending =
+                sentence.substr(sentence.rfind(". ") == std::string::npos ? 0 : sentence.rfind(". ") + 2);
+            EXPECT_EQ(sql.find(ending), std::string::npos) << row.Key;
+        }
+    }
+}
+
+} // namespace
+
+} // namespace refhost
