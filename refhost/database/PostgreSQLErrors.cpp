@@ -1,5 +1,7 @@
 #include "refhost/database/PostgreSQLErrors.h"
 
+#include "refhost/database/RefusalTable.h"
+
 #include <algorithm>
 
 namespace refhost {
@@ -31,6 +33,16 @@ constexpr Sentence c_Sentences[] = {
 };
 
 constexpr Sentence c_Other{"", "ML930", "Databáze „", "“ nemohla příkaz provést. Obraťte se na správce."};
+/// A constraint of the tables whose violation is a refusal, and its key.
+struct Constraint {
+    std::string_view Name;
+    std::string_view Refusal;
+};
+
+constexpr Constraint c_Constraints[] = {
+    {"dodcenik_prekryv", "ML901"},
+};
+
 constexpr std::string_view c_LostLink = "08006";
 constexpr std::string_view c_WrongPassword = "28P01";
 
@@ -89,6 +101,11 @@ EPostgreSQLError statementError(const PGresult* result, std::string_view databas
     const std::string more = details(sqlState, PQresultErrorMessage(result), statement);
     if (sqlState.starts_with("ML")) {
         return {EDatabaseError(std::move(words), sqlState, more), sqlState};
+    }
+    if (const auto* constraint =
+            std::ranges::find(c_Constraints, field(result, PG_DIAG_CONSTRAINT_NAME), &Constraint::Name);
+        constraint != std::end(c_Constraints)) {
+        return {refusal(constraint->Refusal, {}, more), sqlState};
     }
     return {sentence(sqlState, database, more), sqlState, field(result, PG_DIAG_SOURCE_FUNCTION)};
 }

@@ -1,5 +1,7 @@
 #include "refhost/database/SQLiteErrors.h"
 
+#include "refhost/database/RefusalTable.h"
+
 #include <sqlite3.h>
 
 namespace refhost {
@@ -32,15 +34,18 @@ constexpr Sentence c_Other{SQLITE_ERROR, "ML930", "Databáze „", "“ nemohla 
 } // namespace
 
 EDatabaseError sqliteError(int code, sqlite3* database, std::string_view file, std::string_view statement) {
+    const std::string words = database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code);
+    std::string details = "SQLite " + std::to_string(code) + ": " + words;
+    details.append("\n").append(statement);
+    if (code == SQLITE_CONSTRAINT_TRIGGER) {
+        return refusal(words, {}, details); // our triggers say the key of a refusal and nothing else
+    }
     const Sentence* sentence = &c_Other;
     for (const Sentence& candidate : c_Sentences) {
         if (candidate.Code == code || candidate.Code == (code & 0xFF)) {
             sentence = &candidate;
         }
     }
-    std::string details = "SQLite " + std::to_string(code) + ": ";
-    details += database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code);
-    details.append("\n").append(statement);
     return EDatabaseError(std::string(sentence->Before).append(file) + sentence->After, sentence->Refusal, details);
 }
 

@@ -86,11 +86,11 @@ create table DODCENIK (
     PLATIOD text not null,
     PLATIDO text check (PLATIDO >= PLATIOD),
     CENA text not null,
-    SLEVA text not null default '0',
-    unique (DODVID, SKLPID, PLATIOD)
+    SLEVA text not null default '0'
 ) strict;
+create index DODCENIK_DODVID on DODCENIK (DODVID, SKLPID, PLATIOD);
 
--- At any moment a supplier lists an item at most once.
+-- At any moment a supplier lists an item at most once. A trigger refuses with a key of the table of refusals.
 create trigger DODCENIK_PREKRYV before insert on DODCENIK
 when exists (select 1
              from DODCENIK c
@@ -98,7 +98,7 @@ when exists (select 1
                and c.PLATIOD <= coalesce(new.PLATIDO, '9999-12-31')
                and coalesce(c.PLATIDO, '9999-12-31') >= new.PLATIOD)
 begin
-    select raise(abort, 'Platnost ceníku se překrývá s jiným ceníkem téže položky a téhož dodavatele.');
+    select raise(abort, 'ML901');
 end;
 
 create trigger DODCENIK_PREKRYV_ZMENA before update on DODCENIK
@@ -108,7 +108,7 @@ when exists (select 1
                and c.PLATIOD <= coalesce(new.PLATIDO, '9999-12-31')
                and coalesce(c.PLATIDO, '9999-12-31') >= new.PLATIOD)
 begin
-    select raise(abort, 'Platnost ceníku se překrývá s jiným ceníkem téže položky a téhož dodavatele.');
+    select raise(abort, 'ML901');
 end;
 
 -- Orders and order templates: one table, one id sequence. A template has a name and no moment of ordering. An order may
