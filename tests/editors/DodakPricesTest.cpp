@@ -19,8 +19,9 @@ class DodakPrices : public EditorRules {
 protected:
     static constexpr const char* Procedure = "MELVARKEDITORDodakVypocetCen";
 
-    std::vector<melvark::RecalculatedCell> recalculate(const AnsiString& focus = "MNOZSTVI", bool all = true) {
-        return melvark::Recalculate(store_, columns(), {0, focus, all}, host_.formatSettings);
+    std::vector<melvark::RecalculatedCell> recalculate(const AnsiString& focus = "MNOZSTVI", bool all = true,
+                                                       int row = 0) {
+        return melvark::Recalculate(store_, columns(), {row, focus, all}, host_.formatSettings);
     }
 
     /// What a recalculation brings back, as "KEY=text".
@@ -111,6 +112,18 @@ TEST_F(DodakPrices, OnlyTheRowsOwnChangesAreListed) {
     type(1, "MNOZSTVI", "1");
     EXPECT_EQ(melvark::ChangedCells(columns(), store_, 0), "");
     EXPECT_EQ(melvark::ChangedCells(columns(), store_, 1), "MNOZSTVI;");
+}
+
+TEST_F(DodakPrices, EachRowIsRecalculatedFromItsOwnCellsAndMarks) {
+    putLine(0, {{"MNOZSTVI", "1"}, {"CENABSESLEVOU", "1,00"}});
+    putLine(2, {{"MNOZSTVI", "7"}});
+    type(0, "SLEVA", "5");
+    type(2, "JEDNCENABSESLEVOU", "3");
+    recalculate("JEDNCENABSESLEVOU", true, 2);
+    EXPECT_THAT(host_.connection.calls(),
+                ElementsAre(testing::AllOf(HasSubstr("a_ZMENENEBUNKY=\"JEDNCENABSESLEVOU;\""),
+                                           HasSubstr("a_JEDNCENABSESLEVOU=3, "), HasSubstr("a_CENABSESLEVOU=null, "),
+                                           HasSubstr("a_SLEVA=null, a_MNOZSTVI=7)"))));
 }
 
 struct NumberCase {

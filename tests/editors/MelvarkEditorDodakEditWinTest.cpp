@@ -233,6 +233,20 @@ TEST_F(DodakEditorSource, ACancelledSelectionCancelsTheEditor) {
     EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"), IsEmpty());
 }
 
+TEST_F(DodakEditorSource, AnOkThatNamesNoDocumentCancelsTheEditor) {
+    for (const std::int64_t id : {-1, -2}) {
+        for (const char* check : {"MELVARKEDITORDodakCheckZdrojObjednavka", "MELVARKEDITORDodakCheckZdrojDodak"}) {
+            host_.connection.procedure(check).returns({TResultTable{{"ID"}, {{id}}}});
+        }
+        for (const char* editType : {"DODOBJ", "DODAK"}) {
+            ModalDriver dialog({}, [](QWidget& box) { press(box, "OkBtn"); });
+            EXPECT_THROW(open(editType), EEditBoxCanceled) << editType << " " << id;
+        }
+    }
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakCheckZdroj"), SizeIs(4)) << "OK was pressed each time";
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"), IsEmpty());
+}
+
 TEST_F(DodakEditorSource, APickedRowDoesNotCountOnceTheSelectionIsCancelled) {
     for (const char* editType : {"DODOBJ", "DODAK"}) {
         manager_.lookupAnswers.push_back(TLookupPick{"17", "33"});
@@ -316,6 +330,35 @@ TEST_F(DodakEditorPrices, AHiddenColumnIsRecalculatedInTheStoreOnly) {
         type(*editor, "12");
         EXPECT_EQ(stored(*editor, 1, "CENABSESLEVOU"), "228,00");
         EXPECT_EQ(editor->StringGrid->Cells(0, 1), "") << "the indicator column stays empty";
+    });
+}
+
+TEST_F(DodakEditorPrices, InAnotherRowOfMovedAndHiddenColumnsTheTypedCellAndItsLineAreMeant) {
+    // The item stands first, the unit price between quantity and total is hidden.
+    host_.connection.procedure("MELVARKEDITORNASTAVENINactiDef")
+        .returns({resultTable({"ID", "DATA"}, {{"5", "<settings><columns><column><name>SKLADPOL</name></column>"
+                                                     "<column><name>MNOZSTVI</name></column>"
+                                                     "<column><name>JEDNCENABSESLEVOU</name><visible>0</visible>"
+                                                     "</column><column><name>CENABSESLEVOU</name></column>"
+                                                     "</columns></settings>"}})});
+    databaseReturns({"JEDNCENABSESLEVOU", "CENABSESLEVOU"}, {"12", "48,00"});
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        type(*editor, "");
+        type(*editor, "");
+        ASSERT_EQ(openAt(*editor), "MNOZSTVI in row 2");
+        type(*editor, "4");
+        ASSERT_EQ(openAt(*editor), "CENABSESLEVOU in row 2");
+        EXPECT_EQ(row(*editor, 1, {"SKLADPOL", "MNOZSTVI", "CENABSESLEVOU"}), "Mléko | 10 | 190,00");
+        EXPECT_EQ(row(*editor, 2, {"SKLADPOL", "MNOZSTVI", "CENABSESLEVOU"}), "Žitný chléb | 4 | 48,00");
+        EXPECT_EQ(stored(*editor, 1, "JEDNCENABSESLEVOU") + " | " + stored(*editor, 2, "JEDNCENABSESLEVOU"), "19 | 12");
+        type(*editor, "50");
+        EXPECT_THAT(host_.connection.calls(),
+                    ElementsAre(AllOf(HasSubstr("a_ZMENENEBUNKY=\"MNOZSTVI;\""), HasSubstr("a_FOCUS=\"MNOZSTVI\""),
+                                      HasSubstr("a_CENABSESLEVOU=null, "), HasSubstr("a_MNOZSTVI=4)")),
+                                AllOf(HasSubstr("a_ZMENENEBUNKY=\"CENABSESLEVOU;MNOZSTVI;\""),
+                                      HasSubstr("a_FOCUS=\"CENABSESLEVOU\""), HasSubstr("a_JEDNCENABSESLEVOU=12, "),
+                                      HasSubstr("a_CENABSESLEVOU=50, "))));
     });
 }
 
