@@ -59,6 +59,18 @@ protected:
     static QCheckBox* option(TSelectBox& box, const char* name) {
         return box.findChild<QCheckBox*>(QString::fromLatin1(name));
     }
+    /// The label of the transfer options with those that are shown, each with its state; "none" without them.
+    static AnsiString shownOptions(TSelectBox& box) {
+        AnsiString shown;
+        for (const char* name : {"chbMnozstvi", "chbCeny"}) {
+            if (const QCheckBox* const check = option(box, name); check->isVisible()) {
+                shown +=
+                    (shown.empty() ? " " : ", ") + check->text().toStdString() + (check->isChecked() ? " on" : " off");
+            }
+        }
+        const QLabel* const title = label(box, "lblPrenest");
+        return title->isVisible() ? title->text().toStdString() + shown : "none" + shown;
+    }
     static void click(TSelectBox& box, const char* button) {
         QTest::mouseClick(box.findChild<QAbstractButton*>(QString::fromLatin1(button)), Qt::LeftButton);
     }
@@ -69,11 +81,13 @@ protected:
     bool leftOpen = false;
 };
 
-/// What one set-up asks: of the list for document 7 of warehouse 3 and supplier 5, and of the check for row 11 picked
-/// from it.
+/// What one set-up shows and asks: its caption and label, the transfer options with their state, the list for document
+/// 7 of warehouse 3 and supplier 5, and the check of row 11 picked from it.
 struct SetUpCase {
     const char* name;
     std::function<void(TSelectBox&)> setUp;
+    const char* texts;
+    const char* options;
     const char* lookup;
     const char* procedure;
     std::vector<AnsiString> params;
@@ -82,17 +96,23 @@ struct SetUpCase {
 const SetUpCase c_SetUps[] = {
     {"NoteFromOrder",
      [](TSelectBox& box) { box.DodakSelectFromObjednavka(7, 5); },
+     "Výběr objednávky | Číslo objednávky:",
+     "none",
      "Kordan3:DODOBJEDNAVKA.Normal CISLO _ID "
      "[V_MELVARKEDITORDodakCheckZdrojObjednavka(_ID, _SKLDID, _DODVID, 7, 5, _DODANO)=1]",
      "MELVARKEDITORDodakCheckZdrojObjednavka",
      {"a_DODKIDMASTER", "a_CISLO", "a_DDOBID"}},
     {"NoteFromNote",
      [](TSelectBox& box) { box.DodakSelectFromDodak(7, 5); },
+     "Výběr dodacího listu | Číslo dodacího listu:",
+     "Přenést: množství on, ceny on",
      "Kordan3:DODAK.Normal CISLO _ID [V_MELVARKEDITORDodakCheckZdrojDodak(_ID, _DODVID, 7, 5)=1]",
      "MELVARKEDITORDodakCheckZdrojDodak",
      {"a_DODKIDMASTER", "a_DODAKCISLO", "a_DODKID"}},
     {"OrderFromTemplate",
      [](TSelectBox& box) { box.DodObjSelectFromObjednavkaVzor(7, 3, 5); },
+     "Výběr vzoru objednávky | Číslo vzoru objednávky:",
+     "none",
      "Kordan3:DODOBJEDNAVKAVZOR.Normal CISLO _ID "
      "[V_MELVARKEDITORDodObjCheckZdrojObjednavkaVzor(_ID, _SKLDID, _DODVID, 7, 3, 5)=1]",
      "MELVARKEDITORDodObjCheckZdrojObjednavkaVzor",
@@ -100,23 +120,31 @@ const SetUpCase c_SetUps[] = {
     // The list asks the templates' function, the check the orders' procedure: on purpose.
     {"OrderFromOrder",
      [](TSelectBox& box) { box.DodObjSelectFromObjednavka(7, 3, 5); },
+     "Výběr objednávky | Číslo objednávky:",
+     "none",
      "Kordan3:DODOBJEDNAVKA.Normal CISLO _ID "
      "[V_MELVARKEDITORDodObjCheckZdrojObjednavkaVzor(_ID, _SKLDID, _DODVID, 7, 3, 5)=1]",
      "MELVARKEDITORDodObjCheckZdrojObjednavka",
      {"a_DDOBIDMASTER", "a_CISLO", "a_DDOBID"}},
     {"OrderFromNote",
      [](TSelectBox& box) { box.DodObjSelectFromDodak(7, 3, 5); },
+     "Výběr dodacího listu | Číslo dodacího listu:",
+     "none",
      "Kordan3:DODAK.Normal CISLO _ID [V_MELVARKEDITORDodObjCheckZdrojDodak(_ID, _DODVID, 7, 3, 5)=1]",
      "MELVARKEDITORDodObjCheckZdrojDodak",
      {"a_DDOBIDMASTER", "a_CISLO", "a_DODKID"}},
     {"OrderFromPriceList",
      [](TSelectBox& box) { box.DodObjSelectFromDodCenik(7, c_Midnight); },
+     "Výběr dodavatele | Jméno dodavatele:",
+     "none",
      "Kordan3:DODAVATEL.Normal JMENO _ID "
      "[V_MELVARKEDITORDodObjCheckZdrojDodCenik(_ID, 7, -1, -1, '1.2.2027 00:00:00')=1]",
      "MELVARKEDITORDodObjCheckZdrojDodCenik",
      {"a_DDOBIDMASTER", "a_JMENO", "a_DODVID"}},
     {"OrderFromDeliveries",
      [](TSelectBox& box) { box.DodObjSelectFromDodavky(7, "", c_Midnight); },
+     "Výběr dodavatele | Jméno dodavatele:",
+     "Přenést: množství off",
      "Kordan3:DODAVATEL.Normal JMENO _ID "
      "[V_MELVARKEDITORDodObjCheckZdrojDodavky(_ID, 7, -1, -1, '1.2.2027 00:00:00', "
      "V_GetGlobalParam('SKLAD','POCETMESICUDODAVEK'))=1]",
@@ -124,22 +152,27 @@ const SetUpCase c_SetUps[] = {
      {"a_DDOBIDMASTER", "a_JMENO", "a_DODVID"}},
 };
 
-TEST_F(SelectBox, EachSetUpAsksItsOwnListAndItsOwnCheck) {
+TEST_F(SelectBox, EachSetUpShowsItsOwnTextsAndAsksItsOwnListAndItsOwnCheck) {
+    // Each check answers with an id of its own, another than that of the picked row.
+    std::int64_t checkedId = 100;
     for (const SetUpCase& row : c_SetUps) {
         SCOPED_TRACE(row.name);
+        ++checkedId;
         RecordingLibraryManager lists;
         lists.lookupAnswers = {TLookupPick{"Vybraný", "11"}};
-        host.connection.procedure(row.procedure)
-            .inputs(row.params)
-            .returns({TResultTable{{"ID"}, {{std::int64_t{11}}}}});
+        host.connection.procedure(row.procedure).inputs(row.params).returns({TResultTable{{"ID"}, {{checkedId}}}});
         host.connection.takeCalls();
         TSelectBox box(nullptr, &lists);
         row.setUp(box);
         const int result = showAnd(box, [&] {
+            EXPECT_EQ(box.Caption() + " | " + label(box, "lblSelect")->text().toStdString(), row.texts);
+            EXPECT_EQ(shownOptions(box), row.options);
             QTest::keyClick(edit(box), Qt::Key_F5);
+            EXPECT_EQ(box.GetID(), 11);
             QTest::keyClick(edit(box), Qt::Key_Return);
         });
         EXPECT_EQ(result, c_ResultOk);
+        EXPECT_EQ(box.GetID(), checkedId);
         EXPECT_THAT(lists.lookups(), ElementsAre(row.lookup));
         EXPECT_THAT(host.connection.takeCalls(),
                     ElementsAre(AnsiString(row.procedure) + "(" + row.params[0] + "=7, " + row.params[1] +
