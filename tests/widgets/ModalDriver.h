@@ -10,8 +10,9 @@
 #include <gtest/gtest.h>
 
 /// Acts on the next modal window while the code under test is blocked in it: waits until a modal window of the object
-/// name (any when empty) is active, then runs the action once. A window that does not come is a failure, and whatever
-/// modal window is there then is closed, so that the test ends.
+/// name (any when empty) is active, then runs the action once. A window that does not come is a failure, also when the
+/// code under test was not blocked at all; whatever modal window is there in its place is closed, so that the test
+/// ends.
 class ModalDriver : public QObject {
 public:
     ModalDriver(QString name, std::function<void(QWidget&)> action)
@@ -19,6 +20,12 @@ public:
         QObject::connect(&timer_, &QTimer::timeout, this, [this] { look(); });
         timer_.start(5);
         waited_.start();
+    }
+
+    ~ModalDriver() override {
+        if (timer_.isActive()) {
+            ADD_FAILURE() << "no modal window named '" << name_.toStdString() << "' was there to act on";
+        }
     }
 
     bool hasActed() const { return hasActed_; }
