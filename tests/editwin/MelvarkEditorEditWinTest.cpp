@@ -2,6 +2,7 @@
 #include "host/widgets/Buttons.h"
 #include "host/widgets/StringGrid.h"
 #include "tests/editwin/TestEditBox.h"
+#include "tests/widgets/ModalDriver.h"
 
 #include <QAction>
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -220,12 +222,30 @@ TEST_F(EditBox, WithoutALibraryManagerTheApplicationsOwnBoxIsShown) {
 }
 
 TEST_F(EditBox, ItWorksWithoutALibraryManager) {
-    TestEditBox plain(nullptr, testColumns(log));
-    plain.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&plain));
-    EXPECT_EQ(plain.EditCol(), 1);
-    EXPECT_THAT(manager.localizedSections(), IsEmpty());
-    plain.close();
+    form = std::make_unique<TestEditBox>(nullptr, testColumns(log));
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    settle();
+    EXPECT_EQ(form->Caption(), "Melvark - editor") << "the built-in texts stay";
+    EXPECT_EQ(openCellText(), "1,1");
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("x"));
+    {
+        ModalDriver box(QStringLiteral("MessageBox"), [](QWidget& shown) {
+            const auto* const messageBox = qobject_cast<QMessageBox*>(&shown);
+            EXPECT_EQ(messageBox ? messageBox->text() : QString(), QStringLiteral("Hodnota x není celé číslo"));
+            QTest::keyClick(&shown, Qt::Key_Return);
+        });
+        key(Qt::Key_Return);
+    }
+    EXPECT_EQ(openCellText(), std::to_string(c_CountCol) + ",2");
+    sharedEdit().clear();
+    type(QStringLiteral("7"));
+    key(Qt::Key_Return);
+    EXPECT_EQ(stored(7, 1), "7");
+    EXPECT_EQ(openCellText(), std::to_string(c_PriceCol) + ",2");
+    form->close();
+    EXPECT_THAT(host.connection.calls().back(), testing::StartsWith("MELVARKEDITORNASTAVENIUlozNastaveniOkna("));
     EXPECT_THAT(host.errors(), IsEmpty());
 }
 

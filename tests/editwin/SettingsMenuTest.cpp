@@ -88,6 +88,19 @@ TEST_F(SettingsMenu, ADamagedDocumentLeavesTheBuiltInLayout) {
     EXPECT_EQ(columnOrder(), "[ID] NAZEV POCET CENA DATUM SKLAD KOD POZN TYP [SLEVA]");
 }
 
+TEST_F(SettingsMenu, AColumnThatASettingDroppedKeepsItsNameAndItsData) {
+    // The repeat of the column placed first takes the last one's place.
+    defaultIs(7, "<settings><columns><column><name>NAZEV</name></column><column><name>NAZEV</name></column>"
+                 "</columns></settings>");
+    make();
+    EXPECT_EQ(columnOrder(), "NAZEV NAZEV [ID] POCET CENA DATUM SKLAD KOD POZN TYP");
+    EXPECT_TRUE(form->IsValidColumnName("SLEVA"));
+    EXPECT_EQ(form->GetColumnByName("SLEVA"), 0);
+    EXPECT_EQ(form->GetColumnSettings("SLEVA").Caption, "Sleva");
+    EXPECT_EQ(stored(form->GetColumnSettings("SLEVA").DataColumn, 2), "5");
+    EXPECT_EQ(form->GetDataColumn(0).Name, "") << "no active column shows these data";
+}
+
 TEST_F(SettingsMenu, TheSwitchIsLeftAloneWhileItsPanelIsHidden) {
     make();
     form->SetTopButtonPanelVisibility(false);

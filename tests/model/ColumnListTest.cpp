@@ -94,13 +94,14 @@ TEST(ColumnList, DataColumnIsFoundWhereverItsColumnStands) {
     EXPECT_EQ(DataColumnSettings(columns, 7).DataColumn, -1);
 }
 
-TEST(ColumnList, NameThatASettingDroppedFromTheActiveColumnsStaysValid) {
+TEST(ColumnList, EveryNameOfTheListIsValidInItsOwnLettersOnly) {
     const auto defaults = sampleColumns();
-    const std::vector<RColumn> active = {defaults[1], defaults[1]};
 
-    EXPECT_EQ(FindByName(active, "E"), nullptr);
-    EXPECT_TRUE(IsValidName(defaults, "E"));
+    for (const RColumn& column : defaults) {
+        EXPECT_TRUE(IsValidName(defaults, column.Name)) << column.Name;
+    }
     EXPECT_FALSE(IsValidName(defaults, "e"));
+    EXPECT_FALSE(IsValidName(defaults, "KE"));
     EXPECT_FALSE(IsValidName(defaults, ""));
 }
 

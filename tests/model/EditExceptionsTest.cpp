@@ -19,10 +19,14 @@ TYPED_TEST(EditExceptionsOf, CarryTheirMessageToWhoeverCatchesTheFrameworksExcep
 }
 
 TEST(EditExceptions, AreNotKindsOfOneAnother) {
-    // A handler of failures would otherwise show a quiet cancel to the user.
+    // A handler of failures would otherwise show a quiet cancel to the user, and the keeper of a cell would take
+    // another failure for a refused value.
     EXPECT_FALSE((std::is_base_of_v<EEditBox, EEditBoxCanceled>));
     EXPECT_FALSE((std::is_base_of_v<EEditBox, EBadValue>));
     EXPECT_FALSE((std::is_base_of_v<EEditBoxCanceled, EEditBox>));
+    EXPECT_FALSE((std::is_base_of_v<EEditBoxCanceled, EBadValue>));
+    EXPECT_FALSE((std::is_base_of_v<EBadValue, EEditBox>));
+    EXPECT_FALSE((std::is_base_of_v<EBadValue, EEditBoxCanceled>));
 }
 
 } // namespace
