@@ -80,15 +80,15 @@ QLayout* TSelectBox::CreateMainPanel() {
 
     SelectSpeedButton = new TQelPngSpeedButton(this);
     SelectSpeedButton->setObjectName(QStringLiteral("SelectSpeedButton"));
-    SelectSpeedButton->setToolTip(melvark::ToQString("Vybrat ze seznamu (F5)"));
+    SelectSpeedButton->setToolTip(QStringLiteral("Vybrat ze seznamu (F5)"));
     SelectSpeedButton->SetOnClick([this](TObject* sender) { SelectSpeedButtonClick(sender); });
 
-    lblPrenest = new TLabel(melvark::ToQString("Přenést:"), this);
+    lblPrenest = new TLabel(QStringLiteral("Přenést:"), this);
     lblPrenest->setObjectName(QStringLiteral("lblPrenest"));
-    chbMnozstvi = new TCheckBox(melvark::ToQString("množství"), this);
+    chbMnozstvi = new TCheckBox(QStringLiteral("množství"), this);
     chbMnozstvi->setObjectName(QStringLiteral("chbMnozstvi"));
     chbMnozstvi->setChecked(true);
-    chbCeny = new TCheckBox(melvark::ToQString("ceny"), this);
+    chbCeny = new TCheckBox(QStringLiteral("ceny"), this);
     chbCeny->setObjectName(QStringLiteral("chbCeny"));
     chbCeny->setChecked(true);
 
