@@ -1,6 +1,7 @@
 #include "refhost/tables/TableStyle.h"
 
 #include <QApplication>
+
 #include <gtest/gtest.h>
 
 namespace refhost {
