@@ -31,7 +31,8 @@ endfunction()
 
 # One test program: melvark_test(name SOURCES files... LIBRARIES targets... [GUI] [DISPLAY] [TIMEOUT seconds])
 # GUI: drives forms with Qt's off-screen platform; has a main of its own from tests/support (GuiMain.cpp).
-# DISPLAY: needs a window manager; tests/run-on-display starts a virtual display with one.
+# DISPLAY: needs a window manager; tests/run-on-display starts a virtual display with one. Labelled "display".
+# The target tests_without_display builds the others.
 function(melvark_test target)
   cmake_parse_arguments(ARG "GUI;DISPLAY" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
   add_executable(${target} ${ARG_SOURCES})
@@ -52,6 +53,7 @@ function(melvark_test target)
     add_test(NAME ${target} COMMAND ${PROJECT_SOURCE_DIR}/tests/run-on-display $<TARGET_FILE:${target}>)
   else()
     add_test(NAME ${target} COMMAND ${target})
+    add_dependencies(tests_without_display ${target})
   endif()
   set(environment "LC_ALL=C.UTF-8")
   if(ARG_GUI)
@@ -60,6 +62,6 @@ function(melvark_test target)
   set_tests_properties(${target} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${environment}")
   if(ARG_DISPLAY)
     # Keys and focus go their way through other processes; nothing else competes with them for the machine.
-    set_tests_properties(${target} PROPERTIES RUN_SERIAL ON)
+    set_tests_properties(${target} PROPERTIES LABELS display RUN_SERIAL ON)
   endif()
 endfunction()
