@@ -2,6 +2,7 @@
 
 #include "editwin/CellWriter.h"
 #include "editwin/GridComboBox.h"
+#include "editwin/model/ColumnList.h"
 #include "editwin/model/EditExceptions.h"
 #include "editwin/model/ValueChecks.h"
 #include "host/HostServices.h"
@@ -17,6 +18,7 @@
 #include <QRegion>
 #include <QScopeGuard>
 
+#include <algorithm>
 #include <utility>
 
 namespace melvark {
@@ -68,28 +70,33 @@ void InPlaceEditing::ShowEditor(int col, int row, Reach reach) {
     grid.SetCurrentCell(col, row);
     FEditCol = col;
     FEditRow = row;
+    FOpened = {.Editor = FSharedEdit,
+               .DataColumn = column->DataColumn,
+               .StoreRow = FEditing.Rows.StoreRow(row),
+               .DataType = column->DataType,
+               .Callback = column->Callback};
     if (auto* const combo = qobject_cast<TGridComboBox*>(column->Editor)) {
         combo->SelectText(grid.Cells(col, row));
-        FActive = combo;
+        FOpened.Editor = combo;
     } else {
         FSharedEdit->setText(ToQString(grid.Cells(col, row)));
         FSharedEdit->setModified(false);
         FSharedEdit->selectAll();
-        FActive = FSharedEdit;
     }
-    FActive->setAccessibleName(ToQString(column->Caption));
+    FOpened.Editor->setAccessibleName(ToQString(column->Caption));
     LayEditor();
-    FActive->show();
-    FActive->raise();
-    FActive->setFocus(Qt::OtherFocusReason);
+    FOpened.Editor->show();
+    FOpened.Editor->raise();
+    FOpened.Editor->setFocus(Qt::OtherFocusReason);
 }
 
-bool InPlaceEditing::HideEditor() {
+CommitAnswer InPlaceEditing::CommitEditor() {
     if (FCommitting) {
-        return false;
+        return CommitAnswer::Running;
     }
-    if (!FActive || FActive->isHidden()) {
-        return true;
+    FCheckWanted = false; // this is the check
+    if (!FOpened.Editor || FOpened.Editor->isHidden()) {
+        return CommitAnswer::Closed;
     }
     FCommitting = true;
     const auto finish = qScopeGuard([this] { FCommitting = false; });
@@ -99,7 +106,7 @@ bool InPlaceEditing::HideEditor() {
             if (FOpenWanted) {
                 QueueSettle();
             }
-            return true;
+            return CommitAnswer::Closed;
         }
         ReturnToEditCell();
     } catch (const EBadValue& refusal) {
@@ -110,23 +117,20 @@ bool InPlaceEditing::HideEditor() {
         ReturnToEditCell();
         throw;
     }
-    return false;
+    return CommitAnswer::Refused;
 }
 
 bool InPlaceEditing::Commit() {
-    const RColumn* const column = FEditing.ColumnAt(FEditCol);
-    if (!column) {
-        return true;
+    FollowOpenedCell();
+    if (const auto* const combo = qobject_cast<const TGridComboBox*>(FOpened.Editor)) {
+        return CommitText(combo->SelectedText(), combo->HasChanged());
     }
-    if (const auto* const combo = qobject_cast<const TGridComboBox*>(FActive)) {
-        return CommitText(*column, combo->SelectedText(), combo->HasChanged());
-    }
-    return CommitText(*column, CheckedText(*column), FSharedEdit->isModified());
+    return CommitText(CheckedText(), FSharedEdit->isModified());
 }
 
-AnsiString InPlaceEditing::CheckedText(const RColumn& column) const {
+AnsiString InPlaceEditing::CheckedText() const {
     const AnsiString text = ToAnsi(FSharedEdit->text());
-    switch (column.DataType) {
+    switch (FOpened.DataType) {
     case cdtInt:
         return CheckInt(FSharedEdit, text);
     case cdtFlt:
@@ -140,20 +144,19 @@ AnsiString InPlaceEditing::CheckedText(const RColumn& column) const {
     return text;
 }
 
-bool InPlaceEditing::CommitText(const RColumn& column, const AnsiString& text, bool isChanged) {
-    const int storeRow = FEditing.Rows.StoreRow(FEditRow);
+bool InPlaceEditing::CommitText(const AnsiString& text, bool isChanged) {
     if (!isChanged) {
-        FWriter.Show(column.DataColumn, storeRow, text);
+        FWriter.Show(FOpened.DataColumn, FOpened.StoreRow, text);
         return true;
     }
-    FWriter.WriteTyped(column.DataColumn, storeRow, text);
-    // A copy: the callback may change the column list.
-    const TColumnCallback callback = column.Callback;
+    FWriter.WriteTyped(FOpened.DataColumn, FOpened.StoreRow, text);
+    // A copy: the callback may close the cell.
+    const TColumnCallback callback = FOpened.Callback;
     return !callback || callback(FEditCol, FEditRow, text);
 }
 
 void InPlaceEditing::CloseEditor() {
-    QWidget* const editor = std::exchange(FActive, nullptr);
+    QWidget* const editor = std::exchange(FOpened, {}).Editor;
     if (!editor) {
         return;
     }
@@ -167,19 +170,29 @@ void InPlaceEditing::CloseEditor() {
 void InPlaceEditing::DropEditor() {
     FCheckWanted = false;
     FOpenWanted = false;
-    if (QWidget* const editor = std::exchange(FActive, nullptr)) {
+    if (QWidget* const editor = std::exchange(FOpened, {}).Editor) {
         editor->hide();
     }
 }
 
+/// The columns may have been moved, hidden or replaced under the open editor. Two columns can show the same data: the
+/// edited one is then the one that still stands in its place.
+void InPlaceEditing::FollowOpenedCell() {
+    const std::vector<int> shownAt = GridColumnsOfData(FEditing.Active, FOpened.DataColumn);
+    if (std::ranges::find(shownAt, FEditCol) == shownAt.end()) {
+        FEditCol = shownAt.empty() ? 0 : shownAt.front();
+    }
+    FEditRow = FEditing.Rows.GridRow(FOpened.StoreRow);
+}
+
 void InPlaceEditing::ReturnToEditCell() {
     FOpenWanted = false;
-    if (!FActive) {
+    if (!FOpened.Editor) {
         return;
     }
     FEditing.Grid.SetCurrentCell(FEditCol, FEditRow);
     LayEditor();
-    FActive->setFocus(Qt::OtherFocusReason);
+    FOpened.Editor->setFocus(Qt::OtherFocusReason);
 }
 
 void InPlaceEditing::GoNextEditable() {
@@ -206,7 +219,7 @@ void InPlaceEditing::OpenFirst(std::optional<GridPosition> cell) {
 }
 
 void InPlaceEditing::CheckWhenSettled(const QWidget* editor) {
-    if (editor != FActive || FCommitting) {
+    if (editor != FOpened.Editor || FCommitting) {
         return;
     }
     FCheckWanted = true;
@@ -236,7 +249,7 @@ void InPlaceEditing::Settle() {
         qApp->installEventFilter(this);
         return;
     }
-    const bool checks = std::exchange(FCheckWanted, false) && FActive && FForm.focusWidget() != FActive;
+    const bool checks = std::exchange(FCheckWanted, false) && FOpened.Editor && FForm.focusWidget() != FOpened.Editor;
     const bool opens = std::exchange(FOpenWanted, false);
     Guarded([&] {
         if (checks && !HideEditor()) {
@@ -265,21 +278,23 @@ void InPlaceEditing::EditorToCell(QWidget& editor, const QRect& rect) const {
 }
 
 void InPlaceEditing::LayEditor() {
-    if (!FActive) {
+    if (!FOpened.Editor) {
         return;
     }
-    const QRect rect = FEditing.Grid.CellRect(FEditCol, FEditRow);
+    FollowOpenedCell();
+    const bool isShown = FEditCol > 0 && FEditRow > 0;
+    const QRect rect = isShown ? FEditing.Grid.CellRect(FEditCol, FEditRow) : QRect();
     const QRect shown = rect & FEditing.Grid.CellsArea();
     if (shown.isEmpty()) {
         // An empty mask would mean none; this one lies outside, so that nothing of the editor shows.
-        FActive->setMask(QRegion(-1, -1, 1, 1));
+        FOpened.Editor->setMask(QRegion(-1, -1, 1, 1));
         return;
     }
-    EditorToCell(*FActive, rect);
+    EditorToCell(*FOpened.Editor, rect);
     if (shown == rect) {
-        FActive->clearMask();
+        FOpened.Editor->clearMask();
     } else {
-        FActive->setMask(shown.translated(-rect.topLeft()));
+        FOpened.Editor->setMask(shown.translated(-rect.topLeft()));
     }
 }
 

@@ -18,6 +18,13 @@ namespace melvark {
 
 class CellWriter;
 
+/// How an attempt to commit and close the open editor ended.
+enum class CommitAnswer {
+    Closed,  ///< No editor is open any more.
+    Refused, ///< A check or the column's callback refused the value; the editor stays open on its cell with the focus.
+    Running  ///< A commit is at work already, in its message box or its callback; nothing was done.
+};
+
 /// The keeper of in-place editing, one for each form: it opens an editor over a cell, commits it to the grid and the
 /// store, and sees to it that a refused value is neither lost nor reported twice.
 ///
@@ -43,10 +50,11 @@ public:
     /// Opens the editor on a grid cell, when the cell may be edited, once the open one is committed. An exception of
     /// the open column's callback passes through, here and in HideEditor.
     void ShowEditor(int col, int row, Reach reach);
-    /// Commits and closes the open editor. False when the value was refused, by a check, by the column's callback or
-    /// by an exception of it that passes through: then the editor stays open on its cell with the focus. Also false
-    /// while a commit is still running: its message box must not start a second one.
-    bool HideEditor();
+    /// Commits and closes the open editor. What is committed is the cell as it was opened, whatever became of the
+    /// column list meanwhile. An exception of the callback passes through and leaves the editor open as a refusal does.
+    CommitAnswer CommitEditor();
+    /// The same for a command that goes on only when no editor is open.
+    bool HideEditor() { return CommitEditor() == CommitAnswer::Closed; }
     /// Closes the open editor without a check; its text is lost.
     void DropEditor();
     void GoNextEditable();
@@ -66,9 +74,9 @@ public:
     AnsiString CheckFloat(QWidget* sender, const AnsiString& value) const;
     AnsiString CheckDate(QWidget* sender, const AnsiString& value) const;
 
-    QWidget* ActiveEditor() const { return FActive; }
+    QWidget* ActiveEditor() const { return FOpened.Editor; }
     QLineEdit& SharedEdit() const { return *FSharedEdit; }
-    /// The cell that was opened last.
+    /// The cell that was opened last; column or row 0 once the open one is no longer shown.
     int EditCol() const { return FEditCol; }
     int EditRow() const { return FEditRow; }
     /// The edited column stands elsewhere.
@@ -77,10 +85,20 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// The open cell, as it stood when it was opened: the column list may change before it is committed.
+    struct OpenedCell {
+        QWidget* Editor = nullptr; ///< Null while no cell is open.
+        int DataColumn = -1;
+        int StoreRow = 0;
+        TColumnsDataType DataType = cdtString;
+        TColumnCallback Callback;
+    };
+
     bool Commit();
-    AnsiString CheckedText(const RColumn& column) const;
-    bool CommitText(const RColumn& column, const AnsiString& text, bool isChanged);
+    AnsiString CheckedText() const;
+    bool CommitText(const AnsiString& text, bool isChanged);
     void CloseEditor();
+    void FollowOpenedCell();
     void ReturnToEditCell();
     void OpenFirst(std::optional<GridPosition> cell);
     bool MayStop(int col, int row) const;
@@ -92,7 +110,7 @@ private:
     QWidget& FForm;
     std::function<void(const AnsiString&)> FShowErrorBox;
     QLineEdit* FSharedEdit;
-    QWidget* FActive = nullptr;
+    OpenedCell FOpened;
     int FEditCol = 0;
     int FEditRow = 0;
     bool FCommitting = false;
