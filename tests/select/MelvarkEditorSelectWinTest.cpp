@@ -426,11 +426,15 @@ TEST_F(SelectBox, ItsHeightIsFixedAndItsWidthGrows) {
     TSelectBox box(nullptr, &manager);
     box.DodakSelectFromDodak(7, 5);
     showAnd(box, [&] {
-        EXPECT_EQ(box.minimumHeight(), box.maximumHeight());
-        EXPECT_GE(box.minimumWidth(), 400);
+        ASSERT_EQ(box.size(), QSize(400, 150));
         const int room = box.width() - edit(box)->width();
-        box.resize(box.width() + 200, box.height());
-        EXPECT_TRUE(QTest::qWaitFor([&] { return box.width() - edit(box)->width() == room; }));
+        box.resize(600, 300);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return box.size() == QSize(600, 150); }))
+            << box.width() << "x" << box.height();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return edit(box)->width() == 600 - room; })) << edit(box)->width();
+        box.resize(300, 100);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return box.size() == QSize(400, 150); }))
+            << box.width() << "x" << box.height();
     });
 }
 
