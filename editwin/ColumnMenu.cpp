@@ -68,7 +68,6 @@ void ColumnMenu::HidePopupColumn() {
     FItems.HiddenColumns.insertAction(FItems.HiddenColumns.actions().value(place), column.HiddenMenuItem);
     UpdateSubmenu();
     FEditing.Grid.DeleteColumn(FPopupColumn);
-    FEditing.Grid.SetFixedCols(FEditing.Grid.ColCount() > 1 ? 1 : 0);
     column.Visible = false;
 }
 
@@ -83,7 +82,6 @@ void ColumnMenu::ShowColumnOf(const QAction* item) {
     }
     const int place = PlaceOfShownColumn(FEditing.Active, static_cast<int>(column - FEditing.Active.begin()));
     FEditing.Grid.InsertColumn(place);
-    FEditing.Grid.SetFixedCols(1);
     column->Visible = true;
     FEditing.Grid.SetCells(place, 0, column->Caption);
     FEditing.Grid.SetColWidths(place, column->Width);

@@ -1,5 +1,6 @@
 #include "editwin/EditBoxControls.h"
 
+#include "editwin/AskingCheckBox.h"
 #include "host/LibraryManager.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/Form.h"
@@ -7,7 +8,6 @@
 
 #include <QAction>
 #include <QActionGroup>
-#include <QCheckBox>
 #include <QFrame>
 #include <QGroupBox>
 #include <QLabel>
@@ -78,9 +78,9 @@ void TEditBoxControls::BuildTopPanel() {
     gbPraceScenami =
         Named(new QGroupBox(QStringLiteral(" Způsob práce s cenami  "), TopPanel), QStringLiteral("gbPraceScenami"));
     gbPraceScenami->setMinimumHeight(c_GroupBoxHeight);
-    chbPrepocetCen =
-        Named(new QCheckBox(QStringLiteral("&po zadání hodnoty se ostatní údaje přepočítají"), gbPraceScenami),
-              QStringLiteral("chbPrepocetCen"));
+    chbPrepocetCen = Named(
+        new melvark::AskingCheckBox(QStringLiteral("&po zadání hodnoty se ostatní údaje přepočítají"), gbPraceScenami),
+        QStringLiteral("chbPrepocetCen"));
     chbPrepocetCen->setChecked(true);
     chbPrepocetCen->setFocusPolicy(Qt::ClickFocus);
     lblWarning = Named(

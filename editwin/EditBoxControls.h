@@ -7,13 +7,17 @@ class TMenuButton;
 class TQelPngBitBtn;
 class TStringGrid;
 
+namespace melvark {
+class AskingCheckBox;
+}
+
 /// The controls and menus of the base editor form, each also found by its object name. They belong to the form; this is
 /// the table of where they are. Built once with their built-in Czech texts; events are connected by the form.
 struct TEditBoxControls {
     TPanel* MainPanel = nullptr;
     TPanel* TopPanel = nullptr;
     TGroupBox* gbPraceScenami = nullptr;
-    TCheckBox* chbPrepocetCen = nullptr;
+    melvark::AskingCheckBox* chbPrepocetCen = nullptr;
     TLabel* lblWarning = nullptr;
     TStringGrid* StringGrid = nullptr;
     TPanel* ButtonPanel = nullptr;

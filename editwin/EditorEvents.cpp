@@ -5,6 +5,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QWheelEvent>
 #include <QWidget>
 
 namespace melvark {
@@ -41,6 +42,13 @@ bool EditorEvents::eventFilter(QObject* watched, QEvent* event) {
         if (!FHandlers.KeyDown || KeyDownCommand(*static_cast<QKeyEvent*>(event)) == EditorCommand::None) {
             return false;
         }
+        event->accept();
+        return true;
+    case QEvent::Wheel:
+        if (!FHandlers.Wheel) {
+            return false;
+        }
+        Guarded([&] { FHandlers.Wheel(*static_cast<QWheelEvent*>(event)); });
         event->accept();
         return true;
     case QEvent::KeyPress:

@@ -5,6 +5,7 @@
 #include <functional>
 
 class QKeyEvent;
+class QWheelEvent;
 class QWidget;
 
 namespace melvark {
@@ -25,6 +26,8 @@ public:
         std::function<void(QWidget*)> Exit;
         KeyHandler KeyDown;  ///< A key went down. Its keys take precedence over shortcuts and mnemonics of the window.
         KeyHandler KeyPress; ///< A key that KeyDown left.
+        /// The wheel turned over the control, which does not get it.
+        std::function<void(QWheelEvent&)> Wheel;
     };
 
     explicit EditorEvents(Handlers handlers);

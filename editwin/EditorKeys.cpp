@@ -12,9 +12,16 @@ bool IsEnter(const QKeyEvent& event) {
 
 } // namespace
 
+EditorCommand EnterCommand(Qt::KeyboardModifiers modifiers) {
+    if (modifiers.testFlag(Qt::ControlModifier)) {
+        return EditorCommand::Confirm;
+    }
+    return modifiers.testFlag(Qt::ShiftModifier) ? EditorCommand::GoPrevious : EditorCommand::GoNext;
+}
+
 EditorCommand KeyDownCommand(const QKeyEvent& event) {
     if (IsEnter(event) && event.modifiers().testFlag(Qt::ControlModifier)) {
-        return EditorCommand::Confirm;
+        return EnterCommand(event.modifiers());
     }
     if (!event.modifiers().testFlag(Qt::AltModifier)) {
         return EditorCommand::None;
@@ -36,7 +43,7 @@ EditorCommand KeyPressCommand(const QKeyEvent& event) {
     if (!IsEnter(event) || event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier)) {
         return EditorCommand::None;
     }
-    return event.modifiers().testFlag(Qt::ShiftModifier) ? EditorCommand::GoPrevious : EditorCommand::GoNext;
+    return EnterCommand(event.modifiers());
 }
 
 } // namespace melvark

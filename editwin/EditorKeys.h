@@ -1,5 +1,7 @@
 #pragma once
 
+#include <Qt>
+
 class QKeyEvent;
 
 /// The keyboard contract of the editor form: the only keys that it handles itself, all others keep the controls'
@@ -15,12 +17,15 @@ enum class EditorCommand {
     RecalculationOn   ///< Alt+P sets it.
 };
 
+/// What Enter means in the grid, by the modifiers held with it: Confirm, GoNext or GoPrevious. Not asked with Alt.
+EditorCommand EnterCommand(Qt::KeyboardModifiers modifiers);
+
 /// What a key means when it goes down in an editor or on the OK and Cancel buttons: Confirm, a recalculation command
 /// or None. The Alt keys are compared by the platform's key codes with both letter cases (0x43 and 0x63, 0x50 and
 /// 0x70). The lower-case codes are those of keypad 3 and F1, so Alt with these does the same.
 EditorCommand KeyDownCommand(const QKeyEvent& event);
 
-/// What the character of a key means in an editor or in the grid: GoNext, GoPrevious or None.
+/// What the character of a key means in an editor: GoNext, GoPrevious or None.
 EditorCommand KeyPressCommand(const QKeyEvent& event);
 
 } // namespace melvark

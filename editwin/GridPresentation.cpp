@@ -30,7 +30,6 @@ void GridPresentation::ApplyColumns() {
     grid.SetColCount(1);
     grid.SetColWidths(0, c_IndicatorWidth);
     grid.SetColCount(1 + VisibleColumnCount(FEditing.Active));
-    grid.SetFixedCols(grid.ColCount() > 1 ? 1 : 0);
     for (int col = 1; col < grid.ColCount(); ++col) {
         const RColumn& column = *FEditing.ColumnAt(col);
         grid.SetCells(col, 0, column.Caption);

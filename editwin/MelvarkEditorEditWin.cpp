@@ -1,5 +1,6 @@
 #include "editwin/MelvarkEditorEditWin.h"
 
+#include "editwin/AskingCheckBox.h"
 #include "editwin/model/CellRules.h"
 #include "editwin/model/ColumnList.h"
 #include "host/LangStr.h"
@@ -12,7 +13,6 @@
 #include "host/widgets/StringGrid.h"
 
 #include <QAction>
-#include <QCheckBox>
 #include <QFrame>
 #include <QMenu>
 #include <QPixmap>
@@ -41,13 +41,18 @@ TEditBox::TEditBox(TComponent* owner, TLibraryManager* libraryManager, std::int3
       FEditorEvents({.Enter = [this](TControl* sender) { StringGridEnter(sender); },
                      .Exit = [this](TControl* sender) { EditorExit(sender); },
                      .KeyDown = std::bind_front(&TEditBox::EditorKeyDown, this),
-                     .KeyPress = std::bind_front(&TEditBox::EditorKeyPress, this)}),
+                     .KeyPress = std::bind_front(&TEditBox::EditorKeyPress, this),
+                     .Wheel = [this](QWheelEvent& event) { StringGrid->ScrollByWheel(event); }}),
       FButtonEvents({.Enter = [this](TControl* sender) { StringGridExit(sender); },
                      .Exit = {},
                      .KeyDown = std::bind_front(&TEditBox::EditorKeyDown, this),
-                     .KeyPress = {}}),
-      FFurtherButtonEvents(
-          {.Enter = [this](TControl* sender) { StringGridExit(sender); }, .Exit = {}, .KeyDown = {}, .KeyPress = {}}) {
+                     .KeyPress = {},
+                     .Wheel = {}}),
+      FFurtherButtonEvents({.Enter = [this](TControl* sender) { StringGridExit(sender); },
+                            .Exit = {},
+                            .KeyDown = {},
+                            .KeyPress = {},
+                            .Wheel = {}}) {
     FormCreate();
     FSettings.ShowNoSetting();
     FEditing.Defaults.assign(columns.begin(), columns.end());
@@ -105,6 +110,8 @@ void TEditBox::ConnectEditors() {
     FButtonEvents.Watch(*CancelBtn);
     FFurtherButtonEvents.Watch(*OKDalsiBtn);
     OkBtn->SetOnClick([this](TObject* sender) { OkBtnClick(sender); });
+    // The open value goes out with the switch as it was; a refused one leaves the switch.
+    chbPrepocetCen->SetMayChange([this] { return HideEditor(); });
 }
 
 void TEditBox::ConnectGrid() {
@@ -116,7 +123,7 @@ void TEditBox::ConnectGrid() {
     ConnectGuarded(StringGrid, &TStringGrid::TopLeftChanged, this, &TEditBox::StringGridTopLeftChanged);
     ConnectGuarded(StringGrid, &TStringGrid::EditorWanted, &FKeeper, &InPlaceEditing::OpenWhenSettled);
     ConnectGuarded(StringGrid, &TStringGrid::EnterPressed, this,
-                   [this](bool shift) { RunCommand(shift ? EditorCommand::GoPrevious : EditorCommand::GoNext); });
+                   [this](Qt::KeyboardModifiers modifiers) { RunCommand(EnterCommand(modifiers)); });
 }
 
 void TEditBox::ConnectMenus() {

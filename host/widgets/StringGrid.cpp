@@ -198,11 +198,16 @@ void TStringGrid::ScrollToCell(int col, int row) {
 }
 
 bool TStringGrid::TabStop() const {
-    return focusPolicy() == Qt::StrongFocus;
+    return focusPolicy() == Qt::TabFocus;
 }
 
+/// Without a focus policy for clicks: Qt would apply it to a press on any part of the grid, scroll bars included.
 void TStringGrid::SetTabStop(bool stops) {
-    setFocusPolicy(stops ? Qt::StrongFocus : Qt::ClickFocus);
+    setFocusPolicy(stops ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void TStringGrid::ScrollByWheel(QWheelEvent& event) {
+    wheelEvent(&event);
 }
 
 AnsiString TStringGrid::Hint() const {
@@ -270,17 +275,24 @@ void TStringGrid::focusInEvent(QFocusEvent* event) {
 }
 
 void TStringGrid::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) { // only the left button moves the current cell
+    if (event->button() != Qt::LeftButton || !indexAt(event->position().toPoint()).isValid()) {
         return;
     }
+    FCellPressed = true;
+    setFocus(Qt::MouseFocusReason);
     QTableView::mousePressEvent(event);
-    if (indexAt(event->position().toPoint()) == currentIndex()) {
-        WantEditor();
+    WantEditor();
+}
+
+void TStringGrid::mouseMoveEvent(QMouseEvent* event) {
+    if (FCellPressed) { // else Qt would make the cell current onto which a press beside the cells is dragged
+        QTableView::mouseMoveEvent(event);
     }
 }
 
 void TStringGrid::mouseReleaseEvent(QMouseEvent* event) {
     QTableView::mouseReleaseEvent(event);
+    FCellPressed = FCellPressed && event->button() != Qt::LeftButton;
     const TGridPoint cell = CellAt(viewport()->mapTo(this, event->position().toPoint()));
     Q_EMIT MouseUp(cell.Col, cell.Row);
 }
@@ -290,10 +302,10 @@ void TStringGrid::keyPressEvent(QKeyEvent* event) {
         QTableView::keyPressEvent(event);
         return;
     }
-    const bool isPlain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-    event->setAccepted(isPlain);
-    if (isPlain) {
-        Q_EMIT EnterPressed(event->modifiers().testFlag(Qt::ShiftModifier));
+    const bool isTold = !(event->modifiers() & (Qt::AltModifier | Qt::MetaModifier));
+    event->setAccepted(isTold);
+    if (isTold) {
+        Q_EMIT EnterPressed(event->modifiers());
     }
 }
 

@@ -22,11 +22,15 @@ struct TCellLook {
 using TCellPresentation = std::function<TCellLook(int col, int row)>;
 
 /// The framework's string grid: a table of texts in grid coordinates, where row 0 is the fixed header row and column 0
-/// the fixed, narrow indicator column. Columns are sized and moved with the mouse on the header.
+/// the fixed, narrow indicator column, which stay in place when the cells scroll. Columns are sized and moved with the
+/// mouse on the header.
 ///
 /// It has no editing of its own: it asks for an editor with EditorWanted, and whoever owns the grid lays a control over
 /// CellRect. Painting never asks. All cells have the same background; the current cell of a focused grid has a thin
 /// frame. Fewer columns than 2 or fewer rows than 2 leave only the fixed ones.
+///
+/// Of the mouse, only a press of the left button on a cell gives it the focus. Header, indicator, scroll bars and the
+/// area beside the cells leave the focus where it is, and with it the control that lies over a cell.
 ///
 /// Set the counts first, then texts, widths and the presentation.
 class TStringGrid : public QTableView {
@@ -45,9 +49,6 @@ public:
     int RowCount() const;
     void SetColCount(int count);
     void SetRowCount(int count);
-    /// What the owner says about fixed columns (0 or 1). The indicator column is always painted as one.
-    int FixedCols() const { return FFixedCols; }
-    void SetFixedCols(int count) { FFixedCols = count; }
 
     /// The text of a cell, header cells included; empty outside the counts, where writing has no effect.
     const AnsiString& Cells(int col, int row) const;
@@ -86,6 +87,9 @@ public:
     bool TabStop() const;
     void SetTabStop(bool stops);
 
+    /// Scrolls as if the wheel had been turned over the cells.
+    void ScrollByWheel(QWheelEvent& event);
+
     /// The hint shown when the mouse rests on the grid, headers included. Plain text.
     AnsiString Hint() const;
     void SetHint(const AnsiString& hint);
@@ -114,13 +118,14 @@ Q_SIGNALS:
     void MouseMoved(int col, int row);
     /// A context menu was asked for at a cell; (0, 0) is the header of the indicator column.
     void ContextPopup(int col, int row, const QPoint& globalPos);
-    /// Enter was pressed without Ctrl or Alt; the grid itself does nothing with it.
-    void EnterPressed(bool shift);
+    /// Enter was pressed without Alt; the grid itself does nothing with it.
+    void EnterPressed(Qt::KeyboardModifiers modifiers);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -145,7 +150,7 @@ private:
     TStringGridModel* FModel;
     mutable TCellPresentation FPresentation;
     AnsiString FHint;
-    int FFixedCols = 0;
+    bool FCellPressed = false; ///< The left button went down on a cell and is not up yet.
     bool FMovingBack = false;
     bool FEditorRequestQueued = false;
 };

@@ -38,11 +38,17 @@ TEST_F(DodakEditorOpening, AsksTheDatabaseInItsOrder) {
                             "a_PRENESMNOZSTVI=true, a_PRENESCENY=true) open"));
 }
 
-TEST_F(DodakEditorOpening, ShowsItsTitleAndThePricePanel) {
+TEST_F(DodakEditorOpening, ShowsItsTitleAndThePricePanelAboveTheGrid) {
     const auto editor = open();
-    EXPECT_EQ(editor->Caption(), "Vložení položek dodacího listu");
-    EXPECT_TRUE(melvark::Visible(*editor->TopPanel));
-    EXPECT_TRUE(editor->GetPrepocetCen());
+    showAnd(*editor, [&] {
+        EXPECT_EQ(editor->windowTitle(), QStringLiteral("Vložení položek dodacího listu"));
+        ASSERT_TRUE(editor->TopPanel->isVisible());
+        EXPECT_GE(editor->TopPanel->height(), 75);
+        EXPECT_LE(editor->TopPanel->geometry().bottom(), editor->StringGrid->geometry().top());
+        auto* const box = editor->findChild<QCheckBox*>(QStringLiteral("chbPrepocetCen"));
+        EXPECT_EQ(editor->childAt(box->mapTo(editor.get(), QPoint(8, 8))), box) << "within the clerk's reach";
+        EXPECT_TRUE(box->isChecked());
+    });
 }
 
 TEST_F(DodakEditorOpening, LeavesNoCellModified) {

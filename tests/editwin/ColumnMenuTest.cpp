@@ -77,6 +77,22 @@ TEST_F(ColumnMenu, ARightClickOnTheIndicatorHeaderEnablesOnlyTheHiddenColumns) {
     form->ColumnsPopupMenu->close();
 }
 
+TEST_F(ColumnMenu, ARightClickRightOfTheLastHeaderOpensTheMenuOfNoColumn) {
+    open();
+    openColumnMenu(c_PriceCol); // another column was meant before
+    form->ColumnsPopupMenu->close();
+    QWidget* const header = grid().horizontalHeader()->viewport();
+    const QPoint place(header->width() - 10, 8);
+    ASSERT_EQ(grid().horizontalHeader()->logicalIndexAt(place), -1);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, header->mapToGlobal(place));
+    QCoreApplication::sendEvent(header, &event);
+    ASSERT_TRUE(form->ColumnsPopupMenu->isVisible());
+    EXPECT_FALSE(form->SkrytSloupec->isEnabled());
+    EXPECT_EQ(editabilityItems(), "amn");
+    EXPECT_TRUE(form->SkryteSloupce->menuAction()->isEnabled());
+    form->ColumnsPopupMenu->close();
+}
+
 TEST_F(ColumnMenu, ShowsTheEditabilityOfTheColumnUnderTheMouse) {
     open();
     const std::pair<int, const char*> cases[] = {{c_CountCol, "(A)MN"},
@@ -116,6 +132,23 @@ TEST_F(ColumnMenu, ANotEditableColumnKeepsTheCursorOnTheEditedCell) {
     EXPECT_EQ(grid().Col(), c_CountCol);
     EXPECT_EQ(grid().Row(), 2);
     EXPECT_EQ(columnAt(c_CountCol).Editable, eNone);
+}
+
+TEST_F(ColumnMenu, AnEditedColumnThatStaysEditableKeepsItsOpenEditor) {
+    open();
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("abc"));
+    const std::pair<QAction*, TEditable> items[] = {{form->EditovatelnySloupecVyberem, eManual},
+                                                    {form->EditovatelnySloupecAutomaticky, eAuto}};
+    for (const auto& [item, editable] : items) {
+        openColumnMenu(c_CountCol);
+        pick(item);
+        EXPECT_EQ(columnAt(c_CountCol).Editable, editable);
+        EXPECT_EQ(openCellText(), "2,2");
+        EXPECT_EQ(sharedEdit().text(), QStringLiteral("abc"));
+        EXPECT_THAT(manager.boxes(), testing::IsEmpty());
+    }
+    EXPECT_EQ(stored(7, 1), "6");
 }
 
 TEST_F(ColumnMenu, AnotherColumnsEditabilityLeavesTheOpenEditorAlone) {
@@ -171,6 +204,17 @@ TEST_F(ColumnMenu, ValuesTypedWhileAColumnWasHiddenAreThereWhenItComesBack) {
     EXPECT_EQ(grid().Cells(c_CountCol, 2), "99");
 }
 
+TEST_F(ColumnMenu, NoHiddenColumnComesBackPastARefusedValue) {
+    open();
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("abc"));
+    pick(hiddenItem(QStringLiteral("SLEVA")));
+    EXPECT_EQ(form->GetColumnByName("SLEVA"), 0);
+    EXPECT_THAT(hiddenItems(), ElementsAre("Sleva"));
+    EXPECT_EQ(manager.boxes().size(), 1U);
+    EXPECT_EQ(openCellText(), "2,2");
+}
+
 TEST_F(ColumnMenu, TheSubmenuIsDisabledWhileNothingIsHidden) {
     open();
     pick(hiddenItem(QStringLiteral("SLEVA")));
@@ -186,7 +230,6 @@ TEST_F(ColumnMenu, HidingEveryColumnLeavesTheIndicatorAlone) {
         hide(1);
     }
     ASSERT_EQ(grid().ColCount(), 1);
-    EXPECT_EQ(grid().FixedCols(), 0);
     EXPECT_EQ(openCellText(), "none");
     EXPECT_THAT(hiddenItems(),
                 ElementsAre("Název", "Počet", "Cena", "Datum", "Sklad", "Kód", "Poznámka", "Typ", "Sleva"));
@@ -194,7 +237,6 @@ TEST_F(ColumnMenu, HidingEveryColumnLeavesTheIndicatorAlone) {
     form->ColumnsPopupMenu->close();
     pick(hiddenItem(QStringLiteral("CENA")));
     EXPECT_EQ(rowText(0), "Cena");
-    EXPECT_EQ(grid().FixedCols(), 1);
     EXPECT_EQ(rowText(1), "1234,5");
 }
 

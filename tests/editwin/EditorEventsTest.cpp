@@ -3,10 +3,12 @@
 #include "host/Exceptions.h"
 #include "tests/support/RecordingHost.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QWheelEvent>
 
 #include <gmock/gmock.h>
 
@@ -45,7 +47,8 @@ TEST(EditorEvents, OnlyAnotherControlOfTheWindowMakesItLeave) {
     for (const auto& each : cases) {
         QLineEdit edit;
         int exits = 0;
-        EditorEvents events({.Enter = {}, .Exit = [&](QWidget*) { ++exits; }, .KeyDown = {}, .KeyPress = {}});
+        EditorEvents events(
+            {.Enter = {}, .Exit = [&](QWidget*) { ++exits; }, .KeyDown = {}, .KeyPress = {}, .Wheel = {}});
         events.Watch(edit);
         send(edit, QFocusEvent(QEvent::FocusOut, each.reason));
         EXPECT_EQ(exits, each.leaves ? 1 : 0) << each.remark;
@@ -67,7 +70,8 @@ TEST(EditorEvents, KeyPressComesAfterAKeyDownThatLeftTheKey) {
                              [&](QWidget*, const QKeyEvent&) {
                                  handlers.emplace_back("press");
                                  return true;
-                             }});
+                             },
+                         .Wheel = {}});
     events.Watch(edit);
     send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, QStringLiteral("a")));
     takesDown = true;
@@ -78,7 +82,7 @@ TEST(EditorEvents, KeyPressComesAfterAKeyDownThatLeftTheKey) {
 
 TEST(EditorEvents, AKeyThatNobodyTakesIsTheControls) {
     QLineEdit edit;
-    EditorEvents events({.Enter = {}, .Exit = {}, .KeyDown = ignore, .KeyPress = ignore});
+    EditorEvents events({.Enter = {}, .Exit = {}, .KeyDown = ignore, .KeyPress = ignore, .Wheel = {}});
     events.Watch(edit);
     send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, QStringLiteral("a")));
     EXPECT_EQ(edit.text(), QStringLiteral("a"));
@@ -90,7 +94,8 @@ TEST(EditorEvents, ItsKeysTakePrecedenceOverShortcutsOnlyWithAKeyDownHandler) {
         EditorEvents events({.Enter = {},
                              .Exit = {},
                              .KeyDown = handles ? EditorEvents::KeyHandler(ignore) : EditorEvents::KeyHandler(),
-                             .KeyPress = {}});
+                             .KeyPress = {},
+                             .Wheel = {}});
         events.Watch(control);
         QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_P, Qt::AltModifier);
         event.ignore();
@@ -106,11 +111,26 @@ TEST(EditorEvents, AnErrorOfAHandlerIsShownAndTheKeyIsGone) {
     EditorEvents events({.Enter = [](QWidget*) { throw EHostError("enter"); },
                          .Exit = [](QWidget*) { throw EHostError("exit"); },
                          .KeyDown = [](QWidget*, const QKeyEvent&) -> bool { throw EHostError("key"); },
-                         .KeyPress = {}});
+                         .KeyPress = {},
+                         .Wheel = {}});
     events.Watch(edit);
     send(edit, QFocusEvent(QEvent::FocusIn, Qt::TabFocusReason));
     send(edit, QKeyEvent(QEvent::KeyPress, Qt::Key_A, {}, QStringLiteral("a")));
     send(edit, QFocusEvent(QEvent::FocusOut, Qt::TabFocusReason));
     EXPECT_THAT(host.errors(), ElementsAre("enter", "key", "exit"));
     EXPECT_EQ(edit.text(), QString());
+}
+
+TEST(EditorEvents, TheWheelGoesToItsHandlerAndNotToTheControl) {
+    QComboBox list;
+    list.addItems({QStringLiteral("a"), QStringLiteral("b")});
+    int turns = 0;
+    EditorEvents events({.Enter = {}, .Exit = {}, .KeyDown = {}, .KeyPress = {}, .Wheel = [&](QWheelEvent& event) {
+                             turns += event.angleDelta().y() < 0 ? 1 : 0;
+                         }});
+    events.Watch(list);
+    EXPECT_TRUE(send(list, QWheelEvent(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton,
+                                       Qt::NoModifier, Qt::NoScrollPhase, false)));
+    EXPECT_EQ(turns, 1);
+    EXPECT_EQ(list.currentIndex(), 0);
 }

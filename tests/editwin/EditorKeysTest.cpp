@@ -48,3 +48,11 @@ TEST(EditorKeys, EachKeyHasItsOneMeaning) {
         EXPECT_EQ(KeyPressCommand(event), each.press) << each.remark;
     }
 }
+
+TEST(EditorKeys, EnterInTheGridConfirmsOrMoves) {
+    EXPECT_EQ(EnterCommand({}), EditorCommand::GoNext);
+    EXPECT_EQ(EnterCommand(Qt::KeypadModifier), EditorCommand::GoNext);
+    EXPECT_EQ(EnterCommand(Qt::ShiftModifier), EditorCommand::GoPrevious);
+    EXPECT_EQ(EnterCommand(Qt::ControlModifier), EditorCommand::Confirm);
+    EXPECT_EQ(EnterCommand(Qt::ControlModifier | Qt::ShiftModifier), EditorCommand::Confirm);
+}

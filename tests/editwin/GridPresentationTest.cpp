@@ -37,7 +37,6 @@ TEST_F(GridPresentation, ShowsTheVisibleColumnsAndTheStoresTexts) {
     EXPECT_EQ(grid().ColWidths(c_NameCol), 90);
     EXPECT_EQ(grid().ColWidths(c_CodeCol), 40);
     EXPECT_EQ(grid().RowCount(), 4);
-    EXPECT_EQ(grid().FixedCols(), 1);
 }
 
 TEST_F(GridPresentation, AStoreWithoutRowsShowsOneEmptyRow) {
@@ -144,12 +143,30 @@ TEST_F(GridPresentation, TheHintIsThatOfTheShownColumnWhenOthersAreHidden) {
     EXPECT_EQ(grid().Hint(), "Cena za kus");
 }
 
+TEST_F(GridPresentation, APointerThatLeavesTheHeaderTakesTheHintAlong) {
+    open();
+    hover(c_PriceCol, 0);
+    ASSERT_EQ(grid().Hint(), "Cena za kus");
+    QWidget* const header = grid().childAt(cellCentre(c_PriceCol, 0));
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(header, &leave);
+    EXPECT_EQ(grid().Hint(), "");
+}
+
 TEST_F(GridPresentation, PaintingOpensNoEditor) {
     open();
-    ASSERT_TRUE(form->HideEditor());
-    form->OkBtn->setFocus();
+    // The grid has the focus on a cell whose editor did not open; now it could.
+    form->SetOnIsEditable([](int, int) { return false; });
+    click(c_NoteCol, 2);
     settle();
+    ASSERT_EQ(openCellText(), "none");
+    ASSERT_EQ(form->focusWidget(), &grid());
+    form->SetOnIsEditable(nullptr);
     grid().viewport()->repaint();
+    grid().grab();
     settle();
     EXPECT_EQ(openCellText(), "none");
+    click(c_NoteCol, 2);
+    settle();
+    EXPECT_EQ(openCellText(), "7,2") << "a click on the very cell opens it";
 }

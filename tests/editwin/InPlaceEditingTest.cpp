@@ -1,13 +1,15 @@
+#include "editwin/AskingCheckBox.h"
 #include "editwin/model/EditExceptions.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/StringGrid.h"
 #include "tests/editwin/TestEditBox.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <gmock/gmock.h>
 
@@ -221,11 +223,13 @@ TEST_F(InPlaceEditing, AClickOnlySelectsCellsThatAreNotEditable) {
     EXPECT_EQ(openCellText(), "none");
 }
 
-TEST_F(InPlaceEditing, ManualColumnsAreNotOpenedByTraversal) {
+TEST_F(InPlaceEditing, OnlyAutomaticColumnsAreOpenedByTraversal) {
     open();
     ASSERT_TRUE(form->HideEditor());
-    form->ShowEditor(c_NoteCol, 1, false);
-    EXPECT_EQ(openCellText(), "none");
+    for (const int col : {c_CodeCol, c_NoteCol, c_KindCol}) {
+        form->ShowEditor(col, 1, false);
+        EXPECT_EQ(openCellText(), "none") << col;
+    }
     form->ShowEditor(c_NoteCol, 1, true);
     EXPECT_EQ(openCellText(), "7,1");
 }
@@ -289,6 +293,24 @@ TEST_F(InPlaceEditing, CtrlEnterSavesFromEditorsAndFromTheOkAndCancelButtons) {
     EXPECT_EQ(saves, 3);
     settle();
     EXPECT_TRUE(form->isVisible()) << "a refused save keeps the window open";
+}
+
+TEST_F(InPlaceEditing, CtrlEnterConfirmsFromTheGridToo) {
+    open();
+    click(c_CodeCol, 2);
+    settle();
+    ASSERT_EQ(form->focusWidget(), &grid());
+    saveSucceeds = false;
+    key(Qt::Key_Return, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(saves, 1);
+    EXPECT_TRUE(form->isVisible());
+    saveSucceeds = true;
+    key(Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
+    settle();
+    EXPECT_EQ(saves, 2);
+    EXPECT_EQ(form->ModalResult(), c_ResultOk);
+    EXPECT_FALSE(form->isVisible());
 }
 
 TEST_F(InPlaceEditing, TheGridIsATabStopOnlyWhileAButtonHasTheFocus) {
@@ -384,6 +406,55 @@ TEST_F(InPlaceEditing, ACommitInsideACommitsOwnBoxDoesNothing) {
     EXPECT_EQ(manager.boxes().size(), 1U);
     EXPECT_EQ(openCellText(), "2,1");
     EXPECT_EQ(sharedEdit().text(), QStringLiteral("x"));
+}
+
+TEST_F(InPlaceEditing, TheSwitchIsFlippedAfterTheCommitAndNotPastARefusedOne) {
+    open();
+    std::vector<bool> seen;
+    log.answer = [&] {
+        seen.push_back(form->GetPrepocetCen());
+        return true;
+    };
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("3"));
+    const auto clickSwitch = [&] {
+        QTest::mouseClick(form->chbPrepocetCen, Qt::LeftButton, {}, QPoint(8, 8));
+        settle();
+    };
+    clickSwitch();
+    EXPECT_EQ(seen, std::vector<bool>{true}) << "the value goes with the switch as it was";
+    EXPECT_FALSE(form->GetPrepocetCen());
+    EXPECT_EQ(stored(7, 1), "3");
+    EXPECT_EQ(openCellText(), "none");
+
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("x"));
+    clickSwitch();
+    EXPECT_FALSE(form->GetPrepocetCen());
+    EXPECT_EQ(manager.boxes().size(), 1U);
+    EXPECT_EQ(openCellText(), "2,2");
+    EXPECT_EQ(form->focusWidget(), &sharedEdit());
+    clickSwitch();
+    EXPECT_EQ(manager.boxes().size(), 2U) << "each attempt is told once";
+    EXPECT_EQ(seen.size(), 1U);
+}
+
+TEST_F(InPlaceEditing, TheWheelOverAListLeavesItsValueAndScrollsTheGrid) {
+    make();
+    form->DataGrid().SetRowCount(100);
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    openCell(c_WarehouseCol, 2);
+    for (const int turn : {-120, -120, 120}) {
+        QWheelEvent event(QPointF(5, 5), combo().mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, turn), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&combo(), &event);
+        EXPECT_EQ(combo().currentText(), QStringLiteral("Vedlejší"));
+        EXPECT_GT(grid().verticalScrollBar()->value(), 0);
+    }
+    ASSERT_TRUE(form->HideEditor());
+    EXPECT_FALSE(form->DataGrid().GetModified(4, 1));
+    EXPECT_THAT(log.lines, IsEmpty());
 }
 
 TEST_F(InPlaceEditing, ARefusedValueCanBeMendedAndIsThenAccepted) {

@@ -1,11 +1,12 @@
 #include "host/Exceptions.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/StringGrid.h"
-#include "tests/editwin/TestEditBox.h"
+#include "tests/editwin/EditedCell.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -16,73 +17,37 @@ using testing::IsEmpty;
 
 namespace {
 
+/// The ways to leave a cell that ask for its commit first.
 enum class Way {
     Enter,
     ShiftEnter,
     CtrlEnter,
     ClickOtherCell,
+    ClickCellWithoutEditor,
     TabAway,
     ClickOk,
+    ClickOkNext,
+    ClickSwitch,
+    ClickMenuButton,
     HideColumn,
-    MakeNotEditable,
-    CloseBox,
-    Cancel,
-    OtherWindow
+    HideOtherColumn,
+    MakeNotEditable
 };
-enum class Editor { EditBox, List };
-enum class Outcome { Accepted, RefusedByCheck, CallbackFalse, CallbackThrows };
 
-const char* const c_Ways[] = {"Enter",      "ShiftEnter",      "CtrlEnter", "ClickOtherCell", "TabAway",    "ClickOk",
-                              "HideColumn", "MakeNotEditable", "CloseBox",  "Cancel",         "OtherWindow"};
-const char* const c_Editors[] = {"EditBox", "List"};
-const char* const c_Outcomes[] = {"Accepted", "RefusedByCheck", "CallbackFalse", "CallbackThrows"};
-
-/// Cancel and the close box drop the editor; another window leaves it alone.
-bool asksForCommit(Way way) {
-    return way < Way::CloseBox;
-}
+const char* const c_Ways[] = {
+    "Enter",      "ShiftEnter",      "CtrlEnter",      "ClickOtherCell", "ClickCellWithoutEditor",
+    "TabAway",    "ClickOk",         "ClickOkNext",    "ClickSwitch",    "ClickMenuButton",
+    "HideColumn", "HideOtherColumn", "MakeNotEditable"};
 
 bool confirms(Way way) {
     return way == Way::CtrlEnter || way == Way::ClickOk;
 }
 
-bool closesForm(Way way) {
-    return way == Way::CloseBox || way == Way::Cancel;
-}
-
 } // namespace
 
-class LeavingACell : public EditBoxTest, public testing::WithParamInterface<std::tuple<Way, Editor, Outcome>> {
+class LeavingACell : public EditedCellTest, public testing::WithParamInterface<std::tuple<Way, EditedCellCase>> {
 protected:
     Way way() const { return std::get<0>(GetParam()); }
-    bool isList() const { return std::get<1>(GetParam()) == Editor::List; }
-    Outcome outcome() const { return std::get<2>(GetParam()); }
-
-    int col() const { return isList() ? c_WarehouseCol : c_CountCol; }
-    int dataCol() const { return isList() ? 4 : 7; }
-    AnsiString before() const { return isList() ? "Hlavní" : "5"; }
-    AnsiString typed() const {
-        if (isList()) {
-            return "Vedlejší";
-        }
-        return outcome() == Outcome::RefusedByCheck ? "abc" : "42";
-    }
-
-    void openAndChange() {
-        log.answer = [this] {
-            if (outcome() == Outcome::CallbackThrows) {
-                throw EDatabaseError("spojení ztraceno");
-            }
-            return outcome() != Outcome::CallbackFalse;
-        };
-        open();
-        openCell(col(), 1);
-        if (isList()) {
-            key(Qt::Key_Down);
-        } else {
-            type(QString::fromStdString(typed()));
-        }
-    }
 
     void leave() {
         switch (way()) {
@@ -98,132 +63,132 @@ protected:
         case Way::ClickOtherCell:
             click(c_NoteCol, 2);
             break;
+        case Way::ClickCellWithoutEditor:
+            click(c_CodeCol, 3);
+            break;
         case Way::TabAway:
             key(Qt::Key_Tab);
             break;
         case Way::ClickOk:
             QTest::mouseClick(form->OkBtn, Qt::LeftButton);
             break;
+        case Way::ClickOkNext:
+            form->OKDalsiBtn->setEnabled(true);
+            QTest::mouseClick(form->OKDalsiBtn, Qt::LeftButton);
+            break;
+        case Way::ClickSwitch:
+            QTest::mouseClick(form->findChild<QWidget*>(QStringLiteral("chbPrepocetCen")), Qt::LeftButton, {},
+                              QPoint(8, 8));
+            break;
+        case Way::ClickMenuButton:
+            clickMenuButton();
+            break;
         case Way::HideColumn:
             openColumnMenu(col());
+            pick(form->SkrytSloupec);
+            break;
+        case Way::HideOtherColumn:
+            openColumnMenu(c_NameCol);
             pick(form->SkrytSloupec);
             break;
         case Way::MakeNotEditable:
             openColumnMenu(col());
             pick(form->NeeditovatelnySloupec);
             break;
-        case Way::CloseBox:
-            form->close();
-            break;
-        case Way::Cancel:
-            QTest::mouseClick(form->CancelBtn, Qt::LeftButton);
-            break;
-        case Way::OtherWindow:
-            other_.show();
-            other_.activateWindow();
-            ASSERT_TRUE(QTest::qWaitForWindowActive(&other_));
-            break;
         }
         settle();
     }
 
-    void expectTextStillInOpenEditor() {
-        EXPECT_EQ(openCellText(), std::to_string(col()) + ",1");
-        EXPECT_EQ(grid().Col(), col());
-        EXPECT_EQ(grid().Row(), 1);
-        EXPECT_EQ(form->focusWidget(), form->ActiveEditor());
-        EXPECT_EQ(isList() ? combo().currentText() : sharedEdit().text(), QString::fromStdString(typed()));
+    /// Its menu is no leaving while it shows; the button has the focus once it is closed.
+    void clickMenuButton() {
+        form->SettingsPopupMenu->addAction(QStringLiteral("vzor"));
+        form->MenuBtn->setEnabled(true);
+        QTest::mouseClick(form->MenuBtn, Qt::LeftButton);
+        settle();
+        ASSERT_TRUE(form->SettingsPopupMenu->isVisible());
+        expectNothingCommitted();
+        form->SettingsPopupMenu->close();
     }
 
-    void expectAccepted() {
-        const AnsiString line = std::to_string(col()) + ",1=" + typed();
-        EXPECT_THAT(log.lines, ElementsAre(line));
-        EXPECT_EQ(stored(dataCol(), 0), typed());
-        EXPECT_TRUE(form->DataGrid().GetModified(dataCol(), 0));
-        EXPECT_NE(openCellText(), std::to_string(col()) + ",1");
-        EXPECT_THAT(manager.boxes(), IsEmpty());
-        EXPECT_THAT(host.errors(), IsEmpty());
+    void expectCommandWentOn() {
         EXPECT_EQ(saves, confirms(way()) ? 1 : 0);
         EXPECT_EQ(form->isVisible(), !confirms(way()));
         EXPECT_EQ(form->ModalResult(), confirms(way()) ? c_ResultOk : 0);
+        EXPECT_EQ(form->GetPrepocetCen(), way() != Way::ClickSwitch);
+        EXPECT_EQ(grid().ColCount(), way() == Way::HideColumn || way() == Way::HideOtherColumn ? 8 : 9);
     }
 
-    /// One report at most, no second round, nothing saved, the command did not go on.
-    void expectRefused() {
-        expectTextStillInOpenEditor();
-        const bool checked = outcome() == Outcome::RefusedByCheck;
-        EXPECT_EQ(log.lines.size(), checked ? 0U : 1U);
-        EXPECT_EQ(manager.boxes().size(), checked ? 1U : 0U);
-        EXPECT_EQ(host.errors().size(), outcome() == Outcome::CallbackThrows ? 1U : 0U);
-        EXPECT_EQ(stored(dataCol(), 0), checked ? before() : typed()) << "only a check keeps it out of the store";
-        EXPECT_EQ(saves, 0);
+    void expectCommandStopped() {
         EXPECT_TRUE(form->isVisible());
         EXPECT_EQ(form->ModalResult(), 0);
-        EXPECT_TRUE(columnAt(col()).Visible);
+        EXPECT_TRUE(form->GetPrepocetCen());
+        EXPECT_EQ(grid().ColCount(), 9);
         EXPECT_EQ(columnAt(col()).Editable, eAuto);
     }
-
-    void expectNothingCommitted() {
-        EXPECT_THAT(log.lines, IsEmpty());
-        EXPECT_THAT(manager.boxes(), IsEmpty());
-        EXPECT_THAT(host.errors(), IsEmpty());
-        EXPECT_EQ(stored(dataCol(), 0), before());
-        EXPECT_FALSE(form->DataGrid().GetModified(dataCol(), 0));
-        EXPECT_EQ(saves, 0);
-    }
-
-private:
-    QWidget other_;
 };
 
 TEST_P(LeavingACell, EndsAsItsOutcomeSays) {
-    openAndChange();
+    openAndChange(std::get<1>(GetParam()));
     leave();
-    if (asksForCommit(way())) {
-        if (outcome() == Outcome::Accepted) {
-            expectAccepted();
-        } else {
-            expectRefused();
-        }
-        return;
-    }
-    expectNothingCommitted();
-    EXPECT_EQ(form->isVisible(), !closesForm(way()));
-    if (closesForm(way())) {
-        EXPECT_EQ(form->ModalResult(), c_ResultCancel);
-        EXPECT_EQ(openCellText(), "none");
+    if (isAccepted()) {
+        expectCommandWentOn();
     } else {
-        expectTextStillInOpenEditor();
+        expectCommandStopped();
     }
+    expectOutcome();
 }
 
 namespace {
 
-std::vector<std::tuple<Way, Editor, Outcome>> allLeavings() {
-    std::vector<std::tuple<Way, Editor, Outcome>> all;
-    for (int way = 0; way <= static_cast<int>(Way::OtherWindow); ++way) {
-        for (const Editor editor : {Editor::EditBox, Editor::List}) {
-            for (const Outcome outcome :
-                 {Outcome::Accepted, Outcome::RefusedByCheck, Outcome::CallbackFalse, Outcome::CallbackThrows}) {
-                // The values of a list are not checked.
-                if (editor != Editor::List || outcome != Outcome::RefusedByCheck) {
-                    all.emplace_back(static_cast<Way>(way), editor, outcome);
-                }
-            }
+std::vector<std::tuple<Way, EditedCellCase>> allLeavings() {
+    std::vector<std::tuple<Way, EditedCellCase>> all;
+    for (int way = 0; way <= static_cast<int>(Way::MakeNotEditable); ++way) {
+        for (const EditedCellCase& cell : allEditedCells()) {
+            all.emplace_back(static_cast<Way>(way), cell);
         }
     }
     return all;
 }
 
 std::string nameOfLeaving(const testing::TestParamInfo<LeavingACell::ParamType>& testCase) {
-    const auto [way, editor, outcome] = testCase.param;
-    return std::string(c_Ways[static_cast<int>(way)]) + "_" + c_Editors[static_cast<int>(editor)] + "_" +
-           c_Outcomes[static_cast<int>(outcome)];
+    const auto& [way, cell] = testCase.param;
+    return std::string(c_Ways[static_cast<int>(way)]) + "_" + nameOf(cell);
 }
 
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(EveryWay, LeavingACell, testing::ValuesIn(allLeavings()), nameOfLeaving);
+
+/// Cancel and the close box ask for nothing, whatever would have become of the value.
+class DroppingACell : public EditedCellTest, public testing::WithParamInterface<EditedCellCase> {
+protected:
+    void expectDropped() {
+        expectNothingCommitted();
+        EXPECT_FALSE(form->isVisible());
+        EXPECT_EQ(form->ModalResult(), c_ResultCancel);
+        EXPECT_EQ(openCellText(), "none");
+    }
+};
+
+TEST_P(DroppingACell, ByCancel) {
+    openAndChange(GetParam());
+    QTest::mouseClick(form->CancelBtn, Qt::LeftButton);
+    settle();
+    expectDropped();
+}
+
+TEST_P(DroppingACell, ByTheCloseBox) {
+    openAndChange(GetParam());
+    form->close();
+    settle();
+    expectDropped();
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryText, DroppingACell,
+                         testing::Values(EditedCellCase{CellEditor::EditBox, CommitOutcome::Accepted},
+                                         EditedCellCase{CellEditor::EditBox, CommitOutcome::RefusedByCheck},
+                                         EditedCellCase{CellEditor::List, CommitOutcome::Accepted}),
+                         [](const auto& testCase) { return nameOf(testCase.param); });
 
 class LeavingACellAgain : public EditBoxTest {};
 

@@ -1,3 +1,4 @@
+#include "editwin/AskingCheckBox.h"
 #include "host/Exceptions.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/StringGrid.h"
@@ -6,7 +7,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
 #include <QGroupBox>

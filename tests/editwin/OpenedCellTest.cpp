@@ -34,7 +34,6 @@ TEST_F(OpenedCell, AnOpenCellWhoseColumnIsNoLongerShownIsCheckedAndCommittedAllT
     type(QStringLiteral("x"));
     form->LoadColumnsSettingsFromXml("<settings><columns><column><name>POCET</name><visible>0</visible></column>"
                                      "</columns></settings>");
-    form->ApplyColumnsSettingsToGrid();
     ASSERT_EQ(form->GetColumnByName("POCET"), 0);
     EXPECT_FALSE(form->HideEditor());
     EXPECT_THAT(manager.boxes(), ElementsAre("16: Hodnota x není celé číslo"));
@@ -43,7 +42,22 @@ TEST_F(OpenedCell, AnOpenCellWhoseColumnIsNoLongerShownIsCheckedAndCommittedAllT
     ASSERT_TRUE(form->HideEditor());
     EXPECT_EQ(stored(7, 1), "42");
     EXPECT_THAT(log.lines, ElementsAre("0,2=42")) << "in no grid column";
+    form->ApplyColumnsSettingsToGrid();
     EXPECT_EQ(rowText(2), "Matice|2||vedlejší|B2||y");
+}
+
+TEST_F(OpenedCell, OfTwoColumnsWithTheSameDataTheEditedOneIsReported) {
+    make();
+    form->LoadColumnsSettingsFromXml("<settings><columns><column><name>POCET</name></column>"
+                                     "<column><name>POCET</name></column></columns></settings>");
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    ASSERT_EQ(rowText(0), "Počet|Počet|Název|Cena|Datum|Sklad|Kód|Poznámka|Typ");
+    openCell(2, 2);
+    type(QStringLiteral("42"));
+    ASSERT_TRUE(form->HideEditor());
+    EXPECT_THAT(log.lines, ElementsAre("2,2=42"));
+    EXPECT_EQ(rowText(2), "42|42|Matice|2||vedlejší|B2||y");
 }
 
 TEST(CommitAnswer, ARefusedValueAndACommitAtWorkAreTwoAnswers) {

@@ -91,13 +91,14 @@ public:
 
     void click(int col, int row) { QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cellCenter(col, row)); }
 
-    void dragHeader(QPoint from, QPoint to) {
-        QWidget* header = grid.horizontalHeader()->viewport();
-        hover(*header, from); // the header decides by the last move what a press takes hold of
-        QTest::mousePress(header, Qt::LeftButton, {}, from);
-        drag(*header, (from + to) / 2);
-        drag(*header, to);
-        QTest::mouseRelease(header, Qt::LeftButton, {}, to);
+    void dragHeader(QPoint from, QPoint to) { dragOver(*grid.horizontalHeader()->viewport(), from, to); }
+
+    void dragOver(QWidget& part, QPoint from, QPoint to) {
+        hover(part, from); // the header decides by the last move what a press takes hold of
+        QTest::mousePress(&part, Qt::LeftButton, {}, from);
+        drag(part, (from + to) / 2);
+        drag(part, to);
+        QTest::mouseRelease(&part, Qt::LeftButton, {}, to);
     }
 
     static void hover(QWidget& part, QPoint position) { move(part, position, Qt::NoButton); }

@@ -3,10 +3,10 @@
 #include "tests/support/RecordingHost.h"
 #include "tests/widgets/GridForm.h"
 
-#include <QContextMenuEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <gmock/gmock.h>
 
@@ -246,16 +246,19 @@ TEST_F(StringGridTest, OnlyTheLeftButtonMovesTheCurrentCell) {
     EXPECT_EQ(grid.Row(), 1);
 }
 
-TEST_F(StringGridTest, EnterIsToldWithTheStateOfShift) {
+TEST_F(StringGridTest, EnterIsToldWithItsModifiers) {
     show();
     grid.setFocus();
-    QList<bool> shifts;
-    QObject::connect(&grid, &TStringGrid::EnterPressed, &grid, [&](bool shift) { shifts.append(shift); });
+    QList<Qt::KeyboardModifiers> told;
+    QObject::connect(&grid, &TStringGrid::EnterPressed, &grid,
+                     [&](Qt::KeyboardModifiers modifiers) { told.append(modifiers); });
     QTest::keyClick(&grid, Qt::Key_Return);
     QTest::keyClick(&grid, Qt::Key_Enter, Qt::KeypadModifier);
     QTest::keyClick(&grid, Qt::Key_Return, Qt::ShiftModifier);
-    QTest::keyClick(&grid, Qt::Key_Return, Qt::ControlModifier); // the form's key, not the grid's
-    EXPECT_EQ(shifts, (QList<bool>{false, false, true}));
+    QTest::keyClick(&grid, Qt::Key_Return, Qt::ControlModifier);
+    QTest::keyClick(&grid, Qt::Key_Return, Qt::AltModifier);
+    QTest::keyClick(&grid, Qt::Key_Down);
+    EXPECT_EQ(told, (QList<Qt::KeyboardModifiers>{{}, Qt::KeypadModifier, Qt::ShiftModifier, Qt::ControlModifier}));
 }
 
 TEST_F(StringGridTest, TabLeavesTheGrid) {
@@ -281,6 +284,54 @@ TEST_F(StringGridTest, WithoutTabStopTheGridIsReachedByMouseOnly) {
     EXPECT_TRUE(grid.hasFocus());
 }
 
+TEST_F(StringGridTest, APressBesideTheCellsThatIsDraggedOverThemMovesNothing) {
+    show();
+    click(1, 1);
+    dragOver(*grid.viewport(), QPoint(60, 150), cellCenter(2, 3));
+    EXPECT_EQ(grid.Col(), 1);
+    EXPECT_EQ(grid.Row(), 1);
+    dragOver(*grid.viewport(), cellCenter(1, 2), cellCenter(2, 3));
+    EXPECT_EQ(grid.Col(), 2) << "dragged from a cell, the current cell follows the mouse";
+    EXPECT_EQ(grid.Row(), 3);
+}
+
+TEST_F(StringGridTest, ADoubleClickOnTheEdgeOfAHeaderSizesNothing) {
+    show();
+    QWidget* header = grid.horizontalHeader()->viewport();
+    const QPoint edge(grid.horizontalHeader()->sectionViewportPosition(1) - 1, 8);
+    hover(*header, edge);
+    QTest::mouseClick(header, Qt::LeftButton, {}, edge);
+    QTest::mouseDClick(header, Qt::LeftButton, {}, edge);
+    settle();
+    EXPECT_EQ(headerText(), "A:100|B:150|C:200");
+}
+
+TEST_F(StringGridTest, TheWheelCanBeHandedToIt) {
+    fill(3, 100);
+    show();
+    QWheelEvent down(QPointF(5, 5), QPointF(5, 5), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    grid.ScrollByWheel(down);
+    EXPECT_GT(grid.verticalScrollBar()->value(), 0);
+}
+
+TEST_F(StringGridTest, HeaderRowAndIndicatorColumnStayWhenTheCellsScroll) {
+    fill(12, 100);
+    show();
+    // The frame is 2 wide, the indicator 10 and a line, the header as high as a row at least.
+    const auto picture = [&](QRect part) { return grid.grab(part).toImage(); };
+    const QRect indicator(2, 30, 10, 100);
+    const QRect header(20, 2, 300, 15);
+    const QImage indicatorBefore = picture(indicator);
+    const QImage headerBefore = picture(header);
+    grid.verticalScrollBar()->setValue(40);
+    EXPECT_EQ(picture(header), headerBefore);
+    grid.verticalScrollBar()->setValue(0);
+    grid.horizontalScrollBar()->setValue(150);
+    EXPECT_EQ(picture(indicator), indicatorBefore);
+    EXPECT_NE(picture(header), headerBefore) << "the captions go along with their columns";
+}
+
 TEST_F(StringGridTest, TypingALetterDoesNotSearch) {
     show();
     click(1, 1);
@@ -288,53 +339,6 @@ TEST_F(StringGridTest, TypingALetterDoesNotSearch) {
     EXPECT_EQ(grid.Col(), 1);
     EXPECT_EQ(grid.Row(), 1);
 }
-
-namespace {
-
-struct MenuPlace {
-    const char* name;
-    QWidget* (*part)(TStringGrid&);
-    QPoint (*position)(GridForm&);
-    int col;
-    int row;
-};
-
-class StringGridMenuTest : public GridForm, public testing::TestWithParam<MenuPlace> {};
-
-QWidget* headerPart(TStringGrid& grid) {
-    return grid.horizontalHeader()->viewport();
-}
-
-QWidget* cellsPart(TStringGrid& grid) {
-    return grid.viewport();
-}
-
-} // namespace
-
-TEST_P(StringGridMenuTest, IsToldWithItsGridCell) {
-    show();
-    QSignalSpy popups(&grid, &TStringGrid::ContextPopup);
-    QWidget* part = GetParam().part(grid);
-    const QPoint position = GetParam().position(*this);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, position, part->mapToGlobal(position));
-    QCoreApplication::sendEvent(part, &event);
-    ASSERT_EQ(popups.count(), 1);
-    EXPECT_EQ(popups.at(0).at(0).toInt(), GetParam().col);
-    EXPECT_EQ(popups.at(0).at(1).toInt(), GetParam().row);
-    EXPECT_EQ(popups.at(0).at(2).toPoint(), part->mapToGlobal(position));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Places, StringGridMenuTest,
-    testing::Values(MenuPlace{"IndicatorHeader", [](TStringGrid& grid) -> QWidget* { return cornerOf(grid); },
-                              [](GridForm&) { return QPoint(5, 5); }, 0, 0},
-                    MenuPlace{"IndicatorCell", [](TStringGrid& grid) { return grid.verticalHeader()->viewport(); },
-                              [](GridForm&) { return QPoint(5, 30); }, 0, 2},
-                    MenuPlace{"Header", headerPart, [](GridForm& form) { return form.headerCenter(2); }, 2, 0},
-                    MenuPlace{"RightOfTheLastHeader", headerPart, [](GridForm&) { return QPoint(470, 5); }, -1, 0},
-                    MenuPlace{"Cell", cellsPart, [](GridForm& form) { return form.cellCenter(2, 3); }, 2, 3},
-                    MenuPlace{"BelowTheLastRow", cellsPart, [](GridForm&) { return QPoint(20, 150); }, 1, -1}),
-    [](const auto& instance) { return std::string(instance.param.name); });
 
 TEST_F(StringGridTest, TheMouseOverHeadersAndCellsIsTold) {
     show();
