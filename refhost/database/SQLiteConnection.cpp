@@ -13,7 +13,8 @@ namespace refhost {
 
 namespace {
 
-constexpr const char* c_RefuseStaging = "update temp.STAGING set STATE = 'refused'";
+/// A save that was not begun stays so.
+constexpr const char* c_RefuseStaging = "update temp.STAGING set STATE = 'refused' where STATE = 'open'";
 
 std::string lowerAscii(std::string_view name) {
     std::string lower(name);

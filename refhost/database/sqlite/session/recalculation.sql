@@ -4,11 +4,13 @@
 -- A price has a level (for one unit, or the total for the quantity), a side (before or after the discount) and a kind
 -- (CENAB without VAT, DPHA the VAT, DPHB the local VAT, CENAS with VAT). Numbers are canonical decimals, null for none.
 
+-- The columns that a clerk's row fills stand in the order of its parameters: the engine evaluates the values of an insert
+-- in the table's order, and the first bad one is the one to be named.
 create temp table RECALC_LINE (
     LINE integer primary key,
-    MNOZSTVI text,
     DPH text,                                -- the name of the VAT rate
     SLEVA text,                              -- percent
+    MNOZSTVI text,
     RECALCULATE integer not null default 1,  -- 0: the line only gets its canonical texts
     TRUTH_LEVEL text,                        -- the price from which all others follow; null: none
     TRUTH_SIDE text,
