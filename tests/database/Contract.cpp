@@ -19,60 +19,7 @@ constexpr std::string_view c_Tables[] = {
     "DODAKZDROJ", "DODOBJZDROJ",   "EDITORNASTAVENI", "EDITOROKNO", "EDITORNASTAVENIDEF",
 };
 
-std::string valueText(const TDbValue& value) {
-    if (const auto* number = std::get_if<std::int64_t>(&value)) {
-        return std::to_string(*number);
-    }
-    if (const auto* text = std::get_if<AnsiString>(&value)) {
-        return *text;
-    }
-    if (const auto* flag = std::get_if<bool>(&value)) {
-        return *flag ? "true" : "false";
-    }
-    if (const auto* number = std::get_if<double>(&value)) {
-        return "floating " + std::to_string(*number); // no result of the contract is one
-    }
-    return "-";
-}
-
-std::string tableText(const TResultTable& table, const Columns& columns) {
-    std::vector<std::size_t> shown;
-    for (std::size_t i = 0; i < table.Columns.size(); ++i) {
-        if (columns.empty()) {
-            shown.push_back(i);
-        }
-    }
-    for (const std::string& column : columns) {
-        shown.push_back(static_cast<std::size_t>(std::ranges::find(table.Columns, column) - table.Columns.begin()));
-    }
-    std::string text;
-    for (const std::vector<TDbValue>& row : table.Rows) {
-        text += text.empty() ? "" : "\n";
-        for (std::size_t i = 0; i < shown.size(); ++i) {
-            text += (i == 0 ? "" : " | ") + valueText(row.at(shown[i]));
-        }
-    }
-    return text;
-}
-
 } // namespace
-
-std::string answer(Database& database, const std::string& procedure, const Parameters& parameters,
-                   const Columns& columns) {
-    try {
-        const TCallResult result = database.Execute({procedure, parameters, true});
-        std::string text;
-        for (std::size_t i = 0; i < result.Sets.size(); ++i) {
-            text += (i == 0 ? "" : "\n\n") + tableText(result.Sets[i], i == 0 ? columns : Columns{});
-        }
-        for (const TDbParam& output : result.Outputs) {
-            text += (text.empty() ? "" : "\n") + output.Name + " = " + valueText(output.Value);
-        }
-        return text;
-    } catch (const EDatabaseError& error) {
-        return error.Code() + " " + error.Message();
-    }
-}
 
 std::string outcome(Database& database, const std::string& procedure, const Parameters& parameters) {
     try {
@@ -80,14 +27,6 @@ std::string outcome(Database& database, const std::string& procedure, const Para
         return "accepted";
     } catch (const EDatabaseError& error) {
         return error.Code();
-    }
-}
-
-std::string rows(Database& database, const std::string& sql) {
-    try {
-        return tableText(database.Query(sql), {});
-    } catch (const EDatabaseError& error) {
-        return error.Code() + " " + error.Message();
     }
 }
 
@@ -101,7 +40,7 @@ std::string digest(Database& database, const std::vector<std::string>& except) {
         if (std::ranges::find(except, table) != except.end()) {
             continue;
         }
-        std::string content = tableText(database.Query("select * from " + std::string(table)), {});
+        std::string content = tableText(database.Query("select * from " + std::string(table)));
         std::vector<std::string> lines;
         for (std::size_t start = 0; start <= content.size();) {
             const std::size_t end = std::min(content.find('\n', start), content.size());

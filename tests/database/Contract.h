@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/database/Answers.h"
 #include "tests/database/Engines.h"
 
 #include <gtest/gtest.h>
@@ -10,20 +11,8 @@
 
 namespace refhost {
 
-using Parameters = std::vector<TDbParam>;
-using Columns = std::vector<std::string>;
-
-/// What a call brought as one text, the same on every engine that keeps the contract: a line a row with its values
-/// parted by " | " and "-" for null, an empty line between two result sets, a line "a_X = 1" an output. A refusal is
-/// its code and its sentence. With `columns` only those of the first set are shown.
-std::string answer(Database& database, const std::string& procedure, const Parameters& parameters = {},
-                   const Columns& columns = {});
-
 /// Only the code of the refusal, "accepted" when there was none.
 std::string outcome(Database& database, const std::string& procedure, const Parameters& parameters = {});
-
-/// The rows of a reading statement in the same form.
-std::string rows(Database& database, const std::string& sql);
 
 /// An id as a parameter; the compiler would take a plain number for a flag.
 TDbValue id(std::int64_t value);
