@@ -1,5 +1,6 @@
 #include "host/ClassRegistry.h"
 
+#include "host/ContractTexts.h"
 #include "host/Exceptions.h"
 #include "host/HostServices.h"
 #include "host/LibraryItem.h"
@@ -14,7 +15,7 @@ std::unique_ptr<TLibraryItem> TClassRegistry::Create(std::string_view className,
                                                      TLibraryManager* libraryManager) const {
     const auto entry = FFactories.find(className);
     if (entry == FFactories.end()) {
-        throw EHostError("Třída " + AnsiString(className) + " není zaregistrována.");
+        throw EHostError(melvark::Sentence(melvark::c_NoClass, {className}));
     }
     return entry->second(libraryManager);
 }

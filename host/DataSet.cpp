@@ -1,5 +1,6 @@
 #include "host/DataSet.h"
 
+#include "host/ContractTexts.h"
 #include "host/Exceptions.h"
 #include "host/ValueText.h"
 
@@ -17,8 +18,8 @@ struct Readings : Functions... {
 template <class... Functions>
 Readings(Functions...) -> Readings<Functions...>;
 
-[[noreturn]] void RefuseReading(const TField& field, const char* wanted) {
-    throw EConvertError("Hodnota „" + field.AsString() + "“ pole " + field.Name() + " není " + wanted + ".");
+[[noreturn]] void RefuseReading(const TField& field, const melvark::ContractText& sentence) {
+    throw EConvertError(Sentence(sentence, {field.AsString(), field.Name()}));
 }
 
 std::optional<std::int32_t> ToInt32(std::int64_t value) {
@@ -74,7 +75,7 @@ std::int32_t TField::AsInteger() const {
                  [](const AnsiString& value) { return TextToInt(value); }},
         FValue);
     if (!result) {
-        RefuseReading(*this, "celé číslo");
+        RefuseReading(*this, melvark::c_NotAnInteger);
     }
     return *result;
 }
@@ -88,7 +89,7 @@ double TField::AsFloat() const {
                  [this](const AnsiString& value) { return TextToFloat(value, FSettings); }},
         FValue);
     if (!result) {
-        RefuseReading(*this, "desetinné číslo");
+        RefuseReading(*this, melvark::c_NotANumber);
     }
     return *result;
 }
@@ -101,7 +102,7 @@ bool TField::AsBoolean() const {
                  [](const AnsiString& value) { return ToBoolean(value); }},
         FValue);
     if (!result) {
-        RefuseReading(*this, "hodnota ano/ne");
+        RefuseReading(*this, melvark::c_NotABoolean);
     }
     return *result;
 }
@@ -113,7 +114,7 @@ TDateTime TField::AsDateTime() const {
     const AnsiString* text = std::get_if<AnsiString>(&FValue);
     const std::optional<TDateTime> result = text != nullptr ? TextToDateTime(*text, FSettings) : std::nullopt;
     if (!result) {
-        RefuseReading(*this, "datum a čas");
+        RefuseReading(*this, melvark::c_NotADate);
     }
     return *result;
 }
@@ -123,7 +124,7 @@ TDataSet::~TDataSet() = default;
 TField TDataSet::FieldByName(std::string_view name) const {
     std::optional<TField> field = FindField(name);
     if (!field) {
-        throw EDatabaseError("Záznam nemá pole " + AnsiString(name) + ".");
+        throw EDatabaseError(Sentence(melvark::c_NoFieldInRecord, {name}));
     }
     return *std::move(field);
 }

@@ -1,5 +1,6 @@
 #include "host/DecimalDigits.h"
 
+#include "host/ContractTexts.h"
 #include "host/Exceptions.h"
 
 #include <array>
@@ -31,7 +32,7 @@ void Increment(AnsiString& digits) {
 
 DecimalDigits ToDecimalDigits(double value) {
     if (!std::isfinite(value)) {
-        throw EConvertError("Hodnota není konečné číslo.");
+        throw EConvertError(Sentence(c_NotFinite, {}));
     }
 
     // The shortest digits come as d[.ddd]e±xx; the fixed notation of the library pads large numbers with binary noise.

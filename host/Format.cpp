@@ -1,7 +1,9 @@
 #include "host/Format.h"
 
+#include "host/ContractTexts.h"
 #include "host/DecimalDigits.h"
 #include "host/Exceptions.h"
+#include "host/Utf8.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,23 +16,6 @@ namespace {
 constexpr std::size_t c_DefaultDecimals = 2;
 constexpr std::size_t c_GroupDigits = 3;
 constexpr std::string_view c_NoBreakSpace = "\u00A0";
-
-/// Whether the byte begins a character of UTF-8; the other bytes continue one.
-bool BeginsCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-}
-
-std::size_t CharacterCount(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), BeginsCharacter));
-}
-
-/// The first `count` characters of the text.
-std::string_view FirstCharacters(std::string_view text, std::size_t count) {
-    std::size_t seen = 0;
-    const auto end =
-        std::find_if(text.begin(), text.end(), [&](char byte) { return BeginsCharacter(byte) && ++seen > count; });
-    return text.substr(0, static_cast<std::size_t>(end - text.begin()));
-}
 
 struct Specifier {
     bool AlignsLeft = false;
@@ -79,8 +64,9 @@ public:
     }
 
 private:
-    [[noreturn]] void Refuse(const AnsiString& reason) const {
-        throw EConvertError("Text „" + AnsiString(FFormat) + "“ nelze sestavit: " + reason + ".");
+    /// `thing` is what the sentence names beside the format text.
+    [[noreturn]] void Refuse(const melvark::ContractText& sentence, std::string_view thing = {}) const {
+        throw EConvertError(Sentence(sentence, {FFormat, thing}));
     }
 
     /// The next character, or a null character at the end, which is no part of any specifier.
@@ -98,7 +84,7 @@ private:
             specifier.Precision = ReadNumber();
         }
         if (FPosition >= FFormat.size()) {
-            Refuse("značka na konci není úplná");
+            Refuse(melvark::c_CutFormat);
         }
         specifier.Type = FFormat[FPosition++];
         return specifier;
@@ -110,7 +96,7 @@ private:
         for (; Peek() >= '0' && Peek() <= '9'; ++FPosition) {
             number = number * 10 + static_cast<std::size_t>(Peek() - '0');
             if (number > c_MaxFormatWidth) {
-                Refuse("šířka nebo přesnost je příliš velká");
+                Refuse(melvark::c_WideFormat);
             }
         }
         return number;
@@ -118,7 +104,7 @@ private:
 
     void Append(const Specifier& specifier) {
         const AnsiString text = Text(specifier);
-        const std::size_t length = CharacterCount(text);
+        const std::size_t length = melvark::CharacterCount(text);
         const AnsiString padding(specifier.Width > length ? specifier.Width - length : 0, ' ');
         FResult += specifier.AlignsLeft ? text + padding : padding + text;
     }
@@ -134,33 +120,34 @@ private:
         case 'm':
             return MoneyText(specifier);
         default:
-            Refuse("neznámá značka %" + AnsiString(FirstCharacters(FFormat.substr(FPosition - 1), 1)));
+            Refuse(melvark::c_UnknownMark,
+                   "%" + AnsiString(melvark::FirstCharacters(FFormat.substr(FPosition - 1), 1)));
         }
     }
 
     const TFormatArg& NextArgument() {
         if (FNextArgument == FArguments.size()) {
-            Refuse("chybí " + std::to_string(FNextArgument + 1) + ". hodnota");
+            Refuse(melvark::c_NoArgument, std::to_string(FNextArgument + 1));
         }
         return FArguments[FNextArgument++];
     }
 
-    [[noreturn]] void RefuseArgument(const char* wanted) const {
-        Refuse(std::to_string(FNextArgument) + ". hodnota není " + wanted);
+    [[noreturn]] void RefuseArgument(const melvark::ContractText& sentence) const {
+        Refuse(sentence, std::to_string(FNextArgument));
     }
 
     AnsiString StringText(const Specifier& specifier) {
         const auto* text = std::get_if<AnsiString>(&NextArgument().Value());
         if (text == nullptr) {
-            RefuseArgument("text");
+            RefuseArgument(melvark::c_ArgumentNoText);
         }
-        return specifier.Precision ? AnsiString(FirstCharacters(*text, *specifier.Precision)) : *text;
+        return specifier.Precision ? AnsiString(melvark::FirstCharacters(*text, *specifier.Precision)) : *text;
     }
 
     AnsiString IntegerText(const Specifier& specifier) {
         const auto* value = std::get_if<std::int64_t>(&NextArgument().Value());
         if (value == nullptr) {
-            RefuseArgument("celé číslo");
+            RefuseArgument(melvark::c_ArgumentNoInteger);
         }
         const melvark::DecimalDigits number = melvark::ToDecimalDigits(*value);
         const std::size_t leastDigits = specifier.Precision.value_or(0);
@@ -176,7 +163,7 @@ private:
         }
         const auto* number = std::get_if<double>(&value);
         if (number == nullptr || !std::isfinite(*number)) {
-            RefuseArgument("číslo");
+            RefuseArgument(melvark::c_ArgumentNoNumber);
         }
         return melvark::Rounded(melvark::ToDecimalDigits(*number), decimals);
     }

@@ -12,8 +12,12 @@ THostServices* installedHost = nullptr;
 
 THostServices::~THostServices() = default;
 
+bool HasCurrentHost() {
+    return installedHost != nullptr;
+}
+
 THostServices& CurrentHost() {
-    if (installedHost == nullptr) {
+    if (!HasCurrentHost()) {
         throw EHostError("Hostitelská aplikace neposkytuje své služby.");
     }
     return *installedHost;

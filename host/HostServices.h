@@ -44,6 +44,9 @@ private:
     TClassRegistry FClasses;
 };
 
+/// Whether a host is installed.
+bool HasCurrentHost();
+
 /// The installed host. Throws EHostError when there is none.
 THostServices& CurrentHost();
 

@@ -1,5 +1,6 @@
 #include "host/LiveData.h"
 
+#include "host/ContractTexts.h"
 #include "host/Exceptions.h"
 #include "host/HostServices.h"
 
@@ -54,6 +55,14 @@ void TLiveParam::SetAsString(AnsiString value) {
     FValue = std::move(value);
 }
 
+void TLiveParam::SetAsVariant(TVariant value) {
+    if (const auto* integer = std::get_if<std::int32_t>(&value)) {
+        SetAsInteger(*integer);
+    } else {
+        SetAsString(std::get<AnsiString>(std::move(value)));
+    }
+}
+
 void TLiveParam::Clear() {
     FValue = std::monostate{};
 }
@@ -79,7 +88,7 @@ TField TLiveResult::FieldByName(std::string_view column) const {
     const TResultTable* table = Table();
     const std::size_t index = table != nullptr ? FindColumn(*table, column) : 0;
     if (table == nullptr || index == table->Columns.size()) {
-        throw EDatabaseError("Výsledek nemá pole " + AnsiString(column) + ".");
+        throw EDatabaseError(Sentence(melvark::c_NoFieldInResult, {column}));
     }
     return TField(table->Columns[index], Eof() ? TDbValue{} : table->Rows[FRow].at(index),
                   CurrentHost().FormatSettings());
@@ -117,7 +126,7 @@ TLiveStoredProc::~TLiveStoredProc() = default;
 
 TLiveParam& TLiveStoredProc::ParamByName(std::string_view name) {
     if (!HasParam(name)) {
-        throw EDatabaseError("Procedura " + FName + " nemá parametr " + AnsiString(name) + ".");
+        throw EDatabaseError(Sentence(melvark::c_NoParameter, {FName, name}));
     }
     return FindOrAppendParam(FParams, name);
 }

@@ -8,7 +8,11 @@
 #include <cstdint>
 #include <memory>
 #include <string_view>
+#include <variant>
 #include <vector>
+
+/// A value whose type the caller does not fix: an integer or a text.
+using TVariant = std::variant<std::int32_t, AnsiString>;
 
 /// A parameter of a stored procedure. Input parameters are set before the call, output parameters read after it.
 class TLiveParam {
@@ -20,6 +24,7 @@ public:
     void SetAsFloat(double value);
     void SetAsBoolean(bool value);
     void SetAsString(AnsiString value);
+    void SetAsVariant(TVariant value);
     /// Makes the parameter null.
     void Clear();
 

@@ -1,9 +1,10 @@
 #include "host/XMLTag.h"
 
+#include "host/ContractTexts.h"
 #include "host/Exceptions.h"
+#include "host/Utf8.h"
 
 #include <algorithm>
-#include <array>
 #include <exception>
 #include <expat.h>
 #include <iterator>
@@ -128,35 +129,6 @@ bool IsXMLName(const AnsiString& name) {
     return tag != nullptr && tag->GetName() == name;
 }
 
-struct Character {
-    char32_t Code;
-    std::size_t Length; ///< In bytes; 0 for bytes that are no UTF-8.
-};
-
-/// Reads the character at the front of the text, which is not empty. Overlong forms, surrogates and codes above the
-/// last plane are no UTF-8.
-Character ReadCharacter(std::string_view text) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned char first = byte(0);
-    if (first < 0x80) {
-        return {first, 1};
-    }
-    const std::size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-    if (first < 0xC2 || first > 0xF4 || text.size() < length) {
-        return {0, 0};
-    }
-    char32_t code = first & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0U) != 0x80U) {
-            return {0, 0};
-        }
-        code = (code << 6U) | (byte(i) & 0x3FU);
-    }
-    constexpr std::array<char32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
-    const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
-    return code < smallest[length] || code > 0x10FFFF || isSurrogate ? Character{0, 0} : Character{code, length};
-}
-
 bool IsXMLCharacter(char32_t code) {
     return code >= 0x20 ? code != 0xFFFE && code != 0xFFFF : code == '\t' || code == '\n' || code == '\r';
 }
@@ -164,7 +136,7 @@ bool IsXMLCharacter(char32_t code) {
 /// Line breaks and tabs become references: a reader would turn a bare CR into LF, and editors change the others.
 void AppendEscaped(AnsiString& output, std::string_view text) {
     while (!text.empty()) {
-        const auto [code, length] = ReadCharacter(text);
+        const auto [code, length, isValid] = melvark::FirstStep(text);
         switch (code) {
         case '&':
             output += "&amp;";
@@ -185,11 +157,11 @@ void AppendEscaped(AnsiString& output, std::string_view text) {
             output += "&#13;";
             break;
         default:
-            if (length > 0 && IsXMLCharacter(code)) {
+            if (isValid && IsXMLCharacter(code)) {
                 output += text.substr(0, length);
             }
         }
-        text.remove_prefix(std::max<std::size_t>(length, 1));
+        text.remove_prefix(length);
     }
 }
 
@@ -197,7 +169,7 @@ void AppendEscaped(AnsiString& output, std::string_view text) {
 /// come.
 bool OpenTag(AnsiString& output, const TXMLTag& tag) {
     if (!IsXMLName(tag.GetName())) {
-        throw EConvertError("„" + tag.GetName() + "“ není jméno prvku XML.");
+        throw EConvertError(melvark::Sentence(melvark::c_NoXMLName, {tag.GetName()}));
     }
     output += "<" + tag.GetName();
     if (tag.GetTagsCount() == 0 && tag.GetValue().empty()) {

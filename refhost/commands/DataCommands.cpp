@@ -1,5 +1,6 @@
 #include "refhost/commands/DataCommands.h"
 
+#include "host/AsciiCase.h"
 #include "host/DataSet.h"
 #include "host/Exceptions.h"
 #include "refhost/ColumnTitles.h"
@@ -19,12 +20,6 @@ namespace refhost {
 
 namespace {
 
-std::string upperCase(std::string name) {
-    std::transform(name.begin(), name.end(), name.begin(),
-                   [](unsigned char letter) { return static_cast<char>(std::toupper(letter)); });
-    return name;
-}
-
 /// The value as a field shows it, or null.
 TDbValue fieldText(const TDbValue& value, const TFormatSettings& settings) {
     const TField field({}, value, settings);
@@ -40,7 +35,7 @@ std::string rowJson(const TResultTable& table, const std::vector<TDbValue>& row,
     JsonObject object;
     for (std::size_t column = 0; column < table.Columns.size(); ++column) {
         if (isWanted(table.Columns[column])) {
-            object.add(upperCase(table.Columns[column]), fieldText(row[column], settings));
+            object.add(melvark::UpperAscii(table.Columns[column]), fieldText(row[column], settings));
         }
     }
     return object.text();
@@ -61,7 +56,7 @@ void printResult(const TCallResult& result, const CommandContext& context) {
     }
     JsonObject outputs;
     for (const TDbParam& output : result.Outputs) {
-        outputs.add(upperCase(output.Name), fieldText(output.Value, context.settings));
+        outputs.add(melvark::UpperAscii(output.Name), fieldText(output.Value, context.settings));
     }
     context.output << JsonObject().addJson("out", outputs.text()).text() << '\n';
 }

@@ -41,4 +41,7 @@ public:
     virtual const std::string& user() const = 0;
 };
 
+/// Refuses a query that is not one reading statement.
+[[noreturn]] void refuseQuery(std::string_view sql);
+
 } // namespace refhost

@@ -2,6 +2,7 @@
 
 #include "host/Exceptions.h"
 #include "host/FormatSettings.h"
+#include "host/Utf8.h"
 #include "host/ValueText.h"
 #include "refhost/database/RefusalTable.h"
 
@@ -90,14 +91,8 @@ TDbValue parameterValue(ParameterKind kind, std::string_view name, const TDbValu
 
 AnsiString shownText(std::string_view text) {
     constexpr std::size_t c_MostCharacters = 60;
-    std::size_t characters = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool startsCharacter = (static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U;
-        if (startsCharacter && ++characters > c_MostCharacters) {
-            return AnsiString(text.substr(0, i)) + "…";
-        }
-    }
-    return AnsiString(text);
+    const std::string_view shown = melvark::FirstCharacters(text, c_MostCharacters);
+    return AnsiString(shown) + (shown.size() < text.size() ? "…" : "");
 }
 
 } // namespace refhost

@@ -1,5 +1,6 @@
 #include "refhost/database/PostgreSQLConnection.h"
 
+#include "host/AsciiCase.h"
 #include "refhost/database/EmbeddedSql.h"
 #include "refhost/database/PostgreSQLErrors.h"
 #include "refhost/database/PostgreSQLRows.h"
@@ -15,13 +16,6 @@ namespace {
 
 /// How often a call is begun before the user hears that the others are in the way.
 constexpr int c_MostAttempts = 5;
-
-std::string lowerAscii(std::string_view name) {
-    std::string lower(name);
-    std::ranges::transform(lower, lower.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
-}
 
 /// Whether the procedure is a step of a save: a failure of it closes the save until its rows are emptied.
 bool belongsToSave(std::string_view name) {
@@ -43,10 +37,6 @@ std::string joined(std::span<const std::string> names) {
 void raiseSequence(PostgreSQLSession& session, const std::string& table) {
     session.execute("select setval(pg_get_serial_sequence('melvark." + table + "', 'id'), max(ID)) from melvark." +
                     table);
-}
-
-[[noreturn]] void refuseQuery(const AnsiString& sql) {
-    throw refusal("ML920", {shownText(sql)});
 }
 
 } // namespace
@@ -77,7 +67,7 @@ void PostgreSQLConnection::createSchema() {
 void PostgreSQLConnection::insertRows(std::string_view table, std::span<const std::string> columns,
                                       std::span<const std::vector<TDbValue>> rows) {
     restoreLink();
-    const std::string name = lowerAscii(table);
+    const std::string name = melvark::LowerAscii(table);
     PostgreSQLTransaction transaction(session_, PostgreSQLTransaction::Kind::Writing);
     session_.copy("copy melvark." + name + " (" + joined(columns) + ") from stdin", rows);
     if (std::ranges::any_of(columns, [](const std::string& column) { return SameDbName(column, "ID"); })) {
@@ -98,7 +88,7 @@ void PostgreSQLConnection::runBuiltInScript(std::string_view path) {
 }
 
 const PostgreSQLProcedure& PostgreSQLConnection::procedure(const AnsiString& name) {
-    const std::string key = lowerAscii(name);
+    const std::string key = melvark::LowerAscii(name);
     if (const auto known = procedures_.find(key); known != procedures_.end()) {
         return known->second;
     }

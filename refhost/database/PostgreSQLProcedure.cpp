@@ -1,5 +1,6 @@
 #include "refhost/database/PostgreSQLProcedure.h"
 
+#include "host/AsciiCase.h"
 #include "host/Exceptions.h"
 #include "refhost/database/PostgreSQLRows.h"
 #include "refhost/database/RefusalTable.h"
@@ -27,11 +28,10 @@ enum Column { SqlName, Name, SqlParameter, Mode, Type, BringsCursors };
 /// The server folds names to lower case; the contract writes them "a_NAME".
 AnsiString contractName(std::string_view name) {
     constexpr std::string_view c_Prefix = "a_";
-    AnsiString written(name);
-    const auto start = name.starts_with(c_Prefix) ? written.begin() + c_Prefix.size() : written.begin();
-    std::transform(start, written.end(), start,
-                   [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return written;
+    if (!name.starts_with(c_Prefix)) {
+        return melvark::UpperAscii(name);
+    }
+    return AnsiString(c_Prefix) + melvark::UpperAscii(name.substr(c_Prefix.size()));
 }
 
 ParameterKind parameterKind(std::string_view type) {

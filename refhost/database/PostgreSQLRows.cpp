@@ -1,6 +1,7 @@
 #include "refhost/database/PostgreSQLRows.h"
 
-#include <algorithm>
+#include "host/AsciiCase.h"
+
 #include <charconv>
 
 namespace refhost {
@@ -39,13 +40,6 @@ TDbValue cellValue(const PGresult* result, int row, int column) {
     }
 }
 
-AnsiString upperAscii(std::string_view name) {
-    AnsiString upper(name);
-    std::ranges::transform(upper, upper.begin(),
-                           [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return upper;
-}
-
 } // namespace
 
 TResultTable resultTable(const PGresult* result) {
@@ -53,7 +47,7 @@ TResultTable resultTable(const PGresult* result) {
     const int columns = PQnfields(result);
     const int rows = PQntuples(result);
     for (int column = 0; column < columns; ++column) {
-        table.Columns.push_back(upperAscii(PQfname(result, column)));
+        table.Columns.push_back(melvark::UpperAscii(PQfname(result, column)));
     }
     table.Rows.resize(static_cast<std::size_t>(rows));
     for (int row = 0; row < rows; ++row) {

@@ -1,5 +1,6 @@
 #include "refhost/database/SQLiteConnection.h"
 
+#include "host/AsciiCase.h"
 #include "refhost/database/DecimalFunctions.h"
 #include "refhost/database/EmbeddedSql.h"
 #include "refhost/database/RefusalTable.h"
@@ -15,13 +16,6 @@ namespace {
 
 /// A save that was not begun stays so.
 constexpr const char* c_RefuseStaging = "update temp.STAGING set STATE = 'refused' where STATE = 'open'";
-
-std::string lowerAscii(std::string_view name) {
-    std::string lower(name);
-    std::ranges::transform(lower, lower.begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lower;
-}
 
 const SqlFile* findProcedure(std::string_view name) {
     for (const SqlFile& file : sqliteFiles()) {
@@ -55,10 +49,6 @@ public:
 private:
     SQLiteSession& session_;
 };
-
-[[noreturn]] void refuseQuery(const AnsiString& sql) {
-    throw refusal("ML920", {shownText(sql)});
-}
 
 } // namespace
 
@@ -142,7 +132,7 @@ void SQLiteConnection::runBuiltInScript(std::string_view path) {
 }
 
 SQLiteProcedure& SQLiteConnection::procedure(const AnsiString& name) {
-    const std::string key = lowerAscii(name);
+    const std::string key = melvark::LowerAscii(name);
     if (const auto prepared = procedures_.find(key); prepared != procedures_.end()) {
         return *prepared->second;
     }

@@ -1,17 +1,10 @@
 #include "refhost/database/SQLiteStatement.h"
 
-#include <algorithm>
+#include "host/AsciiCase.h"
 
 namespace refhost {
 
 namespace {
-
-std::string upperAscii(std::string_view name) {
-    std::string upper(name);
-    std::ranges::transform(upper, upper.begin(),
-                           [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return upper;
-}
 
 int bindValue(sqlite3_stmt* statement, int index, const TDbValue& value) {
     if (const auto* number = std::get_if<std::int64_t>(&value)) {
@@ -79,7 +72,7 @@ void SQLiteStatement::reset() noexcept {
 std::vector<std::string> SQLiteStatement::columns() const {
     std::vector<std::string> names;
     for (int i = 0; i < columnCount(); ++i) {
-        names.push_back(upperAscii(sqlite3_column_name(handle_.get(), i)));
+        names.push_back(melvark::UpperAscii(sqlite3_column_name(handle_.get(), i)));
     }
     return names;
 }

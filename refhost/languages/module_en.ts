@@ -16,6 +16,75 @@
         <source>&amp;Ne</source>
         <translation>&amp;No</translation>
     </message>
+    <!-- What the contract itself refuses -->
+    <message id="KORDAN30\CONTRACT\NOFIELDINRECORD">
+        <source>Záznam nemá pole %s.</source>
+        <translation>The record has no field %s.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOFIELDINRESULT">
+        <source>Výsledek nemá pole %s.</source>
+        <translation>The result has no field %s.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOPARAMETER">
+        <source>Procedura %s nemá parametr %s.</source>
+        <translation>The procedure %s has no parameter %s.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOCLASS">
+        <source>Třída %s není zaregistrována.</source>
+        <translation>The class %s is not registered.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOTANINTEGER">
+        <source>Hodnota „%s“ pole %s není celé číslo.</source>
+        <translation>The value “%s” of the field %s is not a whole number.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOTANUMBER">
+        <source>Hodnota „%s“ pole %s není desetinné číslo.</source>
+        <translation>The value “%s” of the field %s is not a number.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOTABOOLEAN">
+        <source>Hodnota „%s“ pole %s není hodnota ano/ne.</source>
+        <translation>The value “%s” of the field %s is neither yes nor no.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOTADATE">
+        <source>Hodnota „%s“ pole %s není datum a čas.</source>
+        <translation>The value “%s” of the field %s is not a date and time.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOTFINITE">
+        <source>Hodnota není konečné číslo.</source>
+        <translation>The value is not a finite number.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOXMLNAME">
+        <source>„%s“ není jméno prvku XML.</source>
+        <translation>“%s” is not the name of an XML element.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\CUTFORMAT">
+        <source>Text „%s“ nelze sestavit: značka na konci není úplná.</source>
+        <translation>The text “%s” cannot be put together: the mark at its end is not complete.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\WIDEFORMAT">
+        <source>Text „%s“ nelze sestavit: šířka nebo přesnost je příliš velká.</source>
+        <translation>The text “%s” cannot be put together: a width or precision is too large.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\UNKNOWNMARK">
+        <source>Text „%s“ nelze sestavit: neznámá značka %s.</source>
+        <translation>The text “%s” cannot be put together: unknown mark %s.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\NOARGUMENT">
+        <source>Text „%s“ nelze sestavit: chybí %s. hodnota.</source>
+        <translation>The text “%s” cannot be put together: value %s is missing.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\ARGUMENTNOTEXT">
+        <source>Text „%s“ nelze sestavit: %s. hodnota není text.</source>
+        <translation>The text “%s” cannot be put together: value %s is not a text.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\ARGUMENTNOINTEGER">
+        <source>Text „%s“ nelze sestavit: %s. hodnota není celé číslo.</source>
+        <translation>The text “%s” cannot be put together: value %s is not a whole number.</translation>
+    </message>
+    <message id="KORDAN30\CONTRACT\ARGUMENTNONUMBER">
+        <source>Text „%s“ nelze sestavit: %s. hodnota není číslo.</source>
+        <translation>The text “%s” cannot be put together: value %s is not a number.</translation>
+    </message>
     <!-- Messages -->
     <message id="KORDAN30\MELVARKEDITOR\ERROR">
         <source>Chyba</source>

@@ -68,6 +68,14 @@ TEST_F(LiveStoredProcTest, KeepsTheTypesOfWhatWasSet) {
     EXPECT_EQ(proc.ParamByName("a_ID").Value(), TDbValue(true));
 }
 
+TEST_F(LiveStoredProcTest, TakesAnIntegerOrATextFromAVariant) {
+    TLiveStoredProc proc("Uloz");
+    proc.ParamByName("a_ID").SetAsVariant(-7);
+    proc.ParamByName("a_NAZEV").SetAsVariant("-7");
+    EXPECT_EQ(proc.ParamByName("a_ID").Value(), integer(-7));
+    EXPECT_EQ(proc.ParamByName("a_NAZEV").Value(), text("-7"));
+}
+
 TEST_F(LiveStoredProcTest, SendsAClearedParameterAsNull) {
     TLiveStoredProc proc("Uloz");
     proc.ParamByName("a_ID").SetAsInteger(7);

@@ -1,5 +1,9 @@
 #include "editors/MelvarkEditorDodakEditWin.h"
 #include "editwin/model/EditExceptions.h"
+#include "host/DecimalDigits.h"
+#include "host/Format.h"
+#include "host/LiveData.h"
+#include "host/XMLTag.h"
 #include "host/widgets/MessageBox.h"
 #include "main/MelvarkEditorMain.h"
 #include "main/SourceMenus.h"
@@ -17,6 +21,7 @@
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
+#include <limits>
 #include <map>
 #include <regex>
 #include <sstream>
@@ -70,6 +75,31 @@ void useBoxes(TranslatingHost& host) {
     editor.ShowConfirmDialog("x");
 }
 
+/// Makes the contract refuse in each of its sentences.
+void useContract(TranslatingHost& host) {
+    FakeDataSet dataSet;
+    dataSet.fields["TEXT"] = AnsiString("abc");
+    const TField field = dataSet.FieldByName("TEXT");
+    host.connection.procedure("NIC").returns({resultTable({"ID"}, {})});
+    TLiveStoredProc procedure("NIC");
+    procedure.Exec(true);
+    EXPECT_THROW(dataSet.FieldByName("NIC"), EDatabaseError);
+    EXPECT_THROW(procedure.FieldByName("NIC"), EDatabaseError);
+    EXPECT_THROW(procedure.ParamByName("a_NIC"), EDatabaseError);
+    EXPECT_THROW(host.Classes().Create("TNic", nullptr), EHostError);
+    EXPECT_THROW(field.AsInteger(), EConvertError);
+    EXPECT_THROW(field.AsFloat(), EConvertError);
+    EXPECT_THROW(field.AsBoolean(), EConvertError);
+    EXPECT_THROW(field.AsDateTime(), EConvertError);
+    EXPECT_THROW(OutputXMLStr(TXMLTag("<")), EConvertError);
+    EXPECT_THROW(melvark::ToDecimalDigits(std::numeric_limits<double>::infinity()), EConvertError);
+    for (const char* format : {"%", "%99999999s", "%q", "%s%s", "%f"}) {
+        EXPECT_THROW(Format(format, {"x"}, host.formatSettings), EConvertError) << format;
+    }
+    EXPECT_THROW(Format("%s", {7}, host.formatSettings), EConvertError);
+    EXPECT_THROW(Format("%d", {"x"}, host.formatSettings), EConvertError);
+}
+
 void useLibraryItem(TLibraryManager& manager) {
     TMelvarkEditor item(&manager);
     FakeDataSet dataSet;
@@ -87,6 +117,7 @@ const std::set<AskedText>& askedTexts() {
         useSourceMenus();
         useEditor(host, manager);
         useBoxes(host);
+        useContract(host);
         useLibraryItem(manager);
         return host.asked();
     }();
@@ -144,23 +175,22 @@ std::string read(const std::filesystem::path& file) {
 }
 
 void collectLiteralKeys(const std::string& source, std::set<std::string>& keys) {
-    static const std::regex literal(R"re("(KORDAN30\\\\[^"]*)"|R"\((KORDAN30\\[^)]*)\)")re");
+    static const std::regex literal(R"re(R"\((KORDAN30\\[^)]*)\)")re");
     for (std::sregex_iterator match(source.begin(), source.end(), literal), end; match != end; ++match) {
-        const std::string escaped = std::regex_replace((*match)[1].str(), std::regex(R"(\\\\)"), "\\");
-        keys.insert((*match)[1].matched ? escaped : (*match)[2].str());
+        keys.insert((*match)[1].str());
     }
 }
 
 /// The keys and beginnings of keys that stand literally in the module's sources.
 std::set<std::string> literalKeys() {
     std::set<std::string> keys;
-    for (const char* name : {"host/widgets", "editwin", "editors", "select", "dialogs", "main"}) {
+    for (const char* name : {"host", "editwin", "editors", "select", "dialogs", "main"}) {
         const std::filesystem::path folder = std::string(MELVARK_SOURCES "/") + name;
         if (!std::filesystem::exists(folder)) { // a folder that has nothing yet
             continue;
         }
         for (const auto& file : std::filesystem::recursive_directory_iterator(folder)) {
-            if (file.path().extension() == ".cpp") {
+            if (file.path().extension() == ".cpp" || file.path().extension() == ".h") {
                 collectLiteralKeys(read(file.path()), keys);
             }
         }

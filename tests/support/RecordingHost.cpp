@@ -1,5 +1,6 @@
 #include "tests/support/RecordingHost.h"
 
+#include "host/AsciiCase.h"
 #include "host/Exceptions.h"
 
 #include <algorithm>
@@ -57,11 +58,7 @@ ProcedureScript& ProcedureScript::failsCall(int n) {
 RecordingConnection::~RecordingConnection() = default;
 
 AnsiString RecordingConnection::folded(std::string_view name) {
-    AnsiString text(name);
-    std::transform(text.begin(), text.end(), text.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    });
-    return text;
+    return melvark::LowerAscii(name);
 }
 
 ProcedureScript& RecordingConnection::procedure(const AnsiString& name) {

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+/// Stepping through UTF-8, on a packaged library. No text is too damaged to be counted or cut: bytes that are no UTF-8
+/// count as nothing and stay with the character before them.
+namespace melvark {
+
+/// What stands at the front of a text.
+struct TUtf8Step {
+    char32_t Code = 0;
+    std::size_t Length = 1; ///< In bytes.
+    bool IsValid = false;   ///< False for one byte that begins no character.
+};
+
+/// Looks at the front of the text, which is not empty. Overlong forms, surrogates, cut sequences and codes above the
+/// last plane are no characters.
+TUtf8Step FirstStep(std::string_view text);
+
+std::size_t CharacterCount(std::string_view text);
+/// The first `count` characters of the text; all of it when there are no more.
+std::string_view FirstCharacters(std::string_view text, std::size_t count);
+
+} // namespace melvark
