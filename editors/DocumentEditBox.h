@@ -4,6 +4,7 @@
 #include "editors/EditTypes.h"
 #include "editwin/MelvarkEditorEditWin.h"
 #include "editwin/model/EditExceptions.h"
+#include "host/Identifier.h"
 
 #include <functional>
 

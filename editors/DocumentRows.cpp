@@ -1,8 +1,8 @@
 #include "editors/DocumentRows.h"
 
-#include "editors/EditTypes.h"
 #include "editwin/model/ColumnList.h"
 #include "editwin/model/DataGrid.h"
+#include "host/Identifier.h"
 #include "host/ValueText.h"
 
 #include <algorithm>
@@ -74,14 +74,6 @@ void SetRowParams(TLiveStoredProc& procedure, std::span<const RowParam> params, 
         } else {
             target.SetAsString(std::move(text));
         }
-    }
-}
-
-void SetIdentifier(TLiveParam& param, int id) {
-    if (id == c_NullValue) {
-        param.Clear();
-    } else {
-        param.SetAsInteger(id);
     }
 }
 

@@ -59,9 +59,6 @@ struct IdParam {
     int ID;
 };
 
-/// Sets an identifier, or null for none (c_NullValue).
-void SetIdentifier(TLiveParam& param, int id);
-
 /// The procedure calls of a save, one for each store row in order. False as soon as one reports failure: the rows
 /// inserted so far stay staged in the database, nothing is taken over. Database errors propagate.
 bool InsertRows(const AnsiString& procedure, std::span<const RowParam> params, const DocumentColumns& columns,

@@ -38,7 +38,7 @@ constexpr std::array<std::string_view, 19> c_PriceKeys{
 };
 
 EConvertError NotANumber(std::string_view text) {
-    return EConvertError(LangStr("KORDAN30\\MELVARKEDITOR\\NOTFLOATVALUE", {text}, "Hodnota %s není desetinné číslo"));
+    return EConvertError(LangStr(R"(KORDAN30\MELVARKEDITOR\NOTFLOATVALUE)", {text}, "Hodnota %s není desetinné číslo"));
 }
 
 void SendCell(TLiveParam& param, std::string_view key, const AnsiString& text, const TFormatSettings& settings) {

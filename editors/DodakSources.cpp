@@ -1,6 +1,7 @@
 #include "editors/DodakSources.h"
 
 #include "editwin/model/DataGrid.h"
+#include "host/Identifier.h"
 
 namespace melvark {
 

@@ -16,9 +16,6 @@ inline constexpr std::array<std::string_view, 3> c_DodakEditType{"DODOBJ", "DODA
 inline constexpr std::array<std::string_view, 7> c_DodObjEditType{"OBJEDNAVKA",   "OBJEDNAVKAVZOR", "SABLONA", "DODAK",
                                                                   "SKUPSKLADPOL", "DODAVATEL",      "DODAVKY"};
 
-/// The identifier that means "none"; procedures get null for it.
-inline constexpr int c_NullValue = -1;
-
 namespace melvark {
 
 /// The number of `code` in its table (compared exactly), 0 when the table lacks it.

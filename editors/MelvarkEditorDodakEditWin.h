@@ -2,6 +2,7 @@
 
 #include "editors/DocumentEditBox.h"
 #include "editors/DodakOpening.h"
+#include "host/Identifier.h"
 
 #include <vector>
 

@@ -6,16 +6,15 @@
 #include "host/LangStr.h"
 #include "host/LibraryManager.h"
 #include "host/LiveData.h"
+#include "host/widgets/ButtonGlyphs.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/Guard.h"
 #include "host/widgets/MessageBox.h"
-#include "host/widgets/Resources.h"
 #include "host/widgets/StringGrid.h"
 
 #include <QAction>
 #include <QFrame>
 #include <QMenu>
-#include <QPixmap>
 
 #include <utility>
 
@@ -80,13 +79,9 @@ void TEditBox::FormCreate() {
 }
 
 void TEditBox::FormShow() {
-    const std::pair<const char*, TQelPngBitBtn*> buttons[] = {
-        {"OK", OkBtn}, {"OKNEXT", OKDalsiBtn}, {"CANCEL", CancelBtn}};
-    for (const auto& [image, button] : buttons) {
-        TPngObject png;
-        TResources::PngImageGetBitmap(image, png, "ENGINE", 0, 0);
-        button->SetGlyph(png);
-    }
+    LoadGlyph(*OkBtn, "OK");
+    LoadGlyph(*OKDalsiBtn, "OKNEXT");
+    LoadGlyph(*CancelBtn, "CANCEL");
     ApplyColumnsSettingsToGrid();
     GoNextEditable();
     LoadWindowSettings();

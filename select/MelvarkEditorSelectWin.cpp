@@ -1,13 +1,14 @@
 #include "select/MelvarkEditorSelectWin.h"
 
 #include "host/HostServices.h"
+#include "host/Identifier.h"
 #include "host/LangStr.h"
 #include "host/LibraryManager.h"
 #include "host/LiveData.h"
+#include "host/widgets/ButtonGlyphs.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/Fonts.h"
 #include "host/widgets/Guard.h"
-#include "host/widgets/Resources.h"
 #include "host/widgets/Text.h"
 
 #include <QCheckBox>
@@ -19,19 +20,11 @@
 
 namespace {
 
-constexpr int c_NullValue = -1;
 constexpr int c_MinimumWidth = 400;
 constexpr int c_Height = 150;
-constexpr std::string_view c_KeyPrefix = "KORDAN30\\MELVARKEDITOR\\";
 
 AnsiString EditorText(const char* key, const char* fallback) {
-    return LangStr(AnsiString(c_KeyPrefix) + key, {}, fallback);
-}
-
-void LoadGlyph(TQelPngBitBtn& button, std::string_view image) {
-    TPngObject png;
-    TResources::PngImageGetBitmap(image, png, "ENGINE", 0, 0);
-    button.SetGlyph(png);
+    return LangStr(AnsiString(c_ModuleKeyPrefix) + key, {}, fallback);
 }
 
 } // namespace
@@ -130,16 +123,14 @@ QLayout* TSelectBox::CreateButtonPanel() {
 void TSelectBox::FormCreate() {
     FID = c_NullValue;
     editSelect->clear();
-    Localize(FLibraryManager, "KORDAN30\\MelvarkEditorSelectWin");
-    SelectSpeedButton->setAccessibleName(SelectSpeedButton->toolTip()); // it has no caption
+    Localize(FLibraryManager, R"(KORDAN30\MelvarkEditorSelectWin)");
+    melvark::NameAfterHint(*SelectSpeedButton);
 }
 
 void TSelectBox::FormShow() {
-    TPngObject hand;
-    TResources::PngImageGetBitmap("RUKA", hand, "ENGINE", 0, 0);
-    SelectSpeedButton->SetGlyph(hand);
-    LoadGlyph(*OkBtn, "OK");
-    LoadGlyph(*CancelBtn, "CANCEL");
+    melvark::LoadGlyph(*SelectSpeedButton, "RUKA");
+    melvark::LoadGlyph(*OkBtn, "OK");
+    melvark::LoadGlyph(*CancelBtn, "CANCEL");
 }
 
 void TSelectBox::SetUp(const RSourceSetup& setup, const RSourceArguments& arguments, TOperation check,
@@ -163,12 +154,7 @@ void TSelectBox::Check(const RSourceSetup& setup) {
     TLiveStoredProc procedure(setup.CheckProcedure);
     procedure.ParamByName(setup.DocumentParam).SetAsInteger(FArguments.DocumentID);
     procedure.ParamByName(setup.TextParam).SetAsString(melvark::ToAnsi(editSelect->text()));
-    TLiveParam& id = procedure.ParamByName(setup.IdParam);
-    if (FID == c_NullValue) {
-        id.Clear();
-    } else {
-        id.SetAsInteger(FID);
-    }
+    melvark::SetIdentifier(procedure.ParamByName(setup.IdParam), FID);
     procedure.Exec(true);
     FID = procedure.FieldByName("ID").AsInteger();
 }

@@ -127,14 +127,4 @@ TEST_F(DocumentRows, CellsTravelTrimmedAndEmptyOnesAsNull) {
     }
 }
 
-TEST_F(DocumentRows, AnIdentifierOfNoneTravelsAsNull) {
-    host_.connection.procedure("IDS").inputs({"a_NONE", "a_ZERO", "a_SOME"});
-    TLiveStoredProc procedure("IDS");
-    melvark::SetIdentifier(procedure.ParamByName("a_NONE"), -1);
-    melvark::SetIdentifier(procedure.ParamByName("a_ZERO"), 0);
-    melvark::SetIdentifier(procedure.ParamByName("a_SOME"), 31);
-    procedure.Exec(false);
-    EXPECT_THAT(host_.connection.calls(), ElementsAre("IDS(a_NONE=null, a_ZERO=0, a_SOME=31)"));
-}
-
 } // namespace
