@@ -47,6 +47,15 @@ void VisitControl(QWidget& control, const QString& name, const Visitor& visit) {
     VisitText(control, name, "Hint", control.toolTip(), &QWidget::setToolTip, visit);
 }
 
+/// An item without a hint of its own reads its caption there, which is no text to translate twice.
+void VisitItem(QAction& item, const Visitor& visit) {
+    const bool hasHint = item.toolTip() != QAction(item.text()).toolTip();
+    VisitText(item, item.objectName(), "Caption", item.text(), &QAction::setText, visit);
+    if (hasHint) {
+        VisitText(item, item.objectName(), "Hint", item.toolTip(), &QAction::setToolTip, visit);
+    }
+}
+
 bool HasOwnName(const QObject& object) {
     return !object.objectName().isEmpty() && !object.objectName().startsWith(QStringLiteral("qt_"));
 }
@@ -77,7 +86,7 @@ void VisitFormTexts(QWidget& form, const Visitor& visit) {
         if (auto* control = qobject_cast<QWidget*>(child)) {
             VisitControl(*control, control->objectName(), visit);
         } else if (auto* item = qobject_cast<QAction*>(child)) {
-            VisitText(*item, item->objectName(), "Caption", item->text(), &QAction::setText, visit);
+            VisitItem(*item, visit);
         }
     }
 }

@@ -74,6 +74,18 @@ TEST_F(FormTextsTest, VisitsMenuItemsAndSubmenus) {
                                                        "SkryteSloupce.Caption=Skryté sloupce"));
 }
 
+TEST_F(FormTextsTest, VisitsTheHintOfAMenuItemThatHasOneOfItsOwn) {
+    auto* menu = new QMenu(&form);
+    QAction* hide = menu->addAction(QStringLiteral("&Skrýt…"));
+    hide->setObjectName(QStringLiteral("SkrytSloupec"));
+    EXPECT_THAT(texts(), ElementsAre("SkrytSloupec.Caption=&Skrýt…")) << "its caption is no hint of its own";
+    hide->setToolTip(QStringLiteral("Sloupec zůstane v seznamu skrytých"));
+    EXPECT_THAT(texts(),
+                ElementsAre("SkrytSloupec.Caption=&Skrýt…", "SkrytSloupec.Hint=Sloupec zůstane v seznamu skrytých"));
+    replaceAll("Hide");
+    EXPECT_EQ(hide->toolTip(), QStringLiteral("Hide"));
+}
+
 TEST_F(FormTextsTest, LeavesOutEmptyTextsAndControlsWithoutAName) {
     named<QLabel>(QStringLiteral("lblEmpty"), QString());
     new QLabel(QStringLiteral("Bez jména"), &form);
