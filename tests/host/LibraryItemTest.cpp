@@ -1,5 +1,7 @@
 #include "host/LibraryItem.h"
 
+#include "host/LibraryManager.h"
+
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -15,6 +17,28 @@ public:
 private:
     bool& destroyed_;
 };
+
+/// A manager that is only told apart by its address.
+class Manager : public TLibraryManager {
+public:
+    int MessageBox(const AnsiString&, int) override { return 0; }
+    void Message(const AnsiString&, const AnsiString&) override {}
+    std::optional<TLookupPick> LookupList(const AnsiString&, const AnsiString&, const AnsiString&,
+                                          const AnsiString&) override {
+        return std::nullopt;
+    }
+    void LocalizeForm(TLocalizableForm&, const AnsiString&) override {}
+};
+
+TEST(LibraryItem, KeepsTheManagerThatItWasGiven) {
+    bool destroyed = false;
+    Manager first;
+    Manager second;
+    const Item one(&first, destroyed);
+    const Item other(&second, destroyed);
+    EXPECT_EQ(one.LibraryManager(), &first);
+    EXPECT_EQ(other.LibraryManager(), &second);
+}
 
 TEST(LibraryItem, WorksWithoutAManager) {
     bool destroyed = false;

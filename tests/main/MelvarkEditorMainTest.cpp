@@ -4,6 +4,7 @@
 #include "host/LibraryManager.h"
 #include "tests/main/LibraryItemFixture.h"
 
+#include <QPointer>
 #include <QPushButton>
 
 namespace {
@@ -63,9 +64,17 @@ TEST_F(LibraryItem, OnlyOkIsTrueAndTheEditorIsFreedInAnyCase) {
 }
 
 TEST_F(LibraryItem, AnErrorOfTheEditorReachesTheHostAndTheEditorIsFreed) {
-    host_.connection.procedure("MELVARKEDITORDodakCheckMaster").refusesCall(1, "Dodací list 7 je uzavřen.");
+    QPointer<QWidget> form;
+    host_.connection.procedure("MELVARKEDITORDodakCheckMaster")
+        .answersCall(1, [&](const TProcedureCall&) -> TCallResult {
+            form = QApplication::topLevelWidgets().value(0);
+            throw EDatabaseError("Dodací list 7 je uzavřen.");
+        });
+    const auto ownedByTheApplication = qApp->children().size();
     EXPECT_THROW(item_.Execute("DODAK,SABLONA", &dataSet_, nullptr), EDatabaseError);
-    EXPECT_EQ(editorsAlive(), 0u);
+    EXPECT_TRUE(form.isNull()) << "the form was built by then and is to be gone";
+    EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
+    EXPECT_EQ(qApp->children().size(), ownedByTheApplication);
 }
 
 TEST_F(LibraryItem, ACancelledPreparationIsQuiet) {
@@ -99,7 +108,7 @@ TEST_F(LibraryItem, AnUnknownDocumentTypeIsSaidInOneMessage) {
 }
 
 TEST_F(LibraryItem, TheMessageIsInTheUsersLanguage) {
-    host_.translations["KORDAN30\\MELVARKEDITOR\\NEPLATNYTYPEDITACEDOKLADU"] = "Unsupported document type";
+    host_.translations[R"(KORDAN30\MELVARKEDITOR\NEPLATNYTYPEDITACEDOKLADU)"] = "Unsupported document type";
     EXPECT_FALSE(item_.Execute("X", &dataSet_, nullptr));
     EXPECT_THAT(manager_.messages(), ElementsAre("O#: Unsupported document type"));
 }
