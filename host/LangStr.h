@@ -6,6 +6,9 @@
 #include <initializer_list>
 #include <string_view>
 
+/// Where the keys of the item editors' texts begin.
+inline constexpr std::string_view c_ModuleKeyPrefix = R"(KORDAN30\MELVARKEDITOR\)";
+
 /// The user's translation of the backslash-separated language key, or `fallback` when there is none, in either case
 /// formatted with `arguments` by Format (also when there are none: "%%" becomes "%"). Needs a current host.
 AnsiString LangStr(std::string_view key, std::initializer_list<TFormatArg> arguments, std::string_view fallback);

@@ -48,7 +48,7 @@ bool TMelvarkEditor::Execute(AnsiString aParams, TDataSet* aDataSet, TXBookmarkL
     if (workflow != c_Workflows.end()) {
         return std::invoke(workflow->Run, this, source);
     }
-    ShowNote(LangStr("KORDAN30\\MELVARKEDITOR\\NEPLATNYTYPEDITACEDOKLADU", {}, "Nepodporovaný typ editace dokladu"));
+    ShowNote(LangStr(R"(KORDAN30\MELVARKEDITOR\NEPLATNYTYPEDITACEDOKLADU)", {}, "Nepodporovaný typ editace dokladu"));
     return false;
 }
 
@@ -136,7 +136,7 @@ bool TMelvarkEditor::ObjednavkaVzorEditor(AnsiString aSource) {
 
 // The release's answer on the screens whose editor it does not bring; nothing was changed.
 bool TMelvarkEditor::RefuseMissingEditor() {
-    ShowNote(LangStr("KORDAN30\\MELVARKEDITOR\\EDITORNENIINSTALOVAN", {},
+    ShowNote(LangStr(R"(KORDAN30\MELVARKEDITOR\EDITORNENIINSTALOVAN)", {},
                      "Editor položek tohoto dokladu zatím není nainstalován"));
     return false;
 }
@@ -145,6 +145,6 @@ void TMelvarkEditor::ShowNote(const AnsiString& text) {
     if (LibraryManager()) {
         LibraryManager()->Message(text, "O#");
     } else {
-        ApplicationMessageBox(text, LangStr("KORDAN30\\MELVARKEDITOR\\ERROR", {}, "Chyba"), c_MessageBoxError);
+        ApplicationMessageBox(text, LangStr(R"(KORDAN30\MELVARKEDITOR\ERROR)", {}, "Chyba"), c_MessageBoxError);
     }
 }

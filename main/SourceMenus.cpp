@@ -9,8 +9,6 @@ namespace melvark {
 
 namespace {
 
-constexpr std::string_view c_KeyPrefix = "KORDAN30\\MELVARKEDITOR\\";
-
 constexpr std::array c_DodakEntries{
     SourceMenuEntry{1, "VLOZPOLOZKYDODAKUNAZAKLADEOBJEDNAVKY", "Vložit položky na základě objednávky",
                     "Zobrazí editor položek dodacího listu a seznam předvyplní položkami z objednávky, kterou si "
@@ -67,7 +65,7 @@ constexpr std::array c_DodObjVzorEntries{
 };
 
 AnsiString MenuText(const SourceMenuEntry& entry, std::string_view keySuffix, std::string_view builtIn) {
-    return LangStr(AnsiString(c_KeyPrefix) + AnsiString(entry.Key) + AnsiString(keySuffix), {}, builtIn);
+    return LangStr(AnsiString(c_ModuleKeyPrefix) + AnsiString(entry.Key) + AnsiString(keySuffix), {}, builtIn);
 }
 
 } // namespace

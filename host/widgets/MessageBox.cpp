@@ -48,10 +48,10 @@ QPushButton* AddButton(QMessageBox& box, const AnsiString& text, QMessageBox::Bu
 }
 
 int AskYesNo(QMessageBox& box) {
-    QPushButton* yes =
-        AddButton(box, ButtonText("KORDAN30\\MESSAGEBOX\\YES", "&Ano"), QMessageBox::YesRole, QStringLiteral("YesBtn"));
+    QPushButton* yes = AddButton(box, ButtonText(R"(KORDAN30\MESSAGEBOX\YES)", "&Ano"), QMessageBox::YesRole,
+                                 QStringLiteral("YesBtn"));
     QPushButton* no =
-        AddButton(box, ButtonText("KORDAN30\\MESSAGEBOX\\NO", "&Ne"), QMessageBox::NoRole, QStringLiteral("NoBtn"));
+        AddButton(box, ButtonText(R"(KORDAN30\MESSAGEBOX\NO)", "&Ne"), QMessageBox::NoRole, QStringLiteral("NoBtn"));
     box.setDefaultButton(yes);
     box.setEscapeButton(no);
     box.exec();
@@ -60,7 +60,7 @@ int AskYesNo(QMessageBox& box) {
 
 int Tell(QMessageBox& box) {
     QPushButton* ok =
-        AddButton(box, ButtonText("KORDAN30\\MESSAGEBOX\\OK", "OK"), QMessageBox::AcceptRole, QStringLiteral("OkBtn"));
+        AddButton(box, ButtonText(R"(KORDAN30\MESSAGEBOX\OK)", "OK"), QMessageBox::AcceptRole, QStringLiteral("OkBtn"));
     box.setDefaultButton(ok);
     box.setEscapeButton(ok);
     box.exec();

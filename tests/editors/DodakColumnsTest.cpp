@@ -144,11 +144,11 @@ TEST_F(DodakColumns, AreTheTwentySixOfTheTableInItsOrder) {
 TEST_F(DodakColumns, TakeCaptionAndHintFromTheirOwnLanguageKeys) {
     for (const ExpectedColumn& expected : expectedColumns()) {
         const AnsiString suffix = expected.keySuffix;
-        host_.translations["KORDAN30\\MELVARKEDITOR\\COLUMN" + suffix] = "caption of " + suffix;
-        host_.translations["KORDAN30\\MELVARKEDITOR\\COLUMNHINT" + suffix] = "hint of " + suffix;
+        host_.translations[R"(KORDAN30\MELVARKEDITOR\COLUMN)" + suffix] = "caption of " + suffix;
+        host_.translations[R"(KORDAN30\MELVARKEDITOR\COLUMNHINT)" + suffix] = "hint of " + suffix;
     }
     // A key column has no language key; a translation of its plain name must not reach it.
-    host_.translations["KORDAN30\\MELVARKEDITOR\\COLUMNDOBSID"] = "translated";
+    host_.translations[R"(KORDAN30\MELVARKEDITOR\COLUMNDOBSID)"] = "translated";
     const std::vector<RColumn> columns = build(false);
     for (std::size_t place = 0; place < columns.size(); ++place) {
         const AnsiString suffix = expectedColumns()[place].keySuffix;

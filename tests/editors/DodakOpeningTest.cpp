@@ -49,7 +49,7 @@ TEST_F(DodakOpening, AnUnknownEditTypeIsRefusedBeforeTheDatabaseIsAsked) {
 }
 
 TEST_F(DodakOpening, TheRefusalIsInTheUsersLanguage) {
-    host_.translations["KORDAN30\\MELVARKEDITOR\\INVALIDEDITTYPE"] = "Unknown edit type: %s";
+    host_.translations[R"(KORDAN30\MELVARKEDITOR\INVALIDEDITTYPE)"] = "Unknown edit type: %s";
     try {
         melvark::OpenDodak("X", 7, 40);
         FAIL() << "no error";

@@ -13,7 +13,7 @@ protected:
 };
 
 TEST_F(LangStrTest, UsesTheFallbackWithoutATranslation) {
-    EXPECT_EQ(LangStr("KORDAN30\\MELVARKEDITOR\\X", {"7a"}, "Hodnota %s není celé číslo"),
+    EXPECT_EQ(LangStr(R"(KORDAN30\MELVARKEDITOR\X)", {"7a"}, "Hodnota %s není celé číslo"),
               "Hodnota 7a není celé číslo");
 }
 

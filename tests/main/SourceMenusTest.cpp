@@ -92,15 +92,15 @@ TEST_F(SourceMenus, OfAnOrderTemplate) {
 }
 
 TEST_F(SourceMenus, CaptionAndHintHaveLanguageKeys) {
-    host_.translations["KORDAN30\\MELVARKEDITOR\\VLOZPOLOZKYDODAKUNAZAKLADEMELVARK"] = "From the template";
-    host_.translations["KORDAN30\\MELVARKEDITOR\\VLOZPOLOZKYDODAKUNAZAKLADEMELVARKHINT"] = "The latest lines";
+    host_.translations[R"(KORDAN30\MELVARKEDITOR\VLOZPOLOZKYDODAKUNAZAKLADEMELVARK)"] = "From the template";
+    host_.translations[R"(KORDAN30\MELVARKEDITOR\VLOZPOLOZKYDODAKUNAZAKLADEMELVARKHINT)"] = "The latest lines";
     const melvark::SourceMenuEntry& entry = melvark::c_DodakMenu.Entries[2];
     EXPECT_EQ(melvark::MenuCaption(entry), "From the template");
     EXPECT_EQ(melvark::MenuHint(entry), "The latest lines");
 }
 
 TEST_F(SourceMenus, EntriesThatShareAKeyAreToldApartByTheirBuiltInText) {
-    const AnsiString key = "KORDAN30\\MELVARKEDITOR\\VLOZPOLOZKYOBJDLEDLESKUPSKLADPOL";
+    const AnsiString key = R"(KORDAN30\MELVARKEDITOR\VLOZPOLOZKYOBJDLEDLESKUPSKLADPOL)";
     host_.translations[key] = "By the supplier's price list";
     host_.translations[key + "|Vložit položky dle dodávek dodavatele"] = "By the supplier's deliveries";
     EXPECT_EQ(melvark::MenuCaption(melvark::c_DodObjMenu.Entries[5]), "By the supplier's price list");

@@ -186,7 +186,7 @@ TEST_F(SourcePopupMenu, TheTemplatesMenuLacksTheTemplateAndItsEntriesDoWhatTheyS
 }
 
 TEST_F(SourcePopupMenu, CaptionsAreShownLetterForLetter) {
-    host_.translations["KORDAN30\\MELVARKEDITOR\\VLOZPOLOZKYDODAKUNAZAKLADEMELVARK"] = "Lines & prices";
+    host_.translations[R"(KORDAN30\MELVARKEDITOR\VLOZPOLOZKYDODAKUNAZAKLADEMELVARK)"] = "Lines & prices";
     PopupDriver menu([](QMenu& popup) {
         EXPECT_EQ(captions(popup)[2], "Lines && prices") << "a doubled ampersand is shown as one";
         dismiss(popup);

@@ -70,7 +70,7 @@ TEST_F(HostApplicationTest, GivesFormatsClockAndImages) {
     EXPECT_EQ(host_.FormatSettings(), TFormatSettings::Czech());
     EXPECT_EQ(host_.Now(), now_);
     EXPECT_FALSE(host_.ImageData("RUKA", "ENGINE").empty());
-    EXPECT_EQ(host_.Translation("KORDAN30\\MESSAGEBOX\\YES", "&Ano"), std::nullopt);
+    EXPECT_EQ(host_.Translation(R"(KORDAN30\MESSAGEBOX\YES)", "&Ano"), std::nullopt);
 }
 
 TEST(SystemClock, TellsTheLocalTime) {

@@ -132,7 +132,7 @@ TEST_F(HostLibraryManagerTest, ReplacesTheTextsOfAFormThatTheLanguageHas) {
         {.connection = host_.connection, .settings = TFormatSettings::Czech(), .languages = english, .trace = trace_});
     TestForm form;
 
-    manager.LocalizeForm(form, "KORDAN30\\MelvarkEditorSelectWin");
+    manager.LocalizeForm(form, R"(KORDAN30\MelvarkEditorSelectWin)");
 
     EXPECT_EQ(form.button, "&Cancel");
     EXPECT_EQ(form.caption, ""); // the catalogue has none: the built-in text stays

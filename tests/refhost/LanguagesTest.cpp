@@ -23,7 +23,7 @@ TEST(Languages, EnglishComesFromTheCatalogues) {
 }
 
 TEST(Languages, AKeyThatNoCatalogueHasGivesNothing) {
-    EXPECT_EQ(Languages("en").translation("KORDAN30\\NIKDE", "Nikde"), std::nullopt);
+    EXPECT_EQ(Languages("en").translation(R"(KORDAN30\NIKDE)", "Nikde"), std::nullopt);
 }
 
 TEST(Languages, EntriesThatShareAKeyAreToldApartByTheirBuiltInText) {

@@ -362,7 +362,7 @@ TEST_F(SelectBox, BeforeASetUpListAndOkAskNobody) {
     EXPECT_EQ(result, c_ResultOk);
     EXPECT_THAT(manager.lookups(), IsEmpty());
     EXPECT_THAT(host.connection.calls(), IsEmpty());
-    EXPECT_THAT(manager.localizedSections(), ElementsAre("KORDAN30\\MelvarkEditorSelectWin"));
+    EXPECT_THAT(manager.localizedSections(), ElementsAre(R"(KORDAN30\MelvarkEditorSelectWin)"));
 }
 
 TEST_F(SelectBox, AnOrderAsSourceOffersNoTransferOptions) {

@@ -167,16 +167,16 @@ TEST_F(FormTest, EnterClicksNoButtonUnlessOneIsTheDefault) {
 
 TEST_F(FormTest, WithoutALibraryManagerTheBuiltInTextsStay) {
     form.SetCaption("Výběr");
-    form.Localize(nullptr, "KORDAN30\\ProbeForm");
+    form.Localize(nullptr, R"(KORDAN30\ProbeForm)");
     EXPECT_EQ(form.Caption(), "Výběr");
 }
 
 TEST_F(FormTest, TheLibraryManagerGetsTheSection) {
     RecordingLibraryManager manager;
-    manager.formTexts["KORDAN30\\ProbeForm\\Form\\Caption"] = "Selection";
+    manager.formTexts[R"(KORDAN30\ProbeForm\Form\Caption)"] = "Selection";
     form.SetCaption("Výběr");
-    form.Localize(&manager, "KORDAN30\\ProbeForm");
-    EXPECT_THAT(manager.localizedSections(), ElementsAre("KORDAN30\\ProbeForm"));
+    form.Localize(&manager, R"(KORDAN30\ProbeForm)");
+    EXPECT_THAT(manager.localizedSections(), ElementsAre(R"(KORDAN30\ProbeForm)"));
     EXPECT_EQ(form.Caption(), "Selection");
 }
 

@@ -86,7 +86,7 @@ TEST(MessageBox, ShowsTextCaptionIconAndCzechButtons) {
 TEST(MessageBox, ButtonsSpeakTheUsersLanguage) {
     RecordingHost host;
     const TScopedHost scope(host);
-    host.translations["KORDAN30\\MESSAGEBOX\\YES"] = "&Yes";
+    host.translations[R"(KORDAN30\MESSAGEBOX\YES)"] = "&Yes";
     ModalDriver driver(c_Box, [](QWidget& box) {
         EXPECT_EQ(buttonOf(box, "YesBtn")->text(), QStringLiteral("&Yes"));
         box.close();
