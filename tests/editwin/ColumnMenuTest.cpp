@@ -134,6 +134,18 @@ TEST_F(ColumnMenu, ANotEditableColumnKeepsTheCursorOnTheEditedCell) {
     EXPECT_EQ(columnAt(c_CountCol).Editable, eNone);
 }
 
+TEST_F(ColumnMenu, ARefusedValueLeavesItsColumnEditable) {
+    open();
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("x"));
+    openColumnMenu(c_CountCol);
+    pick(form->NeeditovatelnySloupec);
+    EXPECT_THAT(manager.boxes(), ElementsAre("16: Hodnota x není celé číslo"));
+    EXPECT_EQ(openCellText(), "2,2");
+    EXPECT_EQ(columnAt(c_CountCol).Editable, eAuto);
+    EXPECT_EQ(editabilityItems(), "(A)MN") << "the mark is taken back, too";
+}
+
 TEST_F(ColumnMenu, AnEditedColumnThatStaysEditableKeepsItsOpenEditor) {
     open();
     openCell(c_CountCol, 2);
