@@ -493,6 +493,40 @@ TEST_F(DodakEditorSaving, EmptiesStagesTakesOverAndClosesWithOk) {
               "MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=null, a_DDOBID_ZDROJ=null)");
 }
 
+TEST_F(DodakEditorSaving, OneEmptyRowIsSentAndTakenOver) {
+    scriptDodakEditor(host_.connection, {});
+    const auto editor = open();
+    EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "", Qt::Key_Return, Qt::ControlModifier); }), c_ResultOk);
+    EXPECT_THAT(names(host_.connection.calls()),
+                ElementsAre("MELVARKEDITORResetTemp", "MELVARKEDITORDodakInsertToTemp", "MELVARKEDITORDodakTempUloz",
+                            "MELVARKEDITORNASTAVENIUlozNastaveniOkna"));
+    EXPECT_THAT(host_.connection.calls()[1], testing::Not(HasSubstr("\""))) << "every parameter is null";
+}
+
+TEST_F(DodakEditorSaving, InAPointLocaleThePointGoesAllTheWay) {
+    host_.formatSettings = TFormatSettings::English();
+    scriptDodakEditor(host_.connection, {{{"SKLADPOL", "Mléko"},
+                                          {"MNOZSTVI", "10"},
+                                          {"SLEVA", "2.5"},
+                                          {"JEDNCENABSESLEVOU", "19.5"},
+                                          {"CENABSESLEVOU", "195.00"}}});
+    const auto editor = open();
+    EXPECT_EQ(showAnd(*editor,
+                      [&] {
+                          type(*editor, "1,5"); // the comma of a habit
+                          EXPECT_EQ(row(*editor, 1, {"MNOZSTVI"}), "1.5");
+                          type(*editor, "20.25", Qt::Key_Return, Qt::ControlModifier);
+                      }),
+              c_ResultOk);
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakVypocetCen"),
+                ElementsAre(AllOf(HasSubstr("a_JEDNCENABSESLEVOU=19.5, "), HasSubstr("a_CENABSESLEVOU=195, "),
+                                  HasSubstr("a_SLEVA=2.5, a_MNOZSTVI=1.5)")),
+                            AllOf(HasSubstr("a_JEDNCENABSESLEVOU=20.25, "), HasSubstr("a_MNOZSTVI=1.5)"))));
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakInsertToTemp"),
+                ElementsAre(AllOf(HasSubstr("a_MNOZSTVI=\"1.5\""), HasSubstr("a_SLEVA=\"2.5\""),
+                                  HasSubstr("a_JEDNCENABSL=\"20.25\""), HasSubstr("a_CENABSL=\"195.00\""))));
+}
+
 TEST_F(DodakEditorSaving, TheOkButtonSavesToo) {
     const auto editor = open();
     const int result = showAnd(
