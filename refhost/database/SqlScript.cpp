@@ -55,18 +55,71 @@ std::string_view partText(std::string_view name, std::string_view path, std::spa
     return part->Text;
 }
 
+/// Takes a line of the header that declares something; false for any other line.
+bool takeDeclaration(SqlScript& script, std::string_view line, std::string_view path) {
+    if (const auto input = after(line, "-- in:"); !input.empty()) {
+        script.Inputs.push_back(readParameter(input, path));
+    } else if (const auto output = after(line, "-- out:"); !output.empty()) {
+        script.Outputs.emplace_back(output);
+    } else if (const auto columns = after(line, "-- returns:"); !columns.empty()) {
+        script.Results.push_back(readNames(columns));
+    } else if (after(line, "-- after failure:") == "staging refused") {
+        script.FailureRefusesStaging = true;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+/// Whether a comment has the form of a declaration: "-- word:" or "-- two words:". What refuses what is told so too.
+bool looksLikeDeclaration(std::string_view line) {
+    const std::string_view words = TrimText(line.substr(0, std::min(line.find(':'), line.size()))).substr(2);
+    const auto isLetterOrBlank = [](char c) { return c == ' ' || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+    return line.find(':') != std::string_view::npos && TrimText(words) != "Refusals" &&
+           std::ranges::all_of(words, isLetterOrBlank) && std::ranges::count(TrimText(words), ' ') <= 2;
+}
+
+[[noreturn]] void refuseLine(std::string_view line, std::string_view path) {
+    throw std::logic_error(std::string(path) + ": this declares nothing that there is: " + std::string(line));
+}
+
+/// A run of comment lines of the header either declares something in every line, or is prose.
+void readParagraph(SqlScript& script, std::span<const std::string_view> lines, std::string_view path) {
+    std::vector<std::string_view> others;
+    for (const std::string_view line : lines) {
+        if (!takeDeclaration(script, line, path)) {
+            others.push_back(line);
+        }
+    }
+    if (!others.empty() && (others.size() < lines.size() || std::ranges::all_of(others, looksLikeDeclaration))) {
+        refuseLine(others.front(), path);
+    }
+}
+
+/// Takes the comments at the head of a text off it.
+void readHeader(SqlScript& script, std::string_view& text, std::string_view path) {
+    std::vector<std::string_view> paragraph;
+    while (text.starts_with("--") && after(text.substr(0, text.find('\n')), "-- include:").empty()) {
+        const std::string_view line = takeLine(text);
+        if (TrimText(line) != "--") {
+            paragraph.push_back(line);
+            continue;
+        }
+        readParagraph(script, paragraph, path);
+        paragraph.clear();
+    }
+    readParagraph(script, paragraph, path);
+}
+
 void readText(SqlScript& script, std::string_view text, std::string_view path, std::span<const SqlFile> files) {
+    readHeader(script, text, path);
     while (!text.empty()) {
         const std::string_view line = takeLine(text);
-        if (const auto input = after(line, "-- in:"); !input.empty()) {
-            script.Inputs.push_back(readParameter(input, path));
-        } else if (const auto output = after(line, "-- out:"); !output.empty()) {
-            script.Outputs.emplace_back(output);
-        } else if (const auto columns = after(line, "-- returns:"); !columns.empty()) {
-            script.Results.push_back(readNames(columns));
-        } else if (after(line, "-- after failure:") == "staging refused") {
-            script.FailureRefusesStaging = true;
-        } else if (const auto part = after(line, "-- include:"); !part.empty()) {
+        SqlScript misplaced;
+        if (takeDeclaration(misplaced, line, path)) {
+            refuseLine(line, path);
+        }
+        if (const auto part = after(line, "-- include:"); !part.empty()) {
             readText(script, partText(part, path, files), path, files);
         } else {
             script.Text.append(line).append("\n");

@@ -19,6 +19,9 @@ namespace refhost {
 ///     -- after failure: staging refused  a failure closes the save that is under way until its rows are emptied
 ///     -- include: recalculation          (anywhere) the text of parts/recalculation.sql stands here
 ///
+/// A run of comment lines of the header that has one declaration, or nothing but lines of that form, has to declare
+/// something in every line: a misspelt declaration is an error and no comment. The build reads all of them once.
+///
 /// This class reads the text only; SQLiteProcedure runs it.
 struct SqlScript {
     struct Parameter {
@@ -35,7 +38,7 @@ struct SqlScript {
 };
 
 /// Reads a file of `files`, which also holds the parts that it includes. Throws std::logic_error, naming the file, for
-/// a header line or part that does not exist: a mistake in our own files.
+/// a declaration or part that does not exist, and for a declaration behind the header.
 SqlScript readSqlScript(const SqlFile& file, std::span<const SqlFile> files);
 
 /// The script at `path` of `files`. Throws std::logic_error when there is none.

@@ -41,5 +41,34 @@ TEST(SqlScript, AMissingPartOrAnUnknownKindIsOurMistake) {
     EXPECT_THROW(readSqlScript(c_Files[3], c_Files), std::logic_error);
 }
 
+/// Read as a procedure of its own.
+SqlScript scriptOf(std::string_view text) {
+    const SqlFile file{"procedures/X.sql", text};
+    return readSqlScript(file, std::span(&file, 1));
+}
+
+TEST(SqlScript, AMisspeltDeclarationIsOurMistake) {
+    for (const char* text : {
+             "-- Does something.\n--\n-- after failures: staging refused\n\nselect 1;\n",
+             "-- Does something.\n--\n-- After failure: staging refused\n\nselect 1;\n",
+             "-- Does something.\n--\n-- after failure: staging is refused\n\nselect 1;\n",
+             "-- Does something.\n--\n-- after failure:\n\nselect 1;\n",
+             "-- Does something.\n--\n-- in: a_ID integer\n-- return: ID\n\nselect 1;\n",
+             "-- Does something.\n--\n--in: a_ID integer\n\nselect 1;\n",
+             "-- Does something.\n-- in: a_ID integer\n\nselect 1;\n",
+             "-- Does something.\n\n-- in: a_ID integer\nselect 1;\n",
+         }) {
+        EXPECT_THROW(scriptOf(text), std::logic_error) << text;
+    }
+}
+
+TEST(SqlScript, ProseMayHaveColons) {
+    const SqlScript script = scriptOf("-- Two things: one\n-- and another.\n--\n-- a_ID: the one.\n--\n"
+                                      "-- Refusals: ML001 it is wrong.\n--\n-- in: a_ID\n\n"
+                                      "-- Said once more: it is.\nselect 1;\n");
+    EXPECT_EQ(script.Inputs.size(), 1U);
+    EXPECT_NE(script.Text.find("select 1;"), std::string::npos);
+}
+
 } // namespace
 } // namespace refhost

@@ -1,4 +1,4 @@
--- Begins a save: empties this session's rows and opens them for new ones. Refuses nothing.
+-- Begins a save, for which it empties this session's rows and opens them for new ones. Refuses nothing.
 
 delete from NOTE_STAGED;
 delete from ORDER_STAGED;
