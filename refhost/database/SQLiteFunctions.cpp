@@ -155,6 +155,30 @@ void typed(const SQLiteCall& call) {
     }
 }
 
+/// Whether all arguments behind the first are null or texts as the tables keep decimals, with so many decimals at most.
+void areDecimals(const SQLiteCall& call) {
+    const auto decimals = static_cast<std::size_t>(call.integer(0));
+    for (std::size_t i = 1; i < call.count(); ++i) {
+        const auto text = call.text(i);
+        const auto number = text ? TextToDecimalText(*text) : std::nullopt;
+        if (text && (number != text || digitCounts(*text).second > decimals)) {
+            call.give(0);
+            return;
+        }
+    }
+    call.give(1);
+}
+
+void typedId(const SQLiteCall& call) {
+    if (const auto text = call.text(0)) {
+        const std::string trimmed(TrimText(*text));
+        const auto number = TextToInt(trimmed);
+        if (!trimmed.empty() && !(number && *number <= 0)) {
+            call.give(trimmed);
+        }
+    }
+}
+
 void shown(const SQLiteCall& call) {
     if (const auto text = call.text(0)) {
         call.give(shownText(*text));
@@ -231,6 +255,8 @@ constexpr Entry c_Functions[] = {
     {"parse_moment", 1, sqliteFunction<parseMoment>},
     {"as_integer", 1, sqliteFunction<asInteger>},
     {"typed", 1, sqliteFunction<typed>},
+    {"are_decimals", -1, sqliteFunction<areDecimals>},
+    {"typed_id", 1, sqliteFunction<typedId>},
     {"shown", 1, sqliteFunction<shown>},
     {"number_text", 1, sqliteFunction<numberText>},
     {"total_text", 1, sqliteFunction<totalText>},

@@ -12,6 +12,8 @@ class SQLiteSession;
 ///     parse_moment(text)                     ISO date and time
 ///     as_integer(text)                       an integer of 32 bits, null for what is none
 ///     typed(text)                            without blanks around it; null when nothing is left
+///     are_decimals(n, text, …)               whether the texts are canonical decimals of at most n decimals, or null
+///     typed_id(text)                         likewise; an identifier that is 0 or negative is none
 ///     shown(text)                            cut to the length at which sentences show it
 ///     number_text(decimal)                   as the user reads numbers; likewise
 ///     total_text(decimal)                    with two decimals,

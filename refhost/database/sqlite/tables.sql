@@ -1,6 +1,7 @@
 -- The company's tables on the embedded engine. The other engine keeps the same tables and columns.
 --
--- Decimals are canonical decimal texts ("-0.5": point, no needless zeros), never floating point. Dates are ISO texts
+-- Decimals are canonical decimal texts ("-0.5": point, no needless zeros), never floating point; are_decimals(n, …) holds
+-- them to that and to n decimals at most. Dates are ISO texts
 -- ("2027-02-01"), moments "2027-02-01 13:45:00". Flags are 0 or 1. Names sort by Czech rules because their columns say so.
 
 create table UZIVATEL (
@@ -23,7 +24,7 @@ create table DODAVATEL (
 create table DPH (
     ID integer primary key autoincrement,
     NAZEV text not null collate CZECH unique check (NAZEV <> ''),
-    SAZBA text not null,
+    SAZBA text not null check (are_decimals(2, SAZBA) and cast(SAZBA as real) between 0 and 100),
     PLATIOD text not null,
     PLATIDO text check (PLATIDO >= PLATIOD)
 ) strict;
@@ -61,7 +62,7 @@ create table SKLADPOL (
     NAZEV text not null collate CZECH unique check (NAZEV <> ''),
     SSP3ID integer not null references SKUPSPOL3 (ID),
     DPHID integer not null references DPH (ID),
-    TRVANLIVOSTDNU integer check (TRVANLIVOSTDNU >= 0),
+    TRVANLIVOSTDNU integer check (TRVANLIVOSTDNU between 0 and 36500),
     AKTIVNI integer not null default 1 check (AKTIVNI in (0, 1))
 ) strict;
 create index SKLADPOL_SSP3ID on SKLADPOL (SSP3ID);
@@ -72,7 +73,8 @@ create table SKPL (
     SKLPID integer not null references SKLADPOL (ID),
     PORADI integer not null check (PORADI in (0, 1, 2)),
     NAZEV text not null collate CZECH check (NAZEV <> ''),
-    FAKTOR text not null check (PORADI <> 0 or FAKTOR = '1'),
+    FAKTOR text not null
+        check (are_decimals(6, FAKTOR) and cast(FAKTOR as real) > 0 and (PORADI <> 0 or FAKTOR = '1')),
     unique (SKLPID, PORADI),
     unique (SKLPID, NAZEV),
     unique (ID, SKLPID)
@@ -85,8 +87,8 @@ create table DODCENIK (
     SKLPID integer not null references SKLADPOL (ID),
     PLATIOD text not null,
     PLATIDO text check (PLATIDO >= PLATIOD),
-    CENA text not null,
-    SLEVA text not null default '0'
+    CENA text not null check (are_decimals(6, CENA)),
+    SLEVA text not null default '0' check (are_decimals(2, SLEVA) and cast(SLEVA as real) between 0 and 100)
 ) strict;
 create index DODCENIK_DODVID on DODCENIK (DODVID, SKLPID, PLATIOD);
 
@@ -138,8 +140,8 @@ create table DODOBJPOL (
     SKPLID integer not null,
     SKLDID integer not null references SKLAD (ID),
     DODVID integer references DODAVATEL (ID),
-    MNOZSTVI text not null check (MNOZSTVI <> '0'),
-    DODANO text not null default '0',
+    MNOZSTVI text not null check (are_decimals(6, MNOZSTVI) and MNOZSTVI <> '0'),
+    DODANO text not null default '0' check (are_decimals(6, DODANO)),
     KOMPLETNI integer not null default 0 check (KOMPLETNI in (0, 1)),
     POPIS text,
     KOMENTAR text,
@@ -167,8 +169,8 @@ create table DODAKPOL (
     SKLPID integer not null references SKLADPOL (ID),
     SKLDID integer not null references SKLAD (ID),
     DPHID integer references DPH (ID),
-    MNOZSTVI text not null check (MNOZSTVI <> '0'),
-    SLEVA text,
+    MNOZSTVI text not null check (are_decimals(6, MNOZSTVI) and MNOZSTVI <> '0'),
+    SLEVA text check (are_decimals(2, SLEVA) and cast(SLEVA as real) between 0 and 100),
     JEDNCENABBEZSLEVY text,
     JEDNDPHABEZSLEVY text,
     JEDNDPHBBEZSLEVY text,
@@ -187,7 +189,11 @@ create table DODAKPOL (
     CENASBEZSLEVY text,
     TRVANLIVOST text,
     DOBSID integer references DODOBJPOL (ID) on delete set null,
-    unique (DODKID, PORADI)
+    unique (DODKID, PORADI),
+    check (are_decimals(6, JEDNCENABBEZSLEVY, JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY,
+                        JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, JEDNCENASSESLEVOU)),
+    check (are_decimals(2, CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU,
+                        CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, CENASBEZSLEVY))
 ) strict;
 create index DODAKPOL_DOBSID on DODAKPOL (DOBSID);
 
@@ -198,6 +204,7 @@ create table DODAKZDROJ (
     DODKIDZDROJ integer references DODAK (ID) on delete cascade,
     DDOBIDZDROJ integer references DODOBJEDNAVKA (ID) on delete cascade,
     check ((DODKIDZDROJ is null) <> (DDOBIDZDROJ is null)),
+    check (DODKIDZDROJ <> DODKID),
     unique (DODKID, DODKIDZDROJ),
     unique (DODKID, DDOBIDZDROJ)
 ) strict;
@@ -208,6 +215,7 @@ create table DODOBJZDROJ (
     DODKIDZDROJ integer references DODAK (ID) on delete cascade,
     DDOBIDZDROJ integer references DODOBJEDNAVKA (ID) on delete cascade,
     check ((DODKIDZDROJ is null) <> (DDOBIDZDROJ is null)),
+    check (DDOBIDZDROJ <> DDOBID),
     unique (DDOBID, DODKIDZDROJ),
     unique (DDOBID, DDOBIDZDROJ)
 ) strict;

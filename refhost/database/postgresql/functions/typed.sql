@@ -22,6 +22,18 @@ begin
 end
 $$;
 
+-- An identifier that came as a text, without the blanks around it; null when nothing is left, and for 0 and negative
+-- ones, which mean none. What is no integer stays as it is, to be named by a refusal.
+create function typed_id(value text) returns text
+language plpgsql immutable as $$
+begin
+    if as_integer(value) <= 0 then
+        return null;
+    end if;
+    return typed(value);
+end
+$$;
+
 -- A number with a point or comma; null for a blank text too. Refusals, which name the label: ML001 no number, ML005 more
 -- than 15 digits before the point or 50 after it, ML006 more than `decimals` after it.
 create function parse_number(value text, label text default 'Hodnota', decimals integer default null) returns numeric

@@ -4,7 +4,7 @@
 --
 -- a_DDOBID is the source, null for the latest orders.
 --
--- Refusals: ML012 the document does not exist, ML021 the source does not exist.
+-- Refusals: ML012 the document does not exist, ML021 the source does not exist, ML027 it is the document itself.
 
 create function MELVARKEDITORDodObjGetPolozkyByObjednavka(
     a_DDOBIDMASTER integer default null,
@@ -12,6 +12,7 @@ create function MELVARKEDITORDodObjGetPolozkyByObjednavka(
 returns setof order_row
 language sql stable as $$
     select refuse_unknown_order(a_DDOBIDMASTER);
+    select refuse_own_order(a_DDOBIDMASTER, a_DDOBID);
 
     select refuse('ML021', 'Objednávka', a_DDOBID::text)
     where a_DDOBID > 0 and not exists (select from DODOBJEDNAVKA where ID = a_DDOBID);

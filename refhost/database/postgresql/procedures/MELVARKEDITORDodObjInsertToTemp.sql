@@ -28,8 +28,8 @@ declare
     staged DODOBJPOL;
 begin
     perform refuse_closed_staging();
-    if typed(concat(a_SKLADPOL, a_SKLAD, a_DODAVATEL, a_SKPLID, a_MNOZSTVI, a_JEDNOTKY,
-                    a_SKPLIDV1, a_MNOZSTVIV1, a_JEDNOTKYV1, a_SKPLIDV2, a_MNOZSTVIV2, a_JEDNOTKYV2,
+    if typed(concat(a_SKLADPOL, a_SKLAD, a_DODAVATEL, typed_id(a_SKPLID), a_MNOZSTVI, a_JEDNOTKY,
+                    typed_id(a_SKPLIDV1), a_MNOZSTVIV1, a_JEDNOTKYV1, typed_id(a_SKPLIDV2), a_MNOZSTVIV2, a_JEDNOTKYV2,
                     a_POPIS, a_KOMENTAR)) is null
     then
         return;
@@ -44,11 +44,11 @@ begin
     staged.POPIS := typed(a_POPIS);
     staged.KOMENTAR := typed(a_KOMENTAR);
 
-    sent[0] := row(parse_number(typed(a_MNOZSTVI), 'Množství', 6), typed(a_SKPLID), typed(a_JEDNOTKY));
+    sent[0] := row(parse_number(typed(a_MNOZSTVI), 'Množství', 6), typed_id(a_SKPLID), typed(a_JEDNOTKY));
     sent[1] := row(parse_number(typed(a_MNOZSTVIV1), 'Množství ve vedlejší jednotce 1', 6),
-                   typed(a_SKPLIDV1), typed(a_JEDNOTKYV1));
+                   typed_id(a_SKPLIDV1), typed(a_JEDNOTKYV1));
     sent[2] := row(parse_number(typed(a_MNOZSTVIV2), 'Množství ve vedlejší jednotce 2', 6),
-                   typed(a_SKPLIDV2), typed(a_JEDNOTKYV2));
+                   typed_id(a_SKPLIDV2), typed(a_JEDNOTKYV2));
     perform refuse_wrong_unit(staged.SKLPID, typed(a_SKLADPOL), sent);
 
     for slot in 0..2 loop

@@ -6,7 +6,8 @@
 -- a_DDOBID_ZDROJ, a_DDOBIDVZOR_ZDROJ, a_DODKID_ZDROJ: the order, template or note that the rows were taken from, null for
 -- none.
 --
--- Refusals: ML040, ML041 no save is under way; ML012, ML013 the document is gone or closed; ML055 a source is gone.
+-- Refusals: ML040, ML041 no save is under way; ML012, ML013 the document is gone or closed; ML027 it is its own
+-- source; ML055 a source is gone.
 --
 -- after failure: staging refused
 
@@ -23,6 +24,8 @@ begin
     -- Saves of the same document follow one another.
     perform from DODOBJEDNAVKA o where o.ID = a_DDOBID for no key update;
     perform refuse_closed_order(a_DDOBID);
+    perform refuse_own_order(a_DDOBID, a_DDOBID_ZDROJ);
+    perform refuse_own_order(a_DDOBID, a_DDOBIDVZOR_ZDROJ);
     perform refuse_unknown_source(null, a_DDOBID_ZDROJ);
     perform refuse_unknown_source(null, a_DDOBIDVZOR_ZDROJ);
     perform refuse_unknown_source(a_DODKID_ZDROJ, null);

@@ -5,7 +5,7 @@
 --
 -- a_DODKIDMASTER is the source, null for the template; a_DODKID the note that is edited.
 --
--- Refusals: ML010 the note does not exist, ML021 the source does not exist.
+-- Refusals: ML010 the note does not exist, ML021 the source does not exist, ML027 it is the note itself.
 
 create function MELVARKEDITORDodakGetPolozkyByDodak(
     a_DODKIDMASTER integer default null,
@@ -15,6 +15,7 @@ create function MELVARKEDITORDodakGetPolozkyByDodak(
 returns setof note_row
 language sql stable as $$
     select refuse_unknown_note(a_DODKID);
+    select refuse_own_note(a_DODKID, a_DODKIDMASTER);
 
     select refuse('ML021', 'Dodací list', a_DODKIDMASTER::text)
     where a_DODKIDMASTER > 0 and not exists (select from DODAK where ID = a_DODKIDMASTER);

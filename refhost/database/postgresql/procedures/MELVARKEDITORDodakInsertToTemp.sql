@@ -39,7 +39,7 @@ declare
     staged DODAKPOL;
 begin
     perform refuse_closed_staging();
-    if typed(concat(a_DOBSID, a_SKLADPOL, a_SKLAD, a_MNOZSTVI, a_DPH, a_SLEVA,
+    if typed(concat(typed_id(a_DOBSID), a_SKLADPOL, a_SKLAD, a_MNOZSTVI, a_DPH, a_SLEVA,
                     a_JEDNCENABSL, a_JEDNDPHASL, a_JEDNDPHBSL, a_JEDNCENASSL,
                     a_JEDNCENAB, a_JEDNDPHA, a_JEDNDPHB, a_JEDNCENAS,
                     a_CENABSL, a_DPHASL, a_DPHBSL, a_CENASSL, a_CENAB, a_DPHA, a_DPHB, a_CENAS, a_TRVANLIVOST)) is null
@@ -52,7 +52,7 @@ begin
     staged.SKLPID := (select i.ID from SKLADPOL i where i.NAZEV = typed(a_SKLADPOL));
     staged.SKLDID := (select s.ID from SKLAD s where s.NAZEV = typed(a_SKLAD));
     staged.DPHID := note_line_rate(typed(a_DPH));
-    staged.DOBSID := note_line_order_line(typed(a_DOBSID), staged.SKLPID);
+    staged.DOBSID := note_line_order_line(typed_id(a_DOBSID), staged.SKLPID);
 
     staged.MNOZSTVI := coalesce(parse_number(typed(a_MNOZSTVI), 'Množství', 6), 0);
     discount := parse_number(typed(a_SLEVA), 'Sleva', 2);

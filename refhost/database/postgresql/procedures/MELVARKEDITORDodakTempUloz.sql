@@ -4,8 +4,9 @@
 --
 -- a_DODKID_ZDROJ, a_DDOBID_ZDROJ: the note or order that the rows were taken from, null for none.
 --
--- Refusals: ML040, ML041 no save is under way; ML010, ML011 the note is gone or closed; ML055 a source is gone; ML053 a
--- VAT rate is not valid on the note's day; ML049, ML054 an order line is gone or was complete before.
+-- Refusals: ML040, ML041 no save is under way; ML010, ML011 the note is gone or closed; ML027 it is its own source;
+-- ML055 a source is gone; ML053 a VAT rate is not valid on the note's day; ML049, ML054 an order line is gone or was
+-- complete before.
 --
 -- after failure: staging refused
 
@@ -26,6 +27,7 @@ begin
     order by p.ID for no key update;
 
     perform refuse_closed_note(a_DODKID);
+    perform refuse_own_note(a_DODKID, a_DODKID_ZDROJ);
     perform refuse_unknown_source(a_DODKID_ZDROJ, a_DDOBID_ZDROJ);
 
     perform refuse('ML053', r.NAZEV, date_text(d.DATUM))

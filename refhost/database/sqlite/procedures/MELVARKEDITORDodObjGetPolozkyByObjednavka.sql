@@ -4,12 +4,13 @@
 --
 -- a_DDOBID is the source, null for the latest orders.
 --
--- Refusals: ML012 the document does not exist, ML021 the source does not exist.
+-- Refusals: ML012 the document does not exist, ML021 the source does not exist, ML027 it is the document itself.
 --
 -- in: a_DDOBIDMASTER integer
 -- in: a_DDOBID integer
 
 select refuse_unknown_order(:a_DDOBIDMASTER) as refusal;
+select refuse_own_order(:a_DDOBIDMASTER, :a_DDOBID) as refusal;
 
 select refuse('ML021', 'Objednávka', :a_DDOBID) as refusal
 where :a_DDOBID > 0 and not exists (select 1 from DODOBJEDNAVKA where ID = :a_DDOBID);

@@ -26,9 +26,9 @@ delete from ORDER_SENT;
 delete from ORDER_SENT_QUANTITY;
 
 insert into ORDER_SENT_QUANTITY (SLOT, LABEL, MNOZSTVI, SKPLID, JEDNOTKY)
-values (0, 'Množství', typed(:a_MNOZSTVI), typed(:a_SKPLID), typed(:a_JEDNOTKY)),
-       (1, 'Množství ve vedlejší jednotce 1', typed(:a_MNOZSTVIV1), typed(:a_SKPLIDV1), typed(:a_JEDNOTKYV1)),
-       (2, 'Množství ve vedlejší jednotce 2', typed(:a_MNOZSTVIV2), typed(:a_SKPLIDV2), typed(:a_JEDNOTKYV2));
+values (0, 'Množství', typed(:a_MNOZSTVI), typed_id(:a_SKPLID), typed(:a_JEDNOTKY)),
+       (1, 'Množství ve vedlejší jednotce 1', typed(:a_MNOZSTVIV1), typed_id(:a_SKPLIDV1), typed(:a_JEDNOTKYV1)),
+       (2, 'Množství ve vedlejší jednotce 2', typed(:a_MNOZSTVIV2), typed_id(:a_SKPLIDV2), typed(:a_JEDNOTKYV2));
 
 insert into ORDER_SENT (SKLADPOL, SKLAD, DODAVATEL, POPIS, KOMENTAR)
 select typed(:a_SKLADPOL), typed(:a_SKLAD), typed(:a_DODAVATEL), typed(:a_POPIS), typed(:a_KOMENTAR)

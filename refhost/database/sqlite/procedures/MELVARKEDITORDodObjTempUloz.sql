@@ -6,7 +6,8 @@
 -- a_DDOBID_ZDROJ, a_DDOBIDVZOR_ZDROJ, a_DODKID_ZDROJ: the order, template or note that the rows were taken from, null for
 -- none.
 --
--- Refusals: ML040, ML041 no save is under way; ML012, ML013 the document is gone or closed; ML055 a source is gone.
+-- Refusals: ML040, ML041 no save is under way; ML012, ML013 the document is gone or closed; ML027 it is its own
+-- source; ML055 a source is gone.
 --
 -- in: a_DDOBID integer
 -- in: a_DDOBID_ZDROJ integer
@@ -17,6 +18,8 @@
 select refuse_closed_staging() as refusal;
 
 select refuse_closed_order(:a_DDOBID) as refusal;
+select refuse_own_order(:a_DDOBID, :a_DDOBID_ZDROJ) as refusal;
+select refuse_own_order(:a_DDOBID, :a_DDOBIDVZOR_ZDROJ) as refusal;
 
 select refuse_unknown_source(null, :a_DDOBID_ZDROJ) as refusal;
 select refuse_unknown_source(null, :a_DDOBIDVZOR_ZDROJ) as refusal;

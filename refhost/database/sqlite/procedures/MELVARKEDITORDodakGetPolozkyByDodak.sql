@@ -5,7 +5,7 @@
 --
 -- a_DODKIDMASTER is the source, null for the template; a_DODKID the note that is edited.
 --
--- Refusals: ML010 the note does not exist, ML021 the source does not exist.
+-- Refusals: ML010 the note does not exist, ML021 the source does not exist, ML027 it is the note itself.
 --
 -- in: a_DODKIDMASTER integer
 -- in: a_DODKID integer
@@ -13,6 +13,7 @@
 -- in: a_PRENESCENY boolean
 
 select refuse_unknown_note(:a_DODKID) as refusal;
+select refuse_own_note(:a_DODKID, :a_DODKIDMASTER) as refusal;
 
 select refuse('ML021', 'Dodací list', :a_DODKIDMASTER) as refusal
 where :a_DODKIDMASTER > 0 and not exists (select 1 from DODAK where ID = :a_DODKIDMASTER);

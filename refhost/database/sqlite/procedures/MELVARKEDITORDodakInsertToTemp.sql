@@ -37,7 +37,7 @@ delete from NOTE_SENT;
 insert into NOTE_SENT (DOBSID, SKLADPOL, SKLAD, DPH, MNOZSTVI, SLEVA,
                        JEDNCENABSL, JEDNDPHASL, JEDNDPHBSL, JEDNCENASSL, JEDNCENAB, JEDNDPHA, JEDNDPHB, JEDNCENAS,
                        CENABSL, DPHASL, DPHBSL, CENASSL, CENAB, DPHA, DPHB, CENAS, TRVANLIVOST)
-values (typed(:a_DOBSID), typed(:a_SKLADPOL), typed(:a_SKLAD), typed(:a_DPH), typed(:a_MNOZSTVI), typed(:a_SLEVA),
+values (typed_id(:a_DOBSID), typed(:a_SKLADPOL), typed(:a_SKLAD), typed(:a_DPH), typed(:a_MNOZSTVI), typed(:a_SLEVA),
         typed(:a_JEDNCENABSL), typed(:a_JEDNDPHASL), typed(:a_JEDNDPHBSL), typed(:a_JEDNCENASSL),
         typed(:a_JEDNCENAB), typed(:a_JEDNDPHA), typed(:a_JEDNDPHB), typed(:a_JEDNCENAS),
         typed(:a_CENABSL), typed(:a_DPHASL), typed(:a_DPHBSL), typed(:a_CENASSL),

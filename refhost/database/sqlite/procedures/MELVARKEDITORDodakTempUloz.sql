@@ -4,8 +4,9 @@
 --
 -- a_DODKID_ZDROJ, a_DDOBID_ZDROJ: the note or order that the rows were taken from, null for none.
 --
--- Refusals: ML040, ML041 no save is under way; ML010, ML011 the note is gone or closed; ML055 a source is gone; ML053 a
--- VAT rate is not valid on the note's day; ML049, ML054 an order line is gone or was complete before.
+-- Refusals: ML040, ML041 no save is under way; ML010, ML011 the note is gone or closed; ML027 it is its own source;
+-- ML055 a source is gone; ML053 a VAT rate is not valid on the note's day; ML049, ML054 an order line is gone or was
+-- complete before.
 --
 -- in: a_DODKID integer
 -- in: a_DODKID_ZDROJ integer
@@ -15,6 +16,7 @@
 select refuse_closed_staging() as refusal;
 
 select refuse_closed_note(:a_DODKID) as refusal;
+select refuse_own_note(:a_DODKID, :a_DODKID_ZDROJ) as refusal;
 
 select refuse_unknown_source(:a_DODKID_ZDROJ, :a_DDOBID_ZDROJ) as refusal;
 
