@@ -28,6 +28,16 @@ TEST_F(OpenedCell, AnOpenCellIsCommittedAsItWasOpenedWhereverItsColumnStands) {
     EXPECT_EQ(rowText(2), "2|Matice|42||vedlejší|B2||y");
 }
 
+TEST_F(OpenedCell, AColumnMovedJustBeforeTheCommitIsReportedWhereItStandsNow) {
+    open();
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("42"));
+    form->LoadColumnsSettingsFromXml("<settings><columns><column><name>CENA</name></column></columns></settings>");
+    ASSERT_TRUE(form->HideEditor());
+    EXPECT_THAT(log.lines, ElementsAre("3,2=42"));
+    EXPECT_EQ(stored(7, 1), "42");
+}
+
 TEST_F(OpenedCell, AnOpenCellWhoseColumnIsNoLongerShownIsCheckedAndCommittedAllTheSame) {
     open();
     openCell(c_CountCol, 2);

@@ -168,6 +168,9 @@ TEST_P(StayingInACell, CommitsNothingUntilTheClerkLeaves) {
     EXPECT_EQ(QPoint(grid().horizontalScrollBar()->value(), grid().verticalScrollBar()->value()), view)
         << "the view stays where the clerk put it";
     EXPECT_EQ(view.y() > 0, scrollsDown(act()));
+    if (const QRect cell = grid().CellRect(col(), 1); !cell.isNull()) {
+        EXPECT_EQ(form->ActiveEditor()->pos(), grid().mapTo(form.get(), QPoint(2, 2)) + cell.topLeft());
+    }
     key(Qt::Key_Return);
     expectOutcome();
 }
