@@ -37,7 +37,7 @@ $$;
 create function rounded_price_row(prices price_row, decimals integer) returns price_row
 language sql immutable as $$
     select row(round((prices).cenab, decimals), round((prices).dpha, decimals),
-               round((prices).dphb, decimals), round((prices).cenas, decimals))::price_row
+               round((prices).dphb, decimals), round((prices).cenas, decimals))::melvark.price_row
 $$;
 
 -- Each price times multiplier / divisor.
@@ -55,10 +55,10 @@ create function completed_price_row(prices price_row, kind text, rate_a numeric,
 returns price_row
 language plpgsql immutable as $$
 declare
-    completed price_row := prices;
+    completed melvark.price_row := prices;
 begin
     if kind = 'CENAS' then
-        completed.cenab := rounded_quotient(prices.cenas * 100, 100 + rate_a + rate_l, decimals);
+        completed.cenab := melvark.rounded_quotient(prices.cenas * 100, 100 + rate_a + rate_l, decimals);
     end if;
     if kind = 'CENAS' and rate_a = 0 then
         completed.dphb := prices.cenas - completed.cenab;
@@ -100,7 +100,7 @@ $$;
 create function line_price(prices line_prices, price_level text, price_side text, kind text) returns numeric
 language plpgsql immutable as $$
 declare
-    own constant price_row := case price_level || ' ' || price_side
+    own constant melvark.price_row := case price_level || ' ' || price_side
         when 'unit before' then prices.unit_before
         when 'unit after' then prices.unit_after
         when 'total before' then prices.total_before
@@ -119,8 +119,9 @@ $$;
 -- The line with every number rounded to its decimals, otherwise as it is.
 create function rounded_line(prices line_prices) returns line_prices
 language sql immutable as $$
-    select row(rounded_price_row((prices).unit_before, 6), rounded_price_row((prices).unit_after, 6),
-               rounded_price_row((prices).total_before, 2), rounded_price_row((prices).total_after, 2))::line_prices
+    select row(melvark.rounded_price_row((prices).unit_before, 6), melvark.rounded_price_row((prices).unit_after, 6),
+               melvark.rounded_price_row((prices).total_before, 2),
+               melvark.rounded_price_row((prices).total_after, 2))::melvark.line_prices
 $$;
 
 -- The line as it follows from its truth; with a truth that is null or empty, the line itself. A quantity of 0 or null is

@@ -27,9 +27,8 @@ language sql stable as $$
 $$;
 
 create function moment_text(moment timestamp) returns text
-language sql stable as $$
-    select date_text(moment::date) || to_char(moment, ' HH24:MI:SS')
-$$;
+language sql stable
+return date_text(moment::date) || to_char(moment, ' HH24:MI:SS');
 
 -- A text as sentences show it.
 create function shown(value text) returns text

@@ -27,10 +27,10 @@ $$;
 create function typed_id(value text) returns text
 language plpgsql immutable as $$
 begin
-    if as_integer(value) <= 0 then
+    if melvark.as_integer(value) <= 0 then
         return null;
     end if;
-    return typed(value);
+    return melvark.typed(value);
 end
 $$;
 
