@@ -145,6 +145,15 @@ TEST_P(NoteSavingContract, ANoteMayBringMoreThanWasOrderedAndTakeBack) {
     EXPECT_EQ(orderLine(*database, 103), "1000 | 1"); // 7.5 were ordered
 }
 
+TEST_P(NoteSavingContract, AnOrderToTakeBackIsCompleteWhenThatMuchWentBack) {
+    const auto database = ownCompany();
+    database->runScript("update DODOBJPOL set MNOZSTVI = '-7.5' where ID = 103");
+    EXPECT_EQ(savedRow(*database, c_OpenNote, item("Cukr krystal", "-5", "103")), "");
+    EXPECT_EQ(orderLine(*database, 103), "-5 | 0"); // 2.5 are still to go
+    EXPECT_EQ(savedRow(*database, c_OpenNote, item("Cukr krystal", "-2.5", "103")), "");
+    EXPECT_EQ(orderLine(*database, 103), "-7,5 | 1");
+}
+
 TEST_P(NoteSavingContract, RowsOfOneSaveMayCompleteAnOrderLineTogether) {
     const auto database = ownCompany();
     beginSave(*database);
