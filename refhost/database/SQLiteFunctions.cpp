@@ -5,11 +5,13 @@
 #include "refhost/database/ParameterValues.h"
 #include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteCall.h"
+#include "refhost/database/SQLiteStatement.h"
 
 #include <algorithm>
 #include <chrono>
-#include <ctime>
+#include <memory>
 #include <stdexcept>
+#include <unicode/timezone.h>
 #include <vector>
 
 namespace refhost {
@@ -67,17 +69,6 @@ void parseNumber(const SQLiteCall& call) {
     call.give(*number);
 }
 
-TDateTime now() {
-    const std::time_t moment = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-    std::tm local{};
-    localtime_r(&moment, &local);
-    const year_month_day date(std::chrono::year(local.tm_year + 1900),
-                              std::chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
-                              std::chrono::day(static_cast<unsigned>(local.tm_mday)));
-    return std::chrono::local_days(date) + std::chrono::hours(local.tm_hour) + std::chrono::minutes(local.tm_min) +
-           std::chrono::seconds(local.tm_sec);
-}
-
 year_month_day dateOf(TDateTime moment) {
     return year_month_day(std::chrono::floor<std::chrono::days>(moment));
 }
@@ -115,12 +106,23 @@ TDateTime storedMoment(const std::string& text) {
     throw refusal("ML002", labelled(call, text));
 }
 
+year_month_day companyToday(SQLiteSession& session) {
+    std::string_view sql = "select today()";
+    SQLiteStatement statement(session, sql);
+    statement.step();
+    return dateOf(storedMoment(std::get<AnsiString>(statement.value(0))));
+}
+
 void parseDate(const SQLiteCall& call) {
     const auto text = call.text(0);
     if (!text || TrimText(*text).empty()) {
         return;
     }
-    const auto date = TextToDate(*text, call.session().settings(), dateOf(now()));
+    // Only a year of two digits needs the day of today, for which the company's parameters are asked.
+    const auto earliest = TextToDate(*text, call.session().settings(), std::chrono::year(1900) / 1 / 1);
+    const auto latest = TextToDate(*text, call.session().settings(), std::chrono::year(2100) / 1 / 1);
+    const auto date =
+        earliest == latest ? latest : TextToDate(*text, call.session().settings(), companyToday(call.session()));
     if (!date) {
         refuseDate(call, *text);
     }
@@ -225,12 +227,22 @@ void monthsBefore(const SQLiteCall& call) {
     call.give(isoDate(sought.ok() ? sought : year_month_day(sought.year() / sought.month() / std::chrono::last)));
 }
 
-void today(const SQLiteCall& call) {
-    call.give(isoDate(dateOf(now())));
-}
-
-void nowMoment(const SQLiteCall& call) {
-    call.give(isoMoment(now()));
+/// The moment of now in a time zone.
+void momentIn(const SQLiteCall& call) {
+    const std::string zone = call.text(0).value_or(std::string());
+    const std::unique_ptr<icu::TimeZone> found(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(zone)));
+    // Names of regions have a slash; the library would read other words as rules of its own.
+    const bool isName = zone == "UTC" || zone.find('/') != std::string::npos;
+    if (!isName || *found == icu::TimeZone::getUnknown()) {
+        throw refusal("ML071", {shownText(zone)});
+    }
+    const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    std::int32_t offset = 0;
+    std::int32_t summer = 0;
+    UErrorCode error = U_ZERO_ERROR;
+    constexpr double c_Millisecond = 1000;
+    found->getOffset(static_cast<double>(now.time_since_epoch().count()) * c_Millisecond, false, offset, summer, error);
+    call.give(isoMoment(TDateTime(now.time_since_epoch() + std::chrono::seconds((offset + summer) / 1000))));
 }
 
 void currentUserName(const SQLiteCall& call) {
@@ -263,8 +275,7 @@ constexpr Entry c_Functions[] = {
     {"date_text", 1, sqliteFunction<dateText>},
     {"moment_text", 1, sqliteFunction<momentText>},
     {"months_before", 2, sqliteFunction<monthsBefore>},
-    {"today", 0, sqliteFunction<today>},
-    {"now_moment", 0, sqliteFunction<nowMoment>},
+    {"moment_in", 1, sqliteFunction<momentIn>},
     {"current_user_name", 0, sqliteFunction<currentUserName>},
 };
 

@@ -19,7 +19,8 @@ class SQLiteSession;
 ///     total_text(decimal)                    with two decimals,
 ///     date_text(date), moment_text(moment)   in the locale's order
 ///     months_before(date, months)            the same day so many months ago, at most the month's last one
-///     today(), now_moment(), current_user_name()
+///     moment_in(zone)                        the moment of now in a time zone; refuses an unknown one
+///     current_user_name()
 ///
 /// Null arguments give null. Throws EDatabaseError when the engine refuses to register one.
 void registerValueFunctions(SQLiteSession& session);

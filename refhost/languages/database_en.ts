@@ -250,6 +250,10 @@
         <source>Počet měsíců „%1“ není celé číslo od 0 do 1200. Opravte parametr firmy.</source>
         <translation>The number of months “%1” is not a whole number from 0 to 1200. Correct the company’s parameter.</translation>
     </message>
+    <message id="MELVARKHOST\REFUSAL\ML071">
+        <source>Časové pásmo „%1“ není známé. Opravte parametr firmy, například na Europe/Prague.</source>
+        <translation>There is no time zone “%1”. Correct the company's parameter, for example to Europe/Prague.</translation>
+    </message>
     <message id="MELVARKHOST\REFUSAL\ML110">
         <source>Sazba DPH „%1“ neexistuje. Vyberte sazbu ze seznamu sazeb DPH.</source>
         <translation>VAT rate “%1” does not exist. Choose a rate from the list of VAT rates.</translation>

@@ -101,7 +101,7 @@ create function parse_date(value text, label text default 'Hodnota') returns dat
 language plpgsql volatile as $$
 declare
     parts constant text[] := date_parts(typed(value), date_order(), date_separator(), '[0-9]{4}|[0-9]{2}');
-    first_year constant integer := extract(year from current_date) - 50;
+    first_year constant integer := extract(year from today()) - 50;
     years integer := parts[1];
     day date;
 begin

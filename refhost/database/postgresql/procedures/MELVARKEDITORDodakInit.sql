@@ -14,7 +14,7 @@ begin
     open rates for
         select NAZEV
         from DPH
-        where PLATIOD <= current_date and (PLATIDO is null or PLATIDO >= current_date)
+        where PLATIOD <= today() and (PLATIDO is null or PLATIDO >= today())
         order by SAZBA;
     return next rates;
     open warehouses for

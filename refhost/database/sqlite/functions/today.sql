@@ -1,0 +1,3 @@
+-- The day of now where the company is: see now_moment.
+
+select date(now_moment());
