@@ -2,15 +2,8 @@
 
 #include "host/Exceptions.h"
 #include "host/Types.h"
-#include "host/widgets/Form.h"
-#include "host/widgets/Vocabulary.h"
+#include "select/SelectForm.h"
 #include "select/SourceTable.h"
-
-class QKeyEvent;
-class QLayout;
-class TLibraryManager;
-class TQelPngBitBtn;
-class TQelPngSpeedButton;
 
 /// The selection's own failures.
 class ESelectBox : public Exception {
@@ -26,7 +19,7 @@ public:
 ///
 /// Call one of the seven set-ups after construction, show it modally, and on OK read GetID and the transfer options. It
 /// fills no grid and knows no rule about which source is admissible: the set-ups are rows of SourceTable.
-class TSelectBox : public TForm {
+class TSelectBox : public TSelectForm {
     Q_OBJECT
 
 public:
@@ -51,7 +44,7 @@ public:
     void DodObjSelectFromDodavky(int aDocID, const AnsiString& aDodavatel, TDateTime aDate);
 
     /// The check and the lookup of each set-up: what OK, and what F5 or the button, run. A check throws EDatabaseError
-    /// when the database rejects the source.
+    /// when the database rejects the source, ESelectBox when it names none.
     void DodakSelectFromObjednavkaCheck();
     void DodakSelectFromObjednavkaShowDlg();
     void DodakSelectFromDodakCheck();
@@ -67,39 +60,28 @@ public:
     void DodObjSelectFromDodavkyCheck();
     void DodObjSelectFromDodavkyShowDlg();
 
-    void OkBtnClick(TObject* Sender);
-    void editSelectChange(TObject* Sender);
-    /// F5 opens the list, Esc cancels; true when the key was one of them.
-    bool editSelectKeyDown(TObject* Sender, const QKeyEvent& key);
-    void SelectSpeedButtonClick(TObject* Sender);
+    void OkBtnClick(TObject* Sender) override;
+    void editSelectChange(TObject* Sender) override;
+    void SelectSpeedButtonClick(TObject* Sender) override;
 
 protected:
     void FormCreate();
-    void FormShow() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     using TOperation = void (TSelectBox::*)();
 
     void CreateControls();
-    QLayout* CreateMainPanel();
-    QLayout* CreateButtonPanel();
     void SetUp(const RSourceSetup& setup, const RSourceArguments& arguments, TOperation check, TOperation showDlg);
     void Check(const RSourceSetup& setup);
     void ShowDlg(const RSourceSetup& setup);
 
-    TLibraryManager* FLibraryManager;
     RSourceArguments FArguments;
     TOperation FCheck = nullptr;
     TOperation FShowDlg = nullptr;
     int FID = -1;
 
-    TLabel* lblSelect = nullptr;
-    TEdit* editSelect = nullptr;
-    TQelPngSpeedButton* SelectSpeedButton = nullptr;
+    TSelectLine FLine;
     TLabel* lblPrenest = nullptr;
     TCheckBox* chbMnozstvi = nullptr;
     TCheckBox* chbCeny = nullptr;
-    TQelPngBitBtn* OkBtn = nullptr;
-    TQelPngBitBtn* CancelBtn = nullptr;
 };

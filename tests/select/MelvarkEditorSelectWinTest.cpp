@@ -294,6 +294,33 @@ TEST_F(SelectBox, ARefusedPickStaysPickedUntilTheTextChanges) {
     });
 }
 
+TEST_F(SelectBox, AnAnswerWithoutARowOrAnIdIsAnErrorInOneSentenceAndNeverDocumentZero) {
+    const std::vector<TResultTable> answers{{{"ID"}, {}}, {{"ID"}, {{TDbValue()}}}};
+    for (const TResultTable& answer : answers) {
+        host.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka").returns({answer});
+        manager.lookupAnswers = {TLookupPick{"OV1", "11"}};
+        TSelectBox box(nullptr, &manager);
+        box.DodakSelectFromObjednavka(7, 5);
+        EXPECT_EQ(showAnd(box,
+                          [&] {
+                              QTest::keyClick(edit(box), Qt::Key_F5);
+                              click(box, "OkBtn");
+                          }),
+                  c_ResultCancel);
+        EXPECT_TRUE(leftOpen);
+        EXPECT_EQ(box.GetID(), 11) << "what was picked stays";
+    }
+    const AnsiString sentence = "Databáze zdroj nepotvrdila. Zadejte jiný zdroj.";
+    EXPECT_THAT(host.errors(), ElementsAre(sentence, sentence));
+}
+
+TEST_F(SelectBox, ItHasItsPanelsByName) {
+    TSelectBox box(nullptr, &manager);
+    EXPECT_EQ(edit(box)->parentWidget()->objectName(), QStringLiteral("MainPanel"));
+    EXPECT_EQ(box.findChild<QPushButton*>(QStringLiteral("OkBtn"))->parentWidget()->objectName(),
+              QStringLiteral("ButtonPanel"));
+}
+
 TEST_F(SelectBox, TheCancelButtonCancelsWithoutACheck) {
     TSelectBox box(nullptr, &manager);
     box.DodakSelectFromObjednavka(7, 5);
