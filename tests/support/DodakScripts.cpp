@@ -22,19 +22,6 @@ void scriptSources(RecordingConnection& connection, const std::vector<LineCells>
         .returns({dodakLines(lines)});
 }
 
-void scriptSettings(RecordingConnection& connection) {
-    connection.procedure("MELVARKEDITORNASTAVENIGetList")
-        .inputs({"a_TYPEDITACE"})
-        .returns({resultTable({"NAZEV", "ID"}, {})});
-    connection.procedure("MELVARKEDITORNASTAVENINactiDef")
-        .inputs({"a_TYPEDITACE"})
-        .returns({resultTable({"ID", "DATA"}, {})});
-    connection.procedure("MELVARKEDITORNASTAVENINactiNastaveniOkna")
-        .inputs({"a_TYPEDITACE"})
-        .returns({resultTable({"DATA"}, {})});
-    connection.procedure("MELVARKEDITORNASTAVENIUlozNastaveniOkna").inputs({"a_TYPEDITACE", "a_DATA"});
-}
-
 void scriptSaving(RecordingConnection& connection) {
     connection.procedure("MELVARKEDITORResetTemp");
     connection.procedure("MELVARKEDITORDodakInsertToTemp")
@@ -77,15 +64,32 @@ const std::vector<AnsiString>& dodakKeys() {
     return keys;
 }
 
-TResultTable dodakLines(const std::vector<LineCells>& lines) {
+TResultTable lineTable(const std::vector<AnsiString>& keys, const std::vector<LineCells>& lines) {
     std::vector<std::vector<AnsiString>> rows;
     for (const LineCells& line : lines) {
         auto& row = rows.emplace_back();
-        for (const AnsiString& key : dodakKeys()) {
+        for (const AnsiString& key : keys) {
             row.push_back(line.contains(key) ? line.at(key) : "");
         }
     }
-    return resultTable(dodakKeys(), rows);
+    return resultTable(keys, rows);
+}
+
+TResultTable dodakLines(const std::vector<LineCells>& lines) {
+    return lineTable(dodakKeys(), lines);
+}
+
+void scriptSettings(RecordingConnection& connection) {
+    connection.procedure("MELVARKEDITORNASTAVENIGetList")
+        .inputs({"a_TYPEDITACE"})
+        .returns({resultTable({"NAZEV", "ID"}, {})});
+    connection.procedure("MELVARKEDITORNASTAVENINactiDef")
+        .inputs({"a_TYPEDITACE"})
+        .returns({resultTable({"ID", "DATA"}, {})});
+    connection.procedure("MELVARKEDITORNASTAVENINactiNastaveniOkna")
+        .inputs({"a_TYPEDITACE"})
+        .returns({resultTable({"DATA"}, {})});
+    connection.procedure("MELVARKEDITORNASTAVENIUlozNastaveniOkna").inputs({"a_TYPEDITACE", "a_DATA"});
 }
 
 std::vector<LineCells> sampleLines() {

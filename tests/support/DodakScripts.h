@@ -14,6 +14,12 @@ const std::vector<AnsiString>& dodakKeys();
 /// A result set with one field for each column key.
 TResultTable dodakLines(const std::vector<LineCells>& lines);
 
+/// A result set with one field for each key.
+TResultTable lineTable(const std::vector<AnsiString>& keys, const std::vector<LineCells>& lines);
+
+/// Makes the procedures of settings and placement known, without anything stored.
+void scriptSettings(RecordingConnection& connection);
+
 /// Two lines that a source could bring: milk and rye bread.
 std::vector<LineCells> sampleLines();
 

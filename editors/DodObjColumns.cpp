@@ -1,0 +1,84 @@
+#include "editors/DodObjColumns.h"
+
+#include "editors/ColumnTable.h"
+#include "editwin/model/DataGrid.h"
+
+#include <algorithm>
+#include <array>
+
+namespace melvark {
+
+namespace {
+
+using B = DodObjColumnBindings;
+using Row = ColumnRow<B>;
+
+constexpr int c_MainWidth = 55;
+constexpr int c_SecondaryWidth = 80;
+
+constexpr Row Quantity(std::string_view key, std::string_view keySuffix, std::string_view caption,
+                       std::string_view hint, int width) {
+    return {.Key = key,
+            .KeySuffix = keySuffix,
+            .Caption = caption,
+            .Hint = hint,
+            .Align = caRight,
+            .Editable = eAuto,
+            .Width = width,
+            .DataType = cdtFlt};
+}
+
+// A remark: traversal passes it by, a click opens it.
+constexpr Row Remark(std::string_view key, std::string_view caption, std::string_view hint) {
+    return {.Key = key, .KeySuffix = key, .Caption = caption, .Hint = hint, .Editable = eManual};
+}
+
+// Each quantity stands before the name and the identifier of its unit: the main one (HL), the secondary ones (V1, V2).
+constexpr std::array c_Rows{
+    c_Group1Column<B>,
+    c_Group2Column<B>,
+    c_Group3Column<B>,
+    c_ItemColumn<B>,
+    c_WarehouseColumn<B>,
+    Row{.Key = "DODAVATEL",
+        .KeySuffix = "DODAVATEL",
+        .Caption = "Dodavatel",
+        .Hint = "Dodavatel",
+        .List = &B::Suppliers},
+    Quantity("MNOZSTVIHL", "MNOZSTVI", "Množství", "Množství", c_MainWidth),
+    ReadOnlyColumn<B>("JEDNOTKYHL", "JEDNOTKY", "Jednotky", "Hlavní jednotky", c_MainWidth),
+    KeyColumn<B>("SKPLIDHL", caRight, true),
+    Quantity("MNOZSTVIV1", "MNOZSTVI1", "Ved.množství 1", "Množství ve vedlejších jednotkách 1", c_SecondaryWidth),
+    ReadOnlyColumn<B>("JEDNOTKYV1", "VEDJEDNOTKY1", "Ved.jednotky 1", "Vedlejší jednotky 1", c_SecondaryWidth),
+    KeyColumn<B>("SKPLIDV1", caRight, true),
+    Quantity("MNOZSTVIV2", "MNOZSTVI2", "Ved.množství 2", "Množství ve vedlejších jednotkách 2", c_SecondaryWidth),
+    ReadOnlyColumn<B>("JEDNOTKYV2", "VEDJEDNOTKY2", "Ved.jednotky 2", "Vedlejší jednotky 2", c_SecondaryWidth),
+    KeyColumn<B>("SKPLIDV2", caLeft, true),
+    Remark("POPIS", "Popis", "Popis k položce objednávky"),
+    Remark("KOMENTAR", "Komentář", "Komentář k položce objednávky"),
+};
+
+/// A quantity and the identifier of its unit.
+struct UnitOfQuantity {
+    std::string_view Quantity;
+    std::string_view Unit;
+};
+
+constexpr std::array c_Units{
+    UnitOfQuantity{"MNOZSTVIHL", "SKPLIDHL"},
+    UnitOfQuantity{"MNOZSTVIV1", "SKPLIDV1"},
+    UnitOfQuantity{"MNOZSTVIV2", "SKPLIDV2"},
+};
+
+} // namespace
+
+std::vector<RColumn> DodObjColumns(const DodObjColumnBindings& bindings) {
+    return BuildColumns(c_Rows, bindings);
+}
+
+bool HasItsUnit(const DocumentColumns& columns, const TDataGrid& store, std::string_view key, int row) {
+    const auto* const counted = std::ranges::find(c_Units, key, &UnitOfQuantity::Quantity);
+    return counted == c_Units.end() || !columns.Cell(store, counted->Unit, row).empty();
+}
+
+} // namespace melvark

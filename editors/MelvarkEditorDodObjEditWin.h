@@ -1,0 +1,70 @@
+#pragma once
+
+#include "editors/DocumentEditBox.h"
+#include "editors/DodObjOpening.h"
+#include "editors/DodObjSources.h"
+#include "host/Identifier.h"
+
+#include <vector>
+
+/// The editor of the lines of a supplier order or of an order template: the base editor with the order's columns,
+/// filled from one of seven sources, with quantities in main and secondary units, saved through the row store.
+///
+/// Constructed for one document, shown modally once by its workflow, and freed. It refreshes no screen. What the rules
+/// are stands beside it: DodObjColumns, DodObjSources, DodObjSaving.
+class TDodObjEditBox : public TDocumentEditBox {
+    Q_OBJECT
+
+public:
+    /// `aIsTemplate` tells the document's kind, `aSourceKind` is one of c_DodObjEditType, `aID` the document, `aSkldID`
+    /// and `aSklad` its warehouse, `aDodvID` (0 or below for none) and `aDodavatel` its supplier, `aMoment` the one for
+    /// which suppliers' price lists are taken. Throws EDodObjEditBox for any other source, EEditBoxCanceled when the
+    /// user cancels the source or the master check answers no, and EDatabaseError.
+    TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, bool aIsTemplate,
+                   const AnsiString& aSourceKind, int aID, int aSkldID, int aDodvID, const AnsiString& aSklad,
+                   const AnsiString& aDodavatel, TDateTime aMoment);
+    ~TDodObjEditBox() override;
+
+    /// Whether the cell (grid coordinates) takes a value: a quantity does only where the item has its unit.
+    bool IsEditable(int aCol, int aRow) const;
+    /// Stores all rows; false when the database reports failure. Throws EDatabaseError.
+    bool SaveData();
+
+private:
+    /// Builds the form on what was read before it.
+    TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, melvark::DodObjOpening opening);
+
+    bool CheckMaster() const;
+
+    /// `aDodvID` is the document's supplier, whose price list is taken without a question. An unknown source leaves one
+    /// empty row.
+    void FillGrid(int aSourceKind, int aDodvID);
+    void AskForOrder();
+    void AskForTemplate();
+    void AskForDeliveryNote();
+    void AskForGroups();
+    void AskForPriceList();
+    void AskForDeliveries();
+    void FillGridFromObjednavka(int aOrderID);
+    void FillGridFromSablona();
+    void FillGridFromDodak(int aDeliveryNoteID);
+    void FillGridFromSkupSkladPol(int aGroup1ID, int aGroup2ID, int aGroup3ID);
+    void FillGridFromDodCenik(int aSupplierID);
+    void FillGridFromDodavky(int aSupplierID, bool aPrenesMnozstvi);
+    void FillFromChosenOrder() { FillGridFromObjednavka(FOrderID); }
+    void FillFromChosenTemplate() { FillGridFromObjednavka(FTemplateID); }
+    void FillFromChosenDeliveryNote() { FillGridFromDodak(FDeliveryNoteID); }
+    void FillFromChosenGroups() { FillGridFromSkupSkladPol(FGroupIDs[0], FGroupIDs[1], FGroupIDs[2]); }
+    void FillFromChosenPriceList() { FillGridFromDodCenik(FSupplier.ID); }
+    void FillFromChosenDeliveries() { FillGridFromDodavky(FSupplier.ID, FSupplier.WithQuantities); }
+
+    const melvark::DodObjDocument& Document() const { return FOpening.Document; }
+
+    melvark::DodObjOpening FOpening;
+    // The sources, once one was chosen.
+    int FOrderID = c_NullValue;
+    int FTemplateID = c_NullValue;
+    int FDeliveryNoteID = c_NullValue;
+    melvark::StockGroups FGroupIDs{c_NullValue, c_NullValue, c_NullValue};
+    melvark::SourceChoice FSupplier; ///< Whose price list or deliveries; the document's own before a choice.
+};
