@@ -1,9 +1,11 @@
 #include "main/MelvarkEditorMain.h"
 
 #include "editors/EditTypes.h"
+#include "editors/MelvarkEditorDodObjEditWin.h"
 #include "editors/MelvarkEditorDodakEditWin.h"
 #include "editwin/model/EditExceptions.h"
 #include "host/DataSet.h"
+#include "host/HostServices.h"
 #include "host/LangStr.h"
 #include "host/LibraryManager.h"
 #include "host/widgets/Guard.h"
@@ -32,6 +34,18 @@ constexpr std::array c_Workflows{
     TWorkflow{"DODOBJ", &TMelvarkEditor::ObjednavkaEditor},
     TWorkflow{"DODOBJVZOR", &TMelvarkEditor::ObjednavkaVzorEditor},
 };
+
+/// Whether the editor that these arguments construct was closed with OK. A preparation that the user called off is a
+/// plain no: there is nothing to tell.
+template <class Editor, class... Arguments>
+bool EditModally(const Arguments&... arguments) {
+    try {
+        Editor editor(qApp, arguments...);
+        return editor.ShowModal() == c_ResultOk;
+    } catch (const EEditBoxCanceled&) {
+        return false;
+    }
+}
 
 } // namespace
 
@@ -110,35 +124,36 @@ bool TMelvarkEditor::DodakEditor(AnsiString aSource) {
     if (aSource.empty()) {
         return false;
     }
-    try {
-        const int id = FDataSet->FieldByName("_ID").AsInteger();
-        const int dodvId = FDataSet->FieldByName("_DODVID").AsInteger();
-        TDodakEditBox editor(qApp, LibraryManager(), aSource, id, dodvId);
-        return editor.ShowModal() == c_ResultOk;
-    } catch (const EEditBoxCanceled&) {
-        return false; // The user called the preparation off; there is nothing to tell.
-    }
+    const int id = FDataSet->FieldByName("_ID").AsInteger();
+    const int dodvId = FDataSet->FieldByName("_DODVID").AsInteger();
+    return EditModally<TDodakEditBox>(LibraryManager(), aSource, id, dodvId);
 }
 
 bool TMelvarkEditor::ObjednavkaEditor(AnsiString aSource) {
     if (aSource.empty()) {
         aSource = ChooseSource(melvark::c_DodObjMenu, &TMelvarkEditor::OnPopupMenuClickDodObj);
     }
-    return !aSource.empty() && RefuseMissingEditor();
+    return !aSource.empty() && EditOrder(false, aSource);
 }
 
 bool TMelvarkEditor::ObjednavkaVzorEditor(AnsiString aSource) {
     if (aSource.empty()) {
         aSource = ChooseSource(melvark::c_DodObjVzorMenu, &TMelvarkEditor::OnPopupMenuClickDodObjVzor);
     }
-    return !aSource.empty() && RefuseMissingEditor();
+    return !aSource.empty() && EditOrder(true, aSource);
 }
 
-// The release's answer on the screens whose editor it does not bring; nothing was changed.
-bool TMelvarkEditor::RefuseMissingEditor() {
-    ShowNote(LangStr(R"(KORDAN30\MELVARKEDITOR\EDITORNENIINSTALOVAN)", {},
-                     "Editor položek tohoto dokladu zatím není nainstalován"));
-    return false;
+// An order's prices are those of the moment when it was ordered; a template's screen need not have one, its are
+// today's.
+bool TMelvarkEditor::EditOrder(bool isTemplate, const AnsiString& source) {
+    const int id = FDataSet->FieldByName("_ID").AsInteger();
+    const int skldId = FDataSet->FieldByName("_SKLDID").AsInteger();
+    const int dodvId = FDataSet->FieldByName("_DODVID").AsInteger();
+    const AnsiString sklad = FDataSet->FieldByName("SKLAD").AsString();
+    const AnsiString dodavatel = FDataSet->FieldByName("DODAVATEL").AsString();
+    const TDateTime moment = isTemplate ? CurrentHost().Now() : FDataSet->FieldByName("OBJEDNANIDC").AsDateTime();
+    return EditModally<TDodObjEditBox>(LibraryManager(), isTemplate, source, id, skldId, dodvId, sklad, dodavatel,
+                                       moment);
 }
 
 void TMelvarkEditor::ShowNote(const AnsiString& text) {

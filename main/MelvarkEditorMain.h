@@ -46,7 +46,7 @@ private:
     void CreatePopupMenu();
     AnsiString ChooseSource(const melvark::SourceMenu& menu, TClickHandler onClick);
     void TakeSource(const TObject* sender, std::span<const std::string_view> codes);
-    bool RefuseMissingEditor();
+    bool EditOrder(bool isTemplate, const AnsiString& source);
     void ShowNote(const AnsiString& text);
 
     /// The screen that was active when it was made owns it and may take it along.

@@ -118,10 +118,6 @@
         <source>Nepodporovaný typ editace dokladu</source>
         <translation>This kind of document cannot be edited here</translation>
     </message>
-    <message id="KORDAN30\MELVARKEDITOR\EDITORNENIINSTALOVAN">
-        <source>Editor položek tohoto dokladu zatím není nainstalován</source>
-        <translation>The line editor of this document is not installed yet</translation>
-    </message>
     <!-- The line editor -->
     <message id="KORDAN30\MelvarkEditorEditWin\Form\Caption">
         <source>Melvark - editor</source>
@@ -131,6 +127,14 @@
     <message id="KORDAN30\MELVARKEDITOR\DODAKAPPTITLE">
         <source>Vložení položek dodacího listu</source>
         <translation>Insert delivery note lines</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\OBJEDNAVKYZBOZIAPPTITLE">
+        <source>Vložení položek do objednávky zboží</source>
+        <translation>Insert order lines</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\VZOROBJEDNAVKYZBOZIAPPTITLE">
+        <source>Vložení položek do vzorové objednávky zboží</source>
+        <translation>Insert order template lines</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\NONE">
         <source>Žádný vzor</source>
@@ -240,6 +244,70 @@
     <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTMNOZSTVI">
         <source>Množství</source>
         <translation>Quantity</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNDODAVATEL">
+        <source>Dodavatel</source>
+        <translation>Supplier</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTDODAVATEL">
+        <source>Dodavatel</source>
+        <translation>Supplier</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNJEDNOTKY">
+        <source>Jednotky</source>
+        <translation>Unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTJEDNOTKY">
+        <source>Hlavní jednotky</source>
+        <translation>Main unit</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNMNOZSTVI1">
+        <source>Ved.množství 1</source>
+        <translation>Sec. quantity 1</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTMNOZSTVI1">
+        <source>Množství ve vedlejších jednotkách 1</source>
+        <translation>Quantity in secondary unit 1</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNVEDJEDNOTKY1">
+        <source>Ved.jednotky 1</source>
+        <translation>Sec. unit 1</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTVEDJEDNOTKY1">
+        <source>Vedlejší jednotky 1</source>
+        <translation>Secondary unit 1</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNMNOZSTVI2">
+        <source>Ved.množství 2</source>
+        <translation>Sec. quantity 2</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTMNOZSTVI2">
+        <source>Množství ve vedlejších jednotkách 2</source>
+        <translation>Quantity in secondary unit 2</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNVEDJEDNOTKY2">
+        <source>Ved.jednotky 2</source>
+        <translation>Sec. unit 2</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTVEDJEDNOTKY2">
+        <source>Vedlejší jednotky 2</source>
+        <translation>Secondary unit 2</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNPOPIS">
+        <source>Popis</source>
+        <translation>Description</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTPOPIS">
+        <source>Popis k položce objednávky</source>
+        <translation>Description of the order line</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNKOMENTAR">
+        <source>Komentář</source>
+        <translation>Comment</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\COLUMNHINTKOMENTAR">
+        <source>Komentář k položce objednávky</source>
+        <translation>Comment on the order line</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\COLUMNDPH">
         <source>Sazba DPH</source>
@@ -427,6 +495,61 @@
         <source>&amp;Zrušit</source>
         <translation>&amp;Cancel</translation>
     </message>
+    <message id="KORDAN30\MelvarkEditorMultiSelectWin\Form\Caption">
+        <source>Multi výběr</source>
+        <translation>Multiple selection</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorMultiSelectWin\lblSelect1\Caption">
+        <source>lblSelect1</source>
+        <translatorcomment>Never seen: every use of the dialog replaces it.</translatorcomment>
+        <translation>lblSelect1</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorMultiSelectWin\lblSelect2\Caption">
+        <source>lblSelect2</source>
+        <translatorcomment>Never seen: every use of the dialog replaces it.</translatorcomment>
+        <translation>lblSelect2</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorMultiSelectWin\lblSelect3\Caption">
+        <source>lblSelect3</source>
+        <translatorcomment>Never seen: every use of the dialog replaces it.</translatorcomment>
+        <translation>lblSelect3</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorMultiSelectWin\SelectSpeedButton1\Hint">
+        <source>Vybrat ze seznamu (F5)</source>
+        <translation>Choose from the list (F5)</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorMultiSelectWin\SelectSpeedButton2\Hint">
+        <source>Vybrat ze seznamu (F5)</source>
+        <translation>Choose from the list (F5)</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorMultiSelectWin\SelectSpeedButton3\Hint">
+        <source>Vybrat ze seznamu (F5)</source>
+        <translation>Choose from the list (F5)</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorMultiSelectWin\OkBtn\Caption">
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorMultiSelectWin\CancelBtn\Caption">
+        <source>&amp;Zrušit</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\SOURCENOTCONFIRMED">
+        <source>Databáze zdroj nepotvrdila. Zadejte jiný zdroj.</source>
+        <translation>The database did not confirm the source. Enter another source.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\SKUPSKLADPOL1">
+        <source>Skupina skladových položek 1:</source>
+        <translation>Stock group 1:</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\SKUPSKLADPOL2">
+        <source>Skupina skladových položek 2:</source>
+        <translation>Stock group 2:</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\SKUPSKLADPOL3">
+        <source>Skupina skladových položek 3:</source>
+        <translation>Stock group 3:</translation>
+    </message>
     <message id="KORDAN30\MELVARKEDITOR\ORDERSELECTION">
         <source>Výběr objednávky</source>
         <translation>Select an order</translation>
@@ -443,9 +566,13 @@
         <source>Číslo dodacího listu:</source>
         <translation>Delivery note number:</translation>
     </message>
-    <message id="KORDAN30\MELVARKEDITOR\ORDERPATTERNSELECTION">
+    <message id="KORDAN30\MELVARKEDITOR\ORDERPATTERNSELECTION|Výběr vzoru objednávky">
         <source>Výběr vzoru objednávky</source>
         <translation>Select an order template</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\ORDERPATTERNSELECTION|Výběr skupin skladových položek">
+        <source>Výběr skupin skladových položek</source>
+        <translation>Select stock groups</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\ORDERPATTERNNUMBER">
         <source>Číslo vzoru objednávky:</source>

@@ -1,3 +1,4 @@
+#include "editors/MelvarkEditorDodObjEditWin.h"
 #include "editors/MelvarkEditorDodakEditWin.h"
 #include "editwin/model/EditExceptions.h"
 #include "host/DecimalDigits.h"
@@ -7,10 +8,12 @@
 #include "host/widgets/MessageBox.h"
 #include "main/MelvarkEditorMain.h"
 #include "main/SourceMenus.h"
+#include "select/MelvarkEditorMultiSelectWin.h"
 #include "select/MelvarkEditorSelectWin.h"
 #include "tests/languages/CatalogueFile.h"
 #include "tests/languages/TranslatingHost.h"
 #include "tests/main/LibraryItemFixture.h"
+#include "tests/support/DodObjScripts.h"
 #include "tests/support/DodakScripts.h"
 #include "tests/widgets/ModalDriver.h"
 
@@ -30,7 +33,10 @@ namespace {
 
 using testing::IsEmpty;
 
-void useSelectionDialog(TLibraryManager& manager) {
+void useSelectionDialogs(TranslatingHost& host, TLibraryManager& manager) {
+    host.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka")
+        .inputs({"a_DODKIDMASTER", "a_CISLO", "a_DDOBID"})
+        .returns({resultTable({"ID"}, {})});
     TSelectBox box(nullptr, &manager);
     box.DodakSelectFromObjednavka(1, 1);
     box.DodakSelectFromDodak(1, 1);
@@ -39,6 +45,9 @@ void useSelectionDialog(TLibraryManager& manager) {
     box.DodObjSelectFromDodak(1, 1, 1);
     box.DodObjSelectFromDodCenik(1, {});
     box.DodObjSelectFromDodavky(1, "", {});
+    EXPECT_THROW(box.DodakSelectFromObjednavkaCheck(), ESelectBox) << "the check that answers without a row";
+    TMultiSelectBox groups(nullptr, &manager);
+    groups.DodObjSelectSkupSkladPol(1);
 }
 
 void useSourceMenus() {
@@ -60,6 +69,13 @@ void useEditor(TranslatingHost& host, TLibraryManager& manager) {
     EXPECT_THROW(editor.CheckDate(nullptr, "x"), EBadValue);
     EXPECT_FALSE(editor.KontrolaSlevy(1, 1, "101"));
     EXPECT_THROW(TDodakEditBox(qApp, &manager, "NIC", 7, 40), Exception);
+}
+
+void useOrderEditor(TranslatingHost& host, TLibraryManager& manager) {
+    scriptDodObjEditor(host.connection);
+    for (const bool isTemplate : {false, true}) {
+        TDodObjEditBox editor(qApp, &manager, isTemplate, "SABLONA", 7, 3, 5, "Praha", "Lípa", {});
+    }
 }
 
 /// Shows both boxes that an editor without a library manager shows by itself.
@@ -104,7 +120,6 @@ void useLibraryItem(TLibraryManager& manager) {
     TMelvarkEditor item(&manager);
     FakeDataSet dataSet;
     EXPECT_FALSE(item.Execute("NIC", &dataSet, nullptr));
-    EXPECT_FALSE(item.Execute("DODOBJ,SABLONA", &dataSet, nullptr));
 }
 
 /// Every text that the module asks for while each of its windows, menus and messages is used once.
@@ -113,9 +128,10 @@ const std::set<AskedText>& askedTexts() {
         TranslatingHost host("cs");
         const TScopedHost scope(host);
         TranslatingLibraryManager manager(host);
-        useSelectionDialog(manager);
+        useSelectionDialogs(host, manager);
         useSourceMenus();
         useEditor(host, manager);
+        useOrderEditor(host, manager);
         useBoxes(host);
         useContract(host);
         useLibraryItem(manager);
@@ -165,7 +181,8 @@ TEST(ModuleCatalogue, TellsEntriesThatShareAKeyApart) {
         EXPECT_TRUE(isNew) << key << ": “" << builtIn << "” reads like “" << other->second << "”";
         shared += texts.size() == 2 ? 1 : 0;
     }
-    EXPECT_EQ(shared, 6u); // three pairs of menu entries, each with caption and hint
+    // Three pairs of menu entries, each with caption and hint, and the titles of the templates' and groups' selection.
+    EXPECT_EQ(shared, 7u);
 }
 
 std::string read(const std::filesystem::path& file) {

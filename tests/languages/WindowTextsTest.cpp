@@ -1,12 +1,15 @@
+#include "editors/MelvarkEditorDodObjEditWin.h"
 #include "editors/MelvarkEditorDodakEditWin.h"
 #include "host/Exceptions.h"
 #include "host/widgets/MessageBox.h"
 #include "refhost/ErrorDialog.h"
 #include "refhost/lookup/LookupDialog.h"
 #include "refhost/screens/MainWindow.h"
+#include "select/MelvarkEditorMultiSelectWin.h"
 #include "select/MelvarkEditorSelectWin.h"
 #include "tests/languages/TranslatingHost.h"
 #include "tests/refhost/ScreenRows.h"
+#include "tests/support/DodObjScripts.h"
 #include "tests/support/DodakScripts.h"
 #include "tests/widgets/ModalDriver.h"
 
@@ -33,6 +36,7 @@ class WindowTexts : public testing::TestWithParam<const char*> {
 protected:
     WindowTexts() {
         scriptDodakEditor(host_.connection);
+        scriptDodObjEditor(host_.connection);
         host_.connection.answerQuery("select * from SCREEN_DODAK_V order by _ID", deliveryNotes());
         host_.connection.answerQuery("select * from SCREEN_DODAK_LINES_V where _DOCID = 101 order by PORADI, _ID",
                                      linesOf(101));
@@ -75,6 +79,9 @@ void WindowTexts::showSelections(const std::function<void(const std::string&, QW
         setUp(box);
         shown(name, box, look);
     }
+    TMultiSelectBox groups(nullptr, &manager_);
+    groups.DodObjSelectSkupSkladPol(1);
+    shown("order from stock groups", groups, look);
 }
 
 void WindowTexts::showBoxes(const std::function<void(const std::string&, QWidget&)>& look) {
@@ -93,6 +100,13 @@ void WindowTexts::forEachWindow(const std::function<void(const std::string& name
     {
         TDodakEditBox editor(qApp, &manager_, "SABLONA", 7, 40);
         shown("editor", editor, [&](const std::string& name, QWidget& window) {
+            ASSERT_NE(editor.ActiveEditor(), nullptr);
+            look(name, window);
+        });
+    }
+    for (const bool isTemplate : {false, true}) {
+        TDodObjEditBox editor(qApp, &manager_, isTemplate, "SABLONA", 7, 3, 5, "Praha", "Lípa", {});
+        shown(isTemplate ? "template editor" : "order editor", editor, [&](const std::string& name, QWidget& window) {
             ASSERT_NE(editor.ActiveEditor(), nullptr);
             look(name, window);
         });

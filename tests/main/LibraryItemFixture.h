@@ -1,8 +1,10 @@
 #pragma once
 
+#include "editors/MelvarkEditorDodObjEditWin.h"
 #include "editors/MelvarkEditorDodakEditWin.h"
 #include "host/DataSet.h"
 #include "main/MelvarkEditorMain.h"
+#include "tests/support/DodObjScripts.h"
 #include "tests/support/DodakScripts.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/widgets/ModalDriver.h"
@@ -33,16 +35,27 @@ public:
     }
 };
 
-/// The library item on a recording host whose delivery note 7 of supplier 40 can be edited.
+/// The library item on a recording host whose delivery note 7 of supplier 40, or order 7, can be edited.
 class LibraryItemFixture : public testing::Test {
 protected:
-    LibraryItemFixture() { scriptDodakEditor(host_.connection); }
+    LibraryItemFixture() {
+        scriptDodakEditor(host_.connection);
+        scriptDodObjEditor(host_.connection);
+    }
+
+    /// Gives the dataset what an order's screen has.
+    void showOrder() {
+        dataSet_.fields.emplace("_SKLDID", std::int64_t{3});
+        dataSet_.fields.emplace("SKLAD", AnsiString("Praha"));
+        dataSet_.fields.emplace("DODAVATEL", AnsiString("Vrba"));
+        dataSet_.fields.emplace("OBJEDNANIDC", AnsiString("5.3.2026 14:30"));
+    }
     void TearDown() override { EXPECT_THAT(host_.errors(), testing::IsEmpty()); }
 
     static std::size_t editorsAlive() {
         std::size_t count = 0;
         for (const QWidget* window : QApplication::topLevelWidgets()) {
-            count += qobject_cast<const TDodakEditBox*>(window) ? 1 : 0;
+            count += qobject_cast<const TDocumentEditBox*>(window) ? 1 : 0;
         }
         return count;
     }

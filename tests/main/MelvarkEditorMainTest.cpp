@@ -4,6 +4,7 @@
 #include "host/LibraryManager.h"
 #include "tests/main/LibraryItemFixture.h"
 
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 
@@ -13,8 +14,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-constexpr const char* c_NotInstalled = "O#: Editor položek tohoto dokladu zatím není nainstalován";
 
 class LibraryItem : public LibraryItemFixture {
 protected:
@@ -155,12 +154,111 @@ TEST_F(LibraryItem, AScreenWithoutASupplierIsTheDatasetsError) {
     EXPECT_THAT(host_.connection.calls(), IsEmpty());
 }
 
-TEST_F(LibraryItem, OrdersAndTemplatesSayThatTheirEditorIsNotInstalled) {
-    EXPECT_FALSE(item_.Execute("DODOBJ,OBJEDNAVKA", &dataSet_, nullptr));
-    // A code that the template's menu never offers is taken as given.
+// ---- Orders and order templates ----
+
+class OrderWorkflow : public LibraryItem {
+protected:
+    OrderWorkflow() { showOrder(); }
+
+    /// Opens the price list's dialog of a document without a supplier and leaves it; what its list was asked.
+    AnsiString priceListAskedFor(const char* params) {
+        dataSet_.fields["_DODVID"] = std::monostate{};
+        ModalDriver dialog({}, [](QWidget& box) {
+            QTest::keyClick(box.findChild<QLineEdit*>(QStringLiteral("editSelect")), Qt::Key_F5);
+            press(box, "CancelBtn");
+        });
+        EXPECT_FALSE(item_.Execute(params, &dataSet_, nullptr));
+        return manager_.lookups().empty() ? "nothing" : manager_.lookups().back();
+    }
+};
+
+TEST_F(OrderWorkflow, TheScreensFieldsAreReadInTheirOrder) {
+    ModalDriver order({}, [](QWidget& window) { window.close(); });
+    item_.Execute("DODOBJ,SABLONA", &dataSet_, nullptr);
+    EXPECT_THAT(dataSet_.askedFor,
+                ElementsAre("_ID", "_ID", "_SKLDID", "_DODVID", "SKLAD", "DODAVATEL", "OBJEDNANIDC"));
+    dataSet_.askedFor.clear();
+    ModalDriver orderTemplate({}, [](QWidget& window) { window.close(); });
+    item_.Execute("DODOBJVZOR,SABLONA", &dataSet_, nullptr);
+    EXPECT_THAT(dataSet_.askedFor, ElementsAre("_ID", "_ID", "_SKLDID", "_DODVID", "SKLAD", "DODAVATEL"));
+}
+
+TEST_F(OrderWorkflow, TheDocumentsWarehouseAndSupplierReachTheEditor) {
+    ModalDriver dialog({}, [](QWidget& box) {
+        QTest::keyClick(box.findChild<QLineEdit*>(QStringLiteral("editSelect")), Qt::Key_F5);
+        press(box, "CancelBtn");
+    });
+    item_.Execute("DODOBJ,OBJEDNAVKA", &dataSet_, nullptr);
+    EXPECT_THAT(manager_.lookups(), ElementsAre(HasSubstr("(_ID, _SKLDID, _DODVID, 7, 3, 40)=1")));
+    ModalDriver deliveries({}, [](QWidget& box) {
+        EXPECT_EQ(box.findChild<QLineEdit*>(QStringLiteral("editSelect"))->text(), QStringLiteral("Vrba"));
+        press(box, "CancelBtn");
+    });
+    item_.Execute("DODOBJ,DODAVKY", &dataSet_, nullptr);
+    EXPECT_TRUE(deliveries.hasActed());
+}
+
+TEST_F(OrderWorkflow, AnOrdersPricesAreThoseOfTheMomentWhenItWasOrdered) {
+    EXPECT_THAT(priceListAskedFor("DODOBJ,DODAVATEL"), HasSubstr("'5.3.2026 14:30:00'"));
+}
+
+TEST_F(OrderWorkflow, ATemplateAlwaysGetsTheCurrentDateAndTime) {
+    EXPECT_THAT(priceListAskedFor("DODOBJVZOR,DODAVATEL"), HasSubstr("'1.2.2027 13:45:00'"))
+        << "also where the screen has a moment";
+    dataSet_.fields.erase("OBJEDNANIDC");
+    EXPECT_THAT(priceListAskedFor("DODOBJVZOR,DODAVATEL"), HasSubstr("'1.2.2027 13:45:00'"));
+}
+
+TEST_F(OrderWorkflow, TheTemplatesEditorIsOpenedWithASourceThatItsMenuNeverOffers) {
+    ModalDriver editor({}, [](QWidget& window) {
+        EXPECT_EQ(window.windowTitle(), QStringLiteral("Vložení položek do vzorové objednávky zboží"));
+        window.close();
+    });
     EXPECT_FALSE(item_.Execute("DODOBJVZOR,SABLONA", &dataSet_, nullptr));
-    EXPECT_THAT(manager_.messages(), ElementsAre(c_NotInstalled, c_NotInstalled));
+    EXPECT_TRUE(editor.hasActed());
+    EXPECT_THAT(host_.connection.calls(), Contains("MELVARKEDITORNASTAVENINactiDef(a_TYPEDITACE=23) open"));
+}
+
+TEST_F(OrderWorkflow, OnlyOkIsTrueAndTheEditorIsFreedInAnyCase) {
+    for (const char* params : {"DODOBJ,SABLONA", "DODOBJVZOR,SABLONA"}) {
+        const std::pair<const char*, bool> ways[] = {{"OkBtn", true}, {"CancelBtn", false}};
+        for (const auto& [button, result] : ways) {
+            ModalDriver editor({}, [&, name = button](QWidget& window) {
+                EXPECT_EQ(editorsAlive(), 1u);
+                press(window, name);
+            });
+            EXPECT_EQ(item_.Execute(params, &dataSet_, nullptr), result) << params << ' ' << button;
+            EXPECT_EQ(editorsAlive(), 0u);
+        }
+    }
+}
+
+TEST_F(OrderWorkflow, AMissingFieldIsTheDatasetsError) {
+    const auto complete = dataSet_.fields;
+    for (const char* field : {"_SKLDID", "_DODVID", "SKLAD", "DODAVATEL", "OBJEDNANIDC"}) {
+        dataSet_.fields = complete;
+        dataSet_.fields.erase(field);
+        try {
+            item_.Execute("DODOBJ,SABLONA", &dataSet_, nullptr);
+            ADD_FAILURE() << "no error without " << field;
+        } catch (const EDatabaseError& error) {
+            EXPECT_THAT(error.Message(), HasSubstr(field));
+        }
+    }
     EXPECT_THAT(host_.connection.calls(), IsEmpty());
+}
+
+TEST_F(OrderWorkflow, ACancelledSourceIsQuietAndARefusedDocumentIsTheHostsError) {
+    ModalDriver dialog({}, [](QWidget& window) { press(window, "CancelBtn"); });
+    EXPECT_FALSE(item_.Execute("DODOBJ,SKUPSKLADPOL", &dataSet_, nullptr));
+    EXPECT_THAT(manager_.boxes(), IsEmpty());
+    host_.connection.procedure("MELVARKEDITORDodObjCheckMaster").refusesCall(2, "Objednávka je uzavřená.");
+    EXPECT_THROW(item_.Execute("DODOBJ,SABLONA", &dataSet_, nullptr), EDatabaseError);
+    EXPECT_EQ(editorsAlive(), 0u);
+}
+
+TEST_F(OrderWorkflow, AnUnknownSourceIsTheEditorsRefusal) {
+    EXPECT_THROW(item_.Execute("DODOBJ,sablona", &dataSet_, nullptr), EDodObjEditBox);
 }
 
 } // namespace

@@ -164,8 +164,11 @@ TEST_F(SourcePopupMenu, TheOrdersDeliveryNoteEntryStandsBeforeTheTemplates) {
         popup.setActiveAction(popup.actions()[2]);
         QTest::keyClick(&popup, Qt::Key_Return);
     });
+    showOrder();
+    ModalDriver dialog(QStringLiteral("SelectBox"), [](QWidget& window) { window.close(); });
     EXPECT_FALSE(item_.Execute("DODOBJ", &dataSet_, nullptr));
-    EXPECT_THAT(manager_.messages(), ElementsAre("O#: Editor položek tohoto dokladu zatím není nainstalován"));
+    EXPECT_TRUE(dialog.hasActed());
+    EXPECT_THAT(openedSettings(), ElementsAre("MELVARKEDITORNASTAVENINactiDef(a_TYPEDITACE=14) open"));
 }
 
 TEST_F(SourcePopupMenu, TheTemplatesMenuLacksTheTemplateAndItsEntriesDoWhatTheySay) {
@@ -181,8 +184,11 @@ TEST_F(SourcePopupMenu, TheTemplatesMenuLacksTheTemplateAndItsEntriesDoWhatTheyS
         popup.setActiveAction(popup.actions()[5]);
         QTest::keyClick(&popup, Qt::Key_Return);
     });
+    showOrder();
+    ModalDriver dialog(QStringLiteral("SelectBox"), [](QWidget& window) { window.close(); });
     EXPECT_FALSE(item_.Execute("DODOBJVZOR", &dataSet_, nullptr));
-    EXPECT_THAT(manager_.messages(), ElementsAre("O#: Editor položek tohoto dokladu zatím není nainstalován"));
+    EXPECT_TRUE(dialog.hasActed());
+    EXPECT_THAT(openedSettings(), ElementsAre("MELVARKEDITORNASTAVENINactiDef(a_TYPEDITACE=27) open"));
 }
 
 TEST_F(SourcePopupMenu, CaptionsAreShownLetterForLetter) {
