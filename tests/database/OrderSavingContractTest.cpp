@@ -1,6 +1,8 @@
 #include "tests/database/ContractCompany.h"
 #include "tests/database/Staging.h"
 
+#include <regex>
+
 namespace refhost {
 
 namespace {
@@ -194,6 +196,43 @@ TEST_P(OrderSavingContract, RowsOfOtherSuppliersGoIntoNewOrdersOfTheirs) {
                               "where coalesce(DODKIDZDROJ, 1) = 1 and coalesce(DDOBIDZDROJ, 7) = 7 "
                               "group by DDOBID order by DDOBID"),
               "4 | 1 | 1\n11 | 1 | 1\n12 | 1 | 1");
+}
+
+TEST_P(OrderSavingContract, ANumberThatSomebodyGaveOutElsewhereIsPassedOverForTheNextFreeOne) {
+    struct {
+        std::vector<std::string> taken;
+        const char* given;
+    } const cases[] = {
+        {{"OV2026-000011"}, "11 OV2026-000012, 12 OV2026-000013"},
+        {{"OV2026-000012"}, "11 OV2026-000011, 12 OV2026-000013"},
+        {{"OV2026-000011", "OV2026-000012"}, "11 OV2026-000013, 12 OV2026-000014"},
+        {{"OV2026-000011", "OV2026-000013"}, "11 OV2026-000012, 12 OV2026-000014"},
+        {{"OV2025-000011"}, "11 OV2026-000011, 12 OV2026-000012"}, // of another year
+    };
+    const std::int64_t others[] = {c_ClosedOrder, c_EarlierOrder};
+    for (const auto& row : cases) {
+        const auto database = ownCompany();
+        for (std::size_t at = 0; at < row.taken.size(); ++at) {
+            database->runScript("update DODOBJEDNAVKA set CISLO = '" + row.taken[at] +
+                                "' where ID = " + std::to_string(others[at]));
+        }
+        beginSave(*database);
+        EXPECT_EQ(stageOrderRow(*database, flour("2", "Čajovna Říp")), "");
+        EXPECT_EQ(stageOrderRow(*database, flour("3", "Nápoje Švec")), "");
+        EXPECT_EQ(saveOrder(*database, id(c_OrderOfBranch)), "");
+        std::string given = rows(*database, "select _ID, CISLO from SCREEN_DODOBJ_V where _ID > 10 order by _ID");
+        given = std::regex_replace(std::regex_replace(given, std::regex(" \\| "), " "), std::regex("\n"), ", ");
+        EXPECT_EQ(given, row.given) << row.taken.front();
+    }
+}
+
+TEST_P(OrderSavingContract, ATemplatesNumberIsNotAnOrders) {
+    const auto database = ownCompany();
+    database->runScript("update DODOBJEDNAVKA set CISLO = 'OV2026-000011' where ID = " + std::to_string(c_Template));
+    beginSave(*database);
+    EXPECT_EQ(stageOrderRow(*database, flour("2", "Čajovna Říp")), "");
+    EXPECT_EQ(saveOrder(*database, id(c_OrderOfBranch)), "");
+    EXPECT_EQ(rows(*database, "select _ID, CISLO from SCREEN_DODOBJ_V where _ID > 10"), "11 | OV2026-000011");
 }
 
 TEST_P(OrderSavingContract, AnOrderWithoutASupplierTakesThatOfTheFirstRow) {

@@ -18,6 +18,9 @@ create function MELVARKEDITORDodObjTempUloz(
     a_DODKID_ZDROJ integer default null)
 returns void
 language plpgsql as $$
+declare
+    made record;
+    serial integer;
 begin
     perform refuse_closed_staging();
 
@@ -52,14 +55,24 @@ begin
           group by (s.LINE).DODVID
           order by min(s.PLACE)) other;
 
-    insert into DODOBJEDNAVKA (ID, VZOR, CISLO, OBJEDNANIDC, DODVID, SKLDID)
-    select t.DDOBID, 0,
-           'OV' || to_char(o.OBJEDNANIDC, 'YYYY') || '-'
-               || lpad(t.DDOBID::text, greatest(6, length(t.DDOBID::text)), '0'),
-           o.OBJEDNANIDC, t.DODVID, o.SKLDID
-    from pg_temp.ORDER_TARGET t
-    join DODOBJEDNAVKA o on o.ID = a_DDOBID
-    where t.DDOBID <> o.ID;
+    -- A new order's number follows its identifier; one that somebody gave out elsewhere is passed over for the next free
+    -- one. A number that another session is just giving out is waited for.
+    for made in
+        select t.DDOBID, t.DODVID, o.OBJEDNANIDC, o.SKLDID
+        from pg_temp.ORDER_TARGET t
+        join DODOBJEDNAVKA o on o.ID = a_DDOBID
+        where t.DDOBID <> o.ID
+        order by t.DDOBID
+    loop
+        serial := made.DDOBID;
+        loop
+            insert into DODOBJEDNAVKA (ID, VZOR, CISLO, OBJEDNANIDC, DODVID, SKLDID)
+            values (made.DDOBID, 0, order_number(made.OBJEDNANIDC, serial), made.OBJEDNANIDC, made.DODVID, made.SKLDID)
+            on conflict (VZOR, CISLO) do nothing;
+            exit when found;
+            serial := serial + 1;
+        end loop;
+    end loop;
 
     -- Only a template's lines keep a supplier of their own: an order's lines have the order's.
     insert into DODOBJPOL (DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)

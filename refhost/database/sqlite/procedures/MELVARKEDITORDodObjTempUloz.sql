@@ -45,12 +45,25 @@ where DODVID is not null and DODVID not in (select DODVID from ORDER_TARGET wher
 group by DODVID
 order by min(PLACE);
 
+-- A new order's number follows its identifier; one that somebody gave out elsewhere is passed over for the next free one.
 insert into DODOBJEDNAVKA (ID, VZOR, CISLO, OBJEDNANIDC, DODVID, SKLDID)
-select t.DDOBID, 0, 'OV' || substr(o.OBJEDNANIDC, 1, 4) || '-' || substr('000000' || t.DDOBID, -max(6, length(t.DDOBID))),
-       o.OBJEDNANIDC, t.DODVID, o.SKLDID
-from ORDER_TARGET t
-join DODOBJEDNAVKA o on o.ID = :a_DDOBID
-where t.DDOBID <> o.ID;
+with recursive
+    made (ID, DODVID, PLACE) as materialized (
+        select DDOBID, DODVID, row_number() over (order by DDOBID) from ORDER_TARGET where DDOBID <> :a_DDOBID),
+    serial (N, ISFREE, FREEBEFORE) as (
+        select min(ID) - 1, 0, 0 from made
+        union all
+        select s.N + 1,
+               not exists (select 1 from DODOBJEDNAVKA x
+                           where x.VZOR = 0 and x.CISLO = order_number(o.OBJEDNANIDC, s.N + 1)),
+               s.FREEBEFORE + s.ISFREE
+        from serial s
+        join DODOBJEDNAVKA o on o.ID = :a_DDOBID
+        where s.FREEBEFORE + s.ISFREE < (select count(*) from made))
+select m.ID, 0, order_number(o.OBJEDNANIDC, s.N), o.OBJEDNANIDC, m.DODVID, o.SKLDID
+from made m
+join serial s on s.ISFREE = 1 and s.FREEBEFORE + 1 = m.PLACE
+join DODOBJEDNAVKA o on o.ID = :a_DDOBID;
 
 -- Only a template's lines keep a supplier of their own: an order's lines have the order's.
 insert into DODOBJPOL (DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)
