@@ -51,6 +51,10 @@
         <source>Databáze: %1</source>
         <translation>Database: %1</translation>
     </message>
+    <message id="MELVARKHOST\MAIN\NEWDOCUMENTS">
+        <source>Nové doklady: %1</source>
+        <translation>New documents: %1</translation>
+    </message>
     <message id="MELVARKHOST\MAIN\PLUGINMISSING">
         <source>Vkládání položek není k dispozici. %1</source>
         <translation>Inserting lines is not available. %1</translation>

@@ -13,6 +13,8 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <set>
+
 namespace refhost {
 
 namespace {
@@ -77,6 +79,22 @@ void DocumentScreen::refresh() {
         }
     }
     showLines();
+}
+
+QStringList DocumentScreen::refreshForNew() {
+    const ResultModel& documents = documents_->table().result();
+    std::set<std::string> known;
+    for (int row = 0; row < documents.rowCount(); ++row) {
+        known.insert(documents.text(row, "_ID"));
+    }
+    refresh();
+    QStringList numbers;
+    for (int row = 0; row < documents.rowCount(); ++row) {
+        if (!known.contains(documents.text(row, "_ID"))) {
+            numbers.append(QString::fromStdString(documents.text(row, "CISLO")));
+        }
+    }
+    return numbers;
 }
 
 void DocumentScreen::showLines() {

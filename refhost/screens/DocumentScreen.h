@@ -4,6 +4,7 @@
 #include "host/FormatSettings.h"
 #include "refhost/screens/DocumentDataSet.h"
 
+#include <QStringList>
 #include <QWidget>
 
 class QLabel;
@@ -28,6 +29,8 @@ public:
     /// Reads the documents and the current one's lines again; the current document stays current. Throws
     /// EDatabaseError.
     void refresh();
+    /// Refreshes; the numbers of the documents that have come since the screen was last read, in their order.
+    QStringList refreshForNew();
 
     /// The current document, or an empty dataset.
     DocumentDataSet dataSet() const;

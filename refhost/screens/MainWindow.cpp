@@ -124,6 +124,13 @@ void MainWindow::buildStatusBar() {
     };
     addLabel(u"userLabel", texts::userStatus, parts_.user);
     addLabel(u"databaseLabel", texts::databaseStatus, parts_.database);
+    // Many numbers must not widen the window: what has no room stands in the hint.
+    newDocuments_ = new QLabel(this);
+    newDocuments_->setObjectName(u"newDocumentsLabel");
+    newDocuments_->setTextFormat(Qt::PlainText);
+    newDocuments_->setContentsMargins(8, 2, 8, 2);
+    newDocuments_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(newDocuments_, 1);
 }
 
 void MainWindow::addModuleNotice() {
@@ -162,9 +169,17 @@ void MainWindow::insertLines() {
     const QScopedValueRollback inserting(inserting_, true);
     DocumentScreen& screen = currentScreen();
     DocumentDataSet dataSet = screen.dataSet();
+    tellNew({});
     if (parts_.insertLines(std::string(screen.definition().code), dataSet)) {
-        screen.refresh();
+        tellNew(screen.refreshForNew());
     }
+}
+
+/// Names the documents that inserted lines have made beside the current one; none empties the place.
+void MainWindow::tellNew(const QStringList& numbers) {
+    const QString names = numbers.join(QStringLiteral(", "));
+    newDocuments_->setText(numbers.isEmpty() ? QString() : parts_.languages.label(texts::newDocuments).arg(names));
+    newDocuments_->setToolTip(newDocuments_->text());
 }
 
 } // namespace refhost

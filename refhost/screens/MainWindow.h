@@ -57,10 +57,12 @@ private:
     void showScreen(int index);
     void enterScreen();
     void insertLines();
+    void tellNew(const QStringList& numbers);
 
     MainWindowParts parts_;
     QTabWidget* tabs_ = nullptr;
     std::vector<DocumentScreen*> screens_;
+    QLabel* newDocuments_ = nullptr;
     bool inserting_ = false;
 };
 

@@ -112,6 +112,41 @@ TEST_F(MainWindowTest, TheLinesFollowTheCurrentDocument) {
     EXPECT_THAT(host_.connection.takeCalls(), ElementsAre(linesQuery("DODAK", 103))); // once
 }
 
+TEST_F(MainWindowTest, DocumentsThatInsertedLinesMadeAreNamedInTheStatusLine) {
+    changed_ = true;
+    open();
+    press(Qt::Key_2, Qt::ControlModifier); // the orders
+    const auto answerOrders = [this](std::vector<std::pair<std::int64_t, const char*>> orders) {
+        TResultTable table{.Columns = {"_ID", "CISLO"}, .Rows = {}};
+        for (const auto& [id, number] : orders) {
+            table.Rows.push_back({id, AnsiString(number)});
+        }
+        host_.connection.answerQuery("select * from SCREEN_DODOBJ_V order by _ID", table);
+    };
+    const auto* status = window_->findChild<QLabel*>(QStringLiteral("newDocumentsLabel"));
+    EXPECT_EQ(status->text(), QString());
+
+    answerOrders({{9, "OB-1"}, {12, "OB-2"}, {13, "OB-3"}});
+    press(Qt::Key_F8);
+    EXPECT_EQ(status->text(), QStringLiteral("Nové doklady: OB-2, OB-3"));
+    EXPECT_EQ(status->toolTip(), status->text());
+    EXPECT_EQ(documents().currentKey(), "9") << "the order that was filled stays current";
+
+    press(Qt::Key_F8);
+    EXPECT_EQ(status->text(), QString()) << "nothing came of the next one";
+}
+
+TEST_F(MainWindowTest, NothingIsNamedWhenNoLinesWereInserted) {
+    open();
+    press(Qt::Key_2, Qt::ControlModifier);
+    host_.connection.answerQuery(
+        "select * from SCREEN_DODOBJ_V order by _ID",
+        {.Columns = {"_ID", "CISLO"},
+         .Rows = {{std::int64_t{9}, AnsiString("OB-1")}, {std::int64_t{12}, AnsiString("OB-2")}}});
+    press(Qt::Key_F8);
+    EXPECT_EQ(window_->findChild<QLabel*>(QStringLiteral("newDocumentsLabel"))->text(), QString());
+}
+
 TEST_F(MainWindowTest, MovingSidewaysReadsNothing) {
     open();
     press(Qt::Key_Right);
