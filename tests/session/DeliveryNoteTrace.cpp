@@ -80,11 +80,12 @@ std::string closing(const std::string& noteSource, const std::string& orderSourc
                 R"(["a_DODKID",2],["a_DODKID_ZDROJ",)" + noteSource + R"(],["a_DDOBID_ZDROJ",)" + orderSource + "]", 0);
 }
 
-Lines withoutStoredPlacement(Lines trace) {
+Lines withoutStoredPlacement(Lines trace, int placementType) {
     EXPECT_FALSE(trace.empty());
     if (!trace.empty()) {
         EXPECT_THAT(trace.back(), testing::HasSubstr(R"("MELVARKEDITORNASTAVENIUlozNastaveniOkna","open":false,)"
-                                                     R"("params":[["a_TYPEDITACE",0],["a_DATA",")"));
+                                                     R"("params":[["a_TYPEDITACE",)" +
+                                                     std::to_string(placementType) + R"(],["a_DATA",")"));
         trace.pop_back();
     }
     return trace;

@@ -29,7 +29,7 @@ std::string cukrRow();
 std::string closing(const std::string& noteSource, const std::string& orderSource);
 
 /// The last call of a session stores where the window stood; that depends on the display, so it is taken off.
-Lines withoutStoredPlacement(Lines trace);
+Lines withoutStoredPlacement(Lines trace, int placementType = 0);
 
 /// What the open note has stored.
 Lines storedLines(const HostSession& session);

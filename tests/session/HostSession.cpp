@@ -37,8 +37,12 @@ std::vector<std::string> linesOf(const QByteArray& text) {
 
 } // namespace
 
-HostSession::HostSession() {
+HostSession::HostSession() : database_("sqlite:" + folder_.filePath(QStringLiteral("tiny.db")).toStdString()) {
     tinycompany::create(folder_.filePath(QStringLiteral("tiny.db")).toStdString());
+    host_.setProcessChannelMode(QProcess::SeparateChannels);
+}
+
+HostSession::HostSession(std::string database) : database_(std::move(database)) {
     host_.setProcessChannelMode(QProcess::SeparateChannels);
 }
 
@@ -49,9 +53,8 @@ HostSession::~HostSession() {
 }
 
 QStringList HostSession::withDatabase(const QStringList& arguments) const {
-    return QStringList{QStringLiteral("--database"),
-                       QStringLiteral("sqlite:") + folder_.filePath(QStringLiteral("tiny.db")),
-                       QStringLiteral("--user"), QStringLiteral("novakova")} +
+    return QStringList{QStringLiteral("--database"), QString::fromStdString(database_), QStringLiteral("--user"),
+                       QStringLiteral("novakova")} +
            arguments;
 }
 
@@ -173,7 +176,5 @@ std::vector<std::string> HostSession::ask(const QStringList& arguments) const {
 }
 
 void HostSession::changeDatabase(const std::string& sql) const {
-    refhost::openDatabase("sqlite:" + folder_.filePath(QStringLiteral("tiny.db")).toStdString(), "dvorak",
-                          TFormatSettings::Czech(), refhost::OpenMode::Existing)
-        ->runScript(sql);
+    refhost::openDatabase(database_, "dvorak", TFormatSettings::Czech(), refhost::OpenMode::Existing)->runScript(sql);
 }

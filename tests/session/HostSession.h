@@ -15,6 +15,8 @@ class HostSession {
 public:
     /// Makes the tiny company.
     HostSession();
+    /// On a company that the test has made, as its user: the address as the host's command line takes it.
+    explicit HostSession(std::string database);
     HostSession(const HostSession&) = delete;
     HostSession& operator=(const HostSession&) = delete;
     /// Ends a host that is still running.
@@ -57,6 +59,7 @@ private:
     qsizetype visibleWindows() const;
 
     QTemporaryDir folder_;
+    std::string database_;
     QProcess host_;
     std::string standardError_;
 };
