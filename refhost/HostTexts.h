@@ -26,7 +26,7 @@ inline constexpr HostText screens{"MELVARKHOST\\MAIN\\SCREENS", "Obrazovky"};
 inline constexpr HostText search{"MELVARKHOST\\MAIN\\SEARCH", "&Hledat"};
 inline constexpr HostText userStatus{"MELVARKHOST\\MAIN\\USER", "Uživatel: %1"};
 inline constexpr HostText databaseStatus{"MELVARKHOST\\MAIN\\DATABASE", "Databáze: %1"};
-inline constexpr HostText newDocuments{R"(MELVARKHOST\MAIN\NEWDOCUMENTS)", "Nové doklady: %1"};
+inline constexpr HostText newDocuments{"MELVARKHOST\\MAIN\\NEWDOCUMENTS", "Nové doklady: %1"};
 inline constexpr HostText pluginMissing{"MELVARKHOST\\MAIN\\PLUGINMISSING", "Vkládání položek není k dispozici. %1"};
 
 inline constexpr HostText deliveryNotes{"MELVARKHOST\\SCREEN\\DODAK", "Dodací listy"};
