@@ -10,6 +10,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
@@ -31,6 +32,20 @@ QAction* createAction(QObject* parent, const char16_t* name, const QString& text
     action->setShortcut(key);
     return action;
 }
+
+/// A label that never widens its window: a text without room ends in dots.
+class ElidedLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QRect room = contentsRect();
+        style()->drawItemText(&painter, room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                              fontMetrics().elidedText(text(), Qt::ElideRight, room.width()), foregroundRole());
+    }
+};
 
 } // namespace
 
@@ -125,7 +140,7 @@ void MainWindow::buildStatusBar() {
     addLabel(u"userLabel", texts::userStatus, parts_.user);
     addLabel(u"databaseLabel", texts::databaseStatus, parts_.database);
     // Many numbers must not widen the window: what has no room stands in the hint.
-    newDocuments_ = new QLabel(this);
+    newDocuments_ = new ElidedLabel(this);
     newDocuments_->setObjectName(u"newDocumentsLabel");
     newDocuments_->setTextFormat(Qt::PlainText);
     newDocuments_->setContentsMargins(8, 2, 8, 2);
