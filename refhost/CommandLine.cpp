@@ -38,9 +38,12 @@ constexpr std::array c_commands{
                "lists the documents of DODAK, DODOBJ or DODOBJVZOR as JSON lines"},
     CommandRow{Command::Show, "--show", Value::Needed, "SCREEN --document ID", true,
                "prints the stored lines of one document as JSON lines"},
-    CommandRow{Command::CreateDatabase, "--create-database", Value::None, "[--lines N]", false,
+    CommandRow{Command::CreateDatabase, "--create-database", Value::None, "[--empty | --lines N]", false,
                "fills an empty database with schema, procedures and sample data;\n"
                "N adds one document of each kind with N lines"},
+    CommandRow{Command::UpgradeDatabase, "--upgrade-database", Value::None, "", false,
+               "brings a database of an older version to this program's, after a copy\nof the file, "
+               "and prints what it did as a JSON line"},
     CommandRow{Command::Help, "--help", Value::None, "", false, "prints this text"},
 };
 
@@ -82,6 +85,8 @@ const std::vector<TextOptionRow>& textOptions() {
         {"--language", "cs | en", &CommandLine::language, "the language of windows and messages",
          CLI::IsMember({"cs", "en"})},
         {"--trace", "FILE", &CommandLine::traceFile, "appends one JSON line for each service call", anyText()},
+        {"--procedures", "FOLDER", &CommandLine::procedures,
+         "scripts there replace procedures of the same names\nin an SQLite database", anyText()},
     };
     return rows;
 }
@@ -106,6 +111,22 @@ const std::vector<NumberOptionRow>& numberOptions() {
          {Command::Execute, Command::Show},
          "the document that a command works on"},
         {"--lines", "N", &CommandLine::lines, 0, {Command::CreateDatabase}, "lines of the additional documents"},
+    };
+    return rows;
+}
+
+/// An option that is there or not and belongs to some commands only.
+struct FlagOptionRow {
+    const char* option;
+    bool CommandLine::*field;
+    std::vector<Command> commands;
+    const char* excludes;
+    const char* meaning;
+};
+
+const std::vector<FlagOptionRow>& flagOptions() {
+    static const std::vector<FlagOptionRow> rows{
+        {"--empty", &CommandLine::empty, {Command::CreateDatabase}, "--lines", "a company without sample data"},
     };
     return rows;
 }
@@ -153,6 +174,7 @@ public:
         app_.get_formatter()->column_width(c_helpColumn);
         declareTexts();
         declareNumbers();
+        declareFlags();
         declareCommands();
     }
 
@@ -165,6 +187,9 @@ public:
             throw CommandLineError(error.what());
         }
         readCommand();
+        for (const FlagOptionRow& row : flagOptions()) {
+            result_.*row.field = isGiven(row.option);
+        }
         std::ranges::for_each(app_.remaining(), [this](const std::string& word) { readArgument(word); });
         checkTogether();
         return std::move(result_);
@@ -199,11 +224,22 @@ private:
         }
     }
 
+    CLI::Option* addFlag(const char* name, const std::string& meaning) {
+        return app_.add_flag(name, meaning)
+            ->disable_flag_override()
+            ->multi_option_policy(CLI::MultiOptionPolicy::Throw);
+    }
+
+    void declareFlags() {
+        for (const FlagOptionRow& row : flagOptions()) {
+            // Without a text of its own the usage would list what the flag excludes.
+            addFlag(row.option, row.meaning)->option_text(" ")->excludes(app_.get_option(row.excludes));
+        }
+    }
+
     void declareCommands() {
         for (const CommandRow& row : c_commands) {
-            CLI::Option* option = row.subject == Value::None ? app_.add_flag(row.option, row.meaning)
-                                                                   ->disable_flag_override()
-                                                                   ->multi_option_policy(CLI::MultiOptionPolicy::Throw)
+            CLI::Option* option = row.subject == Value::None ? addFlag(row.option, row.meaning)
                                                              : addOption(row.option, result_.subject, row.meaning);
             if (row.subject == Value::Optional) {
                 option->expected(0, 1);
@@ -248,7 +284,13 @@ private:
             throw CommandLineError("unknown word: " + result_.arguments.front().first +
                                    "=... (values belong to --call, those of a batch to its lines)");
         }
-        for (const NumberOptionRow& row : numberOptions()) {
+        checkBelonging(numberOptions());
+        checkBelonging(flagOptions());
+    }
+
+    template <typename Rows>
+    void checkBelonging(const Rows& rows) const {
+        for (const auto& row : rows) {
             if (isGiven(row.option) && std::ranges::find(row.commands, result_.command) == row.commands.end()) {
                 refuse(row.option, "belongs to " + namesOf(row.commands));
             }

@@ -9,7 +9,7 @@
 namespace refhost {
 
 /// What the program was started for.
-enum class Command { OpenHost, Execute, Call, Batch, Query, Documents, Show, CreateDatabase, Help };
+enum class Command { OpenHost, Execute, Call, Batch, Query, Documents, Show, CreateDatabase, UpgradeDatabase, Help };
 
 /// The command line, read and checked. Texts are UTF-8 as they came.
 struct CommandLine {
@@ -18,11 +18,13 @@ struct CommandLine {
     std::string user;     ///< Empty for the user that the database takes by itself.
     std::string locale = "cs_CZ";
     std::string language = "cs";
-    std::string traceFile; ///< Empty for no trace.
-    std::string subject;   ///< What the command works on: parameters, procedure, SQL text or screen.
+    std::string traceFile;  ///< Empty for no trace.
+    std::string procedures; ///< A folder whose scripts replace procedures of the embedded engine; empty for none.
+    std::string subject;    ///< What the command works on: parameters, procedure, SQL text or screen.
     std::vector<std::pair<std::string, std::string>> arguments; ///< NAME=VALUE of a call, in order.
     std::int32_t document = 0;
     std::int32_t lines = 0;
+    bool empty = false; ///< A new company without the sample.
 };
 
 /// The command line makes no sense; the message says which word and why, in the language of the options.

@@ -1,15 +1,13 @@
 #include "refhost/CompanyDatabase.h"
 
-#include "host/Exceptions.h"
 #include "refhost/database/Databases.h"
 #include "refhost/database/SampleCompany.h"
+#include "refhost/database/SchemaVersion.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QStandardPaths>
 
+#include <filesystem>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -32,25 +30,45 @@ std::string urlOf(const CommandLine& commandLine) {
     return commandLine.database.empty() ? std::string(c_fileScheme) + defaultDatabaseFile() : commandLine.database;
 }
 
-void fill(const std::string& url, const CommandLine& commandLine, const TFormatSettings& settings) {
-    const auto database = openDatabase(url, userOf(commandLine), settings, OpenMode::Create);
-    database->createSchema();
-    createSampleCompany(*database, commandLine.lines);
+/// The own database's folder, its owner's alone when it is new.
+void makeOwnFolder() {
+    const std::filesystem::path folder = std::filesystem::path(defaultDatabaseFile()).parent_path();
+    std::error_code refused; // a folder that is missing in the end is refused with a sentence when it is to be used
+    std::filesystem::create_directories(folder.parent_path(), refused);
+    if (std::filesystem::create_directory(folder, refused)) {
+        std::filesystem::permissions(folder, std::filesystem::perms::owner_all, refused);
+    }
 }
 
-/// The company is made under another name and takes the file's name when it is complete: a start that was interrupted
-/// leaves nothing that looks like a database.
-void createOwnDatabase(const CommandLine& commandLine, const TFormatSettings& settings) {
-    const QString file = QString::fromStdString(defaultDatabaseFile());
-    const QString unfinished = file + QStringLiteral(".part");
-    QDir().mkpath(QFileInfo(file).path());
-    for (const char16_t* suffix : {u"", u"-wal", u"-shm", u"-journal"}) {
-        QFile::remove(unfinished + QString::fromUtf16(suffix));
+/// All in one transaction: a program that is interrupted leaves nothing that looks like a company.
+void makeCompany(Database& database, const CommandLine& commandLine) {
+    database.createSchema();
+    if (!commandLine.empty) {
+        createSampleCompany(database, commandLine.lines);
     }
-    fill(std::string(c_fileScheme) + unfinished.toStdString(), commandLine, settings);
-    if (!QFile::rename(unfinished, file)) {
-        throw EInOutError("Databázi „" + file.toStdString() + "“ nelze založit. Zkontrolujte oprávnění ke složce.");
+}
+
+/// The user's own database, made or upgraded when that is needed.
+std::unique_ptr<Database> openOwnDatabase(const CommandLine& commandLine, const TFormatSettings& settings,
+                                          const UpgradeListener& upgraded) {
+    const std::string url = urlOf(commandLine);
+    makeOwnFolder();
+    if (std::filesystem::exists(defaultDatabaseFile())) {
+        const std::int64_t version = schemaVersionOf(url);
+        if (version != 0 && version < c_SchemaVersion) {
+            upgraded(upgradeDatabase(url));
+        }
     }
+    auto database = openDatabase(url, userOf(commandLine), settings, OpenMode::Create);
+    if (!database->hasSchema()) {
+        database->inOneTransaction([&] {
+            // Asked again: another program that was started at the same moment may have made it meanwhile.
+            if (!database->hasSchema()) {
+                makeCompany(*database, commandLine);
+            }
+        });
+    }
+    return database;
 }
 
 } // namespace
@@ -60,19 +78,27 @@ std::string defaultDatabaseFile() {
     return (folder + QStringLiteral("/melvark/company.sqlite")).toStdString();
 }
 
-std::unique_ptr<Database> openCompanyDatabase(const CommandLine& commandLine, const TFormatSettings& settings) {
-    const bool isOwn = commandLine.database.empty();
-    if (isOwn && !QFileInfo::exists(QString::fromStdString(defaultDatabaseFile()))) {
-        createOwnDatabase(commandLine, settings);
+std::unique_ptr<Database> openCompanyDatabase(const CommandLine& commandLine, const TFormatSettings& settings,
+                                              const UpgradeListener& upgraded) {
+    auto database = commandLine.database.empty()
+                        ? openOwnDatabase(commandLine, settings, upgraded)
+                        : openDatabase(urlOf(commandLine), userOf(commandLine), settings, OpenMode::Existing);
+    if (!commandLine.procedures.empty()) {
+        database->useProcedures(commandLine.procedures);
     }
-    return openDatabase(urlOf(commandLine), userOf(commandLine), settings, OpenMode::Existing);
+    return database;
 }
 
 void createCompanyDatabase(const CommandLine& commandLine, const TFormatSettings& settings) {
     if (commandLine.database.empty()) {
-        QDir().mkpath(QFileInfo(QString::fromStdString(defaultDatabaseFile())).path());
+        makeOwnFolder();
     }
-    fill(urlOf(commandLine), commandLine, settings);
+    const auto database = openDatabase(urlOf(commandLine), userOf(commandLine), settings, OpenMode::Create);
+    database->inOneTransaction([&] { makeCompany(*database, commandLine); });
+}
+
+UpgradeReport upgradeCompanyDatabase(const CommandLine& commandLine) {
+    return upgradeDatabase(urlOf(commandLine));
 }
 
 std::string databaseLabel(const CommandLine& commandLine) {

@@ -13,13 +13,6 @@
 
 namespace refhost {
 
-namespace {
-
-/// The platform's flags of a note: information icon, OK button.
-constexpr int c_noteFlags = 64;
-
-} // namespace
-
 HostLibraryManager::HostLibraryManager(Parts parts) : parts_(std::move(parts)) {}
 
 int HostLibraryManager::MessageBox(const AnsiString& text, int flags) {
@@ -31,7 +24,7 @@ int HostLibraryManager::MessageBox(const AnsiString& text, int flags) {
 
 void HostLibraryManager::Message(const AnsiString& text, const AnsiString& style) {
     parts_.trace.message(text, style);
-    ApplicationMessageBox(text, parts_.languages.text(texts::noteCaption), c_noteFlags);
+    ApplicationMessageBox(text, parts_.languages.text(texts::noteCaption), c_NoteFlags);
 }
 
 std::optional<TLookupPick> HostLibraryManager::LookupList(const AnsiString& form, const AnsiString& displayColumn,

@@ -9,6 +9,9 @@ namespace refhost {
 class Languages;
 class Trace;
 
+/// The platform's flags of a note: information icon, OK button.
+inline constexpr int c_NoteFlags = 64;
+
 /// The host's library manager: message boxes, lookup lists and the languages of forms. Boxes, messages and lookups are
 /// traced; the rows of a lookup list are the host's own affair and are not.
 class HostLibraryManager : public TLibraryManager {

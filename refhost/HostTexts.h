@@ -29,6 +29,10 @@ inline constexpr HostText databaseStatus{"MELVARKHOST\\MAIN\\DATABASE", "Databá
 inline constexpr HostText newDocuments{"MELVARKHOST\\MAIN\\NEWDOCUMENTS", "Nové doklady: %1"};
 inline constexpr HostText pluginMissing{"MELVARKHOST\\MAIN\\PLUGINMISSING", "Vkládání položek není k dispozici. %1"};
 
+inline constexpr HostText databaseUpgraded{"MELVARKHOST\\MAIN\\UPGRADED",
+                                           "Databáze byla převedena pro novou verzi programu. Jak vypadala předtím, "
+                                           "zůstalo v souboru „%1“."};
+
 inline constexpr HostText deliveryNotes{"MELVARKHOST\\SCREEN\\DODAK", "Dodací listy"};
 inline constexpr HostText orders{"MELVARKHOST\\SCREEN\\DODOBJ", "Objednávky"};
 inline constexpr HostText orderTemplates{"MELVARKHOST\\SCREEN\\DODOBJVZOR", "Vzory objednávek"};

@@ -2,11 +2,14 @@
 
 #include "refhost/CompanyDatabase.h"
 #include "refhost/ErrorDialog.h"
+#include "refhost/HostTexts.h"
+#include "refhost/Json.h"
 #include "refhost/Languages.h"
 #include "refhost/Palette.h"
 #include "refhost/Trace.h"
 #include "refhost/WindowedHost.h"
 #include "refhost/commands/DataCommands.h"
+#include "refhost/database/SchemaVersion.h"
 
 #include <QApplication>
 
@@ -27,11 +30,36 @@ bool hasWindows(Command command) {
     return command == Command::OpenHost || command == Command::Execute;
 }
 
+/// What the user is to know about an upgrade of his own database.
+std::string upgradeNote(const UpgradeReport& report, const Languages& languages) {
+    return languages.label(texts::databaseUpgraded).arg(QString::fromStdString(report.Copy)).toStdString();
+}
+
 int runInWindows(const CommandLine& commandLine, const Languages& languages, Trace& trace) {
     const TFormatSettings settings = formatSettings(commandLine);
-    const auto database = openCompanyDatabase(commandLine, settings);
+    std::string note;
+    const auto database = openCompanyDatabase(
+        commandLine, settings, [&](const UpgradeReport& report) { note = upgradeNote(report, languages); });
     WindowedHost host(commandLine, *database, settings, languages, trace);
+    if (!note.empty() && commandLine.command == Command::OpenHost) {
+        host.tell(note);
+    } else if (!note.empty()) {
+        std::cerr << note << '\n'; // a script must not wait for somebody to close a box
+    }
     return commandLine.command == Command::Execute ? host.executeOnce() : host.openMainWindow();
+}
+
+std::string upgradeJson(const UpgradeReport& report) {
+    std::string kept;
+    for (const std::string& name : report.Kept) {
+        kept += (kept.empty() ? "" : ",") + jsonString(name);
+    }
+    return JsonObject()
+        .add("from", report.From)
+        .add("to", c_SchemaVersion)
+        .add("copy", report.Copy.empty() ? TDbValue() : TDbValue(report.Copy))
+        .addJson("kept", "[" + kept + "]")
+        .text();
 }
 
 void runWithoutWindows(const CommandLine& commandLine, const Languages& languages) {
@@ -40,7 +68,13 @@ void runWithoutWindows(const CommandLine& commandLine, const Languages& language
         createCompanyDatabase(commandLine, settings);
         return;
     }
-    const auto database = openCompanyDatabase(commandLine, settings);
+    if (commandLine.command == Command::UpgradeDatabase) {
+        std::cout << upgradeJson(upgradeCompanyDatabase(commandLine)) << '\n';
+        return;
+    }
+    const auto database = openCompanyDatabase(commandLine, settings, [&](const UpgradeReport& report) {
+        std::cerr << upgradeNote(report, languages) << '\n';
+    });
     runDataCommand(commandLine, {.connection = *database,
                                  .settings = settings,
                                  .languages = languages,

@@ -1,7 +1,9 @@
 #include "refhost/WindowedHost.h"
 
 #include "host/Exceptions.h"
+#include "host/widgets/MessageBox.h"
 #include "refhost/CompanyDatabase.h"
+#include "refhost/HostTexts.h"
 #include "refhost/Languages.h"
 #include "refhost/screens/DocumentDataSet.h"
 #include "refhost/screens/MainWindow.h"
@@ -36,6 +38,10 @@ WindowedHost::WindowedHost(const CommandLine& commandLine, Database& database, c
 void WindowedHost::loadModule() {
     package_.emplace(findPackage(QApplication::applicationDirPath().toStdString()), languages_);
     item_ = package_->createItem(c_itemClass, services_.Classes(), &manager_);
+}
+
+void WindowedHost::tell(const std::string& text) const {
+    ApplicationMessageBox(text, languages_.text(texts::noteCaption), c_NoteFlags);
 }
 
 int WindowedHost::openMainWindow() {

@@ -25,6 +25,9 @@ public:
     WindowedHost(const CommandLine& commandLine, Database& database, const TFormatSettings& settings,
                  const Languages& languages, Trace& trace);
 
+    /// Tells the user something before the first window.
+    void tell(const std::string& text) const;
+
     /// Shows the main window until it is closed. A module that is missing or broken is told there, and the host stays
     /// usable without it.
     int openMainWindow();

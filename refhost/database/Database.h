@@ -2,6 +2,7 @@
 
 #include "host/Connection.h"
 
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,6 +24,14 @@ public:
     /// Creates the tables, views, functions and procedures in one transaction. Throws EDatabaseError, with nothing
     /// created, when the database has tables already.
     virtual void createSchema() = 0;
+
+    /// Runs `work`, whose calls of the functions of this class (not of the contract) are then one transaction: they
+    /// all last, or none when it throws.
+    virtual void inOneTransaction(const std::function<void()>& work) = 0;
+
+    /// Replaces procedures by scripts of a folder, "NAME.sql" each, for this connection. Throws EDatabaseError when a
+    /// script is no procedure's, has a mistake in its header, or the engine keeps its procedures itself.
+    virtual void useProcedures(const std::string& folder) = 0;
 
     /// Appends rows to a table, all in one transaction. Each row has one value a column: integers, booleans as 0 or 1,
     /// decimals as canonical decimal text ("12.5"), dates as "2027-02-01", moments as "2027-02-01 13:45:00".

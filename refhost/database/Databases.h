@@ -23,6 +23,9 @@ enum class OpenMode { Existing, Create };
 std::unique_ptr<Database> openDatabase(const std::string& url, const std::string& user, const TFormatSettings& settings,
                                        OpenMode mode);
 
+/// The version of the database's schema, whichever it is; 0 when it has none. Throws EDatabaseError.
+std::int64_t schemaVersionOf(const std::string& url);
+
 /// Brings the database that the address names to this program's version; nothing when it has that already.
 /// SQLiteUpgrade.h and PostgreSQLUpgrade.h tell what that means on each engine. Throws EDatabaseError or EInOutError
 /// with nothing changed.

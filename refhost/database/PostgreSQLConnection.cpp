@@ -2,10 +2,12 @@
 
 #include "host/AsciiCase.h"
 #include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/PostgreSQLCollation.h"
 #include "refhost/database/PostgreSQLErrors.h"
 #include "refhost/database/PostgreSQLRows.h"
 #include "refhost/database/PostgreSQLSchema.h"
 #include "refhost/database/RefusalTable.h"
+#include "refhost/database/SchemaVersion.h"
 #include "refhost/database/SqlScript.h"
 
 #include <algorithm>
@@ -43,15 +45,25 @@ void raiseSequence(PostgreSQLSession& session, const std::string& table) {
 
 PostgreSQLConnection::PostgreSQLConnection(const std::string& address, const TFormatSettings& settings)
     : session_(address, settings) {
-    hasSchema(); // another program's is refused at once
+    if (hasSchema()) { // another program's is refused at once
+        refreshCollation(session_);
+    }
+}
+
+void PostgreSQLConnection::refuseAfterUpgrade() {
+    if (session_.isUpgraded()) {
+        throw upgradedMeanwhileError(session_.database());
+    }
 }
 
 void PostgreSQLConnection::restoreLink() {
+    refuseAfterUpgrade();
     if (!session_.isLost()) {
         return;
     }
     procedures_.clear();
     session_.reconnect();
+    hasPostgreSQLSchema(session_); // one that was upgraded while the link was lost is refused
 }
 
 bool PostgreSQLConnection::hasSchema() {
@@ -62,6 +74,17 @@ bool PostgreSQLConnection::hasSchema() {
 void PostgreSQLConnection::createSchema() {
     restoreLink();
     createPostgreSQLSchema(session_);
+}
+
+void PostgreSQLConnection::inOneTransaction(const std::function<void()>& work) {
+    restoreLink();
+    PostgreSQLTransaction transaction(session_, PostgreSQLTransaction::Kind::Writing);
+    work();
+    transaction.commit();
+}
+
+void PostgreSQLConnection::useProcedures(const std::string& /*folder*/) {
+    throw refusal("ML931", {session_.database()});
 }
 
 void PostgreSQLConnection::insertRows(std::string_view table, std::span<const std::string> columns,
@@ -95,7 +118,7 @@ const PostgreSQLProcedure& PostgreSQLConnection::procedure(const AnsiString& nam
     parameterValue(ParameterKind::Text, "procedure", name);
     auto found = PostgreSQLProcedure::find(session_, name);
     if (!found && !hasSchema()) {
-        throw EDatabaseError("Databáze „" + session_.database() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
+        throw refusal("ML922", {session_.database()});
     }
     if (!found) {
         throw refusal("ML918", {shownText(name)});
@@ -122,7 +145,9 @@ TCallResult PostgreSQLConnection::executeAgainstConflicts(const TProcedureCall& 
 
 TCallResult PostgreSQLConnection::Execute(const TProcedureCall& call) {
     const bool isStep = belongsToSave(call.Name);
-    if (!isStep) {
+    if (isStep) {
+        refuseAfterUpgrade();
+    } else {
         restoreLink();
     }
     try {

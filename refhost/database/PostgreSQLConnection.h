@@ -26,6 +26,8 @@ public:
 
     bool hasSchema() override;
     void createSchema() override;
+    void inOneTransaction(const std::function<void()>& work) override;
+    void useProcedures(const std::string& folder) override;
     void insertRows(std::string_view table, std::span<const std::string> columns,
                     std::span<const std::vector<TDbValue>> rows) override;
     void runScript(std::string_view sql) override;
@@ -36,7 +38,9 @@ private:
     const PostgreSQLProcedure& procedure(const AnsiString& name);
     TCallResult executeAgainstConflicts(const TProcedureCall& call);
     void refuseStaging();
+    /// Opens a lost link anew, and refuses to go on with a database that was upgraded meanwhile.
     void restoreLink();
+    void refuseAfterUpgrade();
 
     PostgreSQLSession session_;
     std::map<std::string, PostgreSQLProcedure> procedures_; ///< By lower-case name.

@@ -9,6 +9,7 @@ struct PostgreSQLDeleter {
     void operator()(PGconn* connection) const { PQfinish(connection); }
     void operator()(PGresult* result) const { PQclear(result); }
     void operator()(PQconninfoOption* options) const { PQconninfoFree(options); }
+    void operator()(PGnotify* news) const { PQfreemem(news); }
     /// Texts that the client library made.
     void operator()(char* text) const { PQfreemem(text); }
 };

@@ -72,10 +72,12 @@ void finishPostgreSQLSchema(PostgreSQLSession& session) {
 }
 
 void createPostgreSQLSchema(PostgreSQLSession& session) {
+    PostgreSQLTransaction transaction(session, PostgreSQLTransaction::Kind::Writing);
+    // Whoever else makes one in this database goes first or waits.
+    session.execute("set local lock_timeout = '60s'; select pg_advisory_xact_lock(hashtext('melvark'))");
     if (hasPostgreSQLSchema(session)) {
         throw EDatabaseError("Databáze „" + session.database() + "“ už tabulky má. Zvolte prázdnou databázi.", "ML921");
     }
-    PostgreSQLTransaction transaction(session, PostgreSQLTransaction::Kind::Writing);
     beginPostgreSQLSchema(session);
     runFolder(session, "tables.sql");
     createPostgreSQLRoutines(session);

@@ -9,9 +9,6 @@ namespace refhost {
 /// The company's schema on a server: it lies in the schema "melvark" of the database, which the role melvark_owner
 /// owns; roles of the group melvark_clerk run the procedures and read the views.
 
-/// On this channel an upgrade tells the sessions of the company's other programs.
-inline constexpr const char* c_UpgradeChannel = "melvark_upgraded";
-
 /// The version of the schema; 0 when there is none yet. Throws EDatabaseError when the schema "melvark" is another
 /// program's.
 std::int64_t postgresqlSchemaVersion(PostgreSQLSession& session);

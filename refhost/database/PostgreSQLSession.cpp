@@ -20,10 +20,12 @@ using std::chrono::steady_clock;
 constexpr milliseconds c_OpeningTime{10000};
 
 /// What every session needs beside the user's formats: unqualified names are the company's, another user's save is
-/// waited for as long as on the embedded engine, and short calls are not compiled.
+/// waited for as long as on the embedded engine, a program that stops in the middle of a call loses its locks after a
+/// minute, upgrades are heard of, and short calls are not compiled.
 constexpr const char* c_SetUp = "set search_path = melvark, pg_temp;"
                                 "set datestyle = 'ISO, YMD';"
                                 "set lock_timeout = '5s';"
+                                "set idle_in_transaction_session_timeout = '60s';"
                                 "set jit = off;"
                                 "set client_min_messages = error;"
                                 "set standard_conforming_strings = on;";
@@ -139,7 +141,7 @@ void PostgreSQLSession::open() {
 }
 
 void PostgreSQLSession::setUp() {
-    execute(c_SetUp);
+    execute(std::string(c_SetUp).append("listen ").append(c_UpgradeChannel));
     const std::vector<TDbValue> formats{AnsiString(1, settings_.DecimalSeparator),
                                         AnsiString(dateOrder(settings_.DateOrder)),
                                         AnsiString(1, settings_.DateSeparator)};
@@ -150,6 +152,13 @@ void PostgreSQLSession::setUp() {
 
 void PostgreSQLSession::reconnect() {
     open();
+}
+
+bool PostgreSQLSession::isUpgraded() {
+    PQconsumeInput(handle()); // a lost link is for the next statement to notice
+    const std::unique_ptr<PGnotify, PostgreSQLDeleter> news(PQnotifies(handle()));
+    isUpgraded_ = isUpgraded_ || news != nullptr;
+    return isUpgraded_;
 }
 
 PostgreSQLResult PostgreSQLSession::checked(PGresult* result, std::string_view statement) const {
@@ -231,8 +240,11 @@ std::string PostgreSQLSession::quoted(std::string_view name) const {
     return text.get();
 }
 
-PostgreSQLTransaction::PostgreSQLTransaction(PostgreSQLSession& session, Kind kind) : session_(session) {
-    session_.execute(kind == Kind::Reading ? "begin read only" : "begin");
+PostgreSQLTransaction::PostgreSQLTransaction(PostgreSQLSession& session, Kind kind)
+    : session_(session), isOpen_(PQtransactionStatus(session.handle()) == PQTRANS_IDLE) {
+    if (isOpen_) {
+        session_.execute(kind == Kind::Reading ? "begin read only" : "begin");
+    }
 }
 
 PostgreSQLTransaction::~PostgreSQLTransaction() {
@@ -243,8 +255,10 @@ PostgreSQLTransaction::~PostgreSQLTransaction() {
 }
 
 void PostgreSQLTransaction::commit() {
-    session_.execute("commit");
-    isOpen_ = false;
+    if (isOpen_) {
+        session_.execute("commit");
+        isOpen_ = false;
+    }
 }
 
 } // namespace refhost

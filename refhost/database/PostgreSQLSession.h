@@ -12,6 +12,9 @@
 
 namespace refhost {
 
+/// On this channel an upgrade tells the sessions of the company's other programs.
+inline constexpr std::string_view c_UpgradeChannel = "melvark_upgraded";
+
 /// One session on a server: the link, the session's settings (how its user writes numbers and dates, how long it waits
 /// for a lock), the statements that were prepared on it, and the way in which failures become sentences. It knows no
 /// procedure.
@@ -23,6 +26,10 @@ public:
     PGconn* handle() const { return handle_.get(); }
     const std::string& database() const { return database_; }
     const std::string& user() const { return user_; }
+
+    /// Whether another program has said on the channel of upgrades that it upgraded the database since this session was
+    /// opened. Asks nothing of the server.
+    bool isUpgraded();
 
     bool isLost() const { return PQstatus(handle()) != CONNECTION_OK; }
     /// Opens a new session in place of a lost one; what the old one held is gone. Throws EDatabaseError.
@@ -53,6 +60,7 @@ private:
     std::string database_;
     std::string user_;
     PostgreSQLHandle handle_;
+    bool isUpgraded_ = false;
     std::map<std::string, std::string, std::less<>> prepared_; ///< Names of prepared statements by their texts.
 };
 
@@ -61,6 +69,7 @@ class PostgreSQLTransaction {
 public:
     enum class Kind { Reading, Writing };
 
+    /// Within another transaction it is a part of that one.
     PostgreSQLTransaction(PostgreSQLSession& session, Kind kind);
     PostgreSQLTransaction(const PostgreSQLTransaction&) = delete;
     PostgreSQLTransaction& operator=(const PostgreSQLTransaction&) = delete;
@@ -70,7 +79,7 @@ public:
 
 private:
     PostgreSQLSession& session_;
-    bool isOpen_ = true;
+    bool isOpen_; ///< Begun here and not ended yet.
 };
 
 } // namespace refhost

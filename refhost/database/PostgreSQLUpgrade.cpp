@@ -4,6 +4,7 @@
 #include "refhost/database/EmbeddedSql.h"
 #include "refhost/database/PostgreSQLSchema.h"
 #include "refhost/database/PostgreSQLShipped.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SchemaVersion.h"
 #include "refhost/database/UpgradeSteps.h"
 
@@ -21,7 +22,7 @@ constexpr const char* c_LockTables =
 /// Refuses a version that cannot be upgraded; false when there is nothing to do.
 bool isOlder(const PostgreSQLSession& session, std::int64_t version) {
     if (version == 0) {
-        throw EDatabaseError("Databáze „" + session.database() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
+        throw refusal("ML922", {session.database()});
     }
     if (version > c_SchemaVersion) {
         throw otherVersionError(session.database(), version);
@@ -34,10 +35,7 @@ void putBackReplaced(PostgreSQLSession& session, const std::vector<ReplacedRouti
         try {
             putBack(session, routine);
         } catch (const EDatabaseError& error) {
-            throw EDatabaseError(
-                "Vaši úpravu „" + routine.Name +
-                    "“ nelze v nové verzi ponechat. Upravte ji, nebo ji odstraňte, a převod zopakujte.",
-                "ML928", error.Details());
+            throw refusal("ML928", {routine.Name}, error.Details());
         }
         report.Kept.push_back(routine.Name);
     }

@@ -4,11 +4,13 @@
 #include "refhost/database/DecimalFunctions.h"
 #include "refhost/database/EmbeddedSql.h"
 #include "refhost/database/RefusalTable.h"
+#include "refhost/database/SQLiteCollation.h"
 #include "refhost/database/SQLiteFunctions.h"
 #include "refhost/database/SQLiteSchema.h"
 #include "refhost/database/SchemaVersion.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace refhost {
 
@@ -17,8 +19,8 @@ namespace {
 /// A save that was not begun stays so.
 constexpr const char* c_RefuseStaging = "update temp.STAGING set STATE = 'refused' where STATE = 'open'";
 
-const SqlFile* findProcedure(std::string_view name) {
-    for (const SqlFile& file : sqliteFiles()) {
+const SqlFile* findProcedure(std::span<const SqlFile> files, std::string_view name) {
+    for (const SqlFile& file : files) {
         if (file.Path.starts_with("procedures/") && SameDbName(sqlObjectName(file), name)) {
             return &file;
         }
@@ -60,6 +62,7 @@ SQLiteConnection::SQLiteConnection(const std::string& file, const std::string& u
     createSessionTables();
     if (hasSchema()) {
         useWriteAheadLog();
+        refreshCollation(session_);
     }
 }
 
@@ -101,8 +104,35 @@ bool SQLiteConnection::hasSchema() {
 }
 
 void SQLiteConnection::createSchema() {
-    createSQLiteSchema(session_);
-    useWriteAheadLog();
+    inOneTransaction([this] { createSQLiteSchema(session_); });
+}
+
+void SQLiteConnection::inOneTransaction(const std::function<void()>& work) {
+    const bool isOuter = sqlite3_get_autocommit(session_.handle()) != 0;
+    SQLiteTransaction transaction(session_, SQLiteTransaction::Kind::Writing);
+    work();
+    transaction.commit();
+    // Not before the company is complete: the log's mark would make an empty file look like somebody's.
+    if (isOuter && hasSchema()) {
+        useWriteAheadLog();
+    }
+}
+
+void SQLiteConnection::useProcedures(const std::string& folder) {
+    ownProcedures_.emplace(folder);
+    procedures_.clear();
+}
+
+void SQLiteConnection::refuseAfterUpgrade() {
+    if (!version_) {
+        std::string_view sql = "pragma user_version";
+        version_.emplace(session_, sql);
+    }
+    const SQLiteStatementUse use(*version_);
+    version_->step();
+    if (std::get<std::int64_t>(version_->value(0)) != c_SchemaVersion) {
+        throw upgradedMeanwhileError(session_.file());
+    }
 }
 
 void SQLiteConnection::insertRows(std::string_view table, std::span<const std::string> columns,
@@ -136,15 +166,21 @@ SQLiteProcedure& SQLiteConnection::procedure(const AnsiString& name) {
     if (const auto prepared = procedures_.find(key); prepared != procedures_.end()) {
         return *prepared->second;
     }
-    const SqlFile* file = findProcedure(name);
+    const std::span<const SqlFile> files = ownProcedures_ ? ownProcedures_->files() : sqliteFiles();
+    const SqlFile* file = findProcedure(files, name);
     if (file == nullptr) {
         throw refusal("ML918", {shownText(name)});
     }
     if (!hasSchema()) {
-        throw EDatabaseError("Databáze „" + session_.file() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
+        throw refusal("ML922", {session_.file()});
     }
-    auto prepared = std::make_unique<SQLiteProcedure>(session_, readSqlScript(*file, sqliteFiles()));
-    return *procedures_.emplace(key, std::move(prepared)).first->second;
+    refuseAfterUpgrade();
+    try {
+        auto prepared = std::make_unique<SQLiteProcedure>(session_, readProcedure(*file, files));
+        return *procedures_.emplace(key, std::move(prepared)).first->second;
+    } catch (const std::logic_error& error) { // what it brings is not what its header says
+        throw scriptError(name, error.what());
+    }
 }
 
 TProcedureInfo SQLiteConnection::Describe(const AnsiString& name) {
@@ -156,6 +192,7 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
     try {
         SQLiteTransaction transaction(session_, called.isWriting() ? SQLiteTransaction::Kind::Writing
                                                                    : SQLiteTransaction::Kind::Reading);
+        refuseAfterUpgrade();
         TCallResult result = called.run(call);
         transaction.commit();
         return result;
@@ -171,6 +208,9 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
 TResultTable SQLiteConnection::Query(const AnsiString& sql) {
     parameterValue(ParameterKind::Text, "sql", sql);
     std::string_view text = sql;
+    if (hasSchema()) {
+        refuseAfterUpgrade();
+    }
     const ReadingOnly access(session_);
     try {
         std::vector<SQLiteStatement> statements = prepareStatements(session_, text);

@@ -2,11 +2,13 @@
 
 #include "host/FormatSettings.h"
 #include "refhost/database/Database.h"
+#include "refhost/database/ProcedureFolder.h"
 #include "refhost/database/SQLiteProcedure.h"
 
 #include <chrono>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,6 +34,8 @@ public:
 
     bool hasSchema() override;
     void createSchema() override;
+    void inOneTransaction(const std::function<void()>& work) override;
+    void useProcedures(const std::string& folder) override;
     void insertRows(std::string_view table, std::span<const std::string> columns,
                     std::span<const std::vector<TDbValue>> rows) override;
     void runScript(std::string_view sql) override;
@@ -40,14 +44,18 @@ public:
 
 private:
     void checkOwner();
+    /// Within a transaction: refuses to go on with a file that was upgraded since it was opened.
+    void refuseAfterUpgrade();
     void registerFunctions();
     void createSessionTables();
     void useWriteAheadLog();
     SQLiteProcedure& procedure(const AnsiString& name);
 
+    std::optional<ProcedureFolder> ownProcedures_;
     SQLiteSession session_; // First: statements of functions and procedures are gone before it closes.
     std::vector<std::unique_ptr<SQLiteScriptFunction>> functions_;
     std::map<std::string, std::unique_ptr<SQLiteProcedure>> procedures_; ///< By lower-case name.
+    std::optional<SQLiteStatement> version_; ///< Asks for the version; prepared when there is one.
 };
 
 } // namespace refhost

@@ -1,32 +1,26 @@
 #include "refhost/database/SQLiteCopy.h"
 
+#include "refhost/database/PrivateFile.h"
 #include "refhost/database/SQLiteSession.h"
 
 #include <cerrno>
-#include <cstring>
-#include <fcntl.h>
 #include <filesystem>
-#include <unistd.h>
 
 namespace refhost {
 
 namespace {
 
-/// Makes an empty file that only its owner may read, under the first name that is free.
+/// Makes the file under the first name that is free.
 std::string makeEmptyFile(const std::string& wanted) {
     std::string name = wanted;
-    for (int number = 2;; ++number) {
-        const int descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
-        if (descriptor >= 0) {
-            close(descriptor);
-            return name;
-        }
+    for (int number = 2; !makePrivateFile(name); ++number) {
         if (errno != EEXIST) {
             throw EInOutError("Kopii databáze „" + name +
                               "“ nelze založit. Zkontrolujte místo na disku a oprávnění ke složce.");
         }
         name = wanted + "-" + std::to_string(number);
     }
+    return name;
 }
 
 void copyPages(const std::string& file, const std::string& copy) {

@@ -7,6 +7,7 @@
 #include <unicode/coll.h>
 #include <unicode/locid.h>
 #include <unicode/unistr.h>
+#include <unicode/uversion.h>
 
 namespace refhost {
 
@@ -53,15 +54,20 @@ void upper(const SQLiteCall& call) {
     }
 }
 
-} // namespace
-
-void registerCzech(SQLiteSession& session) {
+std::unique_ptr<icu::Collator> makeCollator() {
     UErrorCode error = U_ZERO_ERROR;
     std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(czech(), error));
     if (U_FAILURE(error)) {
         throw EDatabaseError("České řazení není v systému k dispozici. Obraťte se na správce.", "ML930",
                              u_errorName(error));
     }
+    return collator;
+}
+
+} // namespace
+
+void registerCzech(SQLiteSession& session) {
+    std::unique_ptr<icu::Collator> collator = makeCollator();
     int status = sqlite3_create_collation_v2(session.handle(), "CZECH", SQLITE_UTF8, collator.get(), compareCzech,
                                              deleteCollator);
     if (status == SQLITE_OK) {
@@ -78,6 +84,14 @@ void registerCzech(SQLiteSession& session) {
     if (status != SQLITE_OK) {
         session.fail(status, "collation CZECH");
     }
+}
+
+std::string czechVersion() {
+    UVersionInfo version;
+    makeCollator()->getVersion(version);
+    char text[U_MAX_VERSION_STRING_LENGTH];
+    u_versionToString(version, text);
+    return text;
 }
 
 } // namespace refhost

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace refhost {
 
 class SQLiteSession;
@@ -28,5 +30,8 @@ void registerValueFunctions(SQLiteSession& session);
 /// Gives the session the Czech language: the collation CZECH, with bytes deciding between texts that compare equal, so
 /// that only equal texts are equal; and lower(text) and upper(text) for every script.
 void registerCzech(SQLiteSession& session);
+
+/// The version of the rules by which CZECH sorts; an index written by another one may be in another order.
+std::string czechVersion();
 
 } // namespace refhost

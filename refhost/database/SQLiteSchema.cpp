@@ -1,6 +1,7 @@
 #include "refhost/database/SQLiteSchema.h"
 
 #include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/SQLiteCollation.h"
 #include "refhost/database/SQLiteStatement.h"
 #include "refhost/database/SchemaVersion.h"
 
@@ -48,6 +49,7 @@ void createSQLiteViews(SQLiteSession& session) {
 void stampSQLiteVersion(SQLiteSession& session) {
     session.execute("pragma application_id = " + std::to_string(c_ApplicationId));
     session.execute("pragma user_version = " + std::to_string(c_SchemaVersion));
+    stampCollation(session);
 }
 
 void createSQLiteSchema(SQLiteSession& session) {

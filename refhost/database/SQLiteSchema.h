@@ -20,7 +20,7 @@ void createSQLiteSchema(SQLiteSession& session);
 void createSQLiteTables(SQLiteSession& session);
 /// Makes the views; likewise.
 void createSQLiteViews(SQLiteSession& session);
-/// Marks the file as ours and of this program's version; likewise.
+/// Marks the file as ours, of this program's version and sorted by its rules; likewise.
 void stampSQLiteVersion(SQLiteSession& session);
 
 /// The whole number that a pragma gives; 0 when it gives none.

@@ -1,5 +1,6 @@
 #include "refhost/database/SQLiteSession.h"
 
+#include "refhost/database/PrivateFile.h"
 #include "refhost/database/SQLiteErrors.h"
 
 #include <filesystem>
@@ -42,6 +43,9 @@ SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSe
                              std::chrono::milliseconds patience)
     : file_(std::move(file)), user_(std::move(user)), settings_(settings) {
     checkPlace(file_, create);
+    if (create && file_ != c_InMemory) {
+        makePrivateFile(file_); // one that cannot be made is the engine's to refuse
+    }
     sqlite3* opened = nullptr;
     const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | (create ? SQLITE_OPEN_CREATE : 0);
     const int status = sqlite3_open_v2(file_.c_str(), &opened, flags, nullptr);
@@ -84,19 +88,24 @@ int SQLiteSession::authorize(void* session, int action, const char* /*first*/, c
     return self.access_ == Access::Everything || isReading(action) ? SQLITE_OK : SQLITE_DENY;
 }
 
-SQLiteTransaction::SQLiteTransaction(SQLiteSession& session, Kind kind) : session_(session) {
-    session_.execute(kind == Kind::Writing ? "begin immediate" : "begin");
+SQLiteTransaction::SQLiteTransaction(SQLiteSession& session, Kind kind)
+    : session_(session), isOuter_(sqlite3_get_autocommit(session.handle()) != 0) {
+    if (isOuter_) {
+        session_.execute(kind == Kind::Writing ? "begin immediate" : "begin");
+    }
 }
 
 SQLiteTransaction::~SQLiteTransaction() {
     // The engine may have rolled back by itself; a rollback that fails leaves nothing that could be done here.
-    if (sqlite3_get_autocommit(session_.handle()) == 0) {
+    if (isOuter_ && sqlite3_get_autocommit(session_.handle()) == 0) {
         sqlite3_exec(session_.handle(), "rollback", nullptr, nullptr, nullptr);
     }
 }
 
 void SQLiteTransaction::commit() {
-    session_.execute("commit");
+    if (isOuter_) {
+        session_.execute("commit");
+    }
 }
 
 } // namespace refhost

@@ -15,11 +15,14 @@ namespace refhost {
 /// way in which failures become sentences. It knows no procedure; statements, functions and transactions stand on it.
 class SQLiteSession {
 public:
+    /// The name of a database of the session's own, without a file.
+    static constexpr const char* c_InMemory = ":memory:";
+
     /// What a statement may do when it is prepared.
     enum class Access { Everything, ReadingOnly };
 
-    /// Opens the file; with `create` it may be missing. `patience` is how long a statement waits for another user's
-    /// save before it gives up. Throws EDatabaseError.
+    /// Opens the file; with `create` it may be missing, and a new one is its owner's alone. `patience` is how long a
+    /// statement waits for another user's save before it gives up. Throws EDatabaseError.
     SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, bool create,
                   std::chrono::milliseconds patience);
     SQLiteSession(const SQLiteSession&) = delete;
@@ -65,6 +68,7 @@ public:
     /// A writing one waits for other writers at once, so that it can never lose its place to one of them later.
     enum class Kind { Reading, Writing };
 
+    /// Within another transaction it is a part of that one.
     SQLiteTransaction(SQLiteSession& session, Kind kind);
     SQLiteTransaction(const SQLiteTransaction&) = delete;
     SQLiteTransaction& operator=(const SQLiteTransaction&) = delete;
@@ -74,6 +78,7 @@ public:
 
 private:
     SQLiteSession& session_;
+    bool isOuter_;
 };
 
 } // namespace refhost

@@ -1,5 +1,6 @@
 #include "refhost/database/SQLiteTableRebuild.h"
 
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteFunctions.h"
 #include "refhost/database/SQLiteSchema.h"
 #include "refhost/database/SQLiteStatement.h"
@@ -61,7 +62,7 @@ bool hasRows(SQLiteSession& session, const std::string& sql) {
 
 /// What a file of this version holds.
 SchemaObjects shippedObjects() {
-    SQLiteSession empty(":memory:", {}, TFormatSettings{}, true, std::chrono::milliseconds(0));
+    SQLiteSession empty(SQLiteSession::c_InMemory, {}, TFormatSettings{}, true, std::chrono::milliseconds(0));
     registerValueFunctions(empty);
     registerCzech(empty);
     createSQLiteTables(empty);
@@ -86,18 +87,14 @@ void takeRowsOver(SQLiteSession& session, const std::string& table) {
     std::string names;
     for (const std::string& column : columnsOf(session, old)) {
         if (std::ranges::none_of(columns, [&](const std::string& known) { return SameDbName(known, column); })) {
-            throw EDatabaseError("Tabulka „" + table + "“ má navíc sloupec „" + column +
-                                     "“, který by převod ztratil. Přesuňte jej do vlastní tabulky.",
-                                 "ML926");
+            throw refusal("ML926", {table, column});
         }
         names += (names.empty() ? "" : ", ") + column;
     }
     try {
         session.execute("insert into " + table + " (" + names + ") select " + names + " from " + old);
     } catch (const EDatabaseError& error) {
-        throw EDatabaseError("Údaje v tabulce „" + table +
-                                 "“ neodpovídají pravidlům nové verze. Opravte je a převod zopakujte.",
-                             "ML927", error.Details());
+        throw refusal("ML927", {table}, error.Details());
     }
     // Identifiers that were given once are never given again, also when their rows have gone.
     session.execute("delete from sqlite_sequence where name = '" + table + "'");
@@ -108,9 +105,7 @@ void takeRowsOver(SQLiteSession& session, const std::string& table) {
 void checkReferences(SQLiteSession& session, const SchemaObjects& shipped) {
     for (const SchemaObject& object : shipped) {
         if (object.Type == "table" && hasRows(session, "pragma foreign_key_check(" + object.Name + ")")) {
-            throw EDatabaseError("Údaje v tabulce „" + object.Name +
-                                     "“ se odvolávají na něco, co v databázi není. Opravte je a převod zopakujte.",
-                                 "ML927");
+            throw refusal("ML927/references", {object.Name});
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "refhost/database/SQLiteUpgrade.h"
 
 #include "refhost/database/DecimalFunctions.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteCopy.h"
 #include "refhost/database/SQLiteFunctions.h"
 #include "refhost/database/SQLiteSchema.h"
@@ -19,7 +20,7 @@ constexpr std::chrono::seconds c_Patience{30};
 /// Refuses a version that cannot be upgraded; false when there is nothing to do.
 bool isOlder(SQLiteSession& session, std::int64_t version) {
     if (version == 0) {
-        throw EDatabaseError("Databáze „" + session.file() + "“ nemá tabulky. Nejprve ji vytvořte.", "ML922");
+        throw refusal("ML922", {session.file()});
     }
     if (version > c_SchemaVersion) {
         throw otherVersionError(session.file(), version);

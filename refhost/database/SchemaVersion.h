@@ -3,7 +3,7 @@
 #include "host/Exceptions.h"
 
 #include <cstdint>
-#include <string_view>
+#include <string>
 
 namespace refhost {
 
@@ -14,9 +14,9 @@ inline constexpr std::int64_t c_SchemaVersion = 2;
 
 /// The refusal of a database of another version, which says what to do: an older one is to be upgraded, a newer one
 /// needs a newer program.
-EDatabaseError otherVersionError(std::string_view database, std::int64_t version);
+EDatabaseError otherVersionError(const std::string& database, std::int64_t version);
 
 /// The refusal of every call after another program has upgraded the database under a running one.
-EDatabaseError upgradedMeanwhileError(std::string_view database);
+EDatabaseError upgradedMeanwhileError(const std::string& database);
 
 } // namespace refhost

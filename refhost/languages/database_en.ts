@@ -403,5 +403,21 @@
         <source>V databázi „%1“ závisí na pohledech nebo funkcích něco vlastního. Odstraňte to a převod zopakujte.</source>
         <translation>In database “%1” something of your own depends on our views or functions. Remove it and repeat the upgrade.</translation>
     </message>
+    <message id="MELVARKHOST\REFUSAL\ML931">
+        <source>Procedury databáze „%1“ jsou na serveru. Nahraďte je tam; přepínač --procedures je jen pro SQLite.</source>
+        <translation>The procedures of database “%1” are on the server. Replace them there; the option --procedures is for SQLite only.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML932">
+        <source>Skript procedury „%1“ má chybu. Obraťte se na správce.</source>
+        <translation>The script of procedure “%1” has a mistake. Ask your administrator.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML932|Skript „%1“ nenahrazuje žádnou proceduru. Pojmenujte jej po proceduře.">
+        <source>Skript „%1“ nenahrazuje žádnou proceduru. Pojmenujte jej po proceduře.</source>
+        <translation>The script “%1” replaces no procedure. Name it after one.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML932|Složku procedur „%1“ nelze číst. Zkontrolujte její umístění a oprávnění.">
+        <source>Složku procedur „%1“ nelze číst. Zkontrolujte její umístění a oprávnění.</source>
+        <translation>The folder of procedures “%1” cannot be read. Check its location and permissions.</translation>
+    </message>
 </context>
 </TS>

@@ -59,6 +59,10 @@
         <source>Vkládání položek není k dispozici. %1</source>
         <translation>Inserting lines is not available. %1</translation>
     </message>
+    <message id="MELVARKHOST\MAIN\UPGRADED">
+        <source>Databáze byla převedena pro novou verzi programu. Jak vypadala předtím, zůstalo v souboru „%1“.</source>
+        <translation>The database was upgraded for the new version of the program. What it was like before is kept in file “%1”.</translation>
+    </message>
     <message id="MELVARKHOST\SCREEN\DODAK">
         <source>Dodací listy</source>
         <translation>Delivery notes</translation>

@@ -87,6 +87,24 @@ TEST(PostgreSQLRoles, ASaveDoesNotUseTemporaryTablesThatTheClerkMade) {
     EXPECT_EQ(failure([&] { clerk->Execute(serverCall("MELVARKEDITORDodakInsertToTemp")); }).Code(), "ML040");
 }
 
+TEST(PostgreSQLRoles, ARoleThatMakesRolesAndOwnsTheDatabaseMakesTheCompany) {
+    PrivateServer& server = PrivateServer::instance();
+    const std::string name = server.newEmptyDatabase();
+    PostgreSQLSession administrator = server.administrator("postgres");
+    administrator.execute("create role spravce login createrole; alter database " + name + " owner to spravce");
+
+    PostgreSQLConnection company(server.address(name, "spravce"), TFormatSettings::Czech());
+    company.createSchema();
+
+    const std::vector<std::string> columns{"NAZEV"};
+    const std::vector<std::vector<TDbValue>> rows{{AnsiString("Hlavní sklad")}};
+    company.insertRows("SKLAD", columns, rows);
+    server.addRole("dvorak", "melvark_clerk");
+    PostgreSQLConnection clerk(server.address(name, "dvorak"), TFormatSettings::Czech());
+    EXPECT_EQ(rowsOf(clerk, "select NAZEV from SKLAD_V"), "Hlavní sklad");
+    EXPECT_EQ(failure([&] { clerk.runScript("create temporary table X (A integer)"); }).Code(), "ML924");
+}
+
 TEST(PostgreSQLRoles, AClerksOwnTablesDoNotReachIntoProcedures) {
     const ServerCompany company;
     PrivateServer::instance()

@@ -124,6 +124,36 @@ TEST(PostgreSQLUpgrade, ATableAndAFunctionOfOnesOwnStay) {
     EXPECT_THAT(database.rows("select melvark.pocet_poznamek()"), ElementsAre("1"));
 }
 
+TEST(PostgreSQLUpgrade, RowsThatAClerkHasStagedAreNotInTheWay) {
+    const std::string url = versionOneUrl(Engine::PostgreSQL);
+    BareConnection clerk(url + " user=novakova");
+    clerk.run("select melvark.melvarkeditorresettemp();"
+              "select melvark.melvarkeditordodakinserttotemp(a_skladpol => '" +
+              BareConnection(url)
+                  .rows("select nazev from melvark.skladpol where id = (select min(id) from "
+                        "melvark.skladpol)")
+                  .front() +
+              "', a_mnozstvi => '1')");
+    EXPECT_EQ(upgraded(url).From, 1);
+}
+
+TEST(PostgreSQLUpgrade, ATableThatStandsOnAnotherTypeOfOursIsNeverDropped) {
+    const std::string url = versionOneUrl(Engine::PostgreSQL);
+    BareConnection database(url);
+    database.run("create table public.moje (cena melvark.price_row)");
+    EXPECT_EQ(failureOf(url).Code(), "ML929");
+    EXPECT_THAT(database.rows("select count(*) from public.moje"), ElementsAre("0"));
+}
+
+TEST(PostgreSQLUpgrade, ACallUnderWayIsWaitedForAndNeverCutShort) {
+    const std::string url = versionOneUrl(Engine::PostgreSQL);
+    BareConnection clerk(url);
+    clerk.run("begin; update melvark.dodak set otevreno = 1 where id = 1089");
+    EXPECT_EQ(failureOf(url).Code(), "ML910");
+    clerk.run("commit");
+    EXPECT_EQ(upgraded(url).From, 1);
+}
+
 TEST(PostgreSQLUpgrade, AClerkMayNotUpgrade) {
     const std::string url = versionOneUrl(Engine::PostgreSQL);
     EXPECT_EQ(failureOf(url + " user=novakova").Code(), "ML924");

@@ -113,7 +113,9 @@ TEST(SQLiteOpening, AReadOnlyFileIsRefusedAtOnce) {
     const SQLiteFile file;
     const auto administrator = file.createCompany(); // While he is there, others could read without writing a byte.
     std::filesystem::permissions(file.folder(), std::filesystem::perms(0755));
-    std::filesystem::permissions(file.path(), std::filesystem::perms(0444));
+    for (const char* suffix : {"", "-wal", "-shm"}) {
+        std::filesystem::permissions(file.path().string() + suffix, std::filesystem::perms(0444));
+    }
     const OrdinaryUser user;
     EXPECT_THAT(openingError(file), HasSubstr("ML911"));
 }

@@ -56,6 +56,7 @@ INSTANTIATE_TEST_SUITE_P(
         GoodCase{"Documents", {"--documents", "DODOBJVZOR"}, Command::Documents, "DODOBJVZOR", 0, 0},
         GoodCase{"Create", {"--create-database"}, Command::CreateDatabase, "", 0, 0},
         GoodCase{"CreateWithLines", {"--create-database", "--lines", "5000"}, Command::CreateDatabase, "", 0, 5000},
+        GoodCase{"Upgrade", {"--upgrade-database"}, Command::UpgradeDatabase, "", 0, 0},
         GoodCase{"Help", {"--help"}, Command::Help, "", 0, 0}),
     [](const auto& row) { return row.param.name; });
 
@@ -103,6 +104,11 @@ INSTANTIATE_TEST_SUITE_P(
         BadCase{"NamelessValue", {"--call", "X", "=1"}, "unknown word: =1"},
         BadCase{"LinesOfNothing", {"--lines", "5"}, "--lines: belongs to --create-database"},
         BadCase{"NegativeLines", {"--create-database", "--lines", "-1"}, "--lines: must not be less than 0"},
+        BadCase{"EmptyWithLines", {"--create-database", "--empty", "--lines", "3"}, "--empty excludes --lines"},
+        BadCase{"EmptyOfNothing", {"--empty"}, "--empty: belongs to --create-database"},
+        BadCase{"UpgradeAndCreate",
+                {"--upgrade-database", "--create-database"},
+                "--create-database excludes --upgrade-database"},
         BadCase{"OtherEngine", {"--database", "file.db"}, "--database: begins with"},
         BadCase{"OtherLocale", {"--locale", "de_DE"}, "--locale: de_DE not in"},
         BadCase{"OtherLanguage", {"--language", "de"}, "--language: de not in"}),
@@ -129,6 +135,12 @@ TEST(CommandLine, TakesTheOptionsThatGoWithEveryCommand) {
     EXPECT_EQ(line.traceFile, "t.jsonl");
 }
 
+TEST(CommandLine, TakesAFolderOfProceduresAndTheWishForAnEmptyCompany) {
+    EXPECT_EQ(parseCommandLine({"--procedures", "own", "--call", "X"}).procedures, "own");
+    EXPECT_TRUE(parseCommandLine({"--create-database", "--empty"}).empty);
+    EXPECT_FALSE(parseCommandLine({"--create-database"}).empty);
+}
+
 TEST(CommandLine, KeepsTheValuesOfACallInOrderAndPartsThemAtTheFirstEqualsSign) {
     const CommandLine line = parseCommandLine({"--call", "X", "a_TEXT=1=2", "a_EMPTY=", "a_NUMBER=-5"});
 
@@ -137,9 +149,9 @@ TEST(CommandLine, KeepsTheValuesOfACallInOrderAndPartsThemAtTheFirstEqualsSign) 
 }
 
 TEST(CommandLine, UsageNamesEveryCommand) {
-    for (const char* option :
-         {"--execute", "--document", "--call", "--batch", "--query", "--documents", "--show", "--create-database",
-          "--lines", "--database", "--user", "--locale", "--language", "--trace"}) {
+    for (const char* option : {"--execute", "--document", "--call", "--batch", "--query", "--documents", "--show",
+                               "--create-database", "--upgrade-database", "--lines", "--empty", "--procedures",
+                               "--database", "--user", "--locale", "--language", "--trace"}) {
         EXPECT_THAT(usageText(), HasSubstr(option));
     }
     EXPECT_THAT(usageText(), Not(HasSubstr("Excludes")));

@@ -1,3 +1,7 @@
+#include "refhost/database/SQLiteFunctions.h"
+#include "refhost/database/SQLiteSession.h"
+
+#include <QDir>
 #include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -5,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include <algorithm>
+#include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
@@ -20,6 +25,15 @@ struct Outcome {
     std::string errors;
 };
 
+/// A company's file as the first version of the program made it.
+void makeVersionOne(const std::string& path) {
+    QFile fixture(QStringLiteral(DATABASE_FIXTURES "/version-1-sqlite.sql"));
+    ASSERT_TRUE(fixture.open(QFile::ReadOnly));
+    refhost::SQLiteSession session(path, {}, TFormatSettings{}, true, std::chrono::seconds(5));
+    refhost::registerCzech(session);
+    session.execute(fixture.readAll().toStdString());
+}
+
 /// The program with a data directory of its own for all tests: the first one that needs the sample company makes it.
 class ProgramTest : public testing::Test {
 protected:
@@ -27,9 +41,14 @@ protected:
     static void TearDownTestSuite() { folder_.reset(); }
 
     static Outcome run(const QStringList& words, const QByteArray& input = {}) {
+        return runIn(folder_->path(), words, input);
+    }
+
+    /// With another data directory.
+    static Outcome runIn(const QString& folder, const QStringList& words, const QByteArray& input = {}) {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), folder_->path());
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), folder);
         process.setProcessEnvironment(environment);
         process.start(QString::fromUtf8(HOST_PROGRAM), words);
         process.write(input);
@@ -72,7 +91,9 @@ TEST_F(ProgramTest, TheFirstUseMakesTheSampleCompanyInTheDataDirectory) {
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
     EXPECT_TRUE(firstLine(outcome).value(u"id").isDouble());
     EXPECT_TRUE(QFile::exists(file(QStringLiteral("melvark/company.sqlite"))));
-    EXPECT_FALSE(QFile::exists(file(QStringLiteral("melvark/company.sqlite.part"))));
+    const auto ownersAlone = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    EXPECT_EQ(QFile::permissions(file(QStringLiteral("melvark/company.sqlite"))), ownersAlone);
+    EXPECT_EQ(QFile::permissions(file(QStringLiteral("melvark"))), ownersAlone | QFile::ExeOwner | QFile::ExeUser);
 }
 
 TEST_F(ProgramTest, ADocumentsLinesAreAsManyAsItsListSays) {
@@ -125,6 +146,81 @@ TEST_F(ProgramTest, ACompanyOfExtraLinesIsMadeOnceAndNotOverAnother) {
         run({QStringLiteral("--database"), database, QStringLiteral("--documents"), QStringLiteral("DODOBJVZOR")});
     EXPECT_THAT(templates.output, HasSubstr("\"lines\":30}"));
     EXPECT_EQ(run(create).status, 2);
+}
+
+TEST_F(ProgramTest, ACompanyCanBeMadeWithoutTheSample) {
+    const QString database = QStringLiteral("sqlite:") + file(QStringLiteral("empty.sqlite"));
+    EXPECT_EQ(
+        run({QStringLiteral("--database"), database, QStringLiteral("--create-database"), QStringLiteral("--empty")})
+            .status,
+        0);
+    const Outcome rows =
+        run({QStringLiteral("--database"), database, QStringLiteral("--query"),
+             QStringLiteral("select (select count(*) from DODAK) + (select count(*) from SKLADPOL) as ALL_ROWS")});
+    EXPECT_EQ(rows.output, "{\"ALL_ROWS\":\"0\"}\n") << rows.errors;
+}
+
+TEST_F(ProgramTest, TwoFirstStartsAtOnceMakeOneCompany) {
+    const QTemporaryDir data;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), data.path());
+    std::array<QProcess, 2> starts;
+    for (QProcess& start : starts) {
+        start.setProcessEnvironment(environment);
+        start.start(QString::fromUtf8(HOST_PROGRAM),
+                    {QStringLiteral("--query"), QStringLiteral("select count(*) as N from SKLAD")});
+    }
+    for (QProcess& start : starts) {
+        constexpr int c_longestRun = 60 * 1000;
+        EXPECT_TRUE(start.waitForFinished(c_longestRun));
+        EXPECT_EQ(start.exitCode(), 0) << start.readAllStandardError().toStdString();
+        EXPECT_EQ(start.readAllStandardOutput().toStdString(), "{\"N\":\"3\"}\n");
+    }
+}
+
+TEST_F(ProgramTest, AnOlderOwnDatabaseIsUpgradedAtAnOrdinaryStartAndTheCopyIsNamed) {
+    const QTemporaryDir data;
+    QDir(data.path()).mkdir(QStringLiteral("melvark"));
+    const std::string own = data.filePath(QStringLiteral("melvark/company.sqlite")).toStdString();
+    makeVersionOne(own);
+
+    const Outcome outcome = runIn(data.path(), {QStringLiteral("--query"), QStringLiteral("select CISLO from DODAK "
+                                                                                          "where ID = 1087")});
+
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_THAT(outcome.output, StartsWith("{\"CISLO\":"));
+    EXPECT_THAT(outcome.errors, HasSubstr("zůstalo v souboru „" + own + ".version-1“."));
+    EXPECT_EQ(runIn(data.path(), {QStringLiteral("--query"), QStringLiteral("select 1 as A")}).errors, "");
+}
+
+TEST_F(ProgramTest, AnyOtherOlderDatabaseIsUpgradedByTheCommandOnly) {
+    const std::string path = file(QStringLiteral("old.sqlite")).toStdString();
+    makeVersionOne(path);
+    const QStringList database{QStringLiteral("--database"), QStringLiteral("sqlite:") + QString::fromStdString(path)};
+
+    const Outcome refused = run(database + QStringList{QStringLiteral("--documents"), QStringLiteral("DODAK")});
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_THAT(refused.errors, HasSubstr("--upgrade-database"));
+
+    const Outcome outcome = run(database + QStringList{QStringLiteral("--upgrade-database")});
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    EXPECT_EQ(outcome.output, "{\"from\":1,\"to\":2,\"copy\":\"" + path + ".version-1\",\"kept\":[]}\n");
+    EXPECT_EQ(run(database + QStringList{QStringLiteral("--documents"), QStringLiteral("DODAK")}).status, 0);
+    EXPECT_EQ(run(database + QStringList{QStringLiteral("--upgrade-database")}).output,
+              "{\"from\":2,\"to\":2,\"copy\":null,\"kept\":[]}\n");
+}
+
+TEST_F(ProgramTest, AFolderOfProceduresReplacesThoseOfItsNames) {
+    QDir(folder_->path()).mkdir(QStringLiteral("own"));
+    QFile script(file(QStringLiteral("own/MELVARKEDITORDodObjInit.sql")));
+    ASSERT_TRUE(script.open(QFile::WriteOnly));
+    script.write("-- returns: UZIVATEL\nselect 'vlastní' as UZIVATEL;\n");
+    script.close();
+
+    const Outcome outcome = run({QStringLiteral("--procedures"), file(QStringLiteral("own")), QStringLiteral("--call"),
+                                 QStringLiteral("MELVARKEDITORDodObjInit")});
+
+    EXPECT_EQ(outcome.output, "{\"set\":1,\"row\":{\"UZIVATEL\":\"vlastní\"}}\n") << outcome.errors;
 }
 
 TEST_F(ProgramTest, AMissingDatabaseIsAnErrorAndIsNotCreated) {

@@ -4,6 +4,12 @@
 -- them to that and to n decimals at most. Dates are ISO texts
 -- ("2027-02-01"), moments "2027-02-01 13:45:00". Flags are 0 or 1. Names sort by Czech rules because their columns say so.
 
+-- By which version of the sorting rules the indices over names were written; the server notes that itself.
+create table RAZENI (
+    NAZEV text primary key,
+    VERZE text not null
+) strict;
+
 create table UZIVATEL (
     ID integer primary key autoincrement,
     JMENO text not null collate CZECH unique check (JMENO <> '')
