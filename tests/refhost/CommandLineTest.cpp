@@ -104,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(
         BadCase{"NamelessValue", {"--call", "X", "=1"}, "unknown word: =1"},
         BadCase{"LinesOfNothing", {"--lines", "5"}, "--lines: belongs to --create-database"},
         BadCase{"NegativeLines", {"--create-database", "--lines", "-1"}, "--lines: must not be less than 0"},
-        BadCase{"EmptyWithLines", {"--create-database", "--empty", "--lines", "3"}, "--empty excludes --lines"},
+        BadCase{"EmptyWithLines", {"--create-database", "--empty", "--lines", "3"}, "--lines excludes --empty"},
         BadCase{"EmptyOfNothing", {"--empty"}, "--empty: belongs to --create-database"},
         BadCase{"UpgradeAndCreate",
                 {"--upgrade-database", "--create-database"},
