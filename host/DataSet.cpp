@@ -51,8 +51,8 @@ std::optional<bool> ToBoolean(std::string_view text) {
 
 } // namespace
 
-TField::TField(AnsiString name, TDbValue value, TFormatSettings settings)
-    : FName(std::move(name)), FValue(std::move(value)), FSettings(std::move(settings)) {}
+TField::TField(AnsiString name, TDbValue value, const TFormatSettings& settings)
+    : FName(std::move(name)), FValue(std::move(value)), FSettings(&settings) {}
 
 bool TField::IsNull() const {
     return std::holds_alternative<std::monostate>(FValue);
@@ -61,7 +61,7 @@ bool TField::IsNull() const {
 AnsiString TField::AsString() const {
     return std::visit(Readings{[](std::monostate) { return AnsiString(); },
                                [](std::int64_t value) { return std::to_string(value); },
-                               [this](double value) { return FloatToText(value, FSettings); },
+                               [this](double value) { return FloatToText(value, *FSettings); },
                                [](bool value) { return AnsiString(value ? "1" : "0"); },
                                [](const AnsiString& value) { return value; }},
                       FValue);
@@ -86,7 +86,7 @@ double TField::AsFloat() const {
         Readings{[](std::monostate) { return Result(0.0); },
                  [](std::int64_t value) { return Result(static_cast<double>(value)); },
                  [](double value) { return Result(value); }, [](bool value) { return Result(value ? 1.0 : 0.0); },
-                 [this](const AnsiString& value) { return TextToFloat(value, FSettings); }},
+                 [this](const AnsiString& value) { return TextToFloat(value, *FSettings); }},
         FValue);
     if (!result) {
         RefuseReading(*this, melvark::c_NotANumber);
@@ -112,7 +112,7 @@ TDateTime TField::AsDateTime() const {
         return TDateTime{};
     }
     const AnsiString* text = std::get_if<AnsiString>(&FValue);
-    const std::optional<TDateTime> result = text != nullptr ? TextToDateTime(*text, FSettings) : std::nullopt;
+    const std::optional<TDateTime> result = text != nullptr ? TextToDateTime(*text, *FSettings) : std::nullopt;
     if (!result) {
         RefuseReading(*this, melvark::c_NotADate);
     }

@@ -11,7 +11,9 @@
 /// One field of a row: its name, its value and readings of the value. A null reads as the empty text, 0 or false.
 class TField {
 public:
-    TField(AnsiString name, TDbValue value, TFormatSettings settings);
+    /// Refers to the settings, which must outlive it.
+    TField(AnsiString name, TDbValue value, const TFormatSettings& settings);
+    TField(AnsiString name, TDbValue value, TFormatSettings&& settings) = delete;
 
     const AnsiString& Name() const { return FName; }
     bool IsNull() const;
@@ -28,7 +30,7 @@ public:
 private:
     AnsiString FName;
     TDbValue FValue;
-    TFormatSettings FSettings;
+    const TFormatSettings* FSettings;
 };
 
 /// The rows of a host screen, positioned on the current document. Implemented by the host.

@@ -72,7 +72,8 @@ bool TLiveParam::IsNull() const {
 }
 
 bool TLiveParam::AsBoolean() const {
-    return TField(FName, FValue, TFormatSettings{}).AsBoolean();
+    const TFormatSettings anyFormat; // a boolean is written alike in all
+    return TField(FName, FValue, anyFormat).AsBoolean();
 }
 
 bool TLiveResult::Eof() const {
@@ -85,12 +86,20 @@ void TLiveResult::Next() {
 }
 
 TField TLiveResult::FieldByName(std::string_view column) const {
+    return Fields(FieldNumber(column));
+}
+
+std::size_t TLiveResult::FieldNumber(std::string_view column) const {
     const TResultTable* table = Table();
-    const std::size_t index = table != nullptr ? FindColumn(*table, column) : 0;
-    if (table == nullptr || index == table->Columns.size()) {
+    const std::size_t number = table != nullptr ? FindColumn(*table, column) : 0;
+    if (table == nullptr || number == table->Columns.size()) {
         throw EDatabaseError(Sentence(melvark::c_NoFieldInResult, {column}));
     }
-    return TField(table->Columns[index], Eof() ? TDbValue{} : table->Rows[FRow].at(index),
+    return number;
+}
+
+TField TLiveResult::Fields(std::size_t number) const {
+    return TField(Table()->Columns.at(number), Eof() ? TDbValue{} : Table()->Rows[FRow].at(number),
                   CurrentHost().FormatSettings());
 }
 

@@ -48,6 +48,11 @@ public:
     /// The value in the current row; null when there is no row. Throws EDatabaseError naming the column when the result
     /// has none of that name.
     TField FieldByName(std::string_view column) const;
+    /// The number under which Fields gives that column in every row of this result set: found once, read often. Throws
+    /// EDatabaseError naming the column when the result has none of that name.
+    std::size_t FieldNumber(std::string_view column) const;
+    /// As FieldByName, by a number that FieldNumber gave for this result set.
+    TField Fields(std::size_t number) const;
     bool HasField(std::string_view column) const;
 
 protected:

@@ -7,8 +7,10 @@
 
 namespace {
 
+const TFormatSettings c_Czech = TFormatSettings::Czech();
+
 TField field(TDbValue value) {
-    return TField("MNOZSTVI", std::move(value), TFormatSettings::Czech());
+    return TField("MNOZSTVI", std::move(value), c_Czech);
 }
 
 TDbValue integer(std::int64_t value) {
@@ -101,7 +103,7 @@ public:
         if (!SameDbName(name, "_ID")) {
             return std::nullopt;
         }
-        return TField("_ID", std::int64_t{42}, TFormatSettings::Czech());
+        return TField("_ID", std::int64_t{42}, c_Czech);
     }
 };
 

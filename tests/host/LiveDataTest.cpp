@@ -8,6 +8,8 @@ namespace {
 
 using Table = TResultTable;
 
+const TFormatSettings c_Czech = TFormatSettings::Czech();
+
 TDbValue text(const char* value) {
     return AnsiString(value);
 }
@@ -20,7 +22,7 @@ TDbValue integer(std::int64_t value) {
 AnsiString shown(const std::vector<TDbParam>& params) {
     AnsiString all;
     for (const TDbParam& param : params) {
-        const TField field(param.Name, param.Value, TFormatSettings::Czech());
+        const TField field(param.Name, param.Value, c_Czech);
         all += (all.empty() ? "" : " ") + param.Name + "=" + (field.IsNull() ? "null" : field.AsString());
     }
     return all;
@@ -193,6 +195,17 @@ TEST_F(LiveStoredProcTest, NamesTheMissingColumn) {
     EXPECT_EQ(messageOf<EDatabaseError>([&] { proc.FieldByName("DATA"); }), "Výsledek nemá pole DATA.");
     EXPECT_TRUE(proc.HasField("id"));
     EXPECT_FALSE(proc.HasField("DATA"));
+}
+
+TEST_F(LiveStoredProcTest, AColumnIsFoundOnceAndReadInEveryRow) {
+    connection().answer.Sets = {Table{{"ID", "NAZEV"}, {{integer(1), text("Šroub")}, {integer(2), text("Matice")}}}};
+    TLiveStoredProc proc("Uloz");
+    proc.Exec(true);
+    const std::size_t name = proc.FieldNumber("Nazev");
+    EXPECT_EQ(proc.Fields(name).AsString(), "Šroub");
+    proc.Next();
+    EXPECT_EQ(proc.Fields(name).AsString(), "Matice");
+    EXPECT_EQ(messageOf<EDatabaseError>([&] { proc.FieldNumber("DATA"); }), "Výsledek nemá pole DATA.");
 }
 
 TEST_F(LiveStoredProcTest, FieldsReadNumbersInTheHostsFormat) {

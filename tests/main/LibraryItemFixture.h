@@ -31,8 +31,11 @@ public:
         if (found == fields.end()) {
             return std::nullopt;
         }
-        return TField(found->first, found->second, TFormatSettings::Czech());
+        return TField(found->first, found->second, settings_);
     }
+
+private:
+    TFormatSettings settings_ = TFormatSettings::Czech();
 };
 
 /// The library item on a recording host whose delivery note 7 of supplier 40, or order 7, can be edited.
