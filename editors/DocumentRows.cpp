@@ -17,6 +17,23 @@ void LeaveOneEmptyRow(TDataGrid& store) {
     store.SetRowCount(1);
 }
 
+/// A column of the store and the field of the result that fills it.
+struct FilledColumn {
+    int DataColumn;
+    std::size_t FieldNumber;
+};
+
+std::vector<FilledColumn> FilledColumns(const DocumentColumns& columns, const TLiveResult& result,
+                                        std::string_view skippedKey) {
+    std::vector<FilledColumn> filled;
+    for (const RColumn& column : columns.Defaults) {
+        if (column.Name != skippedKey) {
+            filled.push_back({columns.ByKey(column.Name).DataColumn, result.FieldNumber(column.Name)});
+        }
+    }
+    return filled;
+}
+
 AnsiString ParamText(const AnsiString& cell, ParamForm form) {
     AnsiString text(TrimText(cell));
     if (form == ParamForm::NumberText) {
@@ -38,22 +55,27 @@ const AnsiString& DocumentColumns::Cell(const TDataGrid& store, std::string_view
 void FillStore(TDataGrid& store, const DocumentColumns& columns, TLiveResult& result, std::string_view skippedKey) {
     store.SetColCount(static_cast<int>(columns.Defaults.size()));
     LeaveOneEmptyRow(store);
+    if (result.Eof()) {
+        return;
+    }
+    const std::vector<FilledColumn> filled = FilledColumns(columns, result, skippedKey);
     for (int row = 0; !result.Eof(); result.Next(), ++row) {
         if (row > 0) {
             store.SetRowCount(row + 1);
         }
-        for (const RColumn& column : columns.Defaults) {
-            if (column.Name != skippedKey) {
-                store.SetCells(columns.ByKey(column.Name).DataColumn, row, result.FieldByName(column.Name).AsString());
-            }
+        for (const FilledColumn& column : filled) {
+            store.SetCells(column.DataColumn, row, result.Fields(column.FieldNumber).AsString());
         }
     }
 }
 
 std::vector<AnsiString> ReadTexts(TLiveResult& result, std::string_view column) {
     std::vector<AnsiString> texts;
-    for (; !result.Eof(); result.Next()) {
-        texts.push_back(result.FieldByName(column).AsString());
+    if (result.Eof()) {
+        return texts;
+    }
+    for (const std::size_t number = result.FieldNumber(column); !result.Eof(); result.Next()) {
+        texts.push_back(result.Fields(number).AsString());
     }
     return texts;
 }
@@ -64,10 +86,17 @@ std::vector<AnsiString> QueryTexts(const AnsiString& sql, std::string_view colum
     return ReadTexts(query, column);
 }
 
-void SetRowParams(TLiveStoredProc& procedure, std::span<const RowParam> params, const DocumentColumns& columns,
-                  const TDataGrid& store, int row) {
+std::vector<BoundParam> BindParams(std::span<const RowParam> params, const DocumentColumns& columns) {
+    std::vector<BoundParam> bound;
     for (const RowParam& param : params) {
-        AnsiString text = ParamText(columns.Cell(store, param.Key, row), param.Form);
+        bound.push_back({param.Param, columns.ByKey(param.Key).DataColumn, param.Form});
+    }
+    return bound;
+}
+
+void SetRowParams(TLiveStoredProc& procedure, std::span<const BoundParam> params, const TDataGrid& store, int row) {
+    for (const BoundParam& param : params) {
+        AnsiString text = ParamText(store.GetCells(param.DataColumn, row), param.Form);
         TLiveParam& target = procedure.ParamByName(param.Param);
         if (text.empty()) {
             target.Clear();
@@ -79,9 +108,10 @@ void SetRowParams(TLiveStoredProc& procedure, std::span<const RowParam> params, 
 
 bool InsertRows(const AnsiString& procedure, std::span<const RowParam> params, const DocumentColumns& columns,
                 const TDataGrid& store) {
+    const std::vector<BoundParam> bound = BindParams(params, columns);
     for (int row = 0; row < store.GetRowCount(); ++row) {
         TLiveStoredProc insert(procedure);
-        SetRowParams(insert, params, columns, store, row);
+        SetRowParams(insert, bound, store, row);
         if (!insert.Exec(false)) {
             return false;
         }

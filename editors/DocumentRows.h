@@ -49,9 +49,17 @@ struct RowParam {
     ParamForm Form;
 };
 
+/// A parameter whose column was found: one look-up serves all rows of a save.
+struct BoundParam {
+    std::string_view Param;
+    int DataColumn; ///< -1 when no column has the key: always null.
+    ParamForm Form;
+};
+
+std::vector<BoundParam> BindParams(std::span<const RowParam> params, const DocumentColumns& columns);
+
 /// Sets the parameters, in their order, from one store row. Texts are trimmed; an empty one becomes null.
-void SetRowParams(TLiveStoredProc& procedure, std::span<const RowParam> params, const DocumentColumns& columns,
-                  const TDataGrid& store, int row);
+void SetRowParams(TLiveStoredProc& procedure, std::span<const BoundParam> params, const TDataGrid& store, int row);
 
 /// One identifier that a procedure gets.
 struct IdParam {

@@ -41,6 +41,14 @@ EConvertError NotANumber(std::string_view text) {
     return EConvertError(LangStr(R"(KORDAN30\MELVARKEDITOR\NOTFLOATVALUE)", {text}, "Hodnota %s není desetinné číslo"));
 }
 
+/// The data column of each price key, in the keys' order; -1 where the editor lacks the column.
+std::array<int, c_PriceKeys.size()> PriceColumns(const DocumentColumns& columns) {
+    std::array<int, c_PriceKeys.size()> found{};
+    std::ranges::transform(c_PriceKeys, found.begin(),
+                           [&](std::string_view key) { return columns.ByKey(key).DataColumn; });
+    return found;
+}
+
 void SendCell(TLiveParam& param, std::string_view key, const AnsiString& text, const TFormatSettings& settings) {
     if (key == c_VatRateKey) {
         param.SetAsString(text);
@@ -54,12 +62,11 @@ void SendCell(TLiveParam& param, std::string_view key, const AnsiString& text, c
 }
 
 /// A key that the result or the editor lacks is left alone.
-std::vector<RecalculatedCell> ReadCells(const TLiveResult& result, const DocumentColumns& columns) {
+std::vector<RecalculatedCell> ReadCells(const TLiveResult& result, std::span<const int> priceColumns) {
     std::vector<RecalculatedCell> cells;
-    for (const std::string_view key : c_PriceKeys) {
-        const int dataColumn = columns.ByKey(key).DataColumn;
-        if (dataColumn >= 0 && result.HasField(key)) {
-            cells.push_back({dataColumn, result.FieldByName(key).AsString()});
+    for (std::size_t place = 0; place < c_PriceKeys.size(); ++place) {
+        if (priceColumns[place] >= 0 && result.HasField(c_PriceKeys[place])) {
+            cells.push_back({priceColumns[place], result.FieldByName(c_PriceKeys[place]).AsString()});
         }
     }
     return cells;
@@ -72,10 +79,11 @@ std::span<const std::string_view> DodakPriceKeys() {
 }
 
 AnsiString ChangedCells(const DocumentColumns& columns, const TDataGrid& store, int row) {
+    const auto priceColumns = PriceColumns(columns);
     AnsiString list;
-    for (const std::string_view key : c_PriceKeys) {
-        if (store.GetModified(columns.ByKey(key).DataColumn, row)) {
-            list.append(key).append(";");
+    for (std::size_t place = 0; place < c_PriceKeys.size(); ++place) {
+        if (store.GetModified(priceColumns[place], row)) {
+            list.append(c_PriceKeys[place]).append(";");
         }
     }
     return list;
@@ -96,19 +104,22 @@ std::optional<double> CellNumber(std::string_view text, const TFormatSettings& s
 
 std::vector<RecalculatedCell> Recalculate(const TDataGrid& store, const DocumentColumns& columns,
                                           const RecalculationRequest& request, const TFormatSettings& settings) {
+    const auto priceColumns = PriceColumns(columns);
     TLiveStoredProc prices("MELVARKEDITORDodakVypocetCen");
     prices.ParamByName("a_ZMENENEBUNKY").SetAsString(ChangedCells(columns, store, request.Row));
     prices.ParamByName("a_PREPOCETCEN").SetAsBoolean(request.RecalculatesAll);
     prices.ParamByName("a_FOCUS").SetAsString(request.FocusKey);
-    for (const std::string_view key : c_PriceKeys) {
-        SendCell(prices.ParamByName("a_" + AnsiString(key)), key, columns.Cell(store, key, request.Row), settings);
+    for (std::size_t place = 0; place < c_PriceKeys.size(); ++place) {
+        const std::string_view key = c_PriceKeys[place];
+        SendCell(prices.ParamByName("a_" + AnsiString(key)), key, store.GetCells(priceColumns[place], request.Row),
+                 settings);
     }
 
     // A result without a row says nothing about the prices; its fields would read as empty texts.
     if (!prices.Exec(true) || prices.Eof()) {
         return {};
     }
-    return ReadCells(prices, columns);
+    return ReadCells(prices, priceColumns);
 }
 
 bool IsDiscount(std::string_view text, const TFormatSettings& settings) {

@@ -94,12 +94,27 @@ TEST_F(DocumentRows, AResultWithoutAColumnIsTheDatabasesError) {
     }
 }
 
+TEST_F(DocumentRows, AResultWithoutRowsIsNotAskedForItsColumns) {
+    fillFrom(resultTable({"JINE"}, {}));
+    EXPECT_EQ(store_.GetRowCount(), 1);
+}
+
 struct ParamCase {
     const char* cell;
     melvark::ParamForm form;
     const char* sent;
     const char* remark;
 };
+
+/// What travels does not depend on what the locale writes.
+std::vector<std::pair<TFormatSettings, ParamCase>> inBothLocales(std::span<const ParamCase> cases) {
+    std::vector<std::pair<TFormatSettings, ParamCase>> all;
+    for (const ParamCase& row : cases) {
+        all.emplace_back(TFormatSettings::Czech(), row);
+        all.emplace_back(TFormatSettings::English(), row);
+    }
+    return all;
+}
 
 TEST_F(DocumentRows, CellsTravelTrimmedAndEmptyOnesAsNull) {
     using melvark::ParamForm;
@@ -116,12 +131,13 @@ TEST_F(DocumentRows, CellsTravelTrimmedAndEmptyOnesAsNull) {
         {" ", ParamForm::NumberText, "null", ""},
     };
     host_.connection.procedure("ROW").inputs({"a_X"});
-    for (const ParamCase& row : cases) {
+    for (const auto& [settings, row] : inBothLocales(cases)) {
         SCOPED_TRACE(row.remark);
+        host_.formatSettings = settings;
         putLine(0, {{"SKLAD", row.cell}});
         const melvark::RowParam params[] = {{"a_X", "SKLAD", row.form}};
         TLiveStoredProc procedure("ROW");
-        melvark::SetRowParams(procedure, params, columns(), store_, 0);
+        melvark::SetRowParams(procedure, melvark::BindParams(params, columns()), store_, 0);
         procedure.Exec(false);
         EXPECT_THAT(host_.connection.takeCalls(), ElementsAre("ROW(a_X=" + AnsiString(row.sent) + ")"));
     }
