@@ -1,6 +1,5 @@
 #include "host/widgets/Form.h"
 
-#include "host/widgets/Buttons.h"
 #include "host/widgets/Fonts.h"
 #include "host/widgets/FormTexts.h"
 #include "host/widgets/Guard.h"
@@ -10,12 +9,15 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
 #include <QThread>
 #include <QWindow>
 
 #include <algorithm>
+#include <stdexcept>
+#include <string>
 
 using namespace melvark;
 
@@ -72,6 +74,9 @@ void TForm::SetModalResult(int result) {
 }
 
 int TForm::ShowModal() {
+    if (!FConstructed) {
+        throw std::logic_error(metaObject()->className() + std::string(" is shown before its constructor has ended"));
+    }
     FModalResult = 0;
     FLoopLevel = thread()->loopLevel() + 1;
     if (QWidget* active = QApplication::activeWindow(); active && !parentWidget()) {
@@ -157,9 +162,9 @@ void TForm::keyPressEvent(QKeyEvent* event) {
             SetModalResult(c_ResultCancel);
         }
     } else if (IsPlainEnter(*event)) {
-        const auto buttons = findChildren<TQelPngBitBtn*>();
-        const auto standard = std::find_if(buttons.begin(), buttons.end(), [](const TQelPngBitBtn* button) {
-            return button->Default() && button->isVisible();
+        const auto buttons = findChildren<QPushButton*>();
+        const auto standard = std::find_if(buttons.begin(), buttons.end(), [](const QPushButton* button) {
+            return button->isDefault() && button->isVisible();
         });
         if (standard != buttons.end()) {
             (*standard)->click();

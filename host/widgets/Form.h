@@ -50,7 +50,8 @@ public:
     /// Closes a shown form with a result other than 0, as soon as the running event handler has returned to the form's
     /// own event loop: a handler may still take it back by setting 0.
     void SetModalResult(int result);
-    /// Shows the form modally and returns its result, which is never 0; the close box gives c_ResultCancel.
+    /// Shows the form modally and returns its result, which is never 0; the close box gives c_ResultCancel. Throws
+    /// std::logic_error for a form whose most derived constructor has not said that it ended (Constructed).
     int ShowModal();
     /// Closes a shown form as the close box does, with c_ResultCancel.
     void Close();

@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include <gmock/gmock.h>
+#include <stdexcept>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -214,6 +215,13 @@ TEST(FormLife, TheDestroyEventDoesNotRunForAFormWhoseConstructorFailed) {
     bool destroyed = false;
     EXPECT_THROW(DerivedForm(destroyed, true), Exception);
     EXPECT_FALSE(destroyed);
+}
+
+TEST(FormLife, AFormWhoseConstructorHasNotEndedIsNotShown) {
+    bool destroyed = false;
+    BaseForm form(destroyed);
+    EXPECT_THROW(form.ShowModal(), std::logic_error);
+    EXPECT_FALSE(form.isVisible());
 }
 
 TEST(FormLife, AnOwnerThatIsNoControlLeavesTheFormWithoutParent) {

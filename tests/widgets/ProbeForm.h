@@ -15,6 +15,7 @@ public:
     explicit ProbeForm(TComponent* owner = nullptr) : TForm(owner) {
         setObjectName(QStringLiteral("ProbeForm"));
         resize(300, 200);
+        Constructed();
     }
 
     std::vector<std::string> events;
