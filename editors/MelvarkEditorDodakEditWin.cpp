@@ -6,6 +6,7 @@
 #include "editors/DodakSaving.h"
 #include "editors/DodakSources.h"
 #include "editors/SourceSteps.h"
+#include "editwin/CellWriter.h"
 #include "host/HostServices.h"
 #include "host/LangStr.h"
 #include "host/widgets/StringGrid.h"

@@ -6,6 +6,15 @@
 
 namespace melvark {
 
+GridEditing::GridEditing(TStringGrid& grid, std::span<const RColumn> columns)
+    : Grid(grid), Defaults(columns.begin(), columns.end()) {
+    for (RColumn& column : Defaults) {
+        if (column.Values) {
+            column.Values = &ValueLists.emplace_back(*column.Values);
+        }
+    }
+}
+
 const RColumn* GridEditing::ColumnAt(int gridCol) const {
     const int index = VisibleColumnIndex(Active, gridCol);
     return index < 0 ? nullptr : &Active[static_cast<std::size_t>(index)];

@@ -4,7 +4,8 @@
 #include "editwin/model/DataGrid.h"
 #include "editwin/model/RowView.h"
 
-#include <string_view>
+#include <list>
+#include <span>
 #include <vector>
 
 class TStringGrid;
@@ -18,13 +19,16 @@ namespace melvark {
 /// Grid column k >= 1 is the k-th shown active column, Rows tells the store row of a grid row; the cell there shows the
 /// store cell of the column's DataColumn in that row. Row 0 is the header, column 0 the indicator.
 struct GridEditing {
-    explicit GridEditing(TStringGrid& grid) : Grid(grid) {}
+    /// Takes copies of the columns and of their value lists.
+    GridEditing(TStringGrid& grid, std::span<const RColumn> columns);
     GridEditing(const GridEditing&) = delete;
     GridEditing& operator=(const GridEditing&) = delete;
 
     TStringGrid& Grid;
     TDataGrid Store;
     const RowView Rows{Store};
+    /// What the columns' Values point to; stands before them, since it outlives them.
+    std::list<std::vector<AnsiString>> ValueLists;
     std::vector<RColumn> Defaults; ///< As handed in, never reordered.
     std::vector<RColumn> Active;   ///< What the user made of them, in the order of the grid.
     TIsEditable Rule;              ///< The document editor's rule; empty lets every cell pass.

@@ -1,6 +1,8 @@
 #include "editwin/MelvarkEditorEditWin.h"
 
 #include "editwin/AskingCheckBox.h"
+#include "editwin/EditBoxHelpers.h"
+#include "editwin/EditorKeys.h"
 #include "editwin/model/CellRules.h"
 #include "editwin/model/ColumnList.h"
 #include "host/LangStr.h"
@@ -25,37 +27,12 @@ TEditBox::TEditBox(TComponent* owner, TLibraryManager* libraryManager, std::int3
                    std::span<const RColumn> columns)
     : TForm(owner),
       FLibraryManager(libraryManager),
-      FKind{editType, editTypeOffset, std::move(firstNamePart), std::move(secondNamePart), std::move(userName)},
-      FEditing(*CreateControls().StringGrid),
-      FWriter(FEditing),
-      FKeeper(FEditing, FWriter, *this, [this](const AnsiString& text) { ShowErrorBox(text); }),
-      FPresentation(FEditing, FWriter),
-      FColumnMenu(FEditing, FWriter, FKeeper,
-                  {*ColumnsPopupMenu, *SkrytSloupec, *EditovatelnySloupecAutomaticky, *EditovatelnySloupecVyberem,
-                   *NeeditovatelnySloupec, *SkryteSloupce}),
-      FSettings(FEditing, SettingsStore(editType + editTypeOffset),
-                {*MenuBtn, *SettingsPopupMenu, *TopPanel, *chbPrepocetCen}),
-      FPlacement(*this, editType),
-      FAutosave(*this, [this] { AutoSave(this); }),
-      FEditorEvents({.Enter = [this](TControl* sender) { StringGridEnter(sender); },
-                     .Exit = [this](TControl* sender) { EditorExit(sender); },
-                     .KeyDown = std::bind_front(&TEditBox::EditorKeyDown, this),
-                     .KeyPress = std::bind_front(&TEditBox::EditorKeyPress, this),
-                     .Wheel = [this](QWheelEvent& event) { StringGrid->ScrollByWheel(event); }}),
-      FButtonEvents({.Enter = [this](TControl* sender) { StringGridExit(sender); },
-                     .Exit = {},
-                     .KeyDown = std::bind_front(&TEditBox::EditorKeyDown, this),
-                     .KeyPress = {},
-                     .Wheel = {}}),
-      FFurtherButtonEvents({.Enter = [this](TControl* sender) { StringGridExit(sender); },
-                            .Exit = {},
-                            .KeyDown = {},
-                            .KeyPress = {},
-                            .Wheel = {}}) {
+      FKind{editType, editTypeOffset, std::move(firstNamePart), std::move(secondNamePart), std::move(userName)} {
+    BuildIn(*this);
+    FHelpers = std::make_unique<Helpers>(*this, columns);
     FormCreate();
-    FSettings.ShowNoSetting();
-    FEditing.Defaults.assign(columns.begin(), columns.end());
-    FKeeper.CreateListEditors();
+    FHelpers->Settings.ShowNoSetting();
+    FHelpers->Keeper.CreateListEditors();
     ConnectEditors();
     ConnectGrid();
     ConnectMenus();
@@ -67,11 +44,6 @@ TEditBox::~TEditBox() {
     if (IsConstructed()) {
         FormDestroy();
     }
-}
-
-TEditBoxControls& TEditBox::CreateControls() {
-    BuildIn(*this);
-    return *this;
 }
 
 void TEditBox::FormCreate() {
@@ -89,21 +61,21 @@ void TEditBox::FormShow() {
 
 void TEditBox::FormClose() {
     // Cancel and the close box never ask: no window may become impossible to leave.
-    FKeeper.DropEditor();
+    FHelpers->Keeper.DropEditor();
     SaveWindowSettings();
 }
 
 void TEditBox::FormDestroy() {
-    FAutosave.Disable();
+    FHelpers->Autosave.Disable();
 }
 
 void TEditBox::ConnectEditors() {
-    for (QWidget* const editor : FKeeper.Editors()) {
-        FEditorEvents.Watch(*editor);
+    for (QWidget* const editor : FHelpers->Keeper.Editors()) {
+        FHelpers->EditorEvents.Watch(*editor);
     }
-    FButtonEvents.Watch(*OkBtn);
-    FButtonEvents.Watch(*CancelBtn);
-    FFurtherButtonEvents.Watch(*OKDalsiBtn);
+    FHelpers->ButtonEvents.Watch(*OkBtn);
+    FHelpers->ButtonEvents.Watch(*CancelBtn);
+    FHelpers->FurtherButtonEvents.Watch(*OKDalsiBtn);
     OkBtn->SetOnClick([this](TObject* sender) { OkBtnClick(sender); });
     // The open value goes out with the switch as it was; a refused one leaves the switch.
     chbPrepocetCen->SetMayChange([this] { return HideEditor(); });
@@ -116,7 +88,7 @@ void TEditBox::ConnectGrid() {
     ConnectGuarded(StringGrid, &TStringGrid::ContextPopup, this, &TEditBox::StringGridContextPopup);
     ConnectGuarded(StringGrid, &TStringGrid::ColumnMoved, this, &TEditBox::StringGridColumnMoved);
     ConnectGuarded(StringGrid, &TStringGrid::TopLeftChanged, this, &TEditBox::StringGridTopLeftChanged);
-    ConnectGuarded(StringGrid, &TStringGrid::EditorWanted, &FKeeper, &InPlaceEditing::OpenWhenSettled);
+    ConnectGuarded(StringGrid, &TStringGrid::EditorWanted, &FHelpers->Keeper, &InPlaceEditing::OpenWhenSettled);
     ConnectGuarded(StringGrid, &TStringGrid::EnterPressed, this,
                    [this](Qt::KeyboardModifiers modifiers) { RunCommand(EnterCommand(modifiers)); });
 }
@@ -175,104 +147,148 @@ void TEditBox::SaveDataToTempFile() {
     }
 }
 
+void TEditBox::SetOnIsEditable(TIsEditable hook) {
+    FHelpers->Editing.Rule = std::move(hook);
+}
+
 bool TEditBox::IsEditable(int aCol, int aRow) const {
-    return PassesRule(FEditing.Rule, aCol, aRow);
+    return PassesRule(FHelpers->Editing.Rule, aCol, aRow);
 }
 
 int TEditBox::GetVisibleColumnIndex(int n) const {
-    return VisibleColumnIndex(FEditing.Active, n);
+    return VisibleColumnIndex(FHelpers->Editing.Active, n);
 }
 
 RColumn TEditBox::GetVisibleColumn(int n) const {
-    const RColumn* const column = FEditing.ColumnAt(n);
+    const RColumn* const column = FHelpers->Editing.ColumnAt(n);
     return column ? *column : BlankColumn();
 }
 
 int TEditBox::GetColumnByName(const AnsiString& name) const {
-    return ColumnByName(FEditing.Active, name);
+    return ColumnByName(FHelpers->Editing.Active, name);
 }
 
 bool TEditBox::IsValidColumnName(const AnsiString& name) const {
-    return IsValidName(FEditing.Defaults, name);
+    return IsValidName(FHelpers->Editing.Defaults, name);
 }
 
 RColumn TEditBox::GetColumnSettings(const AnsiString& name) const {
-    return ColumnSettings(FEditing.Active, FEditing.Defaults, name);
+    return ColumnSettings(FHelpers->Editing.Active, FHelpers->Editing.Defaults, name);
 }
 
 RColumn TEditBox::GetDataColumn(int dataIndex) const {
-    return DataColumnSettings(FEditing.Active, dataIndex);
+    return DataColumnSettings(FHelpers->Editing.Active, dataIndex);
 }
 
 int TEditBox::RowToDataGridRow(int row) const {
-    return FEditing.Rows.StoreRow(row);
+    return FHelpers->Editing.Rows.StoreRow(row);
+}
+
+const RowView& TEditBox::Rows() const {
+    return FHelpers->Editing.Rows;
+}
+
+const std::vector<RColumn>& TEditBox::ActiveColumns() const {
+    return FHelpers->Editing.Active;
+}
+
+const std::vector<RColumn>& TEditBox::DefaultColumns() const {
+    return FHelpers->Editing.Defaults;
+}
+
+TDataGrid& TEditBox::DataGrid() {
+    return FHelpers->Editing.Store;
+}
+
+const TDataGrid& TEditBox::DataGrid() const {
+    return FHelpers->Editing.Store;
+}
+
+CellWriter& TEditBox::Cells() {
+    return FHelpers->Writer;
 }
 
 void TEditBox::InitGrid() {
-    FEditing.Store.SetColCount(static_cast<int>(FEditing.Active.size()));
+    FHelpers->Editing.Store.SetColCount(static_cast<int>(FHelpers->Editing.Active.size()));
     LoadLastColumnsSettings();
 }
 
 void TEditBox::InitColumns() {
-    FEditing.Active = FEditing.Defaults;
+    FHelpers->Editing.Active = FHelpers->Editing.Defaults;
 }
 
 void TEditBox::ApplyColumnsSettingsToGrid() {
-    FColumnMenu.RebuildHiddenItems();
-    FPresentation.ApplyColumns();
-    FAutosave.Enable();
+    FHelpers->ColumnMenu.RebuildHiddenItems();
+    FHelpers->Presentation.ApplyColumns();
+    FHelpers->Autosave.Enable();
 }
 
 void TEditBox::ShowEditor(int aCol, int aRow, bool bySelection) {
-    FKeeper.ShowEditor(aCol, aRow, bySelection ? Reach::BySelection : Reach::ByTraversal);
+    FHelpers->Keeper.ShowEditor(aCol, aRow, bySelection ? Reach::BySelection : Reach::ByTraversal);
 }
 
 bool TEditBox::HideEditor() {
-    return FKeeper.HideEditor();
+    return FHelpers->Keeper.HideEditor();
 }
 
 void TEditBox::EditorToCell(TControl* editor, const QRect& rect) {
-    FKeeper.EditorToCell(*editor, rect);
+    FHelpers->Keeper.EditorToCell(*editor, rect);
 }
 
 void TEditBox::GoNextEditable() {
-    FKeeper.GoNextEditable();
+    FHelpers->Keeper.GoNextEditable();
 }
 
 void TEditBox::GoPrevEditable() {
-    FKeeper.GoPrevEditable();
+    FHelpers->Keeper.GoPrevEditable();
+}
+
+TControl* TEditBox::ActiveEditor() const {
+    return FHelpers->Keeper.ActiveEditor();
+}
+
+int TEditBox::EditCol() const {
+    return FHelpers->Keeper.EditCol();
+}
+
+int TEditBox::EditRow() const {
+    return FHelpers->Keeper.EditRow();
 }
 
 AnsiString TEditBox::CheckInt(TControl* sender, const AnsiString& value) const {
-    return FKeeper.CheckInt(sender, value);
+    return FHelpers->Keeper.CheckInt(sender, value);
 }
 
 AnsiString TEditBox::CheckFloat(TControl* sender, const AnsiString& value) const {
-    return FKeeper.CheckFloat(sender, value);
+    return FHelpers->Keeper.CheckFloat(sender, value);
 }
 
 AnsiString TEditBox::CheckDate(TControl* sender, const AnsiString& value) const {
-    return FKeeper.CheckDate(sender, value);
+    return FHelpers->Keeper.CheckDate(sender, value);
 }
 
 void TEditBox::LoadColumnsSettingsList() {
-    FSettings.LoadList();
+    FHelpers->Settings.LoadList();
 }
 
 void TEditBox::LoadLastColumnsSettings() {
-    FSettings.LoadLast();
+    FHelpers->Settings.LoadLast();
 }
 
 void TEditBox::LoadColumnsSettingsFromXml(const AnsiString& xml) {
-    FSettings.ApplyDocument(xml);
+    FHelpers->Settings.ApplyDocument(xml);
+}
+
+std::int32_t TEditBox::SettingsId() const {
+    return FHelpers->Settings.SettingsId();
 }
 
 void TEditBox::LoadWindowSettings() {
-    FPlacement.Load();
+    FHelpers->Placement.Load();
 }
 
 void TEditBox::SaveWindowSettings() {
-    FPlacement.Save();
+    FHelpers->Placement.Save();
 }
 
 void TEditBox::OkBtnClick(TObject*) {
@@ -316,7 +332,7 @@ bool TEditBox::RunCommand(EditorCommand command) {
 }
 
 void TEditBox::EditorExit(TControl* Sender) {
-    FKeeper.CheckWhenSettled(Sender);
+    FHelpers->Keeper.CheckWhenSettled(Sender);
 }
 
 void TEditBox::StringGridEnter(TControl*) {
@@ -328,53 +344,53 @@ void TEditBox::StringGridExit(TControl*) {
 }
 
 TCellLook TEditBox::StringGridDrawCell(int col, int row) const {
-    return FPresentation.Look(col, row);
+    return FHelpers->Presentation.Look(col, row);
 }
 
 void TEditBox::StringGridMouseMove(int col, int row) {
-    FPresentation.ShowHintOf(col, row);
+    FHelpers->Presentation.ShowHintOf(col, row);
 }
 
 void TEditBox::StringGridMouseUp(int, int row) {
     if (row <= 0) {
-        FColumnMenu.CaptureWidths();
+        FHelpers->ColumnMenu.CaptureWidths();
     }
 }
 
 void TEditBox::StringGridContextPopup(int col, int row, const QPoint& globalPos) {
-    FColumnMenu.OpenAt(col, row, globalPos);
+    FHelpers->ColumnMenu.OpenAt(col, row, globalPos);
 }
 
 void TEditBox::StringGridColumnMoved(int from, int to) {
-    FColumnMenu.FollowMovedColumn(from, to);
+    FHelpers->ColumnMenu.FollowMovedColumn(from, to);
 }
 
 void TEditBox::StringGridTopLeftChanged() {
-    FKeeper.LayEditor();
+    FHelpers->Keeper.LayEditor();
 }
 
 void TEditBox::ColumnsPopupMenuPopup(TObject*) {
-    FColumnMenu.PrepareItems();
+    FHelpers->ColumnMenu.PrepareItems();
 }
 
 void TEditBox::SkrytSloupecClick(TObject*) {
-    FColumnMenu.HidePopupColumn();
+    FHelpers->ColumnMenu.HidePopupColumn();
 }
 
 void TEditBox::EditovatelnySloupecAutomatickyClick(TObject*) {
-    FColumnMenu.SetEditability(eAuto);
+    FHelpers->ColumnMenu.SetEditability(eAuto);
 }
 
 void TEditBox::EditovatelnySloupecVyberemClick(TObject*) {
-    FColumnMenu.SetEditability(eManual);
+    FHelpers->ColumnMenu.SetEditability(eManual);
 }
 
 void TEditBox::NeeditovatelnySloupecClick(TObject*) {
-    FColumnMenu.SetEditability(eNone);
+    FHelpers->ColumnMenu.SetEditability(eNone);
 }
 
 void TEditBox::ShowGridColumn(TObject* Sender) {
-    FColumnMenu.ShowColumnOf(qobject_cast<const QAction*>(Sender));
+    FHelpers->ColumnMenu.ShowColumnOf(qobject_cast<const QAction*>(Sender));
 }
 
 void TEditBox::AutoSave(TObject*) {

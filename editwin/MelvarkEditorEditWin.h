@@ -1,26 +1,28 @@
 #pragma once
 
-#include "editwin/Autosave.h"
-#include "editwin/CellWriter.h"
-#include "editwin/ColumnMenu.h"
 #include "editwin/EditBoxControls.h"
-#include "editwin/EditorEvents.h"
-#include "editwin/EditorKeys.h"
-#include "editwin/GridEditing.h"
-#include "editwin/GridPresentation.h"
-#include "editwin/InPlaceEditing.h"
-#include "editwin/SettingsMenu.h"
-#include "editwin/WindowPlacement.h"
 #include "editwin/model/Column.h"
 #include "host/Types.h"
 #include "host/widgets/Form.h"
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <span>
+#include <vector>
 
 class QKeyEvent;
+class QPoint;
+class QRect;
+class TDataGrid;
 class TLibraryManager;
+struct TCellLook;
+
+namespace melvark {
+class CellWriter;
+class RowView;
+enum class EditorCommand;
+} // namespace melvark
 
 /// What tells one kind of editor from another.
 struct TEditBoxKind {
@@ -39,8 +41,8 @@ struct TEditBoxKind {
 /// the modified marks and calls Constructed() last; then it is shown with ShowModal. This class knows no document: what
 /// is saved, recalculated or editable comes in through the hooks and the columns' callbacks.
 ///
-/// Most members are one line that calls the helper that has the state and the rule. The columns' value lists must
-/// outlive the form. Works with a null library manager; needs a current host.
+/// Most members are one line that calls the helper that has the state and the rule; this header names none of the
+/// helpers. The form keeps copies of the columns' value lists. Works with a null library manager; needs a current host.
 class TEditBox : public TForm, public TEditBoxControls {
     Q_OBJECT
 
@@ -80,13 +82,13 @@ public:
     RColumn GetColumnSettings(const AnsiString& name) const;
     RColumn GetDataColumn(int dataIndex) const;
     int RowToDataGridRow(int row) const;
-    const melvark::RowView& Rows() const { return FEditing.Rows; }
-    const std::vector<RColumn>& ActiveColumns() const { return FEditing.Active; }
-    const std::vector<RColumn>& DefaultColumns() const { return FEditing.Defaults; }
-    TDataGrid& DataGrid() { return FEditing.Store; }
-    const TDataGrid& DataGrid() const { return FEditing.Store; }
+    const melvark::RowView& Rows() const;
+    const std::vector<RColumn>& ActiveColumns() const;
+    const std::vector<RColumn>& DefaultColumns() const;
+    TDataGrid& DataGrid();
+    const TDataGrid& DataGrid() const;
     /// The one way for a value into the store and the grid.
-    melvark::CellWriter& Cells() { return FWriter; }
+    melvark::CellWriter& Cells();
 
     /// Sizes the store for the layout in force so far, at least one column, and then loads the last settings. Who fills
     /// the store sizes it for its own columns.
@@ -104,14 +106,14 @@ public:
     AnsiString CheckFloat(TControl* sender, const AnsiString& value) const;
     AnsiString CheckDate(TControl* sender, const AnsiString& value) const;
     /// The editor that lies over a cell; null when none is open.
-    TControl* ActiveEditor() const { return FKeeper.ActiveEditor(); }
-    int EditCol() const { return FKeeper.EditCol(); }
-    int EditRow() const { return FKeeper.EditRow(); }
+    TControl* ActiveEditor() const;
+    int EditCol() const;
+    int EditRow() const;
 
     void LoadColumnsSettingsList();
     void LoadLastColumnsSettings();
     void LoadColumnsSettingsFromXml(const AnsiString& xml);
-    std::int32_t SettingsId() const { return FSettings.SettingsId(); }
+    std::int32_t SettingsId() const;
     void LoadWindowSettings();
     void SaveWindowSettings();
 
@@ -140,7 +142,7 @@ protected:
     /// Called by SaveData: true when everything was saved and the form may close with OK.
     void SetOnSaveData(std::function<bool()> hook) { FOnSaveData = std::move(hook); }
     void SetOnSaveDataToTempFile(std::function<void()> hook) { FOnSaveDataToTempFile = std::move(hook); }
-    void SetOnIsEditable(TIsEditable hook) { FEditing.Rule = std::move(hook); }
+    void SetOnIsEditable(TIsEditable hook);
     TLibraryManager* LibraryManager() const { return FLibraryManager; }
     const TEditBoxKind& Kind() const { return FKind; }
 
@@ -150,8 +152,8 @@ protected:
     void FormDestroy();
 
 private:
-    /// Makes the controls before the helpers that refer to them.
-    TEditBoxControls& CreateControls();
+    struct Helpers;
+
     void FormCreate();
     void ConnectEditors();
     void ConnectGrid();
@@ -163,15 +165,5 @@ private:
     std::function<bool()> FOnSaveData;
     std::function<void()> FOnSaveDataToTempFile;
 
-    melvark::GridEditing FEditing;
-    melvark::CellWriter FWriter;
-    melvark::InPlaceEditing FKeeper;
-    melvark::GridPresentation FPresentation;
-    melvark::ColumnMenu FColumnMenu;
-    melvark::SettingsMenu FSettings;
-    melvark::WindowPlacementKeeper FPlacement;
-    melvark::Autosave FAutosave;
-    melvark::EditorEvents FEditorEvents;
-    melvark::EditorEvents FButtonEvents;
-    melvark::EditorEvents FFurtherButtonEvents;
+    std::unique_ptr<Helpers> FHelpers;
 };

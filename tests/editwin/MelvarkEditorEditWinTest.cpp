@@ -37,6 +37,15 @@ TEST_F(EditBox, ItsStoreIsSizedForTheLayoutThatWasInForceBefore) {
     EXPECT_EQ(plain.DataGrid().GetColCount(), 10);
 }
 
+TEST_F(EditBox, ItsValueListsOutliveTheirMaker) {
+    std::vector<AnsiString> names{"Brno", "Praha"};
+    std::vector<RColumn> columns = testColumns(log);
+    columns.at(5).Values = &names;
+    form = std::make_unique<TestEditBox>(&manager, columns);
+    names = {"freed"};
+    EXPECT_THAT(*form->GetColumnSettings("SKLAD").Values, ElementsAre("Brno", "Praha"));
+}
+
 TEST_F(EditBox, ShowingItLoadsTheImagesAndThePlacement) {
     open();
     EXPECT_THAT(host.images(), ElementsAre("ENGINE/OK", "ENGINE/OKNEXT", "ENGINE/CANCEL"));

@@ -1,3 +1,6 @@
+#include "editwin/CellWriter.h"
+#include "editwin/GridEditing.h"
+#include "editwin/InPlaceEditing.h"
 #include "host/widgets/StringGrid.h"
 #include "tests/editwin/TestEditBox.h"
 
@@ -75,7 +78,7 @@ TEST(CommitAnswer, ARefusedValueAndACommitAtWorkAreTwoAnswers) {
     const TScopedHost installed(host);
     QWidget window;
     TStringGrid cells(&window);
-    melvark::GridEditing editing(cells);
+    melvark::GridEditing editing(cells, {});
     CommitLog log;
     editing.Active = {testColumns(log)[2]}; // POCET
     editing.Store.SetColCount(8);

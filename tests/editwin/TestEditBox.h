@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editwin/MelvarkEditorEditWin.h"
+#include "editwin/model/DataGrid.h"
 #include "tests/support/ExpectedWarning.h"
 #include "tests/support/RecordingHost.h"
 
