@@ -2,6 +2,7 @@
 
 #include "editwin/model/ColumnList.h"
 #include "editwin/model/DataGrid.h"
+#include "host/Exceptions.h"
 #include "host/Identifier.h"
 #include "host/ValueText.h"
 
@@ -40,6 +41,17 @@ AnsiString ParamText(const AnsiString& cell, ParamForm form) {
         std::ranges::replace(text, ',', '.');
     }
     return text;
+}
+
+bool ExecForRow(TLiveStoredProc& insert, int row) {
+    try {
+        return insert.Exec(false);
+    } catch (const EDatabaseError& error) {
+        if (error.Cause() == TDatabaseCause::Failure || error.Row()) {
+            throw;
+        }
+        throw error.AboutRow(row);
+    }
 }
 
 } // namespace
@@ -112,7 +124,7 @@ bool InsertRows(const AnsiString& procedure, std::span<const RowParam> params, c
     for (int row = 0; row < store.GetRowCount(); ++row) {
         TLiveStoredProc insert(procedure);
         SetRowParams(insert, bound, store, row);
-        if (!insert.Exec(false)) {
+        if (!ExecForRow(insert, row)) {
             return false;
         }
     }

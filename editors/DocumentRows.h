@@ -68,7 +68,8 @@ struct IdParam {
 };
 
 /// The procedure calls of a save, one for each store row in order. False as soon as one reports failure: the rows
-/// inserted so far stay staged in the database, nothing is taken over. Database errors propagate.
+/// inserted so far stay staged in the database, nothing is taken over. Database errors propagate; a refusal names the
+/// store row that it is about (EDatabaseError::Row): the one being sent, unless the connection names an earlier one.
 bool InsertRows(const AnsiString& procedure, std::span<const RowParam> params, const DocumentColumns& columns,
                 const TDataGrid& store);
 

@@ -5,6 +5,7 @@
 #include "editwin/EditorKeys.h"
 #include "editwin/model/CellRules.h"
 #include "editwin/model/ColumnList.h"
+#include "host/Exceptions.h"
 #include "host/LangStr.h"
 #include "host/LibraryManager.h"
 #include "host/LiveData.h"
@@ -293,8 +294,19 @@ void TEditBox::SaveWindowSettings() {
 
 void TEditBox::OkBtnClick(TObject*) {
     SetModalResult(0);
-    if (HideEditor() && SaveData()) {
+    if (HideEditor() && SaveOrShowRefusedLine()) {
         SetModalResult(c_ResultOk);
+    }
+}
+
+bool TEditBox::SaveOrShowRefusedLine() {
+    try {
+        return SaveData();
+    } catch (const EDatabaseError& refusal) {
+        if (refusal.Row()) {
+            StringGrid->SetRow(FHelpers->Editing.Rows.GridRow(*refusal.Row()));
+        }
+        throw;
     }
 }
 

@@ -158,6 +158,8 @@ private:
     void ConnectEditors();
     void ConnectGrid();
     void ConnectMenus();
+    /// A refusal that names its line makes that line the current one before it goes on to the error display.
+    bool SaveOrShowRefusedLine();
     bool RunCommand(melvark::EditorCommand command);
 
     TLibraryManager* FLibraryManager;

@@ -18,8 +18,8 @@ EConvertError::~EConvertError() = default;
 
 EInOutError::~EInOutError() = default;
 
-EDatabaseError::EDatabaseError(AnsiString message, AnsiString code, AnsiString details)
-    : Exception(std::move(message)), FCode(std::move(code)), FDetails(std::move(details)) {}
+EDatabaseError::EDatabaseError(AnsiString message, AnsiString code, AnsiString details, TDatabaseCause cause)
+    : Exception(std::move(message)), FCode(std::move(code)), FDetails(std::move(details)), FCause(cause) {}
 
 EDatabaseError::~EDatabaseError() = default;
 
@@ -29,6 +29,20 @@ const AnsiString& EDatabaseError::Code() const noexcept {
 
 const AnsiString& EDatabaseError::Details() const noexcept {
     return FDetails;
+}
+
+TDatabaseCause EDatabaseError::Cause() const noexcept {
+    return FCause;
+}
+
+std::optional<int> EDatabaseError::Row() const noexcept {
+    return FRow;
+}
+
+EDatabaseError EDatabaseError::AboutRow(int row) const {
+    EDatabaseError error(*this);
+    error.FRow = row;
+    return error;
 }
 
 EHostError::~EHostError() = default;

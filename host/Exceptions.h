@@ -3,6 +3,7 @@
 #include "host/Types.h"
 
 #include <exception>
+#include <optional>
 
 /// The framework's message-carrying base exception. The message is a sentence for the user, in UTF-8.
 ///
@@ -40,22 +41,39 @@ public:
     ~EInOutError() override;
 };
 
+/// Why the database did not do what it was asked for.
+enum class TDatabaseCause {
+    Refusal, ///< What was asked or sent is at fault.
+    Failure  ///< The database itself is: a lost link, a full disk, another user in the way.
+};
+
 /// The database refused or failed, or a field, parameter or procedure is missing.
 class EDatabaseError : public Exception {
 public:
     /// `code` is the database's own refusal code (empty when it gave none): a translation is looked up by it.
     /// `details` is what an administrator needs (engine, statement, position); it is never shown in front.
-    explicit EDatabaseError(AnsiString message, AnsiString code = {}, AnsiString details = {});
+    explicit EDatabaseError(AnsiString message, AnsiString code = {}, AnsiString details = {},
+                            TDatabaseCause cause = TDatabaseCause::Refusal);
     EDatabaseError(const EDatabaseError&) = default;
     EDatabaseError& operator=(const EDatabaseError&) = default;
     ~EDatabaseError() override;
 
     const AnsiString& Code() const noexcept;
     const AnsiString& Details() const noexcept;
+    TDatabaseCause Cause() const noexcept;
+
+    /// The line of a save that the refusal is about, counted from 0 in the order in which the lines are sent; nothing
+    /// when it is about none. A connection that reports a line later than at the line's own call names it; where it
+    /// names none, the caller knows what it has just sent.
+    std::optional<int> Row() const noexcept;
+    /// The same error about that line.
+    EDatabaseError AboutRow(int row) const;
 
 private:
     AnsiString FCode;
     AnsiString FDetails;
+    TDatabaseCause FCause;
+    std::optional<int> FRow;
 };
 
 /// A host service was asked for while no host is installed, or the host cannot give it.

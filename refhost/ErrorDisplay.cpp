@@ -34,6 +34,11 @@ ErrorReport describeDatabaseError(const EDatabaseError& error, const Languages& 
         addLine(report.details, fillIn(languages, texts::errorCode, error.Code()));
     }
     addLine(report.details, error.Details());
+    if (error.Row()) {
+        report.sentence = languages.label(texts::errorLine)
+                              .arg(QString::number(*error.Row() + 1), QString::fromStdString(report.sentence))
+                              .toStdString();
+    }
     return report;
 }
 

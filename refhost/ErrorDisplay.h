@@ -15,7 +15,7 @@ struct ErrorReport {
 };
 
 /// Puts an exception into words. A database refusal is shown in the user's language when the catalogues have it
-/// (translateRefusal); its own sentence then goes to the details.
+/// (translateRefusal); its own sentence then goes to the details. One that is about a line names it in front.
 ErrorReport describeError(const std::exception_ptr& error, const Languages& languages);
 
 /// Where errors are shown. The host has one of them.

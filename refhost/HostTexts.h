@@ -69,6 +69,8 @@ inline constexpr HostText errorUnexpected{"MELVARKHOST\\ERROR\\UNEXPECTED",
                                           "Nastala neočekávaná chyba. Program běží dál, poslední krok se neprovedl."};
 inline constexpr HostText errorCode{"MELVARKHOST\\ERROR\\CODE", "Kód: %1"};
 inline constexpr HostText errorOriginal{"MELVARKHOST\\ERROR\\ORIGINAL", "Původní znění: %1"};
+/// %1 is the line's number counted from 1, %2 the refusal's sentence.
+inline constexpr HostText errorLine{"MELVARKHOST\\ERROR\\LINE", "Řádek %1: %2"};
 inline constexpr HostText errorKind{"MELVARKHOST\\ERROR\\KIND", "Druh: %1"};
 
 inline constexpr HostText pluginNotFound{"MELVARKHOST\\PLUGIN\\NOTFOUND",

@@ -50,7 +50,8 @@ EDatabaseError sentence(std::string_view sqlState, std::string_view database, co
     const auto* found = std::ranges::find_if(
         c_Sentences, [sqlState](const Sentence& candidate) { return sqlState.starts_with(candidate.SqlState); });
     const Sentence& chosen = found == std::end(c_Sentences) ? c_Other : *found;
-    return EDatabaseError(std::string(chosen.Before).append(database) + chosen.After, chosen.Refusal, details);
+    return EDatabaseError(std::string(chosen.Before).append(database) + chosen.After, chosen.Refusal, details,
+                          TDatabaseCause::Failure);
 }
 
 std::string details(std::string_view sqlState, std::string_view words, std::string_view statement) {
@@ -118,7 +119,7 @@ EPostgreSQLError openingError(std::string_view words, std::string_view database,
     }
     return {EDatabaseError("Server databáze „" + std::string(host) +
                                "“ není dostupný. Zkontrolujte jeho adresu a zda běží.",
-                           "ML916", more),
+                           "ML916", more, TDatabaseCause::Failure),
             std::string(c_LostLink)};
 }
 

@@ -46,7 +46,8 @@ EDatabaseError sqliteError(int code, sqlite3* database, std::string_view file, s
             sentence = &candidate;
         }
     }
-    return EDatabaseError(std::string(sentence->Before).append(file) + sentence->After, sentence->Refusal, details);
+    return EDatabaseError(std::string(sentence->Before).append(file) + sentence->After, sentence->Refusal, details,
+                          TDatabaseCause::Failure);
 }
 
 } // namespace refhost

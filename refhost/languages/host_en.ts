@@ -179,6 +179,10 @@
         <source>Původní znění: %1</source>
         <translation>Original wording: %1</translation>
     </message>
+    <message id="MELVARKHOST\ERROR\LINE">
+        <source>Řádek %1: %2</source>
+        <translation>Line %1: %2</translation>
+    </message>
     <message id="MELVARKHOST\ERROR\KIND">
         <source>Druh: %1</source>
         <translation>Kind: %1</translation>

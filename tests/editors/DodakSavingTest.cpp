@@ -4,14 +4,26 @@
 #include "tests/editors/EditorRules.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
 using testing::ElementsAre;
 using testing::SizeIs;
+using testing::StartsWith;
 
 class DodakSaving : public EditorRules {
 protected:
+    /// The error with which the rows are not inserted; nothing when they are.
+    std::optional<EDatabaseError> refusal() {
+        try {
+            insertRows();
+            return std::nullopt;
+        } catch (const EDatabaseError& error) {
+            return error;
+        }
+    }
+
     bool insertRows() { return melvark::InsertDodakRows(columns(), store_); }
 };
 
@@ -57,22 +69,26 @@ TEST_F(DodakSaving, RowsAreSentFromTheFirstToTheLast) {
         putLine(row, {{"DOBSID", std::to_string(row)}});
     }
     EXPECT_TRUE(insertRows());
-    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"0\","), SizeIs(1));
-    EXPECT_TRUE(host_.connection.calls()[1].starts_with("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"1\","));
-    EXPECT_TRUE(host_.connection.calls()[2].starts_with("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"2\","));
+    EXPECT_THAT(host_.connection.calls(), ElementsAre(StartsWith("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"0\","),
+                                                      StartsWith("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"1\","),
+                                                      StartsWith("MELVARKEDITORDodakInsertToTemp(a_DOBSID=\"2\",")));
 }
 
 TEST_F(DodakSaving, TheUsersColumnOrderAndHiddenColumnsDoNotMatter) {
-    putLine(0, {{"SKLADPOL", "Mléko"}, {"MNOZSTVI", "1,5"}});
-    insertRows();
-    const std::vector<AnsiString> plain = host_.connection.takeCalls();
+    putLine(0, {{"SKLADPOL", "Mléko"}, {"MNOZSTVI", "1,5"}, {"CENASBEZSLEVY", "20,00"}});
     std::reverse(active_.begin(), active_.end());
     for (RColumn& column : active_) {
         column.Visible = false;
     }
     std::erase_if(active_, [](const RColumn& column) { return column.Name == "MNOZSTVI"; });
     insertRows();
-    EXPECT_EQ(host_.connection.calls(), plain);
+    EXPECT_THAT(host_.connection.calls(),
+                ElementsAre("MELVARKEDITORDodakInsertToTemp(a_DOBSID=null, a_SKLADPOL=\"Mléko\", a_SKLAD=null, "
+                            "a_MNOZSTVI=\"1.5\", a_DPH=null, a_SLEVA=null, a_JEDNCENABSL=null, a_JEDNDPHASL=null, "
+                            "a_JEDNDPHBSL=null, a_JEDNCENASSL=null, a_JEDNCENAB=null, a_JEDNDPHA=null, "
+                            "a_JEDNDPHB=null, a_JEDNCENAS=null, a_CENABSL=null, a_DPHASL=null, a_DPHBSL=null, "
+                            "a_CENASSL=null, a_CENAB=null, a_DPHA=null, a_DPHB=null, a_CENAS=\"20.00\", "
+                            "a_TRVANLIVOST=null)"));
 }
 
 TEST_F(DodakSaving, AReportedFailureStopsAtOnce) {
@@ -84,10 +100,33 @@ TEST_F(DodakSaving, AReportedFailureStopsAtOnce) {
     EXPECT_THAT(host_.connection.calls(), SizeIs(2));
 }
 
-TEST_F(DodakSaving, ARefusedRowIsTheDatabasesError) {
-    host_.connection.procedure("MELVARKEDITORDodakInsertToTemp").refusesCall(1, "Sklad Brno neexistuje.");
-    putLine(0, {{"SKLAD", "Brno"}});
-    EXPECT_THROW(insertRows(), EDatabaseError);
+TEST_F(DodakSaving, ARefusedRowIsTheDatabasesErrorAndNamesItsLine) {
+    host_.connection.procedure("MELVARKEDITORDodakInsertToTemp").refusesCall(2, "Sklad Brno neexistuje.", "ML044");
+    putLine(2, {{"SKLAD", "Brno"}});
+    const std::optional<EDatabaseError> error = refusal();
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Message(), "Sklad Brno neexistuje.") << "as the database wrote it, so that it can be translated";
+    EXPECT_EQ(error->Code(), "ML044");
+    EXPECT_EQ(error->Row(), 1);
+}
+
+TEST_F(DodakSaving, ALineThatTheConnectionNamesIsTheRefusedOne) {
+    host_.connection.procedure("MELVARKEDITORDodakInsertToTemp")
+        .answersCall(3, [](const TProcedureCall&) -> TCallResult {
+            throw EDatabaseError("Sklad Brno neexistuje.").AboutRow(1);
+        });
+    putLine(2, {{"SKLAD", "Brno"}});
+    const std::optional<EDatabaseError> error = refusal();
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Row(), 1);
+}
+
+TEST_F(DodakSaving, AFailureOfTheDatabaseIsAboutNoLine) {
+    host_.connection.procedure("MELVARKEDITORDodakInsertToTemp").breaksAtCall(2, "Spojení se přerušilo.");
+    putLine(2, {{"SKLAD", "Brno"}});
+    const std::optional<EDatabaseError> error = refusal();
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->Row(), std::nullopt);
 }
 
 TEST_F(DodakSaving, TheClosingCallNamesTheSourcesOrNull) {

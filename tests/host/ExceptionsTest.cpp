@@ -33,6 +33,20 @@ TEST(Exceptions, ADatabaseErrorNeedsNoCode) {
     EXPECT_EQ(error.Details(), "");
 }
 
+TEST(Exceptions, ADatabaseRefusalMayNameTheLineThatItIsAbout) {
+    const EDatabaseError refusal("Sklad neexistuje.", "MV001", "engine: line 7");
+    const EDatabaseError named = refusal.AboutRow(2);
+    EXPECT_EQ(refusal.Row(), std::nullopt);
+    EXPECT_EQ(named.Row(), 2);
+    EXPECT_EQ(named.Message() + "|" + named.Code() + "|" + named.Details(), "Sklad neexistuje.|MV001|engine: line 7");
+}
+
+TEST(Exceptions, ADatabaseErrorIsARefusalUnlessTheDatabaseItselfFailed) {
+    EXPECT_EQ(EDatabaseError("Sklad neexistuje.").Cause(), TDatabaseCause::Refusal);
+    EXPECT_EQ(EDatabaseError("Spojení je přerušeno.", {}, {}, TDatabaseCause::Failure).Cause(),
+              TDatabaseCause::Failure);
+}
+
 TEST(Exceptions, KindsAreNotMistakenForOneAnother) {
     EXPECT_FALSE((std::is_base_of_v<EDatabaseError, EHostError>));
     EXPECT_FALSE((std::is_base_of_v<EConvertError, EInOutError>));

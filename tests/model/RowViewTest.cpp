@@ -35,6 +35,7 @@ TEST(RowView, AStoreRowThatIsNotThereHasNoGridRow) {
 
     EXPECT_EQ(rows.GridRow(3), 0);
     EXPECT_EQ(rows.GridRow(-1), 0);
+    EXPECT_EQ(rows.GridRow(-2), 0);
 }
 
 TEST(RowView, AStoreThatWasNeverCountedShowsOneEmptyRow) {

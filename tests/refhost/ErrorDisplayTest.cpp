@@ -23,6 +23,14 @@ TEST(ErrorDisplay, PutsTheSentenceOfTheDatabaseInFrontAndTheRestIntoTheDetails) 
     EXPECT_EQ(report.details, "Kód: ML003\nSQLite: constraint 19");
 }
 
+TEST(ErrorDisplay, NamesTheLineThatARefusalIsAbout) {
+    const EDatabaseError refusal =
+        EDatabaseError("Sklad „Brno %1“ neexistuje. Vyberte sklad ze seznamu skladů.", "ML044", "row 3").AboutRow(2);
+
+    EXPECT_EQ(describe(refusal).sentence, "Řádek 3: Sklad „Brno %1“ neexistuje. Vyberte sklad ze seznamu skladů.");
+    EXPECT_EQ(describe(refusal).details, "Kód: ML044\nrow 3");
+}
+
 TEST(ErrorDisplay, HasNoDetailsWhereThereIsNothingToAdd) {
     EXPECT_EQ(describe(EDatabaseError("Server neodpovídá.")).details, "");
     EXPECT_EQ(describe(EHostError("Seznam tu není.")).details, "");

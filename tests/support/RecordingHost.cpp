@@ -47,6 +47,12 @@ ProcedureScript& ProcedureScript::refusesCall(int n, AnsiString message, AnsiStr
     });
 }
 
+ProcedureScript& ProcedureScript::breaksAtCall(int n, AnsiString message) {
+    return answersCall(n, [message = std::move(message)](const TProcedureCall&) -> TCallResult {
+        throw EDatabaseError(message, "TEST9", {}, TDatabaseCause::Failure);
+    });
+}
+
 ProcedureScript& ProcedureScript::failsCall(int n) {
     return answersCall(n, [](const TProcedureCall&) {
         TCallResult result;

@@ -33,6 +33,8 @@ public:
     ProcedureScript& answersCall(int n, Answer answer);
     /// The n-th call is refused by the database with this sentence.
     ProcedureScript& refusesCall(int n, AnsiString message, AnsiString code = "TEST1");
+    /// At the n-th call the database itself fails with this sentence.
+    ProcedureScript& breaksAtCall(int n, AnsiString message);
     /// The n-th call fails without an error: its Success is false.
     ProcedureScript& failsCall(int n);
 
