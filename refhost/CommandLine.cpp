@@ -86,7 +86,7 @@ const std::vector<TextOptionRow>& textOptions() {
          CLI::IsMember({"cs", "en"})},
         {"--trace", "FILE", &CommandLine::traceFile, "appends one JSON line for each service call", anyText()},
         {"--procedures", "FOLDER", &CommandLine::procedures,
-         "scripts there replace procedures of the same names\nin an SQLite database", anyText()},
+         "scripts there replace the procedures of an SQLite\ndatabase that bear their names", anyText()},
     };
     return rows;
 }
