@@ -1,0 +1,94 @@
+#include "benchmarks/database/Company.h"
+
+#include "refhost/database/SampleCompany.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace benchmark {
+
+namespace {
+
+constexpr const char* c_User = "novakova";
+
+/// The first supplier lists what he did not list yet, so that every line of a fill has a price.
+constexpr const char* c_ListEveryItem =
+    "insert into DODCENIK (DODVID, SKLPID, PLATIOD, CENA, SLEVA) "
+    "select 1, i.ID, '2015-01-01', '12.35', '5' from SKLADPOL i "
+    "where not exists (select 1 from DODCENIK c where c.DODVID = 1 and c.SKLPID = i.ID)";
+
+/// What has been listed for a while is listed still.
+constexpr const char* c_ListForEver =
+    "update DODCENIK set PLATIDO = null where DODVID = 1 and PLATIDO is not null and not exists "
+    "(select 1 from DODCENIK c where c.DODVID = 1 and c.SKLPID = DODCENIK.SKLPID and c.PLATIOD > DODCENIK.PLATIOD)";
+
+} // namespace
+
+TResultTable call(refhost::Database& database, const char* procedure, std::vector<TDbParam> params) {
+    TCallResult result = database.Execute({procedure, std::move(params), true});
+    return result.Sets.empty() ? TResultTable{} : std::move(result.Sets.front());
+}
+
+Company::Company(refhost::Engine engine, int lines, CostClock::Kind clock)
+    : clock_(clock), lines_(lines), engineName_(refhost::engineName(engine)) {
+    const std::string url = refhost::newDatabaseUrl(engine);
+    measured_ = refhost::openAs(url, c_User);
+    refhost::createSampleCompany(*measured_, lines);
+    bare_ = openBare(url, c_User);
+    longOrder_ = number("select max(ID) - 1 from DODOBJEDNAVKA");
+    longTemplate_ = longOrder_ + 1;
+    longNote_ = number("select max(ID) from DODAK");
+    bare_->script(c_ListForEver);
+    bare_->script(c_ListEveryItem);
+    addOrders();
+    bare_->refreshStatistics();
+    if (engine == refhost::Engine::PostgreSQL) {
+        const std::string process = "select pg_backend_pid()";
+        clock_.addProcess(std::get<std::int64_t>(measured_->Query(process).Rows.at(0).at(0)));
+        clock_.addProcess(number(process));
+    }
+}
+
+std::int64_t Company::number(const std::string& sql) {
+    return std::get<std::int64_t>(bare_->run(sql).Rows.at(0).at(0));
+}
+
+void Company::addOrders() {
+    const std::int64_t first = longTemplate_ + 1;
+    const std::int64_t firstLine = number("select max(ID) + 1 from DODOBJPOL");
+    const std::int64_t item = number("select min(SKLPID) from DODOBJPOL");
+    const std::int64_t unit = number("select min(ID) from SKPL where SKLPID = (select min(SKLPID) from DODOBJPOL)");
+    std::vector<std::vector<TDbValue>> orders;
+    std::vector<std::vector<TDbValue>> lines;
+    for (std::int64_t i = 0; i < lines_; ++i) {
+        orders.push_back({first + i, std::int64_t{0}, "LIST-" + std::to_string(i), "2026-05-04 09:30:00", i % 3 + 1,
+                          std::int64_t{1}, std::int64_t{1}});
+        lines.push_back({firstLine + i, first + i, std::int64_t{1}, item, unit, std::int64_t{1}, "3"});
+    }
+    const std::vector<std::string> orderColumns{"ID", "VZOR", "CISLO", "OBJEDNANIDC", "DODVID", "SKLDID", "OTEVRENO"};
+    const std::vector<std::string> lineColumns{"ID", "DDOBID", "PORADI", "SKLPID", "SKPLID", "SKLDID", "MNOZSTVI"};
+    measured_->insertRows("DODOBJEDNAVKA", orderColumns, orders);
+    measured_->insertRows("DODOBJPOL", lineColumns, lines);
+}
+
+std::int64_t Company::newNote() {
+    const std::int64_t id = number("select max(ID) + 1 from DODAK");
+    bare_->run(
+        "insert into DODAK (ID, CISLO, DATUM, DODVID, SKLDID) select $1, $2, DATUM, 1, 1 from DODAK where ID = $3",
+        {id, "BENCH-" + std::to_string(++newDocuments_), longNote_});
+    return id;
+}
+
+std::int64_t Company::newOrder() {
+    const std::int64_t id = number("select max(ID) + 1 from DODOBJEDNAVKA");
+    bare_->run("insert into DODOBJEDNAVKA (ID, VZOR, CISLO, OBJEDNANIDC, DODVID, SKLDID) "
+               "select $1, 0, $2, OBJEDNANIDC, 1, 1 from DODOBJEDNAVKA where ID = $3",
+               {id, "BENCH-" + std::to_string(++newDocuments_), longOrder_});
+    return id;
+}
+
+void Company::forgetDeliveries() {
+    bare_->run("update DODOBJPOL set DODANO = '0', KOMPLETNI = 0 where DDOBID = $1", {longOrder_});
+}
+
+} // namespace benchmark

@@ -1,0 +1,109 @@
+#include "benchmarks/database/Floors.h"
+
+namespace benchmark::floors {
+
+const std::string c_NoteFromOrder =
+    "select p.ID, g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, p.MNOZSTVI, r.NAZEV, c.SLEVA, c.CENA, c.CENA, "
+    "c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, c.CENA, "
+    "d.DATUM "
+    "from DODOBJPOL p join DODAK d on d.ID = $1 join SKLADPOL i on i.ID = p.SKLPID "
+    "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
+    "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID left join DPH r on r.ID = i.DPHID "
+    "left join DODCENIK c on c.DODVID = d.DODVID and c.SKLPID = p.SKLPID and d.DATUM >= c.PLATIOD "
+    "and (c.PLATIDO is null or d.DATUM <= c.PLATIDO) "
+    "where p.DDOBID = $2 order by p.PORADI";
+
+const std::string c_NoteFromNote =
+    "select p.DOBSID, g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, p.MNOZSTVI, r.NAZEV, p.SLEVA, "
+    "p.JEDNCENABSESLEVOU, p.JEDNDPHASESLEVOU, p.JEDNDPHBSESLEVOU, p.JEDNCENASSESLEVOU, p.JEDNCENABBEZSLEVY, "
+    "p.JEDNDPHABEZSLEVY, p.JEDNDPHBBEZSLEVY, p.JEDNCENASBEZSLEVY, p.CENABSESLEVOU, p.DPHASESLEVOU, p.DPHBSESLEVOU, "
+    "p.CENASSESLEVOU, p.CENABBEZSLEVY, p.DPHABEZSLEVY, p.DPHBBEZSLEVY, p.CENASBEZSLEVY, d.DATUM "
+    "from DODAKPOL p join DODAK d on d.ID = $1 join SKLADPOL i on i.ID = p.SKLPID "
+    "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
+    "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID left join DPH r on r.ID = p.DPHID "
+    "where p.DODKID = $2 order by p.PORADI";
+
+const std::string c_OrderFromOrder =
+    "select g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, v.JMENO, p.MNOZSTVI, hl.NAZEV, hl.ID, v1.NAZEV, v1.ID, "
+    "v2.NAZEV, v2.ID, p.POPIS, p.KOMENTAR, p.PORADI "
+    "from DODOBJPOL p join DODOBJEDNAVKA o on o.ID = $1 join SKLADPOL i on i.ID = p.SKLPID "
+    "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
+    "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID "
+    "left join DODAVATEL v on v.ID = coalesce(p.DODVID, o.DODVID) "
+    "left join SKPL hl on hl.SKLPID = i.ID and hl.PORADI = 0 left join SKPL v1 on v1.SKLPID = i.ID and v1.PORADI = 1 "
+    "left join SKPL v2 on v2.SKLPID = i.ID and v2.PORADI = 2 "
+    "where p.DDOBID = $2 order by p.PORADI";
+
+const std::string c_OrderFromPriceList =
+    "select g1.NAZEV as G1, g2.NAZEV as G2, g3.NAZEV as G3, i.NAZEV, s.NAZEV, v.JMENO, null, hl.NAZEV, hl.ID, "
+    "v1.NAZEV, "
+    "v1.ID, v2.NAZEV, v2.ID, null, null, i.ID "
+    "from DODCENIK c join DODOBJEDNAVKA o on o.ID = $1 join SKLADPOL i on i.ID = c.SKLPID "
+    "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
+    "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = o.SKLDID join DODAVATEL v on v.ID = c.DODVID "
+    "left join SKPL hl on hl.SKLPID = i.ID and hl.PORADI = 0 left join SKPL v1 on v1.SKLPID = i.ID and v1.PORADI = 1 "
+    "left join SKPL v2 on v2.SKLPID = i.ID and v2.PORADI = 2 "
+    "where c.DODVID = $2 and c.PLATIDO is null order by 1, 2, 3, i.NAZEV, i.ID";
+
+const std::string c_Echo = "select $1 as A, $2 as B, $3 as C, $4 as D";
+
+std::string noteStaging(const BareSession& session) {
+    const std::string decimal = " " + session.decimalType() + ", ";
+    std::string table = "create temp table NOTE_FLOOR (PLACE " + session.countingKey() +
+                        ", DOBSID integer, SKLPID integer, SKLDID integer, DPHID integer, ";
+    for (const char* column : {"MNOZSTVI", "SLEVA", "JEDNCENABSESLEVOU", "JEDNDPHASESLEVOU", "JEDNDPHBSESLEVOU",
+                               "JEDNCENASSESLEVOU", "JEDNCENABBEZSLEVY", "JEDNDPHABEZSLEVY", "JEDNDPHBBEZSLEVY",
+                               "JEDNCENASBEZSLEVY", "CENABSESLEVOU", "DPHASESLEVOU", "DPHBSESLEVOU", "CENASSESLEVOU",
+                               "CENABBEZSLEVY", "DPHABEZSLEVY", "DPHBBEZSLEVY", "CENASBEZSLEVY"}) {
+        table += column + decimal;
+    }
+    return table + "TRVANLIVOST text)";
+}
+
+std::string orderStaging(const BareSession& session) {
+    return "create temp table ORDER_FLOOR (PLACE " + session.countingKey() +
+           ", SKLPID integer, SKLDID integer, DODVID integer, SKPLID integer, MNOZSTVI " + session.decimalType() +
+           ", POPIS text, KOMENTAR text)";
+}
+
+const std::string c_StageNoteRow =
+    "insert into NOTE_FLOOR (DOBSID, SKLPID, SKLDID, MNOZSTVI, DPHID, SLEVA, JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, "
+    "JEDNDPHBSESLEVOU, JEDNCENASSESLEVOU, JEDNCENABBEZSLEVY, JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY, "
+    "CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU, CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, "
+    "CENASBEZSLEVY, TRVANLIVOST) "
+    "values ($1, (select ID from SKLADPOL where NAZEV = $2), (select ID from SKLAD where NAZEV = $3), $4, "
+    "(select ID from DPH where NAZEV = $5), $6, $7, $8, $9, $10, $11, $12, $13, $14, $15, $16, $17, $18, $19, $20, "
+    "$21, $22, $23)";
+
+const std::string c_StageOrderRow =
+    "insert into ORDER_FLOOR (SKLPID, SKLDID, DODVID, SKPLID, MNOZSTVI, POPIS, KOMENTAR) "
+    "values ((select ID from SKLADPOL where NAZEV = $1), (select ID from SKLAD where NAZEV = $2), "
+    "(select ID from DODAVATEL where JMENO = $3), $4, $5, $6, $7)";
+
+const std::string c_CloseNote =
+    "insert into DODAKPOL (DODKID, PORADI, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA, JEDNCENABBEZSLEVY, "
+    "JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY, JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, "
+    "JEDNCENASSESLEVOU, CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU, CENABBEZSLEVY, DPHABEZSLEVY, "
+    "DPHBBEZSLEVY, CENASBEZSLEVY, DOBSID) "
+    "select $1, row_number() over (order by PLACE), SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA, JEDNCENABBEZSLEVY, "
+    "JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY, JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, "
+    "JEDNCENASSESLEVOU, CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU, CENABBEZSLEVY, DPHABEZSLEVY, "
+    "DPHBBEZSLEVY, CENASBEZSLEVY, DOBSID from NOTE_FLOOR order by PLACE";
+
+const std::string c_CloseOrder =
+    "insert into DODOBJPOL (DDOBID, PORADI, SKLPID, SKPLID, SKLDID, MNOZSTVI, POPIS, KOMENTAR) "
+    "select $1, row_number() over (order by PLACE), SKLPID, SKPLID, SKLDID, MNOZSTVI, POPIS, KOMENTAR "
+    "from ORDER_FLOOR order by PLACE";
+
+const std::string c_CloseOrderLines =
+    "update DODOBJPOL set DODANO = f.MNOZSTVI, KOMPLETNI = 1 from NOTE_FLOOR f where f.DOBSID = DODOBJPOL.ID";
+
+const std::string c_OrderByNumber = "select ID, DODVID, SKLDID from DODOBJEDNAVKA where VZOR = 0 and CISLO = $1";
+
+const std::string c_OrderList =
+    "select o.CISLO, o.OBJEDNANIDC, v.JMENO, s.NAZEV, o.ID, o.SKLDID, o.DODVID "
+    "from DODOBJEDNAVKA o join DODAVATEL v on v.ID = o.DODVID join SKLAD s on s.ID = o.SKLDID "
+    "where o.VZOR = 0 and o.SKLDID = $1 and o.DODVID = $2 "
+    "and exists (select 1 from DODOBJPOL p where p.DDOBID = o.ID and p.KOMPLETNI = 0) limit $3";
+
+} // namespace benchmark::floors
