@@ -10,6 +10,7 @@
 #include <span>
 #include <sqlite3.h>
 #include <string>
+#include <string_view>
 
 namespace refhost {
 
@@ -17,22 +18,37 @@ namespace {
 
 using Arguments = std::span<sqlite3_value*>;
 
-/// The decimal in an argument, nothing for null.
-std::optional<std::string> decimalArgument(sqlite3_value* value) {
-    switch (sqlite3_value_type(value)) {
-    case SQLITE_NULL:
-        return std::nullopt;
-    case SQLITE_FLOAT:
-        return FloatToText(sqlite3_value_double(value), TFormatSettings{});
-    default: {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-        if (text == nullptr) {
-            throw std::bad_alloc();
+/// The decimal in an argument, nothing for null. Only a floating-point number needs a text of its own; the engine's
+/// lives as long as the call.
+class DecimalArgument {
+public:
+    explicit DecimalArgument(sqlite3_value* value) {
+        switch (sqlite3_value_type(value)) {
+        case SQLITE_NULL:
+            return;
+        case SQLITE_FLOAT:
+            own_ = FloatToText(sqlite3_value_double(value), TFormatSettings{});
+            text_ = own_;
+            return;
+        default: {
+            const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+            if (text == nullptr) {
+                throw std::bad_alloc();
+            }
+            text_ = std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
         }
-        return std::string(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
+        }
     }
-    }
-}
+    DecimalArgument(const DecimalArgument&) = delete;
+    DecimalArgument& operator=(const DecimalArgument&) = delete;
+
+    explicit operator bool() const { return text_.has_value(); }
+    std::string_view operator*() const { return *text_; }
+
+private:
+    std::string own_;
+    std::optional<std::string_view> text_;
+};
 
 void giveText(sqlite3_context* context, const std::string& text) {
     sqlite3_result_text(context, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
@@ -54,7 +70,7 @@ template <std::string (*operation)(std::string_view)>
 void unary(sqlite3_context* context, int count, sqlite3_value** values) {
     guarded(context, [&] {
         const Arguments arguments(values, static_cast<std::size_t>(count));
-        if (const auto number = decimalArgument(arguments[0])) {
+        if (const DecimalArgument number(arguments[0]); number) {
             giveText(context, operation(*number));
         }
     });
@@ -64,8 +80,8 @@ template <std::string (*operation)(std::string_view, std::string_view)>
 void binary(sqlite3_context* context, int count, sqlite3_value** values) {
     guarded(context, [&] {
         const Arguments arguments(values, static_cast<std::size_t>(count));
-        const auto left = decimalArgument(arguments[0]);
-        const auto right = decimalArgument(arguments[1]);
+        const DecimalArgument left(arguments[0]);
+        const DecimalArgument right(arguments[1]);
         if (left && right) {
             giveText(context, operation(*left, *right));
         }
@@ -77,7 +93,7 @@ template <std::string (*operation)(std::string_view, int)>
 void toDecimals(sqlite3_context* context, int count, sqlite3_value** values) {
     guarded(context, [&] {
         const Arguments arguments(values, static_cast<std::size_t>(count));
-        const auto number = decimalArgument(arguments[0]);
+        const DecimalArgument number(arguments[0]);
         if (number && sqlite3_value_type(arguments[1]) != SQLITE_NULL) {
             giveText(context, operation(*number, sqlite3_value_int(arguments[1])));
         }
@@ -87,8 +103,8 @@ void toDecimals(sqlite3_context* context, int count, sqlite3_value** values) {
 void divide(sqlite3_context* context, int count, sqlite3_value** values) {
     guarded(context, [&] {
         const Arguments arguments(values, static_cast<std::size_t>(count));
-        const auto dividend = decimalArgument(arguments[0]);
-        const auto divisor = decimalArgument(arguments[1]);
+        const DecimalArgument dividend(arguments[0]);
+        const DecimalArgument divisor(arguments[1]);
         if (dividend && divisor && sqlite3_value_type(arguments[2]) != SQLITE_NULL) {
             giveText(context, decimalQuotient(*dividend, *divisor, sqlite3_value_int(arguments[2])));
         }
@@ -98,8 +114,8 @@ void divide(sqlite3_context* context, int count, sqlite3_value** values) {
 void compare(sqlite3_context* context, int count, sqlite3_value** values) {
     guarded(context, [&] {
         const Arguments arguments(values, static_cast<std::size_t>(count));
-        const auto left = decimalArgument(arguments[0]);
-        const auto right = decimalArgument(arguments[1]);
+        const DecimalArgument left(arguments[0]);
+        const DecimalArgument right(arguments[1]);
         if (left && right) {
             sqlite3_result_int(context, compareDecimals(*left, *right));
         }
@@ -118,7 +134,7 @@ void addToSum(sqlite3_context* context, int count, sqlite3_value** values) {
         if (state == nullptr) {
             throw std::bad_alloc();
         }
-        const auto number = decimalArgument(arguments[0]);
+        const DecimalArgument number(arguments[0]);
         if (!number) {
             return;
         }
