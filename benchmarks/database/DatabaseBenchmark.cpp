@@ -1,7 +1,8 @@
 // What the database's work costs on both engines and how it grows, each beside its floor: bare prepared statements that
 // bring or store the same rows (Floors.cpp). The work and its floor take turns in one run; medians of the rounds.
 //
-//   database_benchmark [--sizes 1000,10000,100000] [--rounds N] [--clock processor|wall] [--plot FILE.svg]
+//   database_benchmark [--sizes 1000,10000,100000] [--rounds N] [--engine SQLite|PostgreSQL] [--clock processor|wall]
+//   [--plot FILE.svg]
 
 #include "benchmarks/database/GrowthPlot.h"
 #include "benchmarks/database/NoteWork.h"
@@ -20,6 +21,7 @@ namespace {
 struct Options {
     std::vector<int> Sizes{1000, 10000, 100000};
     int Rounds = 5;
+    std::string Engine; ///< Empty: both.
     benchmark::CostClock::Kind Clock = benchmark::CostClock::Kind::Processor;
     std::string Plot;
 };
@@ -38,6 +40,8 @@ Options readOptions(int argc, char** argv) {
             options.Rounds = std::stoi(argv[i + 1]);
         } else if (name == "--clock" && std::string_view(argv[i + 1]) == "wall") {
             options.Clock = benchmark::CostClock::Kind::Wall;
+        } else if (name == "--engine") {
+            options.Engine = argv[i + 1];
         } else if (name == "--plot") {
             options.Plot = argv[i + 1];
         }
@@ -49,6 +53,9 @@ void measure(const Options& options, benchmark::Report& report) {
     std::printf("%-11s %-34s %7s %12s %12s %7s\n", "engine", "work", "size", "cost in µs", "floor", "ratio");
     for (const int size : options.Sizes) {
         for (const refhost::Engine engine : {refhost::Engine::SQLite, refhost::Engine::PostgreSQL}) {
+            if (!options.Engine.empty() && options.Engine != refhost::engineName(engine)) {
+                continue;
+            }
             benchmark::Company company(engine, size, options.Clock);
             benchmark::measureNotes(company, options.Rounds, report);
             benchmark::measureOrders(company, options.Rounds, report);

@@ -6,6 +6,7 @@
 #include "host/ValueText.h"
 #include "refhost/database/RefusalTable.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <unicode/ustring.h>
@@ -29,6 +30,9 @@ AnsiString plainText(const TDbValue& value) {
 }
 
 bool isUtf8(const AnsiString& text) {
+    if (std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80U; })) {
+        return true; // nearly every number and identifier
+    }
     UErrorCode error = U_ZERO_ERROR;
     std::int32_t length = 0;
     u_strFromUTF8(nullptr, 0, &length, text.data(), static_cast<std::int32_t>(text.size()), &error);

@@ -11,6 +11,7 @@
 #include "refhost/database/SqlScript.h"
 
 #include <algorithm>
+#include <set>
 
 namespace refhost {
 
@@ -21,10 +22,17 @@ constexpr int c_MostAttempts = 5;
 
 /// Whether the procedure is a step of a save: a failure of it closes the save until its rows are emptied.
 bool belongsToSave(std::string_view name) {
-    return std::ranges::any_of(postgresqlFiles(), [name](const SqlFile& file) {
-        return file.Path.starts_with("procedures/") && SameDbName(sqlObjectName(file), name) &&
-               readSqlScript(file, postgresqlFiles()).FailureRefusesStaging;
-    });
+    // Read once: a save asks for every row.
+    static const std::set<std::string> steps = [] {
+        std::set<std::string> names;
+        for (const SqlFile& file : postgresqlFiles()) {
+            if (file.Path.starts_with("procedures/") && readSqlScript(file, postgresqlFiles()).FailureRefusesStaging) {
+                names.insert(melvark::LowerAscii(sqlObjectName(file)));
+            }
+        }
+        return names;
+    }();
+    return steps.contains(melvark::LowerAscii(name));
 }
 
 std::string joined(std::span<const std::string> names) {

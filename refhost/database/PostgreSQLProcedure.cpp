@@ -17,13 +17,14 @@ constexpr const char* c_FindProcedure =
     "select quote_ident(p.proname) as sql_name, a.name, quote_ident(a.name) as sql_parameter,"
     "       coalesce(p.proargmodes[a.place], 'i') as mode,"
     "       format_type(coalesce(p.proallargtypes[a.place], p.proargtypes[a.place - 1]), null) as type,"
-    "       p.prorettype = 'pg_catalog.refcursor'::regtype as brings_cursors "
+    "       p.prorettype = 'pg_catalog.refcursor'::regtype as brings_cursors,"
+    "       p.prorettype = 'pg_catalog.void'::regtype as brings_nothing "
     "from pg_catalog.pg_proc p "
     "left join unnest(p.proargnames) with ordinality a(name, place) on true "
     "where p.pronamespace = to_regnamespace('melvark') and p.proname = lower($1) and p.proname like 'melvarkeditor%' "
     "order by a.place";
 
-enum Column { SqlName, Name, SqlParameter, Mode, Type, BringsCursors };
+enum Column { SqlName, Name, SqlParameter, Mode, Type, BringsCursors, BringsNothing };
 
 /// The server folds names to lower case; the contract writes them "a_NAME".
 AnsiString contractName(std::string_view name) {
@@ -55,6 +56,7 @@ std::optional<PostgreSQLProcedure> PostgreSQLProcedure::find(PostgreSQLSession& 
     PostgreSQLProcedure procedure;
     procedure.sqlName_ = text(0, SqlName);
     procedure.bringsCursors_ = text(0, BringsCursors) == "t";
+    procedure.bringsNothing_ = text(0, BringsNothing) == "t";
     for (int row = 0; row < rows; ++row) {
         const std::string mode = text(row, Mode);
         if (PQgetisnull(result.get(), row, Name) == 1) {
@@ -108,7 +110,9 @@ PostgreSQLProcedure::Arguments PostgreSQLProcedure::arguments(const TProcedureCa
 
 TCallResult PostgreSQLProcedure::run(PostgreSQLSession& session, const TProcedureCall& call) const {
     const auto [named, values] = arguments(call);
-    const std::string sql = "select * from melvark." + sqlName_ + "(" + named + ")";
+    // A function that brings nothing costs less where it need not be a table.
+    const std::string sql =
+        (bringsNothing_ ? "select melvark." : "select * from melvark.") + sqlName_ + "(" + named + ")";
     if (bringsCursors_) {
         return runForCursors(session, sql, values, call.Open);
     }

@@ -46,6 +46,7 @@ private:
     std::vector<Parameter> inputs_;
     std::vector<AnsiString> outputs_;
     bool bringsCursors_ = false;
+    bool bringsNothing_ = false;
 };
 
 } // namespace refhost

@@ -14,7 +14,11 @@ namespace {
 /// The one column of a statement that only refuses: its rows are no result set.
 constexpr const char* c_RefusalColumn = "REFUSAL";
 
-std::optional<std::size_t> inputIndex(const SqlScript& script, std::string_view name) {
+/// `guess`, the place at which callers mostly name it, is tried first.
+std::optional<std::size_t> inputIndex(const SqlScript& script, std::string_view name, std::size_t guess = 0) {
+    if (guess < script.Inputs.size() && SameDbName(script.Inputs[guess].Name, name)) {
+        return guess;
+    }
     const auto found = std::ranges::find_if(
         script.Inputs, [&](const SqlScript::Parameter& input) { return SameDbName(input.Name, name); });
     if (found == script.Inputs.end()) {
@@ -79,8 +83,9 @@ TProcedureInfo SQLiteProcedure::info() const {
 
 std::vector<TDbValue> SQLiteProcedure::inputValues(const TProcedureCall& call) const {
     std::vector<TDbValue> values(script_.Inputs.size());
+    std::size_t guess = 0;
     for (const TDbParam& parameter : call.Params) {
-        const auto input = inputIndex(script_, parameter.Name);
+        const auto input = inputIndex(script_, parameter.Name, guess++);
         if (!input) {
             throw refusal("ML919", {shownText(call.Name), shownText(parameter.Name)});
         }

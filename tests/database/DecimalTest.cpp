@@ -42,6 +42,14 @@ TEST(Decimal, SumsDifferencesAndProductsAreExact) {
     EXPECT_EQ(decimalProduct("-0.000001", "0.000001"), "-0.000000000001");
     // 64-bit integers end at 9.2 · 10^18, binary floating point is exact up to 9.0 · 10^15.
     EXPECT_EQ(decimalProduct("12345678901234567890", "10"), "123456789012345678900");
+    // So do integers of 128 bits at 1.7 · 10^38.
+    EXPECT_EQ(decimalProduct("99999999999999999999", "99999999999999999999"),
+              "9999999999999999999800000000000000000001");
+    EXPECT_EQ(decimalSum("9999999999999999999999999999999999999", "0.00001"),
+              "9999999999999999999999999999999999999.00001");
+    EXPECT_EQ(decimalQuotient("99999999999999999999999999999999999", "7", 6),
+              "14285714285714285714285714285714285.571429");
+    EXPECT_EQ(compareDecimals("99999999999999999999999999999999999999999", "0.1"), 1);
 }
 
 TEST(Decimal, RoundingGoesHalfAwayFromZero) {

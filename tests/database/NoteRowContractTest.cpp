@@ -69,6 +69,12 @@ const std::vector<NoteRowRefusal>& refusals() {
          {{"a_SKLADPOL", "Mouka hladká"}, {"a_MNOZSTVI", "1234567890123456"}},
          "ML005 Množství „1234567890123456“ je příliš dlouhé číslo. Zapište nejvýše 15 číslic před desetinnou čárkou a "
          "50 za ní."},
+        {"TwoNumbersInOneCell", flourWith({{"a_CENAB", "1;2"}}),
+         "ML001 Celková cena „1;2“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku."},
+        {"TheWordForNothing", flourWith({{"a_CENAB", "null"}}),
+         "ML001 Celková cena „null“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku."},
+        {"TotalWithThreeDecimals", flourWith({{"a_CENAS", "1,125"}}),
+         "ML006 Celková cena „1,125“ má příliš mnoho desetinných míst. Zapište nejvýše 2."},
         {"DiscountWithThreeDecimals", flourWith({{"a_SLEVA", "12.345"}}),
          "ML006 Sleva „12.345“ má příliš mnoho desetinných míst. Zapište nejvýše 2."},
         {"DiscountBelowZero", flourWith({{"a_SLEVA", "-0.01"}}),

@@ -2,6 +2,8 @@
 -- warehouse, so that the document's restricts nothing.
 create function V_MELVARKEDITORDodObjCheckZdrojDodCenik(dodvid integer, document integer, warehouse integer,
                                                         supplier integer, moment text) returns integer
-language sql stable as $$
-    select (price_list_fault(dodvid, document, supplier, parse_moment(moment)) is null)::integer
+language plpgsql stable as $$
+begin
+    return (price_list_fault(dodvid, document, supplier, parse_moment(moment)) is null)::integer;
+end
 $$;

@@ -2,12 +2,16 @@
 -- come as a text or as an integer.
 create function V_MELVARKEDITORDodObjCheckZdrojDodavky(dodvid integer, document integer, warehouse integer,
                                                        supplier integer, moment text, months text) returns integer
-language sql stable as $$
-    select (deliveries_fault(dodvid, document, warehouse, supplier, parse_moment(moment), months) is null)::integer
+language plpgsql stable as $$
+begin
+    return (deliveries_fault(dodvid, document, warehouse, supplier, parse_moment(moment), months) is null)::integer;
+end
 $$;
 
 create function V_MELVARKEDITORDodObjCheckZdrojDodavky(dodvid integer, document integer, warehouse integer,
                                                        supplier integer, moment text, months integer) returns integer
-language sql stable as $$
-    select V_MELVARKEDITORDodObjCheckZdrojDodavky(dodvid, document, warehouse, supplier, moment, months::text)
+language plpgsql stable as $$
+begin
+    return V_MELVARKEDITORDodObjCheckZdrojDodavky(dodvid, document, warehouse, supplier, moment, months::text);
+end
 $$;

@@ -2,6 +2,8 @@
 create function V_MELVARKEDITORDodObjCheckZdrojObjednavkaVzor(id integer, skldid integer, dodvid integer,
                                                               document integer, warehouse integer, supplier integer)
 returns integer
-language sql stable as $$
-    select (order_fault_for_order(id, skldid, dodvid, document, warehouse, supplier) is null)::integer
+language plpgsql stable as $$
+begin
+    return (order_fault_for_order(id, skldid, dodvid, document, warehouse, supplier) is null)::integer;
+end
 $$;

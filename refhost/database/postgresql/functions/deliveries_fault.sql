@@ -6,17 +6,17 @@ create function deliveries_fault(dodvid integer, document integer, warehouse int
                                  moment timestamp, months text) returns text
 language plpgsql stable as $$
 declare
-    until constant timestamp := coalesce(moment, order_moment(document));
+    until constant timestamp := coalesce(moment, melvark.order_moment(document));
 begin
     return case
-        when not exists (select from DODAVATEL v where v.ID = dodvid) then 'ML021'
-        when document > 0 and not exists (select from DODOBJEDNAVKA o where o.ID = document) then 'ML012'
+        when not exists (select from melvark.DODAVATEL v where v.ID = dodvid) then 'ML021'
+        when document > 0 and not exists (select from melvark.DODOBJEDNAVKA o where o.ID = document) then 'ML012'
         when supplier > 0 and dodvid <> supplier then 'ML024'
         when not exists (select
-                         from DELIVERY_V v
-                         where v.DODVID = deliveries_fault.dodvid
+                         from melvark.DELIVERY_V v
+                         where v.DODVID = $1
                            and (coalesce(warehouse, 0) <= 0 or v.SKLDID = warehouse)
-                           and v.DATUM between (select deliveries_since(until, months)) and until::date)
+                           and v.DATUM between (select melvark.deliveries_since(until, months)) and until::date)
             then 'ML029'
     end;
 end

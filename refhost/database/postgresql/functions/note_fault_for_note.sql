@@ -3,11 +3,13 @@
 --
 -- `dodvid` is the source's supplier, `supplier` that of the note which is filled.
 create function note_fault_for_note(id integer, dodvid integer, note integer, supplier integer) returns text
-language sql stable as $$
-    select case
-        when not exists (select from DODAK d where d.ID = note_fault_for_note.id) then 'ML021'
-        when note > 0 and not exists (select from DODAK d where d.ID = note) then 'ML010'
-        when note_fault_for_note.id = note then 'ML027'
+language plpgsql stable as $$
+begin
+    return case
+        when not exists (select from melvark.DODAK d where d.ID = $1) then 'ML021'
+        when note > 0 and not exists (select from melvark.DODAK d where d.ID = note) then 'ML010'
+        when $1 = note then 'ML027'
         when dodvid > 0 and supplier > 0 and dodvid <> supplier then 'ML024'
-    end
+    end;
+end
 $$;

@@ -4,12 +4,14 @@
 -- `dodvid` is the note's supplier, `warehouse` and `supplier` those of the document which is filled.
 create function note_fault_for_order(id integer, dodvid integer, document integer, warehouse integer, supplier integer)
 returns text
-language sql stable as $$
-    select case
-        when not exists (select from DODAK d where d.ID = note_fault_for_order.id) then 'ML021'
-        when document > 0 and not exists (select from DODOBJEDNAVKA o where o.ID = document) then 'ML012'
+language plpgsql stable as $$
+begin
+    return case
+        when not exists (select from melvark.DODAK d where d.ID = $1) then 'ML021'
+        when document > 0 and not exists (select from melvark.DODOBJEDNAVKA o where o.ID = document) then 'ML012'
         when dodvid > 0 and supplier > 0 and dodvid <> supplier then 'ML024'
-        when warehouse > 0 and warehouse <> (select d.SKLDID from DODAK d where d.ID = note_fault_for_order.id)
+        when warehouse > 0 and warehouse <> (select d.SKLDID from melvark.DODAK d where d.ID = $1)
             then 'ML025'
-    end
+    end;
+end
 $$;

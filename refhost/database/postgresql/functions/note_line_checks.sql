@@ -1,55 +1,92 @@
 -- The checks of a delivery-note row that is saved, one for each kind of cell. Texts come without blanks around them, null
 -- for an empty cell.
 
--- The VAT rate of the name, null without one. Refusal ML110: there is none.
-create function note_line_rate(name text) returns integer
+-- Refuses a VAT rate that does not exist (ML110); null is none and passes.
+create function refuse_unknown_rate(name text) returns void
 language plpgsql as $$
-declare
-    rate constant integer := (select r.ID from DPH r where r.NAZEV = name);
 begin
-    if name is not null and rate is null then
+    if name is not null and not exists (select from DPH r where r.NAZEV = name) then
         perform refuse('ML110', name);
     end if;
-    return rate;
 end
 $$;
 
--- The order line that is delivered, null without one. Refusals: ML049 there is none, ML050 it is for another item.
+-- The order line that is delivered. Refusals: ML049 there is none, ML050 it is for another item.
 create function note_line_order_line(id text, item integer) returns integer
 language plpgsql as $$
 declare
-    ordered DODOBJPOL;
+    ordered_line integer;
+    ordered_item integer;
 begin
-    select p.* into ordered
-    from DODOBJPOL p
-    join DODOBJEDNAVKA o on o.ID = p.DDOBID and o.VZOR = 0
-    where p.ID = as_integer(note_line_order_line.id);
-    if note_line_order_line.id is not null and ordered.ID is null then
-        perform refuse('ML049', note_line_order_line.id);
-    elsif ordered.SKLPID <> item then
-        perform refuse('ML050', note_line_order_line.id, (select i.NAZEV from SKLADPOL i where i.ID = item));
+    select p.ID, p.SKLPID into ordered_line, ordered_item
+    from melvark.DODOBJPOL p
+    join melvark.DODOBJEDNAVKA o on o.ID = p.DDOBID and o.VZOR = 0
+    where p.ID = melvark.as_integer($1);
+    if ordered_line is null then
+        perform melvark.refuse('ML049', $1);
+    elsif ordered_item <> item then
+        perform melvark.refuse('ML050', $1, (select i.NAZEV from melvark.SKLADPOL i where i.ID = item));
     end if;
-    return ordered.ID;
+    return ordered_line;
 end
 $$;
 
--- Refuses a total that quantity times unit price does not give (ML052). Prices are rounded to their decimals, so that
--- both may differ by that much.
-create function refuse_unbalanced_note_line(line DODAKPOL) returns void
+-- The numbers of a row, null for an empty cell, from its texts: 1 the quantity, 2 the discount, 3 to 6 the unit prices
+-- after the discount, 7 to 10 those before it, 11 to 14 the totals after it, 15 to 18 those before it. Refusals: ML001,
+-- ML005, ML006.
+create function note_line_numbers(texts text[]) returns numeric[]
 language plpgsql as $$
 declare
-    unit_prices constant numeric[] := array[
-        line.JEDNCENABSESLEVOU, line.JEDNDPHASESLEVOU, line.JEDNDPHBSESLEVOU, line.JEDNCENASSESLEVOU,
-        line.JEDNCENABBEZSLEVY, line.JEDNDPHABEZSLEVY, line.JEDNDPHBBEZSLEVY, line.JEDNCENASBEZSLEVY];
-    totals constant numeric[] := array[
-        line.CENABSESLEVOU, line.DPHASESLEVOU, line.DPHBSESLEVOU, line.CENASSESLEVOU,
-        line.CENABBEZSLEVY, line.DPHABEZSLEVY, line.DPHBBEZSLEVY, line.CENASBEZSLEVY];
-    allowed constant numeric := 0.02 + abs(line.MNOZSTVI) * 0.000002;
+    labels constant text[] := array_cat(array['Množství', 'Sleva'],
+        array_cat(array_fill('Jednotková cena'::text, array[8]), array_fill('Celková cena'::text, array[8])));
+    decimals constant integer[] := array_cat(array[6, 2], array_cat(array_fill(6, array[8]), array_fill(2, array[8])));
+    numbers numeric[];
+begin
+    for place in 1..18 loop
+        numbers[place] := parse_number(typed(texts[place]), labels[place], decimals[place]);
+    end loop;
+    return numbers;
+end
+$$;
+
+-- Whether every text that is not null is so plain a number that it can be read without a closer look: digits, perhaps a
+-- minus before and one point or comma between them, within the decimals of note_line_numbers. Said of all of them at
+-- once, for asked one by one they cost most of a row's time. Stable as array_to_string is: else the planner would not put
+-- it into the caller's expression.
+create function are_plain_note_numbers(texts text[]) returns boolean
+language sql stable as $$
+    select array_to_string(texts, ';', '0') || ';' ~ '^(?:-?[0-9]+(?:[.,][0-9]+)?;)*$'
+       and array_to_string(texts, ';', '0') !~ '[0-9]{16}|[.,][0-9]{7}'
+       and strpos(array_to_string(texts, ''), ';') = 0
+       and concat_ws(';', texts[2], array_to_string(texts[11:18], ';')) !~ '[.,][0-9]{3}'
+$$;
+
+-- How far a total may be from quantity times unit price: both prices are rounded to their decimals.
+create function note_line_tolerance(quantity numeric) returns numeric
+language sql immutable as $$
+    select 0.02 + abs(quantity) * 0.000002
+$$;
+
+-- Whether no total is further from quantity times unit price than that; prices that are not given do not count. `numbers`
+-- are those of note_line_numbers.
+create function is_balanced_note_line(numbers numeric[]) returns boolean
+language sql immutable as $$
+    select coalesce(
+        greatest(abs(numbers[1] * numbers[3] - numbers[11]), abs(numbers[1] * numbers[4] - numbers[12]),
+                 abs(numbers[1] * numbers[5] - numbers[13]), abs(numbers[1] * numbers[6] - numbers[14]),
+                 abs(numbers[1] * numbers[7] - numbers[15]), abs(numbers[1] * numbers[8] - numbers[16]),
+                 abs(numbers[1] * numbers[9] - numbers[17]), abs(numbers[1] * numbers[10] - numbers[18]))
+        <= melvark.note_line_tolerance(numbers[1]), true)
+$$;
+
+-- Refuses the first total that is further from it (ML052).
+create function refuse_unbalanced_note_line(item integer, numbers numeric[]) returns void
+language plpgsql as $$
 begin
     for pair in 1..8 loop
-        if abs(line.MNOZSTVI * unit_prices[pair] - totals[pair]) > allowed then
-            perform refuse('ML052', total_text(totals[pair]), (select i.NAZEV from SKLADPOL i where i.ID = line.SKLPID),
-                           number_text(line.MNOZSTVI), number_text(unit_prices[pair]));
+        if abs(numbers[1] * numbers[pair + 2] - numbers[pair + 10]) > note_line_tolerance(numbers[1]) then
+            perform refuse('ML052', total_text(numbers[pair + 10]), (select i.NAZEV from SKLADPOL i where i.ID = item),
+                           number_text(numbers[1]), number_text(numbers[pair + 2]));
         end if;
     end loop;
 end

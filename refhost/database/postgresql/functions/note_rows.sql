@@ -1,25 +1,24 @@
 -- The rows with which the editor of a delivery note opens.
 
--- The prices of a row. Those that are carried over stay to the letter, save that totals belong to the quantity: a row
--- that comes without it has none. The price of a price list completes its row.
-create function note_fill_prices(fill note_fill) returns line_prices
+-- The prices of a row. Those of `source`, the delivery-note line whose prices are carried over, stay to the letter, save
+-- that totals belong to the quantity: a row that comes without it has none. Without a source the price of a price list
+-- completes its row; `rate_a` and `rate_l` are percents, the discount is the list's.
+create function note_fill_prices(source DODAKPOL, price numeric, discount numeric, quantity numeric, rate_a numeric,
+                                 rate_l numeric) returns line_prices
 language plpgsql stable as $$
 declare
-    source DODAKPOL;
-    carried line_prices;
+    carried melvark.line_prices;
 begin
-    if fill.SOURCEID is null then
-        return recalculated_line(
-            row(row(fill.CENA, null, null, null)::price_row, null, null, null)::line_prices, fill.MNOZSTVI,
-            recalculation_vat_rate((select r.NAZEV from DPH r where r.ID = fill.DPHID)), recalculation_local_rate(),
-            recalculation_discount(fill.SLEVA), 'unit', 'before', 'CENAB');
+    if source.ID is null then
+        return melvark.recalculated_line(
+            row(row(price, null, null, null)::melvark.price_row, null, null, null)::melvark.line_prices, quantity, rate_a,
+            rate_l, melvark.recalculation_discount(discount), 'unit', 'before', 'CENAB');
     end if;
-    select p.* into source from DODAKPOL p where p.ID = fill.SOURCEID;
     carried.unit_before := row(source.JEDNCENABBEZSLEVY, source.JEDNDPHABEZSLEVY, source.JEDNDPHBBEZSLEVY,
                                source.JEDNCENASBEZSLEVY);
     carried.unit_after := row(source.JEDNCENABSESLEVOU, source.JEDNDPHASESLEVOU, source.JEDNDPHBSESLEVOU,
                               source.JEDNCENASSESLEVOU);
-    if fill.MNOZSTVI is not null then
+    if quantity is not null then
         carried.total_before := row(source.CENABBEZSLEVY, source.DPHABEZSLEVY, source.DPHBBEZSLEVY,
                                     source.CENASBEZSLEVY);
         carried.total_after := row(source.CENABSESLEVOU, source.DPHASESLEVOU, source.DPHBSESLEVOU,
@@ -31,7 +30,11 @@ $$;
 
 -- The rows in the order of the array, for the note with the identifier.
 create function note_rows(note integer, fills note_fill[]) returns setof note_row
-language sql stable as $$
+language plpgsql stable as $$
+declare
+    local_rate constant numeric := recalculation_local_rate();
+begin
+    return query
     select f.DOBSID, i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, s.NAZEV, number_text(round(f.MNOZSTVI, 6)),
            r.NAZEV, number_text(round(f.SLEVA, 2)),
            number_text((p.unit_after).cenab), number_text((p.unit_after).dpha), number_text((p.unit_after).dphb),
@@ -48,7 +51,8 @@ language sql stable as $$
     join ITEM_V i on i.SKLPID = f.SKLPID
     join SKLAD s on s.ID = f.SKLDID
     left join DPH r on r.ID = f.DPHID
-    cross join lateral note_fill_prices(row(f.DOBSID, f.SKLPID, f.SKLDID, f.DPHID, f.MNOZSTVI, f.SOURCEID, f.CENA,
-                                            f.SLEVA)::note_fill) p
-    order by f.LINE
+    left join DODAKPOL source on source.ID = f.SOURCEID
+    cross join lateral note_fill_prices(source, f.CENA, f.SLEVA, f.MNOZSTVI, coalesce(r.SAZBA, 0), local_rate) p
+    order by f.LINE;
+end
 $$;

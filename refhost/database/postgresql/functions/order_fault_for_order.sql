@@ -5,12 +5,14 @@
 -- `skldid` and `dodvid` are the source's, `warehouse` and `supplier` those of the document which is filled.
 create function order_fault_for_order(id integer, skldid integer, dodvid integer, document integer, warehouse integer,
                                       supplier integer) returns text
-language sql stable as $$
-    select case
-        when not exists (select from DODOBJEDNAVKA o where o.ID = order_fault_for_order.id) then 'ML021'
-        when document > 0 and not exists (select from DODOBJEDNAVKA o where o.ID = document) then 'ML012'
-        when order_fault_for_order.id = document then 'ML027'
+language plpgsql stable as $$
+begin
+    return case
+        when not exists (select from melvark.DODOBJEDNAVKA o where o.ID = $1) then 'ML021'
+        when document > 0 and not exists (select from melvark.DODOBJEDNAVKA o where o.ID = document) then 'ML012'
+        when $1 = document then 'ML027'
         when dodvid > 0 and supplier > 0 and dodvid <> supplier then 'ML024'
         when skldid > 0 and warehouse > 0 and skldid <> warehouse then 'ML025'
-    end
+    end;
+end
 $$;

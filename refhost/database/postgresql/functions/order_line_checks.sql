@@ -12,26 +12,28 @@ end
 $$;
 
 -- Refuses the first quantity without a unit (ML048), then the first unit that is not the item's or whose name and
--- identifier do not go together (ML047). `item_name` is the name of the item with the identifier.
-create function refuse_wrong_unit(item integer, item_name text, sent order_quantity[]) returns void
+-- identifier do not go together (ML047). `item_name` is the name of the item with the identifier; the arrays have one
+-- element for each quantity of the row.
+create function refuse_wrong_unit(item integer, item_name text, quantities numeric[], unit_ids text[], unit_names text[])
+returns void
 language plpgsql as $$
 declare
-    quantity order_quantity;
+    wrong record;
 begin
-    foreach quantity in array sent loop
-        if quantity.MNOZSTVI <> 0 and quantity.SKPLID is null then
-            perform refuse('ML048', item_name);
-        end if;
-    end loop;
-    foreach quantity in array sent loop
-        if coalesce(quantity.SKPLID, quantity.JEDNOTKY) is not null
+    select q.NAME, q.ID, q.QUANTITY <> 0 and q.ID is null as LACKS_UNIT into wrong
+    from unnest(quantities, unit_ids, unit_names) with ordinality q (QUANTITY, ID, NAME, SLOT)
+    where (q.QUANTITY <> 0 and q.ID is null)
+       or (coalesce(q.ID, q.NAME) is not null
            and not exists (select
                            from SKPL u
-                           where u.SKLPID = item
-                             and (quantity.SKPLID is null or u.ID = as_integer(quantity.SKPLID))
-                             and (quantity.JEDNOTKY is null or u.NAZEV = quantity.JEDNOTKY)) then
-            perform refuse('ML047', coalesce(quantity.JEDNOTKY, quantity.SKPLID), item_name);
-        end if;
-    end loop;
+                           where u.SKLPID = item and (q.ID is null or u.ID = as_integer(q.ID))
+                             and (q.NAME is null or u.NAZEV = q.NAME)))
+    order by coalesce(q.QUANTITY <> 0 and q.ID is null, false) desc, q.SLOT
+    limit 1;
+    if wrong.LACKS_UNIT then
+        perform refuse('ML048', item_name);
+    elsif found then
+        perform refuse('ML047', coalesce(wrong.NAME, wrong.ID), item_name);
+    end if;
 end
 $$;

@@ -27,8 +27,14 @@ values ('JEDNCENABBEZSLEVY', 'unit', 'before', 'CENAB'),
 create function rounded_quotient(dividend numeric, divisor numeric, decimals integer) returns numeric
 language plpgsql immutable strict as $$
 declare
-    step constant numeric := ('1e-' || decimals)::numeric;
+    step numeric;
 begin
+    if divisor = 1 then
+        return round(dividend, decimals);
+    elsif divisor = 100 then
+        return round(dividend * 0.01, decimals);
+    end if;
+    step := ('1e-' || decimals)::numeric;
     return sign(dividend) * sign(divisor) * step
            * div(2 * abs(dividend) + step * abs(divisor), 2 * step * abs(divisor));
 end
@@ -40,14 +46,25 @@ language sql immutable as $$
                round((prices).dphb, decimals), round((prices).cenas, decimals))::melvark.price_row
 $$;
 
--- Each price times multiplier / divisor.
-create function carried_price_row(prices price_row, multiplier numeric, divisor numeric, decimals integer)
+-- The prices from which the row of the kind is completed, each times multiplier / divisor: the price itself, and of a VAT
+-- part all that its sum is made of.
+create function carried_price_row(prices price_row, kind text, multiplier numeric, divisor numeric, decimals integer)
 returns price_row
-language sql immutable as $$
-    select row(rounded_quotient((prices).cenab * multiplier, divisor, decimals),
-               rounded_quotient((prices).dpha * multiplier, divisor, decimals),
-               rounded_quotient((prices).dphb * multiplier, divisor, decimals),
-               rounded_quotient((prices).cenas * multiplier, divisor, decimals))::price_row
+language plpgsql immutable as $$
+declare
+    carried melvark.price_row;
+begin
+    if kind = 'CENAS' then
+        carried.cenas := melvark.rounded_quotient(prices.cenas * multiplier, divisor, decimals);
+        return carried;
+    end if;
+    carried.cenab := melvark.rounded_quotient(prices.cenab * multiplier, divisor, decimals);
+    if kind <> 'CENAB' then
+        carried.dpha := melvark.rounded_quotient(prices.dpha * multiplier, divisor, decimals);
+        carried.dphb := melvark.rounded_quotient(prices.dphb * multiplier, divisor, decimals);
+    end if;
+    return carried;
+end
 $$;
 
 -- The row that follows from its price of the kind; from a VAT part and the prices beside it follows the sum.
@@ -81,14 +98,14 @@ create function price_row_of_vat_part(prices price_row, kind text, rate_a numeri
 returns price_row
 language plpgsql immutable as $$
 declare
-    completed price_row := prices;
+    completed melvark.price_row := prices;
     part constant numeric := case kind when 'DPHA' then prices.dpha else prices.dphb end;
     rate constant numeric := case kind when 'DPHA' then rate_a else rate_l end;
 begin
     if prices.cenab is null and rate = 0 then
-        perform refuse('ML112');
+        perform melvark.refuse('ML112');
     end if;
-    completed.cenab := coalesce(prices.cenab, rounded_quotient(part * 100, rate, decimals));
+    completed.cenab := coalesce(prices.cenab, melvark.rounded_quotient(part * 100, rate, decimals));
     completed.dpha := coalesce(prices.dpha, round(completed.cenab * rate_a * 0.01, decimals));
     completed.dphb := coalesce(prices.dphb, round(completed.cenab * rate_l * 0.01, decimals));
     completed.cenas := completed.cenab + completed.dpha + completed.dphb;
@@ -131,9 +148,9 @@ create function recalculated_line(prices line_prices, quantity numeric, rate_a n
 returns line_prices
 language plpgsql immutable as $$
 declare
-    given constant line_prices := rounded_line(prices);
+    given constant melvark.line_prices := melvark.rounded_line(prices);
     -- unit before, unit after, total before, total after: the bits of (index - 1) are level and side.
-    price_rows price_row[] := array[given.unit_before, given.unit_after, given.total_before, given.total_after];
+    price_rows melvark.price_row[] := array[given.unit_before, given.unit_after, given.total_before, given.total_after];
     truth constant integer := 1 + case truth_level when 'total' then 2 else 0 end
                                 + case truth_side when 'after' then 1 else 0 end;
     across constant integer := 1 + ((truth - 1) # 1);
@@ -145,26 +162,26 @@ declare
     target integer;
     across_given boolean := true;
 begin
-    if line_price(given, truth_level, truth_side, truth_kind) is null then
+    if melvark.line_price(given, truth_level, truth_side, truth_kind) is null then
         return given;
     end if;
 
     if vat_typed then
-        price_rows[truth] := price_row_of_vat_part(price_rows[truth], truth_kind, rate_a, rate_l, decimals[truth]);
+        price_rows[truth] := melvark.price_row_of_vat_part(price_rows[truth], truth_kind, rate_a, rate_l, decimals[truth]);
     else
-        price_rows[truth] := completed_price_row(price_rows[truth], truth_kind, rate_a, rate_l, decimals[truth]);
+        price_rows[truth] := melvark.completed_price_row(price_rows[truth], truth_kind, rate_a, rate_l, decimals[truth]);
     end if;
 
     -- The other side of the discount. Nothing leads back from 100 %: the price before it stays, where there is one.
     if truth_side = 'before' or kept <> 0 then
-        price_rows[across] := completed_price_row(
+        price_rows[across] := melvark.completed_price_row(
             case truth_side
-                when 'before' then carried_price_row(price_rows[truth], kept, 100, decimals[across])
-                else carried_price_row(price_rows[truth], 100, kept, decimals[across])
+                when 'before' then melvark.carried_price_row(price_rows[truth], truth_kind, kept, 100, decimals[across])
+                else melvark.carried_price_row(price_rows[truth], truth_kind, 100, kept, decimals[across])
             end, truth_kind, rate_a, rate_l, decimals[across]);
     elsif (truth_kind = 'CENAS' and price_rows[across].cenas is not null)
           or (truth_kind <> 'CENAS' and price_rows[across].cenab is not null) then
-        price_rows[across] := completed_price_row(
+        price_rows[across] := melvark.completed_price_row(
             price_rows[across], case when vat_typed then 'CENAB' else truth_kind end, rate_a, rate_l, decimals[across]);
     else
         across_given := false;
@@ -174,10 +191,10 @@ begin
     foreach source in array array[truth, across] loop
         target := 1 + ((source - 1) # 2);
         if amount is not null and (source = truth or across_given) then
-            price_rows[target] := completed_price_row(
+            price_rows[target] := melvark.completed_price_row(
                 case truth_level
-                    when 'unit' then carried_price_row(price_rows[source], amount, 1, decimals[target])
-                    else carried_price_row(price_rows[source], 1, amount, decimals[target])
+                    when 'unit' then melvark.carried_price_row(price_rows[source], truth_kind, amount, 1, decimals[target])
+                    else melvark.carried_price_row(price_rows[source], truth_kind, 1, amount, decimals[target])
                 end, truth_kind, rate_a, rate_l, decimals[target]);
         elsif amount is null and truth_level = 'unit' then
             price_rows[target] := null;
@@ -186,7 +203,7 @@ begin
         end if;
     end loop;
 
-    return row(price_rows[1], price_rows[2], price_rows[3], price_rows[4])::line_prices;
+    return row(price_rows[1], price_rows[2], price_rows[3], price_rows[4])::melvark.line_prices;
 end
 $$;
 
@@ -250,11 +267,19 @@ $$;
 
 -- The percentage of the local VAT; 0 unless the company has it on.
 create function recalculation_local_rate() returns numeric
-language sql stable as $$
-    select coalesce((select round(parse_number(RATE.HODNOTA), 2)
+language plpgsql stable as $$
+begin
+    return coalesce((select round(parse_number(RATE.HODNOTA), 2)
                      from GLOBALPARAM as RATE
                      join GLOBALPARAM as SWITCH on SWITCH.SEKCE = 'DPH' and SWITCH.NAZEV = 'DPHBLIC'
-                     where RATE.SEKCE = 'DPH' and RATE.NAZEV = 'SAZBADPHB' and SWITCH.HODNOTA = '1'), 0)
+                     where RATE.SEKCE = 'DPH' and RATE.NAZEV = 'SAZBADPHB' and SWITCH.HODNOTA = '1'), 0);
+end
+$$;
+
+-- Null is none and passes for one.
+create function is_discount(discount numeric) returns boolean
+language sql immutable as $$
+    select discount between 0 and 100
 $$;
 
 -- The discount as it counts; 0 without one. It is judged as it was typed: 100.001 is refused although it would round to
@@ -262,8 +287,8 @@ $$;
 create function recalculation_discount(discount numeric) returns numeric
 language plpgsql stable as $$
 begin
-    if discount < 0 or discount > 100 then
-        perform refuse('ML111', number_text(discount));
+    if not melvark.is_discount(discount) then
+        perform melvark.refuse('ML111', melvark.number_text(discount));
     end if;
     return coalesce(round(discount, 2), 0);
 end

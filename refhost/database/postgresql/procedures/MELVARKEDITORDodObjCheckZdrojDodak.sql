@@ -17,5 +17,6 @@ language sql stable as $$
                    note_fault_for_order(s._ID, s._DODVID, o.ID, o.SKLDID, o.DODVID))::source_candidate
         from DODAK_NORMAL_V s
         left join DODOBJEDNAVKA o on o.ID = a_DDOBIDMASTER
-        where s._ID = picked_id(a_DODKID) or (picked_id(a_DODKID) is null and s.CISLO = typed(a_CISLO))))
+        where s._ID = any (picked_id(a_DODKID) || array(
+            select n.ID from DODAK n where n.CISLO = typed(a_CISLO) and picked_id(a_DODKID) is null))))
 $$;

@@ -17,5 +17,6 @@ language sql stable as $$
                    order_fault_for_order(s._ID, s._SKLDID, s._DODVID, o.ID, o.SKLDID, o.DODVID))::source_candidate
         from DODOBJEDNAVKAVZOR_NORMAL_V s
         left join DODOBJEDNAVKA o on o.ID = a_DDOBIDMASTER
-        where s._ID = picked_id(a_DDOBID) or (picked_id(a_DDOBID) is null and s.CISLO = typed(a_CISLO))))
+        where s._ID = any (picked_id(a_DDOBID) || array(
+            select n.ID from DODOBJEDNAVKA n where n.VZOR = 1 and n.CISLO = typed(a_CISLO) and picked_id(a_DDOBID) is null))))
 $$;

@@ -7,17 +7,20 @@ create function MELVARKEDITORDodObjGetPolozkyByDodCenik(
     a_DDOBIDMASTER integer default null,
     a_DODVID integer default null)
 returns setof order_row
-language sql stable as $$
-    select refuse_unknown_order(a_DDOBIDMASTER);
+language plpgsql stable as $$
+begin
+    perform refuse_unknown_order(a_DDOBIDMASTER);
 
-    select refuse_unknown_supplier_id(a_DODVID);
+    perform refuse_unknown_supplier_id(a_DODVID);
 
+    return query
     select r.*
     from order_rows(array(
         select row(i.SKLPID, o.SKLDID, c.DODVID, null, null, null, null)::order_fill
         from PRICE_V c
         join ITEM_V i on i.SKLPID = c.SKLPID
         join DODOBJEDNAVKA o on o.ID = a_DDOBIDMASTER
-        where c.DODVID = a_DODVID and order_moment(a_DDOBIDMASTER)::date between c.FIRSTDAY and c.LASTDAY
-        order by i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, i.SKLPID)) r
+        where c.DODVID = a_DODVID and (select order_moment(a_DDOBIDMASTER)::date) between c.FIRSTDAY and c.LASTDAY
+        order by i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, i.SKLPID)) r;
+end
 $$;

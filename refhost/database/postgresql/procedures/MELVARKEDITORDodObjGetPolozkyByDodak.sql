@@ -7,12 +7,14 @@ create function MELVARKEDITORDodObjGetPolozkyByDodak(
     a_DDOBIDMASTER integer default null,
     a_DODKID integer default null)
 returns setof order_row
-language sql stable as $$
-    select refuse_unknown_order(a_DDOBIDMASTER);
+language plpgsql stable as $$
+begin
+    perform refuse_unknown_order(a_DDOBIDMASTER);
 
-    select refuse('ML021', 'Dodací list', a_DODKID::text)
+    perform refuse('ML021', 'Dodací list', a_DODKID::text)
     where not exists (select from DODAK where ID = a_DODKID);
 
+    return query
     select r.*
     from order_rows(array(
         select row(p.SKLPID, p.SKLDID, d.DODVID, i.SKPLIDHL, p.MNOZSTVI, null, null)::order_fill
@@ -20,5 +22,6 @@ language sql stable as $$
         join DODAK d on d.ID = p.DODKID
         join ITEM_V i on i.SKLPID = p.SKLPID
         where p.DODKID = a_DODKID
-        order by p.PORADI)) r
+        order by p.PORADI)) r;
+end
 $$;

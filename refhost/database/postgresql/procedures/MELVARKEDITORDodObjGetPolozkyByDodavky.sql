@@ -10,11 +10,13 @@ create function MELVARKEDITORDodObjGetPolozkyByDodavky(
     a_DODVID integer default null,
     a_PRENESMNOZSTVI boolean default null)
 returns setof order_row
-language sql stable as $$
-    select refuse_unknown_order(a_DDOBIDMASTER);
+language plpgsql stable as $$
+begin
+    perform refuse_unknown_order(a_DDOBIDMASTER);
 
-    select refuse_unknown_supplier_id(a_DODVID);
+    perform refuse_unknown_supplier_id(a_DODVID);
 
+    return query
     with DELIVERED as (
         select v.SKLPID, v.MNOZSTVI,
                row_number() over (partition by v.SKLPID order by v.DATUM desc, v.DODKID desc, v.PORADI desc) as AGE
@@ -22,7 +24,7 @@ language sql stable as $$
         where v.DODVID = a_DODVID
           and v.DATUM between
               (select deliveries_since(order_moment(a_DDOBIDMASTER), V_GetGlobalParam('SKLAD', 'POCETMESICUDODAVEK')))
-              and order_moment(a_DDOBIDMASTER)::date
+              and (select order_moment(a_DDOBIDMASTER)::date)
     )
     select r.*
     from order_rows(array(
@@ -32,5 +34,6 @@ language sql stable as $$
         join ITEM_V i on i.SKLPID = v.SKLPID
         join DODOBJEDNAVKA o on o.ID = a_DDOBIDMASTER
         where v.AGE = 1
-        order by i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, i.SKLPID)) r
+        order by i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, i.SKLPID)) r;
+end
 $$;

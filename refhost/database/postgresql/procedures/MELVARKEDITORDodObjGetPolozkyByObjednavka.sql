@@ -10,13 +10,15 @@ create function MELVARKEDITORDodObjGetPolozkyByObjednavka(
     a_DDOBIDMASTER integer default null,
     a_DDOBID integer default null)
 returns setof order_row
-language sql stable as $$
-    select refuse_unknown_order(a_DDOBIDMASTER);
-    select refuse_own_order(a_DDOBIDMASTER, a_DDOBID);
+language plpgsql stable as $$
+begin
+    perform refuse_unknown_order(a_DDOBIDMASTER);
+    perform refuse_own_order(a_DDOBIDMASTER, a_DDOBID);
 
-    select refuse('ML021', 'Objednávka', a_DDOBID::text)
+    perform refuse('ML021', 'Objednávka', a_DDOBID::text)
     where a_DDOBID > 0 and not exists (select from DODOBJEDNAVKA where ID = a_DDOBID);
 
+    return query
     with LATEST as (
         select other.ID, other.OBJEDNANIDC
         from DODOBJEDNAVKA other
@@ -45,5 +47,6 @@ language sql stable as $$
         join DODOBJPOL p on p.ID = s.ID
         join DODOBJEDNAVKA o on o.ID = p.DDOBID
         join DODOBJEDNAVKA master on master.ID = a_DDOBIDMASTER
-        order by s.PLACE)) r
+        order by s.PLACE)) r;
+end
 $$;

@@ -9,11 +9,13 @@ create function MELVARKEDITORDodObjGetPolozkyBySkupSkladPol(
     a_SSP2ID integer default null,
     a_SSP3ID integer default null)
 returns setof order_row
-language sql stable as $$
-    select refuse_unknown_order(a_DDOBIDMASTER);
+language plpgsql stable as $$
+begin
+    perform refuse_unknown_order(a_DDOBIDMASTER);
 
-    select refuse_groups(a_SSP1ID, a_SSP2ID, a_SSP3ID);
+    perform refuse_groups(a_SSP1ID, a_SSP2ID, a_SSP3ID);
 
+    return query
     select r.*
     from order_rows(array(
         select row(i.SKLPID, o.SKLDID, o.DODVID, null, null, null, null)::order_fill
@@ -23,5 +25,6 @@ language sql stable as $$
           and (coalesce(a_SSP1ID, 0) <= 0 or i.SSP1ID = a_SSP1ID)
           and (coalesce(a_SSP2ID, 0) <= 0 or i.SSP2ID = a_SSP2ID)
           and (coalesce(a_SSP3ID, 0) <= 0 or i.SSP3ID = a_SSP3ID)
-        order by i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, i.SKLPID)) r
+        order by i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, i.SKLPID)) r;
+end
 $$;

@@ -24,39 +24,43 @@ create function MELVARKEDITORDodObjInsertToTemp(
 returns void
 language plpgsql as $$
 declare
-    sent order_quantity[];
-    staged DODOBJPOL;
+    unit_ids constant text[] := array[typed_id(a_SKPLID), typed_id(a_SKPLIDV1), typed_id(a_SKPLIDV2)];
+    quantities numeric[];
+    item integer;
+    warehouse integer;
+    supplier integer;
+    is_open boolean;
 begin
-    perform refuse_closed_staging();
-    if typed(concat(a_SKLADPOL, a_SKLAD, a_DODAVATEL, typed_id(a_SKPLID), a_MNOZSTVI, a_JEDNOTKY,
-                    typed_id(a_SKPLIDV1), a_MNOZSTVIV1, a_JEDNOTKYV1, typed_id(a_SKPLIDV2), a_MNOZSTVIV2, a_JEDNOTKYV2,
-                    a_POPIS, a_KOMENTAR)) is null
-    then
+    -- All that a good row needs is looked up at once; what was not found is looked at again, for its refusal.
+    select (select i.ID from SKLADPOL i where i.NAZEV = typed(a_SKLADPOL)),
+           (select s.ID from SKLAD s where s.NAZEV = typed(a_SKLAD)),
+           (select v.ID from DODAVATEL v where v.JMENO = typed(a_DODAVATEL)),
+           (select t.IS_OPEN from STAGING_TABLE t where t.NAME = 'order_staged')
+    into item, warehouse, supplier, is_open;
+    if is_open is not true then
+        perform refuse_closed_staging();
+    end if;
+    if typed(concat(a_SKLADPOL, a_SKLAD, a_DODAVATEL, array_to_string(unit_ids, ''), a_MNOZSTVI, a_JEDNOTKY,
+                    a_MNOZSTVIV1, a_JEDNOTKYV1, a_MNOZSTVIV2, a_JEDNOTKYV2, a_POPIS, a_KOMENTAR)) is null then
         return;
     end if;
 
-    perform refuse_unknown_item(typed(a_SKLADPOL));
-    perform refuse_unknown_warehouse(typed(a_SKLAD));
-    perform refuse_unknown_supplier_name(typed(a_DODAVATEL));
-    staged.SKLPID := (select i.ID from SKLADPOL i where i.NAZEV = typed(a_SKLADPOL));
-    staged.SKLDID := (select s.ID from SKLAD s where s.NAZEV = typed(a_SKLAD));
-    staged.DODVID := (select v.ID from DODAVATEL v where v.JMENO = typed(a_DODAVATEL));
-    staged.POPIS := typed(a_POPIS);
-    staged.KOMENTAR := typed(a_KOMENTAR);
+    if item is null or warehouse is null or supplier is null then
+        perform refuse_unknown_item(typed(a_SKLADPOL));
+        perform refuse_unknown_warehouse(typed(a_SKLAD));
+        perform refuse_unknown_supplier_name(typed(a_DODAVATEL));
+    end if;
 
-    sent[0] := row(parse_number(typed(a_MNOZSTVI), 'Množství', 6), typed_id(a_SKPLID), typed(a_JEDNOTKY));
-    sent[1] := row(parse_number(typed(a_MNOZSTVIV1), 'Množství ve vedlejší jednotce 1', 6),
-                   typed_id(a_SKPLIDV1), typed(a_JEDNOTKYV1));
-    sent[2] := row(parse_number(typed(a_MNOZSTVIV2), 'Množství ve vedlejší jednotce 2', 6),
-                   typed_id(a_SKPLIDV2), typed(a_JEDNOTKYV2));
-    perform refuse_wrong_unit(staged.SKLPID, typed(a_SKLADPOL), sent);
+    quantities := array[parse_number(typed(a_MNOZSTVI), 'Množství', 6),
+                        parse_number(typed(a_MNOZSTVIV1), 'Množství ve vedlejší jednotce 1', 6),
+                        parse_number(typed(a_MNOZSTVIV2), 'Množství ve vedlejší jednotce 2', 6)];
+    perform refuse_wrong_unit(item, typed(a_SKLADPOL), quantities, unit_ids,
+                              array[typed(a_JEDNOTKY), typed(a_JEDNOTKYV1), typed(a_JEDNOTKYV2)]);
 
-    for slot in 0..2 loop
-        staged.MNOZSTVI := (sent[slot]).MNOZSTVI;
-        staged.SKPLID := as_integer((sent[slot]).SKPLID);
-        if staged.MNOZSTVI <> 0 then
-            insert into pg_temp.ORDER_STAGED (LINE) values (staged);
-        end if;
-    end loop;
+    insert into pg_temp.ORDER_STAGED (SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)
+    select item, as_integer(q.UNIT_ID), warehouse, supplier, q.QUANTITY, typed(a_POPIS), typed(a_KOMENTAR)
+    from unnest(quantities, unit_ids) with ordinality q (QUANTITY, UNIT_ID, SLOT)
+    where q.QUANTITY <> 0
+    order by q.SLOT;
 end
 $$;

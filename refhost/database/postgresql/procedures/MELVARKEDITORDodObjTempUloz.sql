@@ -21,6 +21,7 @@ language plpgsql as $$
 declare
     made record;
     serial integer;
+    last_line integer;
 begin
     perform refuse_closed_staging();
 
@@ -35,24 +36,23 @@ begin
 
     update DODOBJEDNAVKA o
     set DODVID = first_line.DODVID
-    from (select (LINE).DODVID from pg_temp.ORDER_STAGED where (LINE).DODVID is not null order by PLACE limit 1) first_line
+    from (select DODVID from pg_temp.ORDER_STAGED where DODVID is not null order by PLACE limit 1) first_line
     where o.ID = a_DDOBID and o.VZOR = 0 and o.DODVID is null;
 
     -- Where each supplier's lines go: a template keeps them all, an order those of its own supplier and those without one.
-    delete from pg_temp.ORDER_TARGET;
-
     insert into pg_temp.ORDER_TARGET (DODVID, DDOBID)
-    select distinct (s.LINE).DODVID, o.ID
+    select distinct s.DODVID, o.ID
     from pg_temp.ORDER_STAGED s
     join DODOBJEDNAVKA o on o.ID = a_DDOBID
-    where o.VZOR = 1 or (s.LINE).DODVID is null or (s.LINE).DODVID = o.DODVID;
+    where o.VZOR = 1 or s.DODVID is null or s.DODVID = o.DODVID;
 
     insert into pg_temp.ORDER_TARGET (DODVID, DDOBID)
     select other.DODVID, nextval(pg_get_serial_sequence('melvark.dodobjednavka', 'id'))
-    from (select (s.LINE).DODVID
+    from (select s.DODVID
           from pg_temp.ORDER_STAGED s
-          where not exists (select from pg_temp.ORDER_TARGET t where t.DODVID is not distinct from (s.LINE).DODVID)
-          group by (s.LINE).DODVID
+          where s.DODVID is not null
+            and not exists (select from pg_temp.ORDER_TARGET t where t.DODVID = s.DODVID)
+          group by s.DODVID
           order by min(s.PLACE)) other;
 
     -- A new order's number follows its identifier; one that somebody gave out elsewhere is passed over for the next free
@@ -74,15 +74,17 @@ begin
         end loop;
     end loop;
 
-    -- Only a template's lines keep a supplier of their own: an order's lines have the order's.
+    -- Only a template's lines keep a supplier of their own: an order's lines have the order's. New orders have no line yet.
+    select coalesce(max(p.PORADI), 0) into last_line from DODOBJPOL p where p.DDOBID = a_DDOBID;
+
     insert into DODOBJPOL (DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)
     select t.DDOBID,
-           (select coalesce(max(PORADI), 0) from DODOBJPOL where DDOBID = t.DDOBID)
+           case t.DDOBID when a_DDOBID then last_line else 0 end
                + row_number() over (partition by t.DDOBID order by s.PLACE),
-           (s.LINE).SKLPID, (s.LINE).SKPLID, coalesce((s.LINE).SKLDID, o.SKLDID),
-           case o.VZOR when 1 then (s.LINE).DODVID end, (s.LINE).MNOZSTVI, (s.LINE).POPIS, (s.LINE).KOMENTAR
+           s.SKLPID, s.SKPLID, coalesce(s.SKLDID, o.SKLDID),
+           case o.VZOR when 1 then s.DODVID end, s.MNOZSTVI, s.POPIS, s.KOMENTAR
     from pg_temp.ORDER_STAGED s
-    join pg_temp.ORDER_TARGET t on t.DODVID is not distinct from (s.LINE).DODVID
+    join pg_temp.ORDER_TARGET t on coalesce(t.DODVID, 0) = coalesce(s.DODVID, 0)
     join DODOBJEDNAVKA o on o.ID = a_DDOBID
     order by s.PLACE;
 
@@ -94,7 +96,6 @@ begin
     on conflict do nothing;
 
     -- The save is over for all that the session had checked, of either kind of document.
-    delete from pg_temp.ORDER_STAGED;
-    delete from pg_temp.NOTE_STAGED;
+    truncate pg_temp.NOTE_STAGED, pg_temp.ORDER_STAGED, pg_temp.ORDER_TARGET;
 end
 $$;

@@ -16,5 +16,6 @@ language sql stable as $$
                    note_fault_for_note(s._ID, s._DODVID, d.ID, d.DODVID))::source_candidate
         from DODAK_NORMAL_V s
         left join DODAK d on d.ID = a_DODKIDMASTER
-        where s._ID = picked_id(a_DODKID) or (picked_id(a_DODKID) is null and s.CISLO = typed(a_DODAKCISLO))))
+        where s._ID = any (picked_id(a_DODKID) || array(
+            select n.ID from DODAK n where n.CISLO = typed(a_DODAKCISLO) and picked_id(a_DODKID) is null))))
 $$;

@@ -17,5 +17,6 @@ language sql stable as $$
                    order_fault_for_note(s._ID, s._SKLDID, s._DODVID, d.ID, d.DODVID, s._DODANO))::source_candidate
         from DODOBJEDNAVKA_NORMAL_V s
         left join DODAK d on d.ID = a_DODKIDMASTER
-        where s._ID = picked_id(a_DDOBID) or (picked_id(a_DDOBID) is null and s.CISLO = typed(a_CISLO))))
+        where s._ID = any (picked_id(a_DDOBID) || array(
+            select n.ID from DODOBJEDNAVKA n where n.VZOR = 0 and n.CISLO = typed(a_CISLO) and picked_id(a_DDOBID) is null))))
 $$;

@@ -13,13 +13,15 @@ create function MELVARKEDITORDodakGetPolozkyByDodak(
     a_PRENESMNOZSTVI boolean default null,
     a_PRENESCENY boolean default null)
 returns setof note_row
-language sql stable as $$
-    select refuse_unknown_note(a_DODKID);
-    select refuse_own_note(a_DODKID, a_DODKIDMASTER);
+language plpgsql stable as $$
+begin
+    perform refuse_unknown_note(a_DODKID);
+    perform refuse_own_note(a_DODKID, a_DODKIDMASTER);
 
-    select refuse('ML021', 'Dodací list', a_DODKIDMASTER::text)
+    perform refuse('ML021', 'Dodací list', a_DODKIDMASTER::text)
     where a_DODKIDMASTER > 0 and not exists (select from DODAK where ID = a_DODKIDMASTER);
 
+    return query
     with LATEST as (
         select other.ID, other.DATUM
         from DODAK other
@@ -52,5 +54,6 @@ language sql stable as $$
         left join PRICE_V c
             on a_PRENESCENY is not true and c.DODVID = d.DODVID and c.SKLPID = p.SKLPID
            and d.DATUM between c.FIRSTDAY and c.LASTDAY
-        order by s.PLACE)) r
+        order by s.PLACE)) r;
+end
 $$;

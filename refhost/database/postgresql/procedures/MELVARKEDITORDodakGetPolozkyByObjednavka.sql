@@ -6,27 +6,37 @@
 
 create function MELVARKEDITORDodakGetPolozkyByObjednavka(a_DODKID integer default null, a_DDOBID integer default null)
 returns setof note_row
-language sql stable as $$
-    select refuse_unknown_note(a_DODKID);
+language plpgsql stable as $$
+begin
+    perform refuse_unknown_note(a_DODKID);
 
-    select refuse('ML021', 'Objednávka', a_DDOBID::text)
+    perform refuse('ML021', 'Objednávka', a_DDOBID::text)
     where not exists (select from DODOBJEDNAVKA where ID = a_DDOBID and VZOR = 0);
 
+    return query
     select r.*
     from note_rows(a_DODKID, array(
-        select row(p.ID, p.SKLPID, p.SKLDID, i.DPHID, ordered_in_main_unit(p.ID) - p.DODANO, null,
+        select row(p.ID, p.SKLPID, p.SKLDID, i.DPHID, in_main_unit(p.MNOZSTVI, j.FAKTOR) - p.DODANO, null,
                    case when then_list.CENA is null then now_list.CENA else then_list.CENA end,
                    case when then_list.CENA is null then now_list.SLEVA else then_list.SLEVA end)::note_fill
         from DODOBJPOL p
         join DODOBJEDNAVKA o on o.ID = p.DDOBID
         join DODAK d on d.ID = a_DODKID
         join SKLADPOL i on i.ID = p.SKLPID
-        left join PRICE_V then_list
-            on then_list.DODVID = d.DODVID and then_list.SKLPID = p.SKLPID
-           and o.OBJEDNANIDC::date between then_list.FIRSTDAY and then_list.LASTDAY
-        left join PRICE_V now_list
-            on now_list.DODVID = d.DODVID and now_list.SKLPID = p.SKLPID
-           and d.DATUM between now_list.FIRSTDAY and now_list.LASTDAY
+        join SKPL j on j.ID = p.SKPLID
+        left join lateral (
+            select c.CENA, c.SLEVA
+            from PRICE_V c
+            where c.DODVID = d.DODVID and c.SKLPID = p.SKLPID
+              and o.OBJEDNANIDC::date between c.FIRSTDAY and c.LASTDAY
+            limit 1) then_list on true
+        left join lateral (
+            select c.CENA, c.SLEVA
+            from PRICE_V c
+            where then_list.CENA is null and c.DODVID = d.DODVID and c.SKLPID = p.SKLPID
+              and d.DATUM between c.FIRSTDAY and c.LASTDAY
+            limit 1) now_list on true
         where p.DDOBID = a_DDOBID and p.KOMPLETNI = 0
-        order by p.PORADI)) r
+        order by p.PORADI)) r;
+end
 $$;

@@ -35,50 +35,60 @@ create function MELVARKEDITORDodakInsertToTemp(
 returns void
 language plpgsql as $$
 declare
-    discount numeric;
-    staged DODAKPOL;
+    texts constant text[] := array[
+        a_MNOZSTVI, a_SLEVA, a_JEDNCENABSL, a_JEDNDPHASL, a_JEDNDPHBSL, a_JEDNCENASSL,
+        a_JEDNCENAB, a_JEDNDPHA, a_JEDNDPHB, a_JEDNCENAS, a_CENABSL, a_DPHASL, a_DPHBSL, a_CENASSL,
+        a_CENAB, a_DPHA, a_DPHB, a_CENAS];
+    order_line_id constant text := case when a_DOBSID is not null then typed_id(a_DOBSID) end;
+    numbers numeric[];
+    item integer;
+    warehouse integer;
+    rate integer;
+    is_open boolean;
+    order_line integer;
+    shelf_life date;
 begin
-    perform refuse_closed_staging();
-    if typed(concat(typed_id(a_DOBSID), a_SKLADPOL, a_SKLAD, a_MNOZSTVI, a_DPH, a_SLEVA,
-                    a_JEDNCENABSL, a_JEDNDPHASL, a_JEDNDPHBSL, a_JEDNCENASSL,
-                    a_JEDNCENAB, a_JEDNDPHA, a_JEDNDPHB, a_JEDNCENAS,
-                    a_CENABSL, a_DPHASL, a_DPHBSL, a_CENASSL, a_CENAB, a_DPHA, a_DPHB, a_CENAS, a_TRVANLIVOST)) is null
-    then
+    -- All that a good row needs is looked up at once; what was not found is looked at again, for its refusal. Calls of
+    -- other functions cost a row most of its time here.
+    select (select i.ID from SKLADPOL i where i.NAZEV = typed(a_SKLADPOL)),
+           (select s.ID from SKLAD s where s.NAZEV = typed(a_SKLAD)),
+           (select r.ID from DPH r where r.NAZEV = typed(a_DPH)),
+           (select t.IS_OPEN from STAGING_TABLE t where t.NAME = 'note_staged')
+    into item, warehouse, rate, is_open;
+    if is_open is not true then
+        perform refuse_closed_staging();
+    end if;
+    if typed(concat(order_line_id, a_SKLADPOL, a_SKLAD, a_DPH, a_TRVANLIVOST, array_to_string(texts, ''))) is null then
         return;
     end if;
 
-    perform refuse_unknown_item(typed(a_SKLADPOL));
-    perform refuse_unknown_warehouse(typed(a_SKLAD));
-    staged.SKLPID := (select i.ID from SKLADPOL i where i.NAZEV = typed(a_SKLADPOL));
-    staged.SKLDID := (select s.ID from SKLAD s where s.NAZEV = typed(a_SKLAD));
-    staged.DPHID := note_line_rate(typed(a_DPH));
-    staged.DOBSID := note_line_order_line(typed_id(a_DOBSID), staged.SKLPID);
+    if item is null or warehouse is null or rate is null then
+        perform refuse_unknown_item(typed(a_SKLADPOL));
+        perform refuse_unknown_warehouse(typed(a_SKLAD));
+        perform refuse_unknown_rate(typed(a_DPH));
+    end if;
+    if order_line_id is not null then
+        order_line := note_line_order_line(order_line_id, item);
+    end if;
 
-    staged.MNOZSTVI := coalesce(parse_number(typed(a_MNOZSTVI), 'Množství', 6), 0);
-    discount := parse_number(typed(a_SLEVA), 'Sleva', 2);
-    staged.JEDNCENABSESLEVOU := parse_number(typed(a_JEDNCENABSL), 'Jednotková cena', 6);
-    staged.JEDNDPHASESLEVOU := parse_number(typed(a_JEDNDPHASL), 'Jednotková cena', 6);
-    staged.JEDNDPHBSESLEVOU := parse_number(typed(a_JEDNDPHBSL), 'Jednotková cena', 6);
-    staged.JEDNCENASSESLEVOU := parse_number(typed(a_JEDNCENASSL), 'Jednotková cena', 6);
-    staged.JEDNCENABBEZSLEVY := parse_number(typed(a_JEDNCENAB), 'Jednotková cena', 6);
-    staged.JEDNDPHABEZSLEVY := parse_number(typed(a_JEDNDPHA), 'Jednotková cena', 6);
-    staged.JEDNDPHBBEZSLEVY := parse_number(typed(a_JEDNDPHB), 'Jednotková cena', 6);
-    staged.JEDNCENASBEZSLEVY := parse_number(typed(a_JEDNCENAS), 'Jednotková cena', 6);
-    staged.CENABSESLEVOU := parse_number(typed(a_CENABSL), 'Celková cena', 2);
-    staged.DPHASESLEVOU := parse_number(typed(a_DPHASL), 'Celková cena', 2);
-    staged.DPHBSESLEVOU := parse_number(typed(a_DPHBSL), 'Celková cena', 2);
-    staged.CENASSESLEVOU := parse_number(typed(a_CENASSL), 'Celková cena', 2);
-    staged.CENABBEZSLEVY := parse_number(typed(a_CENAB), 'Celková cena', 2);
-    staged.DPHABEZSLEVY := parse_number(typed(a_DPHA), 'Celková cena', 2);
-    staged.DPHBBEZSLEVY := parse_number(typed(a_DPHB), 'Celková cena', 2);
-    staged.CENASBEZSLEVY := parse_number(typed(a_CENAS), 'Celková cena', 2);
-    perform recalculation_discount(discount);
-    staged.SLEVA := discount;
-    staged.TRVANLIVOST := parse_date(typed(a_TRVANLIVOST), 'Trvanlivost');
+    if are_plain_note_numbers(texts) then
+        numbers := ('{' || translate(array_to_string(texts, ';', 'null'), ',;', '.,') || '}')::numeric[];
+    else
+        numbers := note_line_numbers(texts);
+    end if;
+    if not is_discount(numbers[2]) then
+        perform recalculation_discount(numbers[2]);
+    end if;
+    if a_TRVANLIVOST is not null then
+        shelf_life := parse_date(typed(a_TRVANLIVOST), 'Trvanlivost');
+    end if;
 
-    if staged.MNOZSTVI <> 0 then
-        perform refuse_unbalanced_note_line(staged);
-        insert into pg_temp.NOTE_STAGED (LINE) values (staged);
+    if numbers[1] <> 0 then
+        if not is_balanced_note_line(numbers) then
+            perform refuse_unbalanced_note_line(item, numbers);
+        end if;
+        insert into pg_temp.NOTE_STAGED (DOBSID, SKLPID, SKLDID, DPHID, NUMBERS, TRVANLIVOST)
+        values (order_line, item, warehouse, rate, numbers, shelf_life);
     end if;
 end
 $$;

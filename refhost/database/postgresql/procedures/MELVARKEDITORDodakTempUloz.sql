@@ -16,6 +16,8 @@ create function MELVARKEDITORDodakTempUloz(
     a_DDOBID_ZDROJ integer default null)
 returns void
 language plpgsql as $$
+declare
+    last_line integer;
 begin
     perform refuse_closed_staging();
 
@@ -23,7 +25,7 @@ begin
     -- two of them wait for each other.
     perform from DODAK d where d.ID = a_DODKID for no key update;
     perform from DODOBJPOL p
-    where p.ID in (select (s.LINE).DOBSID from pg_temp.NOTE_STAGED s)
+    where p.ID in (select s.DOBSID from pg_temp.NOTE_STAGED s)
     order by p.ID for no key update;
 
     perform refuse_closed_note(a_DODKID);
@@ -32,50 +34,51 @@ begin
 
     perform refuse('ML053', r.NAZEV, date_text(d.DATUM))
     from pg_temp.NOTE_STAGED s
-    join DPH r on r.ID = (s.LINE).DPHID
+    join DPH r on r.ID = s.DPHID
     join DODAK d on d.ID = a_DODKID
     where d.DATUM < r.PLATIOD or d.DATUM > r.PLATIDO
     order by s.PLACE;
 
-    perform refuse('ML049', (s.LINE).DOBSID::text)
+    perform refuse('ML049', s.DOBSID::text)
     from pg_temp.NOTE_STAGED s
-    where (s.LINE).DOBSID is not null and not exists (select from DODOBJPOL p where p.ID = (s.LINE).DOBSID)
+    where s.DOBSID is not null and not exists (select from DODOBJPOL p where p.ID = s.DOBSID)
     order by s.PLACE;
 
     perform refuse('ML054', i.NAZEV, o.CISLO)
     from pg_temp.NOTE_STAGED s
-    join DODOBJPOL p on p.ID = (s.LINE).DOBSID and p.KOMPLETNI = 1
+    join DODOBJPOL p on p.ID = s.DOBSID and p.KOMPLETNI = 1
     join DODOBJEDNAVKA o on o.ID = p.DDOBID
     join SKLADPOL i on i.ID = p.SKLPID
     order by s.PLACE;
+
+    select coalesce(max(p.PORADI), 0) into last_line from DODAKPOL p where p.DODKID = a_DODKID;
 
     insert into DODAKPOL (DODKID, PORADI, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA,
                           JEDNCENABBEZSLEVY, JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY,
                           JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, JEDNCENASSESLEVOU,
                           CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU,
                           CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, CENASBEZSLEVY, TRVANLIVOST, DOBSID)
-    select d.ID,
-           (select coalesce(max(PORADI), 0) from DODAKPOL where DODKID = d.ID) + row_number() over (order by s.PLACE),
-           l.SKLPID, coalesce(l.SKLDID, d.SKLDID), l.DPHID, l.MNOZSTVI, l.SLEVA,
-           l.JEDNCENABBEZSLEVY, l.JEDNDPHABEZSLEVY, l.JEDNDPHBBEZSLEVY, l.JEDNCENASBEZSLEVY,
-           l.JEDNCENABSESLEVOU, l.JEDNDPHASESLEVOU, l.JEDNDPHBSESLEVOU, l.JEDNCENASSESLEVOU,
-           l.CENABSESLEVOU, l.DPHASESLEVOU, l.DPHBSESLEVOU, l.CENASSESLEVOU,
-           l.CENABBEZSLEVY, l.DPHABEZSLEVY, l.DPHBBEZSLEVY, l.CENASBEZSLEVY, l.TRVANLIVOST, l.DOBSID
+    select d.ID, last_line + row_number() over (order by s.PLACE),
+           s.SKLPID, coalesce(s.SKLDID, d.SKLDID), s.DPHID, s.NUMBERS[1], s.NUMBERS[2],
+           s.NUMBERS[7], s.NUMBERS[8], s.NUMBERS[9], s.NUMBERS[10],
+           s.NUMBERS[3], s.NUMBERS[4], s.NUMBERS[5], s.NUMBERS[6],
+           s.NUMBERS[11], s.NUMBERS[12], s.NUMBERS[13], s.NUMBERS[14],
+           s.NUMBERS[15], s.NUMBERS[16], s.NUMBERS[17], s.NUMBERS[18], s.TRVANLIVOST, s.DOBSID
     from pg_temp.NOTE_STAGED s
-    cross join lateral (select (s.LINE).*) l
     join DODAK d on d.ID = a_DODKID
     order by s.PLACE;
 
     update DODOBJPOL p
     set DODANO = p.DODANO + s.MNOZSTVI
-    from (select (LINE).DOBSID, sum((LINE).MNOZSTVI) as MNOZSTVI from pg_temp.NOTE_STAGED group by (LINE).DOBSID) s
+    from (select DOBSID, sum(NUMBERS[1]) as MNOZSTVI from pg_temp.NOTE_STAGED group by DOBSID) s
     where p.ID = s.DOBSID;
 
     -- An order of a negative quantity is one to take goods back: it is complete when that much went back.
     update DODOBJPOL p
     set KOMPLETNI = 1
-    where p.ID in (select (LINE).DOBSID from pg_temp.NOTE_STAGED)
-      and sign(p.DODANO - ordered_in_main_unit(p.ID)) * sign(p.MNOZSTVI) >= 0;
+    from SKPL j
+    where j.ID = p.SKPLID and p.ID in (select DOBSID from pg_temp.NOTE_STAGED)
+      and sign(p.DODANO - in_main_unit(p.MNOZSTVI, j.FAKTOR)) * sign(p.MNOZSTVI) >= 0;
 
     insert into DODAKZDROJ (DODKID, DODKIDZDROJ, DDOBIDZDROJ)
     select a_DODKID, s.DODKID, s.DDOBID
@@ -84,7 +87,6 @@ begin
     on conflict do nothing;
 
     -- The save is over for all that the session had checked, of either kind of document.
-    delete from pg_temp.NOTE_STAGED;
-    delete from pg_temp.ORDER_STAGED;
+    truncate pg_temp.NOTE_STAGED, pg_temp.ORDER_STAGED;
 end
 $$;

@@ -2,15 +2,16 @@
 create function MELVARKEDITORResetTemp() returns void
 language plpgsql as $$
 begin
-    -- Checked rows of a delivery note that become lines, in the order in which they came.
+    -- Checked rows of a delivery note that become lines, in the order in which they came. NUMBERS as note_line_numbers
+    -- gives them.
     create temporary table if not exists NOTE_STAGED (
         PLACE integer generated always as identity primary key,
-        LINE DODAKPOL not null
+        DOBSID integer, SKLPID integer, SKLDID integer, DPHID integer, NUMBERS numeric[], TRVANLIVOST date
     );
     -- Checked quantities of an order or template, each of which becomes a line.
     create temporary table if not exists ORDER_STAGED (
         PLACE integer generated always as identity primary key,
-        LINE DODOBJPOL not null
+        SKLPID integer, SKPLID integer, SKLDID integer, DODVID integer, MNOZSTVI numeric, POPIS text, KOMENTAR text
     );
     -- Into which order the lines of each supplier go; a null supplier is that of lines without one.
     create temporary table if not exists ORDER_TARGET (DODVID integer, DDOBID integer);
@@ -18,8 +19,11 @@ begin
     if not has_own_staging() then
         raise exception 'the rows of a save lie in tables that another role made';
     end if;
-    delete from pg_temp.NOTE_STAGED;
-    delete from pg_temp.ORDER_STAGED;
+    -- Emptied with their files: deleted rows would stay in them as long as the session lasts. After a success they are
+    -- empty already.
+    if exists (select from pg_temp.NOTE_STAGED) or exists (select from pg_temp.ORDER_STAGED) then
+        truncate pg_temp.NOTE_STAGED, pg_temp.ORDER_STAGED;
+    end if;
     perform set_config('melvark.staging', 'open', false);
 end
 $$;

@@ -13,3 +13,5 @@ join ITEM_V i on i.SKLPID = f.ITEMID
 join SKLAD s on s.ID = f.SKLDID
 left join DODAVATEL v on v.ID = f.DODVID
 order by f.LINE;
+
+delete from ORDER_FILL;

@@ -18,7 +18,13 @@ insert into SOURCE_SOUGHT (KIND, TYPED, ID) values ('Dodací list', typed(:a_CIS
 insert into SOURCE_CANDIDATE (ID, LABEL, NAMED, FAULT)
 select n._ID, n.CISLO, n.CISLO = s.TYPED, note_fault_for_order(n._ID, n._DODVID, o.ID, o.SKLDID, o.DODVID)
 from DODAK_NORMAL_V n
-join SOURCE_SOUGHT s on n._ID = s.ID or (s.ID is null and n.CISLO = s.TYPED)
-left join DODOBJEDNAVKA o on o.ID = :a_DDOBIDMASTER;
+join SOURCE_SOUGHT s
+left join DODOBJEDNAVKA o on o.ID = :a_DDOBIDMASTER
+where n._ID in (select ID from SOURCE_SOUGHT
+                union all
+                select named.ID
+                from SOURCE_SOUGHT t
+                cross join DODAK named on named.CISLO = t.TYPED
+                where t.ID is null);
 
 -- include: source-choice

@@ -19,7 +19,9 @@ insert into SOURCE_CANDIDATE (ID, LABEL, NAMED, FAULT)
 select v._ID, v.CISLO, v.CISLO = s.TYPED,
        order_fault_for_order(v._ID, v._SKLDID, v._DODVID, o.ID, o.SKLDID, o.DODVID)
 from DODOBJEDNAVKA_NORMAL_V v
-join SOURCE_SOUGHT s on v._ID = s.ID or (s.ID is null and v.CISLO = s.TYPED)
-left join DODOBJEDNAVKA o on o.ID = :a_DDOBIDMASTER;
+join SOURCE_SOUGHT s
+left join DODOBJEDNAVKA o on o.ID = :a_DDOBIDMASTER
+where v._ID = (select coalesce(ID, (select n.ID from DODOBJEDNAVKA n where n.VZOR = 0 and n.CISLO = TYPED))
+               from SOURCE_SOUGHT);
 
 -- include: source-choice

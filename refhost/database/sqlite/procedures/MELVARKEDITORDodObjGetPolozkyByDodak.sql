@@ -11,8 +11,6 @@ select refuse_unknown_order(:a_DDOBIDMASTER) as refusal;
 select refuse('ML021', 'Dodací list', :a_DODKID) as refusal
 where not exists (select 1 from DODAK where ID = :a_DODKID);
 
-delete from ORDER_FILL;
-
 insert into ORDER_FILL (ITEMID, SKLDID, DODVID, UNITID, MNOZSTVI)
 select p.SKLPID, p.SKLDID, d.DODVID, i.SKPLIDHL, p.MNOZSTVI
 from DODAKPOL p

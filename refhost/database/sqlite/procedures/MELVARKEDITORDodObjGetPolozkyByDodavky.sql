@@ -13,8 +13,6 @@ select refuse_unknown_order(:a_DDOBIDMASTER) as refusal;
 
 select refuse_unknown_supplier_id(:a_DODVID) as refusal;
 
-delete from ORDER_FILL;
-
 insert into ORDER_FILL (ITEMID, SKLDID, DODVID, UNITID, MNOZSTVI)
 with DELIVERED as (
     select v.SKLPID, v.MNOZSTVI,

@@ -15,8 +15,6 @@ select refuse_own_order(:a_DDOBIDMASTER, :a_DDOBID) as refusal;
 select refuse('ML021', 'Objednávka', :a_DDOBID) as refusal
 where :a_DDOBID > 0 and not exists (select 1 from DODOBJEDNAVKA where ID = :a_DDOBID);
 
-delete from ORDER_FILL;
-
 insert into ORDER_FILL (ITEMID, SKLDID, DODVID, UNITID, MNOZSTVI, POPIS, KOMENTAR)
 with LATEST as (
     select other.ID, other.OBJEDNANIDC

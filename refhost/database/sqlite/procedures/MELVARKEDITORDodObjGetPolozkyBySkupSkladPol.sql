@@ -12,8 +12,6 @@ select refuse_unknown_order(:a_DDOBIDMASTER) as refusal;
 
 select refuse_groups(:a_SSP1ID, :a_SSP2ID, :a_SSP3ID) as refusal;
 
-delete from ORDER_FILL;
-
 insert into ORDER_FILL (ITEMID, SKLDID, DODVID)
 select i.SKLPID, o.SKLDID, o.DODVID
 from ITEM_V i

@@ -65,10 +65,10 @@ from made m
 join serial s on s.ISFREE = 1 and s.FREEBEFORE + 1 = m.PLACE
 join DODOBJEDNAVKA o on o.ID = :a_DDOBID;
 
--- Only a template's lines keep a supplier of their own: an order's lines have the order's.
+-- Only a template's lines keep a supplier of their own: an order's lines have the order's. New orders have no line yet.
 insert into DODOBJPOL (DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)
 select t.DDOBID,
-       (select coalesce(max(PORADI), 0) from DODOBJPOL where DDOBID = t.DDOBID)
+       iif(t.DDOBID = :a_DDOBID, (select coalesce(max(PORADI), 0) from DODOBJPOL where DDOBID = :a_DDOBID), 0)
            + row_number() over (partition by t.DDOBID order by l.PLACE),
        l.SKLPID, l.UNITID, coalesce(l.SKLDID, o.SKLDID), iif(o.VZOR = 1, l.DODVID, null), l.MNOZSTVI, l.POPIS, l.KOMENTAR
 from ORDER_STAGED l

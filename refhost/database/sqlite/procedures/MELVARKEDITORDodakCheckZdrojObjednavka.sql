@@ -19,7 +19,9 @@ insert into SOURCE_CANDIDATE (ID, LABEL, NAMED, FAULT)
 select o._ID, o.CISLO, o.CISLO = s.TYPED,
        order_fault_for_note(o._ID, o._SKLDID, o._DODVID, d.ID, d.DODVID, o._DODANO)
 from DODOBJEDNAVKA_NORMAL_V o
-join SOURCE_SOUGHT s on o._ID = s.ID or (s.ID is null and o.CISLO = s.TYPED)
-left join DODAK d on d.ID = :a_DODKIDMASTER;
+join SOURCE_SOUGHT s
+left join DODAK d on d.ID = :a_DODKIDMASTER
+where o._ID = (select coalesce(ID, (select n.ID from DODOBJEDNAVKA n where n.VZOR = 0 and n.CISLO = TYPED))
+               from SOURCE_SOUGHT);
 
 -- include: source-choice

@@ -18,8 +18,6 @@ select refuse_own_note(:a_DODKID, :a_DODKIDMASTER) as refusal;
 select refuse('ML021', 'Dodací list', :a_DODKIDMASTER) as refusal
 where :a_DODKIDMASTER > 0 and not exists (select 1 from DODAK where ID = :a_DODKIDMASTER);
 
-delete from NOTE_FILL;
-
 insert into NOTE_FILL (SKLPID, SKLDID, DPHID, MNOZSTVI, SOURCEID, SLEVA)
 with LATEST as (
     select other.ID, other.DATUM
@@ -52,9 +50,10 @@ set SOURCEID = null, CENA = null, SLEVA = null,
 where not coalesce(:a_PRENESCENY, 0);
 
 update NOTE_FILL
-set CENA = c.CENA, SLEVA = c.SLEVA
-from DODAK d
-join PRICE_V c on c.DODVID = d.DODVID and d.DATUM between c.FIRSTDAY and c.LASTDAY
-where d.ID = :a_DODKID and c.SKLPID = NOTE_FILL.SKLPID and NOTE_FILL.SOURCEID is null;
+set (CENA, SLEVA) = (select c.CENA, c.SLEVA
+                     from DODAK d
+                     join PRICE_V c on c.DODVID = d.DODVID and d.DATUM between c.FIRSTDAY and c.LASTDAY
+                     where d.ID = :a_DODKID and c.SKLPID = NOTE_FILL.SKLPID)
+where SOURCEID is null;
 
 -- include: note-fill

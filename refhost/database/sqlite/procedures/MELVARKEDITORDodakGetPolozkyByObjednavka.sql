@@ -12,16 +12,15 @@ select refuse_unknown_note(:a_DODKID) as refusal;
 select refuse('ML021', 'Objednávka', :a_DDOBID) as refusal
 where not exists (select 1 from DODOBJEDNAVKA where ID = :a_DDOBID and VZOR = 0);
 
-delete from NOTE_FILL;
-
 insert into NOTE_FILL (DOBSID, SKLPID, SKLDID, DPHID, MNOZSTVI, CENA, SLEVA)
-select p.ID, p.SKLPID, p.SKLDID, i.DPHID, dec_sub(ordered_in_main_unit(p.ID), p.DODANO),
+select p.ID, p.SKLPID, p.SKLDID, i.DPHID, dec_sub(in_main_unit(p.MNOZSTVI, j.FAKTOR), p.DODANO),
        iif(then_list.CENA is null, now_list.CENA, then_list.CENA),
        iif(then_list.CENA is null, now_list.SLEVA, then_list.SLEVA)
 from DODOBJPOL p
 join DODOBJEDNAVKA o on o.ID = p.DDOBID
 join DODAK d on d.ID = :a_DODKID
 join SKLADPOL i on i.ID = p.SKLPID
+join SKPL j on j.ID = p.SKPLID
 left join PRICE_V then_list
     on then_list.DODVID = d.DODVID and then_list.SKLPID = p.SKLPID
    and date(o.OBJEDNANIDC) between then_list.FIRSTDAY and then_list.LASTDAY

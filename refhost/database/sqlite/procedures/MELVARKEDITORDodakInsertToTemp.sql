@@ -36,49 +36,48 @@ delete from NOTE_SENT;
 
 insert into NOTE_SENT (DOBSID, SKLADPOL, SKLAD, DPH, MNOZSTVI, SLEVA,
                        JEDNCENABSL, JEDNDPHASL, JEDNDPHBSL, JEDNCENASSL, JEDNCENAB, JEDNDPHA, JEDNDPHB, JEDNCENAS,
-                       CENABSL, DPHASL, DPHBSL, CENASSL, CENAB, DPHA, DPHB, CENAS, TRVANLIVOST)
+                       CENABSL, DPHASL, DPHBSL, CENASSL, CENAB, DPHA, DPHB, CENAS, TRVANLIVOST,
+                       ORDERLINEID, SKLPID, SKLDID, DPHID)
 values (typed_id(:a_DOBSID), typed(:a_SKLADPOL), typed(:a_SKLAD), typed(:a_DPH), typed(:a_MNOZSTVI), typed(:a_SLEVA),
         typed(:a_JEDNCENABSL), typed(:a_JEDNDPHASL), typed(:a_JEDNDPHBSL), typed(:a_JEDNCENASSL),
         typed(:a_JEDNCENAB), typed(:a_JEDNDPHA), typed(:a_JEDNDPHB), typed(:a_JEDNCENAS),
         typed(:a_CENABSL), typed(:a_DPHASL), typed(:a_DPHBSL), typed(:a_CENASSL),
-        typed(:a_CENAB), typed(:a_DPHA), typed(:a_DPHB), typed(:a_CENAS), typed(:a_TRVANLIVOST));
+        typed(:a_CENAB), typed(:a_DPHA), typed(:a_DPHB), typed(:a_CENAS), typed(:a_TRVANLIVOST),
+        (select p.ID
+         from DODOBJPOL p
+         join DODOBJEDNAVKA o on o.ID = p.DDOBID and o.VZOR = 0
+         where p.ID = as_integer(:a_DOBSID)),
+        (select ID from SKLADPOL where NAZEV = typed(:a_SKLADPOL)), (select ID from SKLAD where NAZEV = typed(:a_SKLAD)),
+        (select ID from DPH where NAZEV = typed(:a_DPH)));
 
 delete from NOTE_SENT
 where coalesce(DOBSID, SKLADPOL, SKLAD, DPH, MNOZSTVI, SLEVA,
                JEDNCENABSL, JEDNDPHASL, JEDNDPHBSL, JEDNCENASSL, JEDNCENAB, JEDNDPHA, JEDNDPHB, JEDNCENAS,
                CENABSL, DPHASL, DPHBSL, CENASSL, CENAB, DPHA, DPHB, CENAS, TRVANLIVOST) is null;
 
-select refuse_unknown_item(SKLADPOL) as refusal from NOTE_SENT;
+select refuse_unknown_item(SKLADPOL) as refusal from NOTE_SENT where SKLPID is null;
 
-select refuse_unknown_warehouse(SKLAD) as refusal from NOTE_SENT;
+select refuse_unknown_warehouse(SKLAD) as refusal from NOTE_SENT where SKLDID is null;
 
 select refuse('ML110', DPH) as refusal
 from NOTE_SENT
-where DPH is not null and not exists (select 1 from DPH where NAZEV = NOTE_SENT.DPH);
+where DPH is not null and DPHID is null;
 
 select refuse('ML049', DOBSID) as refusal
 from NOTE_SENT
-where DOBSID is not null
-  and not exists (select 1
-                  from DODOBJPOL p
-                  join DODOBJEDNAVKA o on o.ID = p.DDOBID and o.VZOR = 0
-                  where p.ID = as_integer(NOTE_SENT.DOBSID));
+where DOBSID is not null and ORDERLINEID is null;
 
-select refuse('ML050', DOBSID, SKLADPOL) as refusal
-from NOTE_SENT
-join DODOBJPOL p on p.ID = as_integer(DOBSID)
-join SKLADPOL i on i.ID = p.SKLPID
-where i.NAZEV <> SKLADPOL;
+select refuse('ML050', s.DOBSID, s.SKLADPOL) as refusal
+from NOTE_SENT s
+join DODOBJPOL p on p.ID = s.ORDERLINEID
+where p.SKLPID <> s.SKLPID;
 
 insert into NOTE_STAGED (DOBSID, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA,
                          JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, JEDNCENASSESLEVOU,
                          JEDNCENABBEZSLEVY, JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY,
                          CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU,
                          CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, CENASBEZSLEVY)
-select as_integer(DOBSID),
-       (select ID from SKLADPOL where NAZEV = SENT.SKLADPOL),
-       (select ID from SKLAD where NAZEV = SENT.SKLAD),
-       (select ID from DPH where NAZEV = SENT.DPH),
+select ORDERLINEID, SKLPID, SKLDID, DPHID,
        coalesce(parse_number(MNOZSTVI, 'Množství', 6), '0'), parse_number(SLEVA, 'Sleva', 2),
        parse_number(JEDNCENABSL, 'Jednotková cena', 6), parse_number(JEDNDPHASL, 'Jednotková cena', 6),
        parse_number(JEDNDPHBSL, 'Jednotková cena', 6), parse_number(JEDNCENASSL, 'Jednotková cena', 6),
@@ -88,7 +87,7 @@ select as_integer(DOBSID),
        parse_number(DPHBSL, 'Celková cena', 2), parse_number(CENASSL, 'Celková cena', 2),
        parse_number(CENAB, 'Celková cena', 2), parse_number(DPHA, 'Celková cena', 2),
        parse_number(DPHB, 'Celková cena', 2), parse_number(CENAS, 'Celková cena', 2)
-from NOTE_SENT as SENT;
+from NOTE_SENT;
 
 select refuse('ML111', number_text(SLEVA)) as refusal
 from NOTE_LAST
@@ -97,7 +96,7 @@ where dec_cmp(SLEVA, 0) < 0 or dec_cmp(SLEVA, 100) > 0;
 update NOTE_STAGED
 set TRVANLIVOST = parse_date(SENT.TRVANLIVOST, 'Trvanlivost')
 from NOTE_SENT as SENT
-where PLACE = (select PLACE from NOTE_LAST);
+where SENT.TRVANLIVOST is not null and PLACE = (select PLACE from NOTE_LAST);
 
 -- Prices are rounded to their decimals, so that a total may differ from quantity times unit price by that much.
 select refuse('ML052', total_text(CENA), i.NAZEV, number_text(MNOZSTVI), number_text(JEDNCENA)) as refusal

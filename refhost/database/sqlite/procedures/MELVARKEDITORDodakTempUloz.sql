@@ -45,7 +45,7 @@ insert into DODAKPOL (DODKID, PORADI, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA,
                       CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU,
                       CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, CENASBEZSLEVY, TRVANLIVOST, DOBSID)
 select d.ID,
-       (select coalesce(max(PORADI), 0) from DODAKPOL where DODKID = d.ID) + row_number() over (order by l.PLACE),
+       (select coalesce(max(PORADI), 0) from DODAKPOL where DODKID = :a_DODKID) + row_number() over (order by l.PLACE),
        l.SKLPID, coalesce(l.SKLDID, d.SKLDID), l.DPHID, l.MNOZSTVI, l.SLEVA,
        l.JEDNCENABBEZSLEVY, l.JEDNDPHABEZSLEVY, l.JEDNDPHBBEZSLEVY, l.JEDNCENASBEZSLEVY,
        l.JEDNCENABSESLEVOU, l.JEDNDPHASESLEVOU, l.JEDNDPHBSESLEVOU, l.JEDNCENASSESLEVOU,
@@ -63,7 +63,8 @@ where ID in (select DOBSID from NOTE_LINE);
 update DODOBJPOL
 set KOMPLETNI = 1
 where ID in (select DOBSID from NOTE_LINE)
-  and dec_cmp(DODANO, ordered_in_main_unit(ID)) * dec_cmp(MNOZSTVI, 0) >= 0;
+  and dec_cmp(DODANO, in_main_unit(MNOZSTVI, (select j.FAKTOR from SKPL j where j.ID = DODOBJPOL.SKPLID)))
+      * dec_cmp(MNOZSTVI, 0) >= 0;
 
 insert into DODAKZDROJ (DODKID, DODKIDZDROJ, DDOBIDZDROJ)
 select :a_DODKID, s.DODKID, s.DDOBID

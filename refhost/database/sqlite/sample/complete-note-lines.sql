@@ -1,8 +1,6 @@
 -- Completes the delivery-note lines that have only their unit price without VAT before the discount: all their other
 -- prices follow from it. For rows that were written into the tables at once; lines that a clerk saves come complete.
 
-delete from RECALC_LINE;
-
 insert into RECALC_LINE (LINE, MNOZSTVI, DPH, SLEVA, TRUTH_LEVEL, TRUTH_SIDE, TRUTH_KIND)
 select p.ID, p.MNOZSTVI, r.NAZEV, p.SLEVA, 'unit', 'before', 'CENAB'
 from DODAKPOL p
@@ -28,3 +26,5 @@ where UB.LINE = DODAKPOL.ID and UB.LEVEL = 'unit' and UB.SIDE = 'before'
   and TA.LINE = DODAKPOL.ID and TA.LEVEL = 'total' and TA.SIDE = 'after';
 
 delete from RECALC_LINE;
+
+delete from RECALC_PRICE;

@@ -1,5 +1,6 @@
 -- Where delivery-note lines stand while their prices are recalculated: the part "recalculation" works on all of them at
--- once, one line for a clerk's change, hundreds when a document is filled.
+-- once, one line for a clerk's change, hundreds when a document is filled. Whoever puts lines here takes them away when
+-- he has read the result, so that the next one finds the tables empty.
 --
 -- A price has a level (for one unit, or the total for the quantity), a side (before or after the discount) and a kind
 -- (CENAB without VAT, DPHA the VAT, DPHB the local VAT, CENAS with VAT). Numbers are canonical decimals, null for none.
@@ -36,10 +37,6 @@ create temp table RECALC_PRICE (
     DECIMALS integer generated always as (case LEVEL when 'unit' then 6 else 2 end),
     primary key (LINE, LEVEL, SIDE)
 ) without rowid;
-
-create temp trigger RECALC_LINE_DELETED after delete on RECALC_LINE begin
-    delete from RECALC_PRICE where LINE = old.LINE;
-end;
 
 -- The sixteen price cells of the editor's row by their keys.
 create temp view RECALC_KEY (KEY, LEVEL, SIDE, KIND) as
@@ -94,3 +91,26 @@ join RECALC_PRICE as UB on UB.LINE = L.LINE and UB.LEVEL = 'unit' and UB.SIDE = 
 join RECALC_PRICE as UA on UA.LINE = L.LINE and UA.LEVEL = 'unit' and UA.SIDE = 'after'
 join RECALC_PRICE as TB on TB.LINE = L.LINE and TB.LEVEL = 'total' and TB.SIDE = 'before'
 join RECALC_PRICE as TA on TA.LINE = L.LINE and TA.LEVEL = 'total' and TA.SIDE = 'after';
+
+-- The texts of the rows of NOTE_FILL: those of a price list come out of the recalculation, prices that are carried over
+-- stay as they are, save that totals belong to the quantity: a row that comes without it has none.
+create temp view NOTE_FILL_PRICE as
+select * from RECALC_RESULT
+union all
+select f.LINE,
+       number_text(dec_round(p.JEDNCENABBEZSLEVY, 6)), number_text(dec_round(p.JEDNDPHABEZSLEVY, 6)),
+       number_text(dec_round(p.JEDNDPHBBEZSLEVY, 6)), number_text(dec_round(p.JEDNCENASBEZSLEVY, 6)),
+       number_text(dec_round(p.JEDNCENABSESLEVOU, 6)), number_text(dec_round(p.JEDNDPHASESLEVOU, 6)),
+       number_text(dec_round(p.JEDNDPHBSESLEVOU, 6)), number_text(dec_round(p.JEDNCENASSESLEVOU, 6)),
+       iif(f.MNOZSTVI is null, null, total_text(p.CENABSESLEVOU)),
+       iif(f.MNOZSTVI is null, null, total_text(p.DPHASESLEVOU)),
+       iif(f.MNOZSTVI is null, null, total_text(p.DPHBSESLEVOU)),
+       iif(f.MNOZSTVI is null, null, total_text(p.CENASSESLEVOU)),
+       iif(f.MNOZSTVI is null, null, total_text(p.CENABBEZSLEVY)),
+       iif(f.MNOZSTVI is null, null, total_text(p.DPHABEZSLEVY)),
+       iif(f.MNOZSTVI is null, null, total_text(p.DPHBBEZSLEVY)),
+       iif(f.MNOZSTVI is null, null, total_text(p.CENASBEZSLEVY)),
+       r.NAZEV, number_text(dec_round(f.SLEVA, 2)), number_text(dec_round(f.MNOZSTVI, 6))
+from NOTE_FILL f
+join DODAKPOL p on p.ID = f.SOURCEID
+left join DPH r on r.ID = f.DPHID;

@@ -5,8 +5,10 @@
 create temp table STAGING (STATE text not null);
 insert into STAGING (STATE) values ('closed');
 
--- The row of a delivery note as it was sent: blanks are gone, empty texts are null.
+-- The row of a delivery note as it was sent: blanks are gone, empty texts are null. The identifiers are those of its
+-- names, null for a name that does not exist.
 create temp table NOTE_SENT (
+    ORDERLINEID integer, SKLPID integer, SKLDID integer, DPHID integer,
     DOBSID text, SKLADPOL text, SKLAD text, DPH text, MNOZSTVI text, SLEVA text,
     JEDNCENABSL text, JEDNDPHASL text, JEDNDPHBSL text, JEDNCENASSL text,
     JEDNCENAB text, JEDNDPHA text, JEDNDPHB text, JEDNCENAS text,
@@ -38,14 +40,19 @@ select * from NOTE_STAGED where PLACE = (select max(PLACE) from NOTE_STAGED);
 
 -- Each of its unit prices beside the total that it has to give, in the order in which a clash is reported.
 create temp view NOTE_PAIR (ORDINAL, SKLPID, MNOZSTVI, JEDNCENA, CENA) as
-select 1, SKLPID, MNOZSTVI, JEDNCENABSESLEVOU, CENABSESLEVOU from NOTE_LAST
-union all select 2, SKLPID, MNOZSTVI, JEDNDPHASESLEVOU, DPHASESLEVOU from NOTE_LAST
-union all select 3, SKLPID, MNOZSTVI, JEDNDPHBSESLEVOU, DPHBSESLEVOU from NOTE_LAST
-union all select 4, SKLPID, MNOZSTVI, JEDNCENASSESLEVOU, CENASSESLEVOU from NOTE_LAST
-union all select 5, SKLPID, MNOZSTVI, JEDNCENABBEZSLEVY, CENABBEZSLEVY from NOTE_LAST
-union all select 6, SKLPID, MNOZSTVI, JEDNDPHABEZSLEVY, DPHABEZSLEVY from NOTE_LAST
-union all select 7, SKLPID, MNOZSTVI, JEDNDPHBBEZSLEVY, DPHBBEZSLEVY from NOTE_LAST
-union all select 8, SKLPID, MNOZSTVI, JEDNCENASBEZSLEVY, CENASBEZSLEVY from NOTE_LAST;
+with PAIR (ORDINAL) as (values (1), (2), (3), (4), (5), (6), (7), (8))
+select ORDINAL, SKLPID, MNOZSTVI,
+       case ORDINAL
+           when 1 then JEDNCENABSESLEVOU when 2 then JEDNDPHASESLEVOU when 3 then JEDNDPHBSESLEVOU
+           when 4 then JEDNCENASSESLEVOU when 5 then JEDNCENABBEZSLEVY when 6 then JEDNDPHABEZSLEVY
+           when 7 then JEDNDPHBBEZSLEVY else JEDNCENASBEZSLEVY
+       end,
+       case ORDINAL
+           when 1 then CENABSESLEVOU when 2 then DPHASESLEVOU when 3 then DPHBSESLEVOU
+           when 4 then CENASSESLEVOU when 5 then CENABBEZSLEVY when 6 then DPHABEZSLEVY
+           when 7 then DPHBBEZSLEVY else CENASBEZSLEVY
+       end
+from NOTE_LAST cross join PAIR;
 
 -- The row of an order or template as it was sent, likewise.
 create temp table ORDER_SENT (SKLADPOL text, SKLAD text, DODAVATEL text, POPIS text, KOMENTAR text);
