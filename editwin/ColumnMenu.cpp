@@ -1,5 +1,6 @@
 #include "editwin/ColumnMenu.h"
 
+#include "dialogs/MelvarkEditorColumnPropWin.h"
 #include "editwin/CellWriter.h"
 #include "editwin/InPlaceEditing.h"
 #include "editwin/model/ColumnList.h"
@@ -27,6 +28,7 @@ void ColumnMenu::OpenAt(int col, int row, const QPoint& globalPos) {
 
 void ColumnMenu::PrepareItems() {
     const RColumn* const column = FEditing.ColumnAt(FPopupColumn);
+    FItems.Properties.setEnabled(column);
     FItems.Hide.setEnabled(column);
     CheckEditability(column && column->ColumnType == ctNormal ? column : nullptr);
 }
@@ -38,6 +40,26 @@ void ColumnMenu::CheckEditability(const RColumn* column) {
         item.setEnabled(column);
         item.setChecked(column && column->Editable == editable);
     }
+}
+
+void ColumnMenu::EditProperties(TLibraryManager* manager) {
+    RColumn* const column = FEditing.ColumnAt(FPopupColumn);
+    if (!column) {
+        return;
+    }
+    TStringGrid& grid = FEditing.Grid;
+    TColumnPropertyBox box(grid.window(), manager);
+    box.SetColumnCaption(column->Caption);
+    box.SetColumnHint(column->Hint);
+    box.SetColumnAlign(column->Align);
+    if (box.ShowModal() != c_ResultOk) {
+        return;
+    }
+    column->Caption = box.GetColumnCaption();
+    column->Hint = box.GetColumnHint();
+    column->Align = box.GetColumnAlign();
+    grid.SetCells(FPopupColumn, 0, column->Caption);
+    grid.viewport()->update();
 }
 
 void ColumnMenu::SetEditability(TEditable editable) {

@@ -7,15 +7,17 @@
 class QAction;
 class QMenu;
 class QPoint;
+class TLibraryManager;
 
 namespace melvark {
 
 class CellWriter;
 class InPlaceEditing;
 
-/// What the user does to columns with the mouse on the header: the menu that hides them, shows them again and sets
-/// their editability, the dragged order and the dragged widths. It changes the active columns and the grid together;
-/// the store is only read. Every command that takes the edited cell away first asks the keeper to commit.
+/// What the user does to columns with the mouse on the header: the menu that changes their texts, hides them, shows
+/// them again and sets their editability, the dragged order and the dragged widths. It changes the active columns and
+/// the grid together; the store is only read. Every command that takes the edited cell away first asks the keeper to
+/// commit.
 class ColumnMenu : public QObject {
     Q_OBJECT
 
@@ -23,6 +25,7 @@ public:
     /// The menus and items are the form's.
     struct Items {
         QMenu& Menu;
+        QAction& Properties;
         QAction& Hide;
         QAction& Automatic;
         QAction& Manual;
@@ -37,6 +40,8 @@ public:
     /// Enables and checks the items for the popup column; called each time before the menu shows.
     void PrepareItems();
 
+    /// Lets the user change caption, hint and alignment of the popup column in a dialog. An open editor stays open.
+    void EditProperties(TLibraryManager* manager);
     /// "Needitovatelný" on the edited column changes nothing when its value is refused.
     void SetEditability(TEditable editable);
     void HidePopupColumn();

@@ -124,7 +124,6 @@ void TEditBoxControls::BuildMenus(TForm& form) {
     ColumnsPopupMenu = Named(new QMenu(&form), QStringLiteral("ColumnsPopupMenu"));
     NadpisVlastnostiSloupce = MakeItem(ColumnsPopupMenu, QStringLiteral("NadpisVlastnostiSloupce"),
                                        QStringLiteral("Nadpis a vlastnosti sloupce"));
-    NadpisVlastnostiSloupce->setEnabled(false);
     SkrytSloupec = MakeItem(ColumnsPopupMenu, QStringLiteral("SkrytSloupec"), QStringLiteral("Skrýt sloupec"));
     ColumnsPopupMenu->addSeparator();
     EditovatelnySloupecAutomaticky = MakeItem(ColumnsPopupMenu, QStringLiteral("EditovatelnySloupecAutomaticky"),

@@ -1,18 +1,17 @@
 #include "editwin/MelvarkEditorEditWin.h"
 
+#include "dialogs/ModuleBoxes.h"
 #include "editwin/AskingCheckBox.h"
 #include "editwin/EditBoxHelpers.h"
 #include "editwin/EditorKeys.h"
 #include "editwin/model/CellRules.h"
 #include "editwin/model/ColumnList.h"
 #include "host/Exceptions.h"
-#include "host/LangStr.h"
 #include "host/LibraryManager.h"
 #include "host/LiveData.h"
 #include "host/widgets/ButtonGlyphs.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/Guard.h"
-#include "host/widgets/MessageBox.h"
 #include "host/widgets/StringGrid.h"
 
 #include <QAction>
@@ -96,6 +95,7 @@ void TEditBox::ConnectGrid() {
 
 void TEditBox::ConnectMenus() {
     const std::pair<QAction*, void (TEditBox::*)(TObject*)> items[] = {
+        {NadpisVlastnostiSloupce, &TEditBox::NadpisVlastnostiSloupceClick},
         {SkrytSloupec, &TEditBox::SkrytSloupecClick},
         {EditovatelnySloupecAutomaticky, &TEditBox::EditovatelnySloupecAutomatickyClick},
         {EditovatelnySloupecVyberem, &TEditBox::EditovatelnySloupecVyberemClick},
@@ -122,16 +122,11 @@ bool TEditBox::GetPrepocetCen() const {
 }
 
 int TEditBox::ShowErrorBox(const AnsiString& text) {
-    return FLibraryManager ? FLibraryManager->MessageBox(text, c_MessageBoxError)
-                           : ApplicationMessageBox(text, LangStr(R"(KORDAN30\MELVARKEDITOR\ERROR)", {}, "Chyba"),
-                                                   c_MessageBoxError);
+    return ErrorBox(FLibraryManager, text);
 }
 
 int TEditBox::ShowConfirmDialog(const AnsiString& text) {
-    return FLibraryManager
-               ? FLibraryManager->MessageBox(text, c_MessageBoxQuestion)
-               : ApplicationMessageBox(text, LangStr(R"(KORDAN30\MELVARKEDITOR\CONFIRMATION)", {}, "Potvrzení"),
-                                       c_MessageBoxQuestion);
+    return ConfirmBox(FLibraryManager, text);
 }
 
 void TEditBox::ResetTable() {
@@ -383,6 +378,10 @@ void TEditBox::StringGridTopLeftChanged() {
 
 void TEditBox::ColumnsPopupMenuPopup(TObject*) {
     FHelpers->ColumnMenu.PrepareItems();
+}
+
+void TEditBox::NadpisVlastnostiSloupceClick(TObject*) {
+    FHelpers->ColumnMenu.EditProperties(FLibraryManager);
 }
 
 void TEditBox::SkrytSloupecClick(TObject*) {

@@ -131,6 +131,7 @@ public:
     void StringGridColumnMoved(int from, int to);
     void StringGridTopLeftChanged();
     void ColumnsPopupMenuPopup(TObject* Sender);
+    void NadpisVlastnostiSloupceClick(TObject* Sender);
     void SkrytSloupecClick(TObject* Sender);
     void EditovatelnySloupecAutomatickyClick(TObject* Sender);
     void EditovatelnySloupecVyberemClick(TObject* Sender);

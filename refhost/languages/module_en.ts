@@ -196,6 +196,76 @@
         <source>Skryté sloupce</source>
         <translation>Hidden columns</translation>
     </message>
+    <!-- The dialog of a column's heading -->
+    <message id="KORDAN30\MelvarkEditorColumnPropWin\Form\Caption">
+        <source>Vlastnosti sloupce</source>
+        <translation>Column properties</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorColumnPropWin\lblCaption\Caption">
+        <source>Titulek:</source>
+        <translation>Heading:</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorColumnPropWin\lblHint\Caption">
+        <source>Vyskakovací nápověda:</source>
+        <translation>Hint:</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorColumnPropWin\lblAlign\Caption">
+        <source>Zarovnání sloupce:</source>
+        <translation>Alignment:</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorColumnPropWin\rbAlignLeft\Caption">
+        <source>Zleva</source>
+        <translation>Left</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorColumnPropWin\rbAlignCenter\Caption">
+        <source>Doprostřed</source>
+        <translation>Centre</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorColumnPropWin\rbAlignRight\Caption">
+        <source>Zprava</source>
+        <translation>Right</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorColumnPropWin\OkBtn\Caption">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorColumnPropWin\CancelBtn\Caption">
+        <source>Zpět</source>
+        <translation>Back</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\CAPTIONMANDATORY">
+        <source>Titulek musí být vyplněn</source>
+        <translation>Please enter a heading</translation>
+    </message>
+    <!-- The dialog of a layout's name -->
+    <message id="KORDAN30\MelvarkEditorSettingsWin\Form\Caption">
+        <source>Uložení nastavení</source>
+        <translation>Save layout</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSettingsWin\lblNazev\Caption">
+        <source>Název:</source>
+        <translation>Name:</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSettingsWin\lblPopis\Caption">
+        <source>Popis:</source>
+        <translation>Description:</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSettingsWin\chbSdilene\Caption">
+        <source>Zveřejnit - umožnit využívat i jiným uživatelům</source>
+        <translation>Share – let other users use it too</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSettingsWin\OkBtn\Caption">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorSettingsWin\CancelBtn\Caption">
+        <source>Zpět</source>
+        <translation>Back</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\NAMEMANDATORY">
+        <source>Název musí být vyplněn</source>
+        <translation>Please enter a name</translation>
+    </message>
     <!-- The line editor's columns: caption and hint. A column is narrow: what tells it from the others stands first. -->
     <message id="KORDAN30\MELVARKEDITOR\COLUMNSKUPSPOL1">
         <source>Skup.sklad.pol.1</source>

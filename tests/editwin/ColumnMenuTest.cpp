@@ -1,6 +1,8 @@
+#include "dialogs/MelvarkEditorColumnPropWin.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/StringGrid.h"
 #include "tests/editwin/TestEditBox.h"
+#include "tests/widgets/ModalDriver.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -103,8 +105,79 @@ TEST_F(ColumnMenu, ShowsTheEditabilityOfTheColumnUnderTheMouse) {
         openColumnMenu(col);
         EXPECT_EQ(editabilityItems(), expected) << col;
         EXPECT_TRUE(form->SkrytSloupec->isEnabled());
+        EXPECT_TRUE(form->NadpisVlastnostiSloupce->isEnabled());
         form->ColumnsPopupMenu->close();
     }
+}
+
+TEST_F(ColumnMenu, OpensThePropertiesOfTheColumnUnderTheMouse) {
+    open();
+    openColumnMenu(c_DateCol);
+    const ModalDriver driver(QStringLiteral("ColumnPropertyBox"), [](QWidget& window) {
+        auto& box = dynamic_cast<TColumnPropertyBox&>(window);
+        EXPECT_EQ(box.GetColumnCaption(), "Datum");
+        EXPECT_EQ(box.GetColumnHint(), "Den dodání");
+        EXPECT_EQ(box.GetColumnAlign(), caLeft);
+        box.SetColumnCaption("Kdy & jak");
+        box.SetColumnHint("Nová");
+        box.SetColumnAlign(caCenter);
+        box.SetModalResult(c_ResultOk);
+    });
+    pick(form->NadpisVlastnostiSloupce);
+    EXPECT_EQ(rowText(0), "Název|Počet|Cena|Kdy & jak|Sklad|Kód|Poznámka|Typ");
+    EXPECT_EQ(columnAt(c_DateCol).Caption, "Kdy & jak");
+    EXPECT_EQ(columnAt(c_DateCol).Hint, "Nová");
+    EXPECT_EQ(columnAt(c_DateCol).Align, caCenter);
+    EXPECT_EQ(form->StringGridDrawCell(c_DateCol, 1).Align, Qt::AlignHCenter);
+    EXPECT_EQ(columnAt(c_PriceCol).Caption, "Cena");
+}
+
+TEST_F(ColumnMenu, CanceledPropertiesChangeNothing) {
+    open();
+    openColumnMenu(c_DateCol);
+    const ModalDriver driver(QStringLiteral("ColumnPropertyBox"), [](QWidget& window) {
+        auto& box = dynamic_cast<TColumnPropertyBox&>(window);
+        box.SetColumnCaption("x");
+        box.SetColumnAlign(caRight);
+        box.Close();
+    });
+    pick(form->NadpisVlastnostiSloupce);
+    EXPECT_EQ(rowText(0), "Název|Počet|Cena|Datum|Sklad|Kód|Poznámka|Typ");
+    EXPECT_EQ(columnAt(c_DateCol).Align, caLeft);
+}
+
+TEST_F(ColumnMenu, ThePropertiesLeaveAnOpenEditorWithItsText) {
+    open();
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("abc"));
+    openColumnMenu(c_CountCol);
+    const ModalDriver driver(QStringLiteral("ColumnPropertyBox"), [](QWidget& window) {
+        auto& box = dynamic_cast<TColumnPropertyBox&>(window);
+        box.SetColumnCaption("Kusů");
+        box.SetModalResult(c_ResultOk);
+    });
+    pick(form->NadpisVlastnostiSloupce);
+    EXPECT_EQ(columnAt(c_CountCol).Caption, "Kusů");
+    EXPECT_EQ(openCellText(), "2,2");
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("abc"));
+    EXPECT_THAT(manager.boxes(), testing::IsEmpty()) << "nothing was left";
+}
+
+TEST_F(ColumnMenu, AHiddenColumnKeepsTheCaptionThatItGot) {
+    open();
+    openColumnMenu(c_DateCol);
+    {
+        const ModalDriver driver(QStringLiteral("ColumnPropertyBox"), [](QWidget& window) {
+            auto& box = dynamic_cast<TColumnPropertyBox&>(window);
+            box.SetColumnCaption("Kdy");
+            box.SetModalResult(c_ResultOk);
+        });
+        pick(form->NadpisVlastnostiSloupce);
+    }
+    hide(c_DateCol);
+    EXPECT_THAT(hiddenItems(), ElementsAre("Kdy", "Sleva"));
+    pick(hiddenItem(QStringLiteral("DATUM")));
+    EXPECT_EQ(rowText(0), "Název|Počet|Cena|Kdy|Sklad|Kód|Poznámka|Typ");
 }
 
 TEST_F(ColumnMenu, ChangesEditability) {

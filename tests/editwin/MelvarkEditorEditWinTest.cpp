@@ -73,7 +73,6 @@ TEST_F(EditBox, ItsControlsHaveTheirTextsAndStates) {
     EXPECT_EQ(form->CancelBtn->Caption(), "&Zrušit");
     EXPECT_EQ(form->MenuBtn->Caption(), "Žádný vzor");
     EXPECT_FALSE(form->MenuBtn->isEnabled());
-    EXPECT_FALSE(form->NadpisVlastnostiSloupce->isEnabled());
 }
 
 TEST_F(EditBox, ItsControlsStandInTheirPlacesWhileNoCaptionNeedsMoreRoom) {

@@ -1,3 +1,5 @@
+#include "dialogs/MelvarkEditorColumnPropWin.h"
+#include "dialogs/MelvarkEditorSettingsWin.h"
 #include "editors/MelvarkEditorDodObjEditWin.h"
 #include "editors/MelvarkEditorDodakEditWin.h"
 #include "editwin/model/EditExceptions.h"
@@ -78,6 +80,14 @@ void useOrderEditor(TranslatingHost& host, TLibraryManager& manager) {
     }
 }
 
+/// Makes both property dialogs refuse an empty text.
+void usePropertyDialogs(TLibraryManager& manager) {
+    TSettingsBox settings(nullptr, &manager);
+    settings.OkBtnClick(nullptr);
+    TColumnPropertyBox column(nullptr, &manager);
+    column.OkBtnClick(nullptr);
+}
+
 /// Shows both boxes that an editor without a library manager shows by itself.
 void useBoxes(TranslatingHost& host) {
     scriptDodakEditor(host.connection);
@@ -132,6 +142,7 @@ const std::set<AskedText>& askedTexts() {
         useSourceMenus();
         useEditor(host, manager);
         useOrderEditor(host, manager);
+        usePropertyDialogs(manager);
         useBoxes(host);
         useContract(host);
         useLibraryItem(manager);
