@@ -21,7 +21,7 @@ ColumnMenu::ColumnMenu(GridEditing& editing, CellWriter& writer, InPlaceEditing&
 
 void ColumnMenu::OpenAt(int col, int row, const QPoint& globalPos) {
     FPopupColumn = row == 0 ? std::max(col, 0) : 0;
-    if (row == 0) {
+    if (row == 0 && FKeeper.LayOutAwaited()) {
         FItems.Menu.popup(globalPos);
     }
 }
@@ -106,7 +106,7 @@ void ColumnMenu::ShowColumnOf(const QAction* item) {
     FEditing.Grid.InsertColumn(place);
     column->Visible = true;
     FEditing.Grid.SetCells(place, 0, column->Caption);
-    FEditing.Grid.SetColWidths(place, column->Width);
+    FEditing.Grid.SetColWidths(place, ShownWidth(*column));
     FWriter.ShowColumn(column->DataColumn);
     QAction* const shownItem = std::exchange(column->HiddenMenuItem, nullptr);
     FItems.HiddenColumns.removeAction(shownItem);
@@ -138,18 +138,45 @@ void ColumnMenu::UpdateSubmenu() {
 }
 
 void ColumnMenu::FollowMovedColumn(int from, int to) {
+    if (FEditing.Awaited) {
+        MoveAwaited(from, to);
+    }
     melvark::MoveColumn(FEditing.Active, from, to);
     FKeeper.SetEditCol(FEditing.Grid.Col());
     FKeeper.LayEditor();
+    FKeeper.LayOutAwaited();
+}
+
+/// The drag in the picture is one of the same two columns in the layout that comes.
+void ColumnMenu::MoveAwaited(int from, int to) {
+    const RColumn* const moved = FEditing.ColumnAt(from);
+    const RColumn* const target = FEditing.ColumnAt(to);
+    if (moved && target) {
+        std::vector<RColumn>& awaited = *FEditing.Awaited;
+        melvark::MoveColumn(awaited, ColumnByName(awaited, moved->Name), ColumnByName(awaited, target->Name));
+    }
 }
 
 void ColumnMenu::CaptureWidths() {
     for (int col = 1; col < FEditing.Grid.ColCount(); ++col) {
-        if (RColumn* const column = FEditing.ColumnAt(col)) {
-            column->Width = FEditing.Grid.ColWidths(col);
+        RColumn* const column = FEditing.ColumnAt(col);
+        const int width = FEditing.Grid.ColWidths(col);
+        if (column && width != ShownWidth(*column)) {
+            TakeWidth(*column, width);
         }
     }
     FKeeper.LayEditor();
+    FKeeper.LayOutAwaited();
+}
+
+void ColumnMenu::TakeWidth(RColumn& column, int width) {
+    column.Width = width;
+    if (FEditing.Awaited) {
+        const auto same = std::ranges::find(*FEditing.Awaited, column.Name, &RColumn::Name);
+        if (same != FEditing.Awaited->end()) {
+            same->Width = width;
+        }
+    }
 }
 
 } // namespace melvark

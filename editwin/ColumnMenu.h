@@ -52,7 +52,7 @@ public:
 
     /// The grid moved the column at `from` to `to`.
     void FollowMovedColumn(int from, int to);
-    /// Every shown column takes the width of its grid column.
+    /// A column whose grid column was dragged to another width takes it.
     void CaptureWidths();
 
     /// The grid column under the last right click; 0 for none.
@@ -62,6 +62,8 @@ private:
     QAction* MakeHiddenItem(const RColumn& column);
     void CheckEditability(const RColumn* column);
     void UpdateSubmenu();
+    void MoveAwaited(int from, int to);
+    void TakeWidth(RColumn& column, int width);
 
     GridEditing& FEditing;
     CellWriter& FWriter;

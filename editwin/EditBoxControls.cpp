@@ -57,7 +57,8 @@ void TEditBoxControls::BuildIn(TForm& form) {
     StringGrid->SetTabStop(false);
     ButtonPanel = Named(new QFrame(&form), QStringLiteral("ButtonPanel"));
     BuildButtons();
-    BuildMenus(form);
+    BuildColumnsMenu(form);
+    BuildSettingsMenu(form);
 
     auto* const main = new QVBoxLayout(MainPanel);
     main->setContentsMargins(c_MainBorder, c_MainBorder, c_MainBorder, c_MainBorder);
@@ -120,7 +121,7 @@ void TEditBoxControls::BuildButtons() {
     column->addStretch();
 }
 
-void TEditBoxControls::BuildMenus(TForm& form) {
+void TEditBoxControls::BuildColumnsMenu(TForm& form) {
     ColumnsPopupMenu = Named(new QMenu(&form), QStringLiteral("ColumnsPopupMenu"));
     NadpisVlastnostiSloupce = MakeItem(ColumnsPopupMenu, QStringLiteral("NadpisVlastnostiSloupce"),
                                        QStringLiteral("Nadpis a vlastnosti sloupce"));
@@ -142,8 +143,19 @@ void TEditBoxControls::BuildMenus(TForm& form) {
     ColumnsPopupMenu->addSeparator();
     SkryteSloupce = Named(ColumnsPopupMenu->addMenu(QStringLiteral("Skryté sloupce")), QStringLiteral("SkryteSloupce"));
     SkryteSloupce->menuAction()->setEnabled(false);
+}
 
+void TEditBoxControls::BuildSettingsMenu(TForm& form) {
     SettingsPopupMenu = Named(new QMenu(&form), QStringLiteral("SettingsPopupMenu"));
+    N3 = Named(SettingsPopupMenu->addSeparator(), QStringLiteral("N3"));
+    PrejmenovatNastaveni =
+        MakeItem(SettingsPopupMenu, QStringLiteral("PrejmenovatNastaveni"), QStringLiteral("Přejmenovat"));
+    UlozitNastaveni = MakeItem(SettingsPopupMenu, QStringLiteral("UlozitNastaveni"), QStringLiteral("Uložit"));
+    UlozitJakoNoveNastaveni =
+        MakeItem(SettingsPopupMenu, QStringLiteral("UlozitJakoNoveNastaveni"), QStringLiteral("Uložit jako nové"));
+    SmazatNastaveni = MakeItem(SettingsPopupMenu, QStringLiteral("SmazatNastaveni"), QStringLiteral("Smazat vybrané"));
+    N4 = Named(SettingsPopupMenu->addSeparator(), QStringLiteral("N4"));
+    ObnovVychoziNastaveni =
+        MakeItem(SettingsPopupMenu, QStringLiteral("ObnovVychoziNastaveni"), QStringLiteral("Obnov výchozí"));
     MenuBtn->SetPopupMenu(SettingsPopupMenu);
-    MenuBtn->setEnabled(false);
 }

@@ -34,7 +34,15 @@ struct TEditBoxControls {
     TMenuItem* NeeditovatelnySloupec = nullptr;
     TPopupMenu* SkryteSloupce = nullptr;
 
+    /// The items of the saved settings stand above these.
     TPopupMenu* SettingsPopupMenu = nullptr;
+    TMenuItem* N3 = nullptr;
+    TMenuItem* PrejmenovatNastaveni = nullptr;
+    TMenuItem* UlozitNastaveni = nullptr;
+    TMenuItem* UlozitJakoNoveNastaveni = nullptr;
+    TMenuItem* SmazatNastaveni = nullptr;
+    TMenuItem* N4 = nullptr;
+    TMenuItem* ObnovVychoziNastaveni = nullptr;
 
     /// Makes everything in the form.
     void BuildIn(TForm& form);
@@ -42,5 +50,6 @@ struct TEditBoxControls {
 private:
     void BuildTopPanel();
     void BuildButtons();
-    void BuildMenus(TForm& form);
+    void BuildColumnsMenu(TForm& form);
+    void BuildSettingsMenu(TForm& form);
 };

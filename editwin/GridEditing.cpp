@@ -24,4 +24,15 @@ RColumn* GridEditing::ColumnAt(int gridCol) {
     return const_cast<RColumn*>(std::as_const(*this).ColumnAt(gridCol));
 }
 
+void GridEditing::SetActive(std::vector<RColumn> columns) {
+    Active = std::move(columns);
+    Awaited.reset();
+}
+
+void GridEditing::TakeAwaited() {
+    if (Awaited) {
+        SetActive(*std::exchange(Awaited, std::nullopt));
+    }
+}
+
 } // namespace melvark

@@ -33,7 +33,7 @@ void GridPresentation::ApplyColumns() {
     for (int col = 1; col < grid.ColCount(); ++col) {
         const RColumn& column = *FEditing.ColumnAt(col);
         grid.SetCells(col, 0, column.Caption);
-        grid.SetColWidths(col, column.Width);
+        grid.SetColWidths(col, ShownWidth(column));
     }
     FWriter.ShowAll();
 }

@@ -59,7 +59,7 @@ std::vector<QWidget*> InPlaceEditing::Editors() const {
 }
 
 void InPlaceEditing::ShowEditor(int col, int row, Reach reach) {
-    if (!HideEditor()) {
+    if (!HideEditor() || !LayOutAwaited()) {
         return;
     }
     TStringGrid& grid = FEditing.Grid;
@@ -195,13 +195,38 @@ void InPlaceEditing::ReturnToEditCell() {
     FOpened.Editor->setFocus(Qt::OtherFocusReason);
 }
 
+bool InPlaceEditing::LayOutAwaited() {
+    if (!FEditing.Awaited) {
+        return true;
+    }
+    if (!HideEditor()) {
+        return false;
+    }
+    TStringGrid& grid = FEditing.Grid;
+    const RColumn* const current = FEditing.ColumnAt(grid.Col());
+    const int dataColumn = current ? current->DataColumn : -1;
+    const int row = grid.Row();
+    FEditing.LayOut();
+    const std::vector<int> shownAt = GridColumnsOfData(FEditing.Active, dataColumn);
+    if (!shownAt.empty()) {
+        grid.SetCurrentCell(shownAt.front(), row);
+    }
+    return true;
+}
+
 void InPlaceEditing::GoNextEditable() {
+    if (!LayOutAwaited()) {
+        return;
+    }
     const TStringGrid& grid = FEditing.Grid;
     OpenFirst(NextEditableCell({grid.ColCount(), grid.RowCount()}, {grid.Col(), grid.Row()},
                                [this](int col, int row) { return MayStop(col, row); }));
 }
 
 void InPlaceEditing::GoPrevEditable() {
+    if (!LayOutAwaited()) {
+        return;
+    }
     const TStringGrid& grid = FEditing.Grid;
     OpenFirst(PreviousEditableCell({grid.ColCount(), grid.RowCount()}, {grid.Col(), grid.Row()},
                                    [this](int col, int row) { return MayStop(col, row); }));

@@ -57,6 +57,10 @@ public:
     bool HideEditor() { return CommitEditor() == CommitAnswer::Closed; }
     /// Closes the open editor without a check; its text is lost.
     void DropEditor();
+    /// Lays out the columns that are awaited, if any, once the open cell is committed as it is pictured; the cursor
+    /// goes along with its column. False when the value was refused: the picture stays. Asked before a grid column is
+    /// sought or changed.
+    bool LayOutAwaited();
     void GoNextEditable();
     void GoPrevEditable();
 

@@ -31,6 +31,7 @@ TEditBox::TEditBox(TComponent* owner, TLibraryManager* libraryManager, std::int3
     BuildIn(*this);
     FHelpers = std::make_unique<Helpers>(*this, columns);
     FormCreate();
+    FHelpers->Editing.LayOut = [this] { ApplyColumnsSettingsToGrid(); };
     FHelpers->Settings.ShowNoSetting();
     FHelpers->Keeper.CreateListEditors();
     ConnectEditors();
@@ -100,12 +101,18 @@ void TEditBox::ConnectMenus() {
         {EditovatelnySloupecAutomaticky, &TEditBox::EditovatelnySloupecAutomatickyClick},
         {EditovatelnySloupecVyberem, &TEditBox::EditovatelnySloupecVyberemClick},
         {NeeditovatelnySloupec, &TEditBox::NeeditovatelnySloupecClick},
+        {PrejmenovatNastaveni, &TEditBox::PrejmenovatNastaveniClick},
+        {UlozitNastaveni, &TEditBox::UlozitNastaveniClick},
+        {UlozitJakoNoveNastaveni, &TEditBox::UlozitJakoNoveNastaveniClick},
+        {SmazatNastaveni, &TEditBox::SmazatNastaveniClick},
+        {ObnovVychoziNastaveni, &TEditBox::ObnovVychoziNastaveniClick},
     };
     for (const auto& [item, handler] : items) {
         ConnectGuarded(item, &QAction::triggered, this,
                        [this, sender = item, click = handler] { std::invoke(click, this, sender); });
     }
     ConnectGuarded(ColumnsPopupMenu, &QMenu::aboutToShow, this, [this] { ColumnsPopupMenuPopup(ColumnsPopupMenu); });
+    ConnectGuarded(SettingsPopupMenu, &QMenu::aboutToShow, this, [this] { SettingsPopupMenuPopup(SettingsPopupMenu); });
 }
 
 void TEditBox::SetTitle(const AnsiString& text) {
@@ -185,7 +192,7 @@ const RowView& TEditBox::Rows() const {
 }
 
 const std::vector<RColumn>& TEditBox::ActiveColumns() const {
-    return FHelpers->Editing.Active;
+    return FHelpers->Editing.InForce();
 }
 
 const std::vector<RColumn>& TEditBox::DefaultColumns() const {
@@ -210,10 +217,11 @@ void TEditBox::InitGrid() {
 }
 
 void TEditBox::InitColumns() {
-    FHelpers->Editing.Active = FHelpers->Editing.Defaults;
+    FHelpers->Editing.SetActive(FHelpers->Editing.Defaults);
 }
 
 void TEditBox::ApplyColumnsSettingsToGrid() {
+    FHelpers->Editing.TakeAwaited();
     FHelpers->ColumnMenu.RebuildHiddenItems();
     FHelpers->Presentation.ApplyColumns();
     FHelpers->Autosave.Enable();
@@ -277,6 +285,14 @@ void TEditBox::LoadColumnsSettingsFromXml(const AnsiString& xml) {
 
 std::int32_t TEditBox::SettingsId() const {
     return FHelpers->Settings.SettingsId();
+}
+
+AnsiString TEditBox::GetColumnSettingsXML() const {
+    return FHelpers->Settings.Document();
+}
+
+TMenuItem* TEditBox::SettingsItem() const {
+    return FHelpers->Settings.SettingsItem();
 }
 
 void TEditBox::LoadWindowSettings() {
@@ -398,6 +414,34 @@ void TEditBox::EditovatelnySloupecVyberemClick(TObject*) {
 
 void TEditBox::NeeditovatelnySloupecClick(TObject*) {
     FHelpers->ColumnMenu.SetEditability(eNone);
+}
+
+void TEditBox::LoadColumnsSettings(TObject* Sender) {
+    FHelpers->Settings.Choose(qobject_cast<QAction*>(Sender));
+}
+
+void TEditBox::SettingsPopupMenuPopup(TObject*) {
+    FHelpers->Settings.PrepareItems();
+}
+
+void TEditBox::PrejmenovatNastaveniClick(TObject*) {
+    FHelpers->Settings.Rename();
+}
+
+void TEditBox::UlozitNastaveniClick(TObject*) {
+    FHelpers->Settings.Save();
+}
+
+void TEditBox::UlozitJakoNoveNastaveniClick(TObject*) {
+    FHelpers->Settings.SaveAsNew();
+}
+
+void TEditBox::SmazatNastaveniClick(TObject*) {
+    FHelpers->Settings.Delete();
+}
+
+void TEditBox::ObnovVychoziNastaveniClick(TObject*) {
+    FHelpers->Settings.RestoreBuiltIn();
 }
 
 void TEditBox::ShowGridColumn(TObject* Sender) {

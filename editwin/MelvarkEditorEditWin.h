@@ -83,6 +83,7 @@ public:
     RColumn GetDataColumn(int dataIndex) const;
     int RowToDataGridRow(int row) const;
     const melvark::RowView& Rows() const;
+    /// The columns in force. The grid still pictures others after a setting was deleted, until they are laid out.
     const std::vector<RColumn>& ActiveColumns() const;
     const std::vector<RColumn>& DefaultColumns() const;
     TDataGrid& DataGrid();
@@ -113,7 +114,9 @@ public:
     void LoadColumnsSettingsList();
     void LoadLastColumnsSettings();
     void LoadColumnsSettingsFromXml(const AnsiString& xml);
+    AnsiString GetColumnSettingsXML() const;
     std::int32_t SettingsId() const;
+    TMenuItem* SettingsItem() const;
     void LoadWindowSettings();
     void SaveWindowSettings();
 
@@ -137,6 +140,14 @@ public:
     void EditovatelnySloupecVyberemClick(TObject* Sender);
     void NeeditovatelnySloupecClick(TObject* Sender);
     void ShowGridColumn(TObject* Sender);
+    void SettingsPopupMenuPopup(TObject* Sender);
+    /// Sender is the item of a saved setting.
+    void LoadColumnsSettings(TObject* Sender);
+    void PrejmenovatNastaveniClick(TObject* Sender);
+    void UlozitNastaveniClick(TObject* Sender);
+    void UlozitJakoNoveNastaveniClick(TObject* Sender);
+    void SmazatNastaveniClick(TObject* Sender);
+    void ObnovVychoziNastaveniClick(TObject* Sender);
     void AutoSave(TObject* Sender);
 
 protected:

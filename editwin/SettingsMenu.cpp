@@ -1,16 +1,22 @@
 #include "editwin/SettingsMenu.h"
 
+#include "dialogs/MelvarkEditorSettingsWin.h"
+#include "dialogs/ModuleBoxes.h"
+#include "editwin/InPlaceEditing.h"
+#include "editwin/model/ColumnList.h"
 #include "editwin/model/ColumnSettingsDocument.h"
 #include "host/LangStr.h"
+#include "host/LibraryManager.h"
 #include "host/widgets/Buttons.h"
-#include "host/widgets/Form.h"
+#include "host/widgets/Guard.h"
 #include "host/widgets/Text.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QCheckBox>
 #include <QMenu>
 
-#include <algorithm>
+#include <utility>
 
 namespace melvark {
 
@@ -23,8 +29,14 @@ int Tag(const QAction* item) {
 
 } // namespace
 
-SettingsMenu::SettingsMenu(GridEditing& editing, SettingsStore store, const Controls& controls)
-    : FEditing(editing), FStore(store), FControls(controls) {}
+SettingsMenu::SettingsMenu(GridEditing& editing, InPlaceEditing& keeper, SettingsStore store, TLibraryManager* manager,
+                           const Controls& controls)
+    : FEditing(editing),
+      FKeeper(keeper),
+      FSettings(store),
+      FManager(manager),
+      FControls(controls),
+      FGroup(new QActionGroup(this)) {}
 
 void SettingsMenu::ShowNoSetting() {
     FControls.Button.SetCaption(LangStr(R"(KORDAN30\MELVARKEDITOR\NONE)", {}, "Žádný vzor"));
@@ -37,48 +49,171 @@ void SettingsMenu::LoadList() {
             delete item;
         }
     }
-    FListed = FStore.List();
-    const QList<QAction*> fixed = FControls.Menu.actions();
-    for (const SavedSetting& setting : FListed) {
-        auto* const item = new QAction(PlainCaption(setting.Name), this);
-        item->setData(setting.Id);
-        item->setCheckable(true);
-        FControls.Menu.insertAction(fixed.value(0), item);
+    FSettings.LoadList();
+    QAction* const firstFixed = FControls.Menu.actions().value(0);
+    for (const SavedSetting& setting : FSettings.Listed()) {
+        QAction* const item = MakeItem(setting);
+        FControls.Menu.insertAction(firstFixed, item);
+        if (FSettings.HasInForce() && setting.Id == FSettings.InForce()) {
+            ShowInForce(*item);
+        }
     }
-    if (FSettingsId != -1) {
-        ShowInForce();
-    }
+}
+
+QAction* SettingsMenu::MakeItem(const SavedSetting& setting) {
+    auto* const item = new QAction(PlainCaption(setting.Name), FControls.Menu.parentWidget());
+    item->setObjectName(QStringLiteral("SavedSetting") + QString::number(setting.Id));
+    item->setData(setting.Id);
+    item->setCheckable(true);
+    FGroup->addAction(item);
+    ConnectGuarded(item, &QAction::triggered, this, [this, item] { Choose(item); });
+    return item;
 }
 
 void SettingsMenu::LoadLast() {
-    FEditing.Active = FEditing.Defaults;
-    const std::optional<DefaultSetting> setting = FStore.LoadDefault();
-    if (!setting) {
+    FEditing.SetActive(FEditing.Defaults);
+    const std::optional<AnsiString> document = FSettings.LoadDefault();
+    if (!document) {
         return;
     }
-    FSettingsId = setting->Id;
-    ApplyDocument(setting->Document);
-    ShowInForce();
+    ApplyDocument(*document);
+    for (QAction* const item : FControls.Menu.actions()) {
+        if (Tag(item) == FSettings.InForce()) {
+            ShowInForce(*item);
+            return;
+        }
+    }
 }
 
-void SettingsMenu::ShowInForce() {
-    const QList<QAction*> items = FControls.Menu.actions();
-    const auto item =
-        std::find_if(items.cbegin(), items.cend(), [this](const QAction* each) { return Tag(each) == FSettingsId; });
-    const auto listed = std::find_if(FListed.cbegin(), FListed.cend(),
-                                     [this](const SavedSetting& each) { return each.Id == FSettingsId; });
-    if (item == items.cend() || listed == FListed.cend()) {
-        return;
+void SettingsMenu::ShowInForce(QAction& item) {
+    FSettingsItem = &item;
+    item.setChecked(true);
+    if (const SavedSetting* const setting = FSettings.Find(Tag(&item))) {
+        FControls.Button.SetCaption(setting->Name);
     }
-    (*item)->setChecked(true);
-    FControls.Button.SetCaption(listed->Name);
 }
 
 void SettingsMenu::ApplyDocument(std::string_view document) {
-    AppliedColumnSettings applied = ReadColumnSettings(document, FEditing.Active, FEditing.Defaults);
-    FEditing.Active = std::move(applied.Columns);
+    AppliedColumnSettings applied = ReadColumnSettings(document, FEditing.InForce(), FEditing.Defaults);
+    FEditing.SetActive(std::move(applied.Columns));
     if (applied.Recalculation && Visible(FControls.RecalculationPanel)) {
         FControls.Recalculation.setChecked(*applied.Recalculation);
+    }
+}
+
+AnsiString SettingsMenu::Document() const {
+    return WriteColumnSettings(FEditing.InForce(), Visible(FControls.RecalculationPanel)
+                                                       ? std::optional(FControls.Recalculation.isChecked())
+                                                       : std::nullopt);
+}
+
+void SettingsMenu::PrepareItems() {
+    for (QAction* const item : {&FControls.Rename, &FControls.Save, &FControls.Delete}) {
+        item->setEnabled(FSettings.HasInForce());
+    }
+}
+
+void SettingsMenu::Choose(QAction* item) {
+    if (!item) {
+        return;
+    }
+    if (!FKeeper.HideEditor()) {
+        // The click has moved the check mark by itself.
+        item->setChecked(false);
+        if (FSettingsItem) {
+            FSettingsItem->setChecked(true);
+        }
+        return;
+    }
+    FSettings.PutInForce(Tag(item));
+    ShowInForce(*item);
+    const AnsiString document = FSettings.Load();
+    if (!document.empty()) {
+        ApplyDocument(document);
+        FEditing.LayOut();
+    }
+}
+
+void SettingsMenu::Save() const {
+    if (FSettings.HasInForce()) {
+        FSettings.Save(Document());
+    }
+}
+
+void SettingsMenu::SaveAsNew() {
+    TSettingsBox box(FControls.Menu.parentWidget(), FManager);
+    if (!AskAndStore(box, [this](const SettingInfo& info) { FSettings.SaveAsNew(info, Document()); })) {
+        return;
+    }
+    LoadList();
+    if (FSettingsItem) {
+        FSettingsItem->setText(PlainCaption(box.GetNazev()));
+    }
+}
+
+void SettingsMenu::Rename() {
+    if (!FSettings.HasInForce()) {
+        return;
+    }
+    TSettingsBox box(FControls.Menu.parentWidget(), FManager);
+    const SettingInfo info = FSettings.Info();
+    box.SetNazev(info.Name);
+    box.SetPopis(info.Description);
+    box.SetSdilene(info.IsShared);
+    if (!AskAndStore(box, [this](const SettingInfo& changed) { FSettings.Rename(changed); })) {
+        return;
+    }
+    if (FSettingsItem) {
+        FSettingsItem->setText(PlainCaption(box.GetNazev()));
+    }
+    FControls.Button.SetCaption(box.GetNazev());
+}
+
+/// Shows the dialog until it is cancelled or what the user says could be stored.
+bool SettingsMenu::AskAndStore(TSettingsBox& box, const std::function<void(const SettingInfo&)>& store) const {
+    while (box.ShowModal() == c_ResultOk) {
+        if (Guarded([&] { store({box.GetNazev(), box.GetPopis(), box.GetSdilene()}); })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void SettingsMenu::Delete() {
+    if (!FSettings.HasInForce() || ConfirmBox(FManager, LangStr(R"(KORDAN30\MELVARKEDITOR\DELETESELECTEDSETTINGS)", {},
+                                                                "Smazat zvolené nastavení?")) != c_ResultYes) {
+        return;
+    }
+    FSettings.Delete();
+    delete FSettingsItem.data();
+    LeaveSetting();
+    FEditing.Awaited = DefaultsWithDataOf(FEditing.InForce(), FEditing.Defaults);
+}
+
+void SettingsMenu::RestoreBuiltIn() {
+    if (ConfirmBox(FManager, LangStr(R"(KORDAN30\MELVARKEDITOR\RESTORE)", {}, "Obnovit původní nastavení?")) !=
+            c_ResultYes ||
+        !FKeeper.HideEditor()) {
+        return;
+    }
+    LeaveSetting();
+    FEditing.SetActive(DefaultsWithDataOf(FEditing.InForce(), FEditing.Defaults));
+    FEditing.LayOut();
+    if (Visible(FControls.RecalculationPanel)) {
+        FControls.Recalculation.setChecked(true);
+    }
+    FSettings.ForgetDefault();
+}
+
+/// No setting is in force, and none is checked.
+void SettingsMenu::LeaveSetting() {
+    FSettings.Leave();
+    FSettingsItem = nullptr;
+    ShowNoSetting();
+    for (QAction* const item : FControls.Menu.actions()) {
+        if (Tag(item) != 0) {
+            item->setChecked(false);
+        }
     }
 }
 

@@ -31,6 +31,12 @@ bool IsHiddenByUser(const RColumn& column) {
     return !column.Visible && column.ColumnType != ctHidden;
 }
 
+int ShownWidth(const RColumn& column) {
+    constexpr int c_Narrowest = 4;
+    constexpr int c_Widest = 10000;
+    return std::clamp(column.Width, c_Narrowest, c_Widest);
+}
+
 int VisibleColumnCount(std::span<const RColumn> columns) {
     return static_cast<int>(std::ranges::count_if(columns, IsShown));
 }

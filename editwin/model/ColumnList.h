@@ -20,6 +20,10 @@ bool IsShown(const RColumn& column);
 /// Whether the column stands in the menu of hidden columns: hidden by the user and not of the hidden type.
 bool IsHiddenByUser(const RColumn& column);
 
+/// The width at which the grid shows the column. A stored layout may name any number; the column keeps it until the
+/// clerk drags another one.
+int ShownWidth(const RColumn& column);
+
 /// How many columns are shown.
 int VisibleColumnCount(std::span<const RColumn> columns);
 

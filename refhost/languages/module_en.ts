@@ -266,6 +266,34 @@
         <source>Název musí být vyplněn</source>
         <translation>Please enter a name</translation>
     </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\PrejmenovatNastaveni\Caption">
+        <source>Přejmenovat</source>
+        <translation>Rename</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\UlozitNastaveni\Caption">
+        <source>Uložit</source>
+        <translation>Save</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\UlozitJakoNoveNastaveni\Caption">
+        <source>Uložit jako nové</source>
+        <translation>Save as new</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\SmazatNastaveni\Caption">
+        <source>Smazat vybrané</source>
+        <translation>Delete selected</translation>
+    </message>
+    <message id="KORDAN30\MelvarkEditorEditWin\ObnovVychoziNastaveni\Caption">
+        <source>Obnov výchozí</source>
+        <translation>Restore default</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\DELETESELECTEDSETTINGS">
+        <source>Smazat zvolené nastavení?</source>
+        <translation>Delete the selected layout?</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\RESTORE">
+        <source>Obnovit původní nastavení?</source>
+        <translation>Restore the original layout?</translation>
+    </message>
     <!-- The line editor's columns: caption and hint. A column is narrow: what tells it from the others stands first. -->
     <message id="KORDAN30\MELVARKEDITOR\COLUMNSKUPSPOL1">
         <source>Skup.sklad.pol.1</source>

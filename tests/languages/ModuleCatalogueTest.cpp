@@ -65,11 +65,15 @@ void useSourceMenus() {
 /// Builds the editor with every column, and makes it refuse a value of each kind.
 void useEditor(TranslatingHost& host, TLibraryManager& manager) {
     scriptDodakEditor(host.connection);
+    host.connection.procedure("MELVARKEDITORNASTAVENINactiDef")
+        .returns({{{"ID", "DATA"}, {{std::int64_t{3}, AnsiString("<settings/>")}}}});
     TDodakEditBox editor(qApp, &manager, "SABLONA", 7, 40);
     EXPECT_THROW(editor.CheckInt(nullptr, "x"), EBadValue);
     EXPECT_THROW(editor.CheckFloat(nullptr, "x"), EBadValue);
     EXPECT_THROW(editor.CheckDate(nullptr, "x"), EBadValue);
     EXPECT_FALSE(editor.KontrolaSlevy(1, 1, "101"));
+    editor.SmazatNastaveniClick(nullptr);
+    editor.ObnovVychoziNastaveniClick(nullptr);
     EXPECT_THROW(TDodakEditBox(qApp, &manager, "NIC", 7, 40), Exception);
 }
 

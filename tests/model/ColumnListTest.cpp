@@ -3,6 +3,7 @@
 #include "tests/model/ColumnsForTests.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -37,6 +38,14 @@ TEST(ColumnList, GridColumnsAreTheShownColumnsCountedFromOne) {
     }
     EXPECT_EQ(VisibleColumnCount(columns), 3);
     EXPECT_EQ(VisibleColumnCount({}), 0);
+}
+
+TEST(ColumnList, AColumnIsShownFromFourToTenThousandPixelsWide) {
+    const std::pair<int, int> rows[] = {{-5, 4},      {0, 4},         {4, 4},         {5, 5},
+                                        {9999, 9999}, {10000, 10000}, {10001, 10000}, {2147483647, 10000}};
+    for (const auto& [stored, shown] : rows) {
+        EXPECT_EQ(ShownWidth({.Width = stored}), shown) << stored;
+    }
 }
 
 TEST(ColumnList, EveryShownColumnOfADataColumnIsFound) {
