@@ -1,12 +1,40 @@
 #include "editwin/WindowPlacement.h"
 
+#include "editwin/model/ReachablePlace.h"
 #include "editwin/model/WindowPlacementDocument.h"
 #include "host/LiveData.h"
 #include "host/widgets/Form.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+#include <QStyle>
 #include <QWindowStateChangeEvent>
 
+#include <vector>
+
 namespace melvark {
+
+namespace {
+
+std::vector<ScreenArea> Screens() {
+    std::vector<ScreenArea> screens;
+    for (const QScreen* const screen : QGuiApplication::screens()) {
+        const QRect area = screen->availableGeometry();
+        screens.push_back({area.x(), area.y(), area.width(), area.height()});
+    }
+    return screens;
+}
+
+/// The placement that a stored document wants, brought within reach; nothing when it says nothing of one.
+std::optional<WindowPlacement> StoredPlace(const AnsiString& document, const TForm& form) {
+    const QRect current = form.geometry();
+    const auto wanted = ReadWindowPlacement(document, {current.x(), current.y(), current.width(), current.height(),
+                                                       form.windowState().testFlag(Qt::WindowMaximized)});
+    const int titleHeight = form.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &form);
+    return wanted ? std::optional(ReachablePlace(*wanted, Screens(), titleHeight)) : std::nullopt;
+}
+
+} // namespace
 
 WindowPlacementKeeper::WindowPlacementKeeper(TForm& form, std::int32_t editType) : FForm(form), FEditType(editType) {
     form.installEventFilter(this);
@@ -21,10 +49,7 @@ void WindowPlacementKeeper::Load() {
     if (document.IsNull()) {
         return;
     }
-    const QRect current = FForm.geometry();
-    const auto placement =
-        ReadWindowPlacement(document.AsString(), {current.x(), current.y(), current.width(), current.height(),
-                                                  FForm.windowState().testFlag(Qt::WindowMaximized)});
+    const auto placement = StoredPlace(document.AsString(), FForm);
     if (!placement) {
         return;
     }

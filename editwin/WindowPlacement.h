@@ -19,7 +19,8 @@ public:
     /// All editors of the edit type share one placement, whatever their edit-type offset.
     WindowPlacementKeeper(TForm& form, std::int32_t editType);
 
-    /// Centres the form and then places it as the database remembers; what it does not remember stays.
+    /// Centres the form and then places it as the database remembers; what it does not remember stays. A title bar that
+    /// would lie on no screen moves to the nearest one.
     void Load();
     void Save() const;
 

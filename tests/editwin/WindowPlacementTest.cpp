@@ -56,6 +56,30 @@ TEST_F(WindowPlacement, ABadNumberKeepsTheCurrentValue) {
     EXPECT_EQ(form->geometry(), QRect(centred().left(), 44, centred().width(), 500));
 }
 
+TEST_F(WindowPlacement, ATitleBarThatLiesOnNoScreenMovesToTheNearestOne) {
+    storedIs("<window><left>-5000</left><top>-4000</top><width>900</width><height>500</height></window>");
+    open();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(form->x(), screen.left());
+    EXPECT_EQ(form->width(), std::max(screen.width(), form->minimumWidth())) << "cut to it";
+    EXPECT_GT(form->y(), screen.top()) << "below the room for the title bar";
+    EXPECT_LT(form->y(), screen.top() + 60);
+}
+
+TEST_F(WindowPlacement, SenselessNumbersLeaveAWindowThatCanBeUsed) {
+    for (const char* const number : {"99999999999", "2147483647", "-2147483648", "12px", "-5"}) {
+        const AnsiString text = number;
+        storedIs("<window><left>" + text + "</left><top>" + text + "</top><width>" + text + "</width><height>" + text +
+                 "</height></window>");
+        open();
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        EXPECT_TRUE(form->geometry().adjusted(0, -40, 0, 0).intersects(screen)) << number;
+        EXPECT_GE(form->width(), 790) << number;
+        EXPECT_LE(form->width(), std::max(screen.width(), form->minimumWidth())) << number;
+        EXPECT_LE(form->height(), std::max(screen.height(), form->minimumHeight())) << number;
+    }
+}
+
 TEST_F(WindowPlacement, AForeignOrDamagedDocumentLeavesTheFormCentred) {
     for (const char* const document : {"", "<okno><left>1</left></okno>", "<window><left>1</left>"}) {
         storedIs(document);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "editwin/model/WindowPlacementDocument.h"
+
+#include <span>
+
+namespace melvark {
+
+/// A rectangle of the desktop, in screen pixels.
+struct ScreenArea {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+};
+
+/// The placement at which the user can take hold of the window. One whose title bar, the strip of `titleHeight` pixels
+/// above it, shows on any screen is left as it is; another one moves to the nearest screen, cut to it with its title
+/// bar. No window becomes larger than twice all screens together, and none is empty. Any number may come in; without
+/// screens nothing changes. Whether it is maximised is not looked at. Screens are larger than a title bar.
+WindowPlacement ReachablePlace(const WindowPlacement& wanted, std::span<const ScreenArea> screens, int titleHeight);
+
+} // namespace melvark
