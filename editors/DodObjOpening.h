@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Exceptions.h"
+#include "host/Identifier.h"
 #include "host/Types.h"
 
 #include <memory>
@@ -21,12 +22,12 @@ namespace melvark {
 struct DodObjDocument {
     bool IsTemplate = false;
     AnsiString SourceKind; ///< One of c_DodObjEditType.
-    int DdobID = -1;
-    int SkldID = -1;      ///< Its warehouse.
-    int DodvID = -1;      ///< Its supplier; 0 or below for none.
-    AnsiString Sklad;     ///< The warehouse as shown.
-    AnsiString Dodavatel; ///< The supplier as shown; empty for none.
-    TDateTime Moment{};   ///< For which suppliers' price lists are taken.
+    int DdobID = c_NullValue;
+    int SkldID = c_NullValue; ///< Its warehouse.
+    int DodvID = c_NullValue; ///< Its supplier; 0 or below for none.
+    AnsiString Sklad;         ///< The warehouse as shown.
+    AnsiString Dodavatel;     ///< The supplier as shown; empty for none.
+    TDateTime Moment{};       ///< For which suppliers' price lists are taken.
 };
 
 /// The choices of the list columns. Columns point to them, so that they keep their address for the editor's life.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editors/DocumentRows.h"
+#include "host/Identifier.h"
 
 class TDataGrid;
 
@@ -10,10 +11,10 @@ namespace melvark {
 
 /// The documents that a save names; -1 for a source that was not chosen.
 struct DodObjSaveTarget {
-    int DdobID = -1;
-    int SourceOrderID = -1;
-    int SourceTemplateID = -1;
-    int SourceDodkID = -1;
+    int DdobID = c_NullValue;
+    int SourceOrderID = c_NullValue;
+    int SourceTemplateID = c_NullValue;
+    int SourceDodkID = c_NullValue;
 };
 
 /// Stages every row of the store; the database's row store was emptied before. False when a row reports failure.

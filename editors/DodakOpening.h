@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Exceptions.h"
+#include "host/Identifier.h"
 #include "host/LiveData.h"
 #include "host/Types.h"
 
@@ -27,9 +28,9 @@ struct DodakLists {
 /// What must be known of a delivery note's editor before its form can be built.
 struct DodakOpening {
     AnsiString EditType;
-    int FillMode = 0; ///< Number of the edit type.
-    int DodkID = -1;  ///< The delivery note that is edited.
-    int DodvID = -1;  ///< Its supplier, whose documents alone are offered as sources.
+    int FillMode = 0;         ///< Number of the edit type.
+    int DodkID = c_NullValue; ///< The delivery note that is edited.
+    int DodvID = c_NullValue; ///< Its supplier, whose documents alone are offered as sources.
     AnsiString UserName;
     bool LocalVat = false;
     std::unique_ptr<DodakLists> Lists;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editors/DocumentRows.h"
+#include "host/Identifier.h"
 
 #include <span>
 
@@ -16,9 +17,9 @@ std::span<const RowParam> DodakRowParams();
 
 /// The documents that a save names; -1 for a source that was not chosen.
 struct DodakSaveTarget {
-    int DodkID = -1;
-    int SourceDodkID = -1;
-    int SourceOrderID = -1;
+    int DodkID = c_NullValue;
+    int SourceDodkID = c_NullValue;
+    int SourceOrderID = c_NullValue;
 };
 
 /// Stages every row of the store; the database's row store was emptied before. False when a row reports failure.

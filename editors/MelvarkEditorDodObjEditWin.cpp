@@ -49,10 +49,9 @@ TDodObjEditBox::TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryMana
                                  .Moment = aMoment})) {}
 
 TDodObjEditBox::TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, DodObjOpening opening)
-    : TDocumentEditBox(
-          aOwner, aLibraryManager, KindOf(opening).EditTypeNumber, KindOf(opening).FirstNamePart, opening.SourceNumber,
-          opening.Document.SourceKind, opening.UserName,
-          DodObjColumns({.Warehouses = &opening.Lists->Warehouses, .Suppliers = &opening.Lists->Suppliers})),
+    : TDocumentEditBox(aOwner, aLibraryManager, KindOf(opening).EditTypeNumber, KindOf(opening).FirstNamePart,
+                       opening.SourceNumber, opening.Document.SourceKind, opening.UserName,
+                       LoadDefaultColumnsSettings(opening)),
       FOpening(std::move(opening)) {
     SetTopButtonPanelVisibility(false);
     SetTitle(LangStr(KindOf(FOpening).TitleKey, {}, KindOf(FOpening).Title));
@@ -66,6 +65,10 @@ TDodObjEditBox::TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryMana
 }
 
 TDodObjEditBox::~TDodObjEditBox() = default;
+
+std::vector<RColumn> TDodObjEditBox::LoadDefaultColumnsSettings(const DodObjOpening& opening) {
+    return DodObjColumns({.Warehouses = &opening.Lists->Warehouses, .Suppliers = &opening.Lists->Suppliers});
+}
 
 bool TDodObjEditBox::CheckMaster() const {
     return CheckMasterDocument("MELVARKEDITORDodObjCheckMaster", "a_DDOBID", Document().DdobID);

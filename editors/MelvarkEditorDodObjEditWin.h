@@ -34,6 +34,7 @@ private:
     /// Builds the form on what was read before it.
     TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, melvark::DodObjOpening opening);
 
+    static std::vector<RColumn> LoadDefaultColumnsSettings(const melvark::DodObjOpening& opening);
     bool CheckMaster() const;
 
     /// `aDodvID` is the document's supplier, whose price list is taken without a question. An unknown source leaves one

@@ -3,8 +3,6 @@
 #include "editwin/model/ColumnList.h"
 #include "host/widgets/StringGrid.h"
 
-#include <QScopeGuard>
-
 #include <utility>
 
 namespace melvark {
@@ -13,20 +11,12 @@ static_assert(RowView::c_FixedRows == TStringGrid::c_FixedRows);
 
 void CellWriter::WriteTyped(int dataColumn, int storeRow, const AnsiString& text) {
     FEditing.Store.SetCells(dataColumn, storeRow, text);
-    Written(dataColumn, storeRow, text);
+    Show(dataColumn, storeRow, text);
 }
 
 void CellWriter::WriteDerived(int dataColumn, int storeRow, const AnsiString& text) {
     FEditing.Store.SetCellWithNoChange(dataColumn, storeRow, text);
-    Written(dataColumn, storeRow, text);
-}
-
-void CellWriter::Written(int dataColumn, int storeRow, const AnsiString& text) {
-    if (FManyDepth > 0) {
-        FWrittenColumns.insert(dataColumn);
-    } else {
-        Show(dataColumn, storeRow, text);
-    }
+    Show(dataColumn, storeRow, text);
 }
 
 void CellWriter::Show(int dataColumn, int storeRow, const AnsiString& text) {
@@ -37,19 +27,6 @@ void CellWriter::Show(int dataColumn, int storeRow, const AnsiString& text) {
     for (const int gridCol : GridColumnsOfData(FEditing.Active, dataColumn)) {
         FEditing.Grid.SetCells(gridCol, gridRow, text);
     }
-}
-
-void CellWriter::WriteMany(const std::function<void()>& writes) {
-    ++FManyDepth;
-    const auto finish = qScopeGuard([this] {
-        if (--FManyDepth > 0) {
-            return;
-        }
-        for (const int dataColumn : std::exchange(FWrittenColumns, {})) {
-            ShowColumn(dataColumn);
-        }
-    });
-    writes();
 }
 
 void CellWriter::ShowColumn(int dataColumn) {

@@ -3,9 +3,6 @@
 #include "editwin/GridEditing.h"
 #include "host/Types.h"
 
-#include <functional>
-#include <set>
-
 namespace melvark {
 
 /// The one door for cell values: it writes a value into the store and shows it in every grid column that is bound to
@@ -27,22 +24,15 @@ public:
     /// Shows a text that is not stored: the tidy spelling of a value that the clerk left as it was.
     void Show(int dataColumn, int storeRow, const AnsiString& text);
 
-    /// Runs `writes`, which writes any number of cells, and shows them afterwards, column by column at once, also when
-    /// it throws. Within it the grid still shows what was there before. Calls may be nested; the outermost shows.
-    void WriteMany(const std::function<void()>& writes);
-
     /// Shows what the store holds of one data column.
     void ShowColumn(int dataColumn);
     /// Gives the grid as many rows as the store and shows all its values. The grid has its columns already.
     void ShowAll();
 
 private:
-    void Written(int dataColumn, int storeRow, const AnsiString& text);
     void ShowIn(int gridCol, int dataColumn);
 
     GridEditing& FEditing;
-    int FManyDepth = 0;
-    std::set<int> FWrittenColumns; ///< Data columns to be shown when the outermost WriteMany ends.
 };
 
 } // namespace melvark

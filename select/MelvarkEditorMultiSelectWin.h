@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Identifier.h"
 #include "host/Types.h"
 #include "select/SelectForm.h"
 
@@ -49,7 +50,7 @@ private:
 
     struct TLevel {
         TSelectLine Line;
-        int ID = -1;
+        int ID = c_NullValue;
         TOperation Check = nullptr;
         TOperation ShowDlg = nullptr;
     };
@@ -61,7 +62,7 @@ private:
     void ShowDlg(std::size_t level);
     void Run(TOperation operation);
 
-    int FDocumentID = -1;
+    int FDocumentID = c_NullValue;
     TOperation FCheckAll = nullptr;
     std::array<TLevel, 3> FLevels;
 };

@@ -125,12 +125,13 @@ void TSelectBox::SelectSpeedButtonClick(TObject*) {
 }
 
 void TSelectBox::DodakSelectFromObjednavka(int aDocID, int aDodvID) {
-    SetUp(c_DodakFromObjednavka, {.DocumentID = aDocID, .WarehouseID = -1, .SupplierID = aDodvID, .Moment = {}},
+    SetUp(c_DodakFromObjednavka,
+          {.DocumentID = aDocID, .WarehouseID = c_NullValue, .SupplierID = aDodvID, .Moment = {}},
           &TSelectBox::DodakSelectFromObjednavkaCheck, &TSelectBox::DodakSelectFromObjednavkaShowDlg);
 }
 
 void TSelectBox::DodakSelectFromDodak(int aDocID, int aDodvID) {
-    SetUp(c_DodakFromDodak, {.DocumentID = aDocID, .WarehouseID = -1, .SupplierID = aDodvID, .Moment = {}},
+    SetUp(c_DodakFromDodak, {.DocumentID = aDocID, .WarehouseID = c_NullValue, .SupplierID = aDodvID, .Moment = {}},
           &TSelectBox::DodakSelectFromDodakCheck, &TSelectBox::DodakSelectFromDodakShowDlg);
 }
 
@@ -151,12 +152,14 @@ void TSelectBox::DodObjSelectFromDodak(int aDocID, int aSkldID, int aDodvID) {
 }
 
 void TSelectBox::DodObjSelectFromDodCenik(int aDocID, TDateTime aDate) {
-    SetUp(c_DodObjFromDodCenik, {.DocumentID = aDocID, .WarehouseID = -1, .SupplierID = -1, .Moment = aDate},
+    SetUp(c_DodObjFromDodCenik,
+          {.DocumentID = aDocID, .WarehouseID = c_NullValue, .SupplierID = c_NullValue, .Moment = aDate},
           &TSelectBox::DodObjSelectFromDodCenikCheck, &TSelectBox::DodObjSelectFromDodCenikShowDlg);
 }
 
 void TSelectBox::DodObjSelectFromDodavky(int aDocID, const AnsiString& aDodavatel, TDateTime aDate) {
-    SetUp(c_DodObjFromDodavky, {.DocumentID = aDocID, .WarehouseID = -1, .SupplierID = -1, .Moment = aDate},
+    SetUp(c_DodObjFromDodavky,
+          {.DocumentID = aDocID, .WarehouseID = c_NullValue, .SupplierID = c_NullValue, .Moment = aDate},
           &TSelectBox::DodObjSelectFromDodavkyCheck, &TSelectBox::DodObjSelectFromDodavkyShowDlg);
     FLine.Edit->setText(melvark::ToQString(aDodavatel));
     FLine.Edit->setEnabled(aDodavatel.empty());

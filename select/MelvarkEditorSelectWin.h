@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Exceptions.h"
+#include "host/Identifier.h"
 #include "host/Types.h"
 #include "select/SelectForm.h"
 #include "select/SourceTable.h"
@@ -78,7 +79,7 @@ private:
     RSourceArguments FArguments;
     TOperation FCheck = nullptr;
     TOperation FShowDlg = nullptr;
-    int FID = -1;
+    int FID = c_NullValue;
 
     TSelectLine FLine;
     TLabel* lblPrenest = nullptr;

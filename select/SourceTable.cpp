@@ -158,7 +158,7 @@ AnsiString LookupCondition(const RSourceSetup& setup, const RSourceArguments& ar
 }
 
 int PickedId(const AnsiString& key) {
-    return TextToInt(key).value_or(-1);
+    return TextToInt(key).value_or(c_NullValue);
 }
 
 } // namespace melvark

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/FormatSettings.h"
+#include "host/Identifier.h"
 #include "host/Types.h"
 
 #include <span>
@@ -10,9 +11,9 @@
 
 /// The numbers and the moment that a set-up was called with; -1 stands for none.
 struct RSourceArguments {
-    int DocumentID = -1;
-    int WarehouseID = -1;
-    int SupplierID = -1;
+    int DocumentID = c_NullValue;
+    int WarehouseID = c_NullValue;
+    int SupplierID = c_NullValue;
     TDateTime Moment{};
 };
 

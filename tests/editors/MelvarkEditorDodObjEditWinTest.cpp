@@ -58,7 +58,6 @@ TEST_F(DodObjEditorOpening, AnOrderAndATemplateDifferInTitleAndInTheNumbersOfSet
         const auto editor = open();
         EXPECT_EQ(editor->Caption(), kind.title);
         EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORNASTAVENINactiDef"), ElementsAre(HasSubstr(kind.settings)));
-        std::vector<AnsiString> placements;
         showAnd(*editor, [] {});
         EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORNASTAVENIUlozNastaveniOkna"),
                     ElementsAre(HasSubstr(AnsiString(kind.placement).substr(0, 16))));
@@ -302,7 +301,6 @@ TEST_F(DodObjEditorSource, ThePriceListOfADocumentWithoutASupplierIsAskedForAtTh
     for (const int none : {0, -1, -7}) {
         supplier_ = none;
         host_.connection.takeCalls();
-        RecordingLibraryManager lists;
         manager_.lookupAnswers.push_back(TLookupPick{"Vrba", "44"});
         ModalDriver dialog({}, [](QWidget& box) {
             EXPECT_EQ(box.windowTitle(), QStringLiteral("Výběr dodavatele"));

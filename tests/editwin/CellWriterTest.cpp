@@ -3,12 +3,8 @@
 #include "host/widgets/StringGrid.h"
 #include "tests/editwin/TestEditBox.h"
 
-#include <QAbstractItemModel>
 #include <QAction>
 #include <QMenu>
-#include <QSignalSpy>
-
-#include <stdexcept>
 
 namespace {
 
@@ -75,43 +71,6 @@ TEST_F(CellWriter, EveryColumnOfTheSameDataShowsTheValue) {
     form->show();
     cells().WriteTyped(c_NameData, 1, "Nýt");
     EXPECT_EQ(rowText(2), "Nýt|6|2||vedlejší|B2||y|Nýt");
-}
-
-TEST_F(CellWriter, ManyValuesAreShownOnceWhenAllAreWritten) {
-    open();
-    const QSignalSpy changes(grid().model(), &QAbstractItemModel::dataChanged);
-    cells().WriteMany([&] {
-        for (int row = 0; row < 3; ++row) {
-            cells().WriteTyped(c_CodeData, row, "K" + std::to_string(row));
-            cells().WriteDerived(c_PriceData, row, std::to_string(row));
-        }
-        EXPECT_EQ(grid().Cells(c_CodeCol, 2), "B2") << "not yet shown";
-        EXPECT_EQ(stored(c_CodeData, 1), "K1");
-    });
-    EXPECT_EQ(rowText(2), "Matice|6|1||vedlejší|K1||y");
-    EXPECT_EQ(rowText(3), "Podložka||2||Zrušený|K2||z");
-    EXPECT_EQ(changes.count(), 2) << "one for each column";
-}
-
-TEST_F(CellWriter, NestedWritingIsShownByTheOutermost) {
-    open();
-    cells().WriteMany([&] {
-        cells().WriteMany([&] { cells().WriteTyped(c_CodeData, 1, "inner"); });
-        EXPECT_EQ(grid().Cells(c_CodeCol, 2), "B2");
-    });
-    EXPECT_EQ(grid().Cells(c_CodeCol, 2), "inner");
-}
-
-TEST_F(CellWriter, WhatWasWrittenBeforeAnErrorIsShown) {
-    open();
-    EXPECT_THROW(cells().WriteMany([&] {
-        cells().WriteTyped(c_CodeData, 1, "K1");
-        throw std::runtime_error("refused");
-    }),
-                 std::runtime_error);
-    EXPECT_EQ(grid().Cells(c_CodeCol, 2), "K1");
-    cells().WriteTyped(c_CodeData, 2, "K2");
-    EXPECT_EQ(grid().Cells(c_CodeCol, 3), "K2") << "single values are shown at once again";
 }
 
 TEST_F(CellWriter, TheGridGetsTheStoresRowsWhenAllIsShown) {

@@ -67,6 +67,7 @@ TEST_F(LibraryItem, AnErrorOfTheEditorReachesTheHostAndTheEditorIsFreed) {
     host_.connection.procedure("MELVARKEDITORDodakCheckMaster")
         .answersCall(1, [&](const TProcedureCall&) -> TCallResult {
             form = QApplication::topLevelWidgets().value(0);
+            EXPECT_FALSE(form.isNull()) << "the form is built before the check";
             throw EDatabaseError("Dodací list 7 je uzavřen.");
         });
     const auto ownedByTheApplication = qApp->children().size();

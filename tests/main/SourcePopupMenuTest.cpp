@@ -105,6 +105,7 @@ TEST_F(SourcePopupMenu, AnEntryPickedByKeysOpensTheEditorWithItsCode) {
     });
     ModalDriver editor({}, [](QWidget& window) { window.close(); });
     EXPECT_FALSE(item_.Execute("DODAK", &dataSet_, nullptr));
+    EXPECT_TRUE(editor.hasActed());
     EXPECT_THAT(openedSettings(), ElementsAre("MELVARKEDITORNASTAVENINactiDef(a_TYPEDITACE=3) open"));
 }
 
@@ -115,6 +116,7 @@ TEST_F(SourcePopupMenu, AnEntryPickedByTheMouseOpensTheEditorWithItsCode) {
     });
     ModalDriver dialog({}, [](QWidget& window) { window.close(); });
     EXPECT_FALSE(item_.Execute("DODAK", &dataSet_, nullptr));
+    EXPECT_TRUE(dialog.hasActed());
     EXPECT_THAT(openedSettings(), ElementsAre("MELVARKEDITORNASTAVENINactiDef(a_TYPEDITACE=2) open"));
 }
 
@@ -132,6 +134,7 @@ TEST_F(SourcePopupMenu, AChoiceOfBeforeDoesNotCarryOver) {
     PopupDriver first([](QMenu& popup) { popup.actions()[2]->trigger(), dismiss(popup); });
     ModalDriver editor({}, [](QWidget& window) { window.close(); });
     item_.Execute("DODAK", &dataSet_, nullptr);
+    EXPECT_TRUE(editor.hasActed());
     EXPECT_THAT(host_.connection.takeCalls(), testing::Not(IsEmpty()));
     PopupDriver second(dismiss);
     EXPECT_FALSE(item_.Execute("DODAK", &dataSet_, nullptr));
