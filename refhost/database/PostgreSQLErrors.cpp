@@ -1,5 +1,6 @@
 #include "refhost/database/PostgreSQLErrors.h"
 
+#include "host/ValueText.h"
 #include "refhost/database/RefusalTable.h"
 
 #include <algorithm>
@@ -68,6 +69,13 @@ std::string field(const PGresult* result, int code) {
     return text == nullptr ? std::string() : std::string(text);
 }
 
+/// The same refusal about the row that its detail names: "row 2" and nothing else, as our function refuse_line says it.
+EDatabaseError aboutNamedRow(EDatabaseError refusal, std::string_view detail) {
+    constexpr std::string_view c_Word = "row ";
+    const auto row = detail.starts_with(c_Word) ? TextToInt(detail.substr(c_Word.size())) : std::nullopt;
+    return row && *row >= 0 ? refusal.AboutRow(*row) : refusal;
+}
+
 /// The server's code in the words of a refused opening, which are all that the client library keeps of it:
 /// "FATAL:  28P01: password …" in any language.
 std::string codeIn(std::string_view words) {
@@ -101,7 +109,8 @@ EPostgreSQLError statementError(const PGresult* result, std::string_view databas
     std::string words = field(result, PG_DIAG_MESSAGE_PRIMARY);
     const std::string more = details(sqlState, PQresultErrorMessage(result), statement);
     if (sqlState.starts_with("ML")) {
-        return {EDatabaseError(std::move(words), sqlState, more), sqlState};
+        const std::string detail = field(result, PG_DIAG_MESSAGE_DETAIL);
+        return {aboutNamedRow(EDatabaseError(std::move(words), sqlState, more), detail), sqlState};
     }
     if (const auto* constraint =
             std::ranges::find(c_Constraints, field(result, PG_DIAG_CONSTRAINT_NAME), &Constraint::Name);

@@ -40,12 +40,21 @@ std::pair<std::size_t, std::size_t> digitCounts(std::string_view decimal) {
     return {point, decimal.size() - point - 1};
 }
 
-void refuse(const SQLiteCall& call) {
+/// The refusal whose key stands at that argument and what it names behind it.
+EDatabaseError refusalAt(const SQLiteCall& call, std::size_t key) {
     std::vector<std::string> named;
-    for (std::size_t i = 1; i < call.count(); ++i) {
+    for (std::size_t i = key + 1; i < call.count(); ++i) {
         named.push_back(shownText(call.text(i).value_or("NULL")));
     }
-    throw refusal(call.text(0).value_or(std::string()), named);
+    return refusal(call.text(key).value_or(std::string()), named);
+}
+
+void refuse(const SQLiteCall& call) {
+    throw refusalAt(call, 0);
+}
+
+void refuseLine(const SQLiteCall& call) {
+    throw refusalAt(call, 1).AboutRow(call.integer(0));
 }
 
 void parseNumber(const SQLiteCall& call) {
@@ -259,6 +268,7 @@ struct Entry {
 // statement, and a refusal would come for rows that the statement never reaches.
 constexpr Entry c_Functions[] = {
     {"refuse", -1, sqliteFunction<refuse>},
+    {"refuse_line", -1, sqliteFunction<refuseLine>},
     {"parse_number", 1, sqliteFunction<parseNumber>},
     {"parse_number", 2, sqliteFunction<parseNumber>},
     {"parse_number", 3, sqliteFunction<parseNumber>},

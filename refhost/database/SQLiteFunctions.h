@@ -9,6 +9,7 @@ class SQLiteSession;
 /// Gives the session the SQL functions on which its procedures stand; `session` has to outlive its handle's use.
 ///
 ///     refuse(key, thing, …)                  ends the call with a refusal of the table, which names the things
+///     refuse_line(place, key, thing, …)      likewise about a row of the save, counted from 0 as the rows were sent
 ///     parse_number(text[, label[, decimals]])  canonical decimal text; refuses, naming the label, what is no number
 ///     parse_date(text[, label])              ISO date
 ///     parse_moment(text)                     ISO date and time

@@ -1,3 +1,4 @@
+#include "host/Exceptions.h"
 #include "tests/database/ContractCompany.h"
 #include "tests/database/Staging.h"
 
@@ -25,6 +26,16 @@ std::string savedRow(Database& database, std::int64_t note, const Cells& cells, 
     beginSave(database);
     EXPECT_EQ(stageNoteRow(database, cells), "");
     return saveNote(database, id(note), sources);
+}
+
+/// What the closing call refuses and the row that it names, counted from 0; "none" when it names none.
+std::string refusedRow(Database& database) {
+    try {
+        database.Execute({"MELVARKEDITORDodakTempUloz", {{"a_DODKID", id(c_OpenNote)}}, false});
+        return "accepted";
+    } catch (const EDatabaseError& error) {
+        return error.Code() + " row " + (error.Row() ? std::to_string(*error.Row()) : "none");
+    }
 }
 
 std::string lines(Database& database, std::int64_t note) {
@@ -247,6 +258,48 @@ TEST_P(NoteSavingContract, AnOrderLineThatWasDeletedMeanwhileIsRefused) {
     EXPECT_EQ(saveNote(*database, id(c_OpenNote)),
               "ML049 Řádek objednávky „101“ neexistuje. Načtěte položky z objednávky znovu.");
     EXPECT_EQ(lines(*database, c_OpenNote), "1 | Čaj černý | Hlavní sklad | 1 | 12 % | -");
+}
+
+TEST_P(NoteSavingContract, ARefusalOfTheClosingCallNamesTheRowAsItWasSent) {
+    const auto database = ownCompany();
+    Cells rated = item("Sirup", "1");
+    rated["a_DPH"] = "15 %";
+    beginSave(*database);
+    EXPECT_EQ(stageNoteRow(*database, item("Sirup", "1")), "");
+    EXPECT_EQ(stageNoteRow(*database, {}), "");                 // ignored, and counted all the same
+    EXPECT_EQ(stageNoteRow(*database, item("Chléb", "0")), ""); // becomes no line
+    EXPECT_EQ(stageNoteRow(*database, rated), "");
+    EXPECT_EQ(stageNoteRow(*database, rated), "");
+    EXPECT_EQ(refusedRow(*database), "ML053 row 3");
+
+    // The next save counts from its own beginning, whether the last one was refused or succeeded.
+    const auto save = [&](const std::vector<Cells>& cells) {
+        beginSave(*database);
+        for (const Cells& row : cells) {
+            EXPECT_EQ(stageNoteRow(*database, row), "");
+        }
+        return refusedRow(*database);
+    };
+    EXPECT_EQ(save({item("Sirup", "1"), rated}), "ML053 row 1");
+    EXPECT_EQ(save({item("Cukr krystal", "7.5", "103"), item("Mouka hladká", "60", "101")}), "accepted");
+    // Both order lines are complete now: the row that came first is named, whichever order line was made first.
+    EXPECT_EQ(save({{}, item("Cukr krystal", "1", "103"), item("Mouka hladká", "1", "101")}), "ML054 row 1");
+}
+
+TEST_P(NoteSavingContract, TheRowOfAnOrderLineThatIsGoneIsNamed) {
+    const auto database = ownCompany();
+    beginSave(*database);
+    for (const Cells& row :
+         {Cells{}, item("Sirup", "1"), item("Cukr krystal", "1", "103"), item("Mouka hladká", "1", "101")}) {
+        EXPECT_EQ(stageNoteRow(*database, row), "");
+    }
+    database->runScript("delete from DODOBJPOL where ID in (101, 103)");
+    EXPECT_EQ(refusedRow(*database), "ML049 row 2");
+
+    beginSave(*database);
+    EXPECT_EQ(stageNoteRow(*database, item("Sirup", "1")), "");
+    database->runScript("update DODAK set OTEVRENO = 0 where ID = 2");
+    EXPECT_EQ(refusedRow(*database), "ML011 row none");
 }
 
 TEST_P(NoteSavingContract, WhatWasDeletedAfterARowWasCheckedRefusesTheSave) {

@@ -178,6 +178,35 @@ TEST(DeliveryNoteSession, ANoteClosedMeanwhileIsRefusedAndTheWorkIsStillThere) {
     EXPECT_EQ(storedLines(session).size(), 2u);
 }
 
+TEST(DeliveryNoteSession, ALineThatOnlyTheClosingCallRefusesIsNamedAndBecomesTheCurrentOne) {
+    HostSession session;
+    session.startEditor(QStringLiteral("DODAK,DODOBJ"), c_OpenNote);
+    session.waitForWindow(QStringLiteral("Výběr objednávky"));
+    session.type(QString::fromLatin1(tinycompany::c_OrderNumber));
+    session.press({QStringLiteral("Return")});
+    session.waitForWindow(c_EditorTitle);
+    session.changeDatabase("update DODOBJPOL set KOMPLETNI = 1 where ID = 2");
+    session.press({QStringLiteral("ctrl+Return")});
+    session.waitForTrace(R"({"error":)");
+    EXPECT_EQ(session.trace().back(),
+              shownError("Řádek 2: Položka „Cukr“ objednávky „OV2027-000001“ už je dodaná celá. Načtěte položky z "
+                         "objednávky znovu."));
+    EXPECT_THAT(storedLines(session), IsEmpty());
+    session.press({QStringLiteral("Return")}); // the message is read
+    session.waitForWindow(c_EditorTitle);
+    session.changeDatabase("update DODOBJPOL set KOMPLETNI = 0 where ID = 2");
+    session.type(QStringLiteral("1")); // into the quantity of the line where the cursor stands
+    session.press({QStringLiteral("ctrl+Return")});
+    EXPECT_EQ(session.finish(), 0);
+    // 4 × 10.00 and 1 × 18.00, with 21 % VAT.
+    EXPECT_THAT(
+        storedLines(session),
+        ElementsAreArray({
+            R"({"PORADI":"1","SKLPID":"1","MNOZSTVI":"4","JEDNCENABSESLEVOU":"10","CENASSESLEVOU":"48.4","DOBSID":"1"})",
+            R"({"PORADI":"2","SKLPID":"2","MNOZSTVI":"1","JEDNCENABSESLEVOU":"18","CENASSESLEVOU":"21.78","DOBSID":"2"})",
+        }));
+}
+
 TEST(DeliveryNoteSession, AClosedNoteOpensNoEditorAndSaysWhy) {
     HostSession session;
     session.startEditor(c_FromTemplate, tinycompany::c_ClosedNote);

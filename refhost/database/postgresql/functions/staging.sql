@@ -1,7 +1,8 @@
 -- The rows of a save that is under way: temporary tables of the session, which MELVARKEDITORResetTemp makes. A second
 -- connection of the same user has its own. The session's setting melvark.staging is the state of the save: empty until
 -- its rows are emptied, then 'open'; 'refused' after a failure, until the rows are emptied again. A failed call cannot
--- note its own failure, for it is rolled back: the connection does.
+-- note its own failure, for it is rolled back: the connection does. melvark.last_row is the place of the note's row that
+-- was sent last, counted from 0: a setting and no sequence, for it goes back with a call that is rolled back.
 
 -- The tables of the session that have the names of ours. IS_OWN: they are ours: whoever may make temporary tables could
 -- have made others of their names, with triggers that would run with our rights. IS_OPEN: and a save is under way. A view

@@ -47,6 +47,7 @@ declare
     is_open boolean;
     order_line integer;
     shelf_life date;
+    place integer;
 begin
     -- All that a good row needs is looked up at once; what was not found is looked at again, for its refusal. Calls of
     -- other functions cost a row most of its time here.
@@ -58,6 +59,7 @@ begin
     if is_open is not true then
         perform refuse_closed_staging();
     end if;
+    place := set_config('melvark.last_row', (current_setting('melvark.last_row')::integer + 1)::text, false);
     if typed(concat(order_line_id, a_SKLADPOL, a_SKLAD, a_DPH, a_TRVANLIVOST, array_to_string(texts, ''))) is null then
         return;
     end if;
@@ -87,8 +89,8 @@ begin
         if not is_balanced_note_line(numbers) then
             perform refuse_unbalanced_note_line(item, numbers);
         end if;
-        insert into pg_temp.NOTE_STAGED (DOBSID, SKLPID, SKLDID, DPHID, NUMBERS, TRVANLIVOST)
-        values (order_line, item, warehouse, rate, numbers, shelf_life);
+        insert into pg_temp.NOTE_STAGED (PLACE, DOBSID, SKLPID, SKLDID, DPHID, NUMBERS, TRVANLIVOST)
+        values (place, order_line, item, warehouse, rate, numbers, shelf_life);
     end if;
 end
 $$;

@@ -32,19 +32,19 @@ begin
     perform refuse_own_note(a_DODKID, a_DODKID_ZDROJ);
     perform refuse_unknown_source(a_DODKID_ZDROJ, a_DDOBID_ZDROJ);
 
-    perform refuse('ML053', r.NAZEV, date_text(d.DATUM))
+    perform refuse_line(s.PLACE, 'ML053', r.NAZEV, date_text(d.DATUM))
     from pg_temp.NOTE_STAGED s
     join DPH r on r.ID = s.DPHID
     join DODAK d on d.ID = a_DODKID
     where d.DATUM < r.PLATIOD or d.DATUM > r.PLATIDO
     order by s.PLACE;
 
-    perform refuse('ML049', s.DOBSID::text)
+    perform refuse_line(s.PLACE, 'ML049', s.DOBSID::text)
     from pg_temp.NOTE_STAGED s
     where s.DOBSID is not null and not exists (select from DODOBJPOL p where p.ID = s.DOBSID)
     order by s.PLACE;
 
-    perform refuse('ML054', i.NAZEV, o.CISLO)
+    perform refuse_line(s.PLACE, 'ML054', i.NAZEV, o.CISLO)
     from pg_temp.NOTE_STAGED s
     join DODOBJPOL p on p.ID = s.DOBSID and p.KOMPLETNI = 1
     join DODOBJEDNAVKA o on o.ID = p.DDOBID

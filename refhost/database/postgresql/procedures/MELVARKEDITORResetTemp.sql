@@ -2,10 +2,11 @@
 create function MELVARKEDITORResetTemp() returns void
 language plpgsql as $$
 begin
-    -- Checked rows of a delivery note that become lines, in the order in which they came. NUMBERS as note_line_numbers
+    -- Checked rows of a delivery note that become lines, in the order in which they came. The place counts every row that
+    -- was sent, so that a refusal of the closing call names the row that the editor sent. NUMBERS as note_line_numbers
     -- gives them.
     create temporary table if not exists NOTE_STAGED (
-        PLACE integer generated always as identity primary key,
+        PLACE integer primary key,
         DOBSID integer, SKLPID integer, SKLDID integer, DPHID integer, NUMBERS numeric[], TRVANLIVOST date
     );
     -- Checked quantities of an order or template, each of which becomes a line.
@@ -24,6 +25,6 @@ begin
     if exists (select from pg_temp.NOTE_STAGED) or exists (select from pg_temp.ORDER_STAGED) then
         truncate pg_temp.NOTE_STAGED, pg_temp.ORDER_STAGED;
     end if;
-    perform set_config('melvark.staging', 'open', false);
+    perform set_config('melvark.last_row', '-1', false), set_config('melvark.staging', 'open', false);
 end
 $$;

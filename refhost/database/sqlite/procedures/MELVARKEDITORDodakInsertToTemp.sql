@@ -32,6 +32,8 @@
 
 select refuse_closed_staging() as refusal;
 
+update STAGING set LASTROW = LASTROW + 1;
+
 delete from NOTE_SENT;
 
 insert into NOTE_SENT (DOBSID, SKLADPOL, SKLAD, DPH, MNOZSTVI, SLEVA,
@@ -72,12 +74,12 @@ from NOTE_SENT s
 join DODOBJPOL p on p.ID = s.ORDERLINEID
 where p.SKLPID <> s.SKLPID;
 
-insert into NOTE_STAGED (DOBSID, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA,
+insert into NOTE_STAGED (PLACE, DOBSID, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA,
                          JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, JEDNCENASSESLEVOU,
                          JEDNCENABBEZSLEVY, JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY,
                          CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU,
                          CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, CENASBEZSLEVY)
-select ORDERLINEID, SKLPID, SKLDID, DPHID,
+select (select LASTROW from STAGING), ORDERLINEID, SKLPID, SKLDID, DPHID,
        coalesce(parse_number(MNOZSTVI, 'Množství', 6), '0'), parse_number(SLEVA, 'Sleva', 2),
        parse_number(JEDNCENABSL, 'Jednotková cena', 6), parse_number(JEDNDPHASL, 'Jednotková cena', 6),
        parse_number(JEDNDPHBSL, 'Jednotková cena', 6), parse_number(JEDNCENASSL, 'Jednotková cena', 6),

@@ -20,19 +20,19 @@ select refuse_own_note(:a_DODKID, :a_DODKID_ZDROJ) as refusal;
 
 select refuse_unknown_source(:a_DODKID_ZDROJ, :a_DDOBID_ZDROJ) as refusal;
 
-select refuse('ML053', r.NAZEV, date_text(d.DATUM)) as refusal
+select refuse_line(l.PLACE, 'ML053', r.NAZEV, date_text(d.DATUM)) as refusal
 from NOTE_LINE l
 join DPH r on r.ID = l.DPHID
 join DODAK d on d.ID = :a_DODKID
 where d.DATUM < r.PLATIOD or d.DATUM > r.PLATIDO
 order by l.PLACE;
 
-select refuse('ML049', DOBSID) as refusal
+select refuse_line(PLACE, 'ML049', DOBSID) as refusal
 from NOTE_LINE
 where DOBSID is not null and DOBSID not in (select ID from DODOBJPOL)
 order by PLACE;
 
-select refuse('ML054', i.NAZEV, o.CISLO) as refusal
+select refuse_line(l.PLACE, 'ML054', i.NAZEV, o.CISLO) as refusal
 from NOTE_LINE l
 join DODOBJPOL p on p.ID = l.DOBSID and p.KOMPLETNI = 1
 join DODOBJEDNAVKA o on o.ID = p.DDOBID

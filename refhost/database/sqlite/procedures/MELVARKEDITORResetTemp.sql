@@ -2,4 +2,4 @@
 
 delete from NOTE_STAGED;
 delete from ORDER_STAGED;
-update STAGING set STATE = 'open';
+update STAGING set STATE = 'open', LASTROW = -1;

@@ -1,9 +1,9 @@
 -- The rows of a save that is under way. They belong to the session: a second connection of the same user has its own.
 
 -- One row, the state of the save: 'closed' until its rows are emptied, then 'open'; 'refused' after a failure, until the
--- rows are emptied again.
-create temp table STAGING (STATE text not null);
-insert into STAGING (STATE) values ('closed');
+-- rows are emptied again. LASTROW is the place of the note's row that was sent last, counted from 0.
+create temp table STAGING (STATE text not null, LASTROW integer not null);
+insert into STAGING (STATE, LASTROW) values ('closed', -1);
 
 -- The row of a delivery note as it was sent: blanks are gone, empty texts are null. The identifiers are those of its
 -- names, null for a name that does not exist.
@@ -17,7 +17,8 @@ create temp table NOTE_SENT (
     TRVANLIVOST text
 );
 
--- Checked rows of a delivery note, in the order in which they came.
+-- Checked rows of a delivery note, in the order in which they came. The place counts every row that was sent, so that a
+-- refusal of the closing call names the row that the editor sent.
 create temp table NOTE_STAGED (
     PLACE integer primary key,
     DOBSID integer, SKLPID integer, SKLDID integer, DPHID integer, MNOZSTVI text, SLEVA text,
