@@ -2,6 +2,7 @@
 #include "refhost/database/EmbeddedSql.h"
 #include "tests/database/Engines.h"
 #include "tests/database/PrivateServer.h"
+#include "tests/database/ServerCompany.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -37,6 +38,29 @@ std::string nameOf(const testing::TestParamInfo<std::string>& info) {
 }
 
 INSTANTIATE_TEST_SUITE_P(PostgreSQL, EveryProcedure, testing::ValuesIn(procedures()), nameOf);
+
+TEST(PostgreSQLProcedure, ADetailThatIsARowAndNothingElseSaysWhatARefusalIsAbout) {
+    const ServerCompany company;
+    const auto database = company.open();
+    database->runScript("create function melvark.MELVARKEDITORTestRefuse(a_CODE text default null,"
+                        "                                                a_DETAIL text default null)"
+                        "returns void language plpgsql as $$ begin"
+                        "    raise exception using errcode = a_CODE, message = 'Tento řádek ne.', detail = a_DETAIL;"
+                        "end $$");
+    const auto rowOf = [&](const char* code, const char* detail) {
+        const auto row =
+            failure([&] {
+                database->Execute(serverCall("MELVARKEDITORTestRefuse", {{"a_CODE", code}, {"a_DETAIL", detail}}));
+            }).Row();
+        return row ? std::to_string(*row) : "none";
+    };
+    EXPECT_EQ(rowOf("ML501", "row 0"), "0");
+    EXPECT_EQ(rowOf("ML501", "row 1999"), "1999");
+    for (const char* detail : {"", "row", "row ", "row -1", "row 2 of 3", "row two", "row 99999999999", "2"}) {
+        EXPECT_EQ(rowOf("ML501", detail), "none") << detail;
+    }
+    EXPECT_EQ(rowOf("P0001", "row 2"), "none") << "not a refusal";
+}
 
 } // namespace
 } // namespace refhost
