@@ -2,6 +2,8 @@
 
 #include "host/widgets/Vocabulary.h"
 
+#include <QPixmap>
+
 #include <string_view>
 
 class QAbstractButton;
