@@ -4,13 +4,13 @@
 #include "editwin/model/NamedSettings.h"
 #include "host/Types.h"
 
+#include <QAction>
 #include <QObject>
 #include <QPointer>
 
 #include <functional>
 #include <string_view>
 
-class QAction;
 class QActionGroup;
 class QCheckBox;
 class QMenu;
