@@ -28,8 +28,8 @@ std::vector<ScreenArea> Screens() {
 /// The placement that a stored document wants, brought within reach; nothing when it says nothing of one.
 std::optional<WindowPlacement> StoredPlace(const AnsiString& document, const TForm& form) {
     const QRect current = form.geometry();
-    const auto wanted = ReadWindowPlacement(document, {current.x(), current.y(), current.width(), current.height(),
-                                                       form.windowState().testFlag(Qt::WindowMaximized)});
+    const auto wanted = ReadWindowPlacement(
+        document, {.Left = current.x(), .Top = current.y(), .Width = current.width(), .Height = current.height()});
     const int titleHeight = form.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &form);
     return wanted ? std::optional(ReachablePlace(*wanted, Screens(), titleHeight)) : std::nullopt;
 }
@@ -54,7 +54,9 @@ void WindowPlacementKeeper::Load() {
         return;
     }
     FForm.setGeometry(placement->Left, placement->Top, placement->Width, placement->Height);
-    FForm.setWindowState(placement->Maximized ? Qt::WindowMaximized : Qt::WindowNoState);
+    if (placement->Maximized) {
+        FForm.setWindowState(*placement->Maximized ? Qt::WindowMaximized : Qt::WindowNoState);
+    }
 }
 
 void WindowPlacementKeeper::Save() const {

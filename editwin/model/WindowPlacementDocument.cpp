@@ -33,7 +33,7 @@ AnsiString WriteWindowPlacement(const WindowPlacement& placement) {
     for (const auto& [name, member] : c_Numbers) {
         root.CreateTag(name).SetValue(std::to_string(placement.*member));
     }
-    root.CreateTag(c_Maximized).SetValue(placement.Maximized ? "1" : "0");
+    root.CreateTag(c_Maximized).SetValue(placement.Maximized.value_or(false) ? "1" : "0");
     return OutputXMLStr(root);
 }
 
@@ -43,6 +43,7 @@ std::optional<WindowPlacement> ReadWindowPlacement(std::string_view document, co
         return std::nullopt;
     }
     WindowPlacement placement = current;
+    placement.Maximized.reset();
     for (const auto& [name, member] : c_Numbers) {
         if (const TXMLTag* element = root->GetTagByName(name)) {
             placement.*member = TextToInt(element->GetValue()).value_or(current.*member);

@@ -14,7 +14,7 @@ struct WindowPlacement {
     int Top = 0;
     int Width = 0;
     int Height = 0;
-    bool Maximized = false;
+    std::optional<bool> Maximized = {}; ///< Nothing when a document that was read does not say; always written.
 
     bool operator==(const WindowPlacement&) const = default;
 };
@@ -22,9 +22,10 @@ struct WindowPlacement {
 /// The document of a placement.
 AnsiString WriteWindowPlacement(const WindowPlacement& placement);
 
-/// The placement that a document wants: `current` with what the document says. An element that is missing, or whose
-/// text is no integer, keeps the current value; "maximized" is true for "1" and false for any other text. Nothing when
-/// the text is empty, not well-formed or another document: the window is left as it is.
+/// The placement that a document wants: the edges and sizes of `current` with what the document says. A number that is
+/// missing, or whose text is no integer, keeps the current value; "maximized" is true for "1", false for any other text
+/// and without a value when it is missing: the window's state is left alone. Nothing at all when the text is empty, not
+/// well-formed or another document: the window is left as it is.
 std::optional<WindowPlacement> ReadWindowPlacement(std::string_view document, const WindowPlacement& current);
 
 } // namespace melvark

@@ -8,9 +8,9 @@ using melvark::ReadWindowPlacement;
 using melvark::WindowPlacement;
 using melvark::WriteWindowPlacement;
 
-const WindowPlacement current{.Left = 100, .Top = 200, .Width = 790, .Height = 400, .Maximized = false};
+const WindowPlacement current{.Left = 100, .Top = 200, .Width = 790, .Height = 400};
 
-/// "left top width height" and " maximized", or "nothing".
+/// "left top width height", then " maximized" or " normal" when that is said; or "nothing".
 AnsiString placementText(const std::optional<WindowPlacement>& placement) {
     if (!placement) {
         return "nothing";
@@ -19,7 +19,7 @@ AnsiString placementText(const std::optional<WindowPlacement>& placement) {
     for (const int number : {placement->Left, placement->Top, placement->Width, placement->Height}) {
         text += (text.empty() ? "" : " ") + std::to_string(number);
     }
-    return text + (placement->Maximized ? " maximized" : "");
+    return text + (!placement->Maximized ? "" : *placement->Maximized ? " maximized" : " normal");
 }
 
 TEST(WindowPlacementDocument, ElementsStandInTheirFixedOrder) {
@@ -32,7 +32,7 @@ TEST(WindowPlacementDocument, ElementsStandInTheirFixedOrder) {
 }
 
 TEST(WindowPlacementDocument, WindowThatIsNotMaximisedIsWrittenAsZero) {
-    EXPECT_NE(WriteWindowPlacement(current).find("<maximized>0</maximized>"), AnsiString::npos);
+    EXPECT_NE(WriteWindowPlacement({.Maximized = false}).find("<maximized>0</maximized>"), AnsiString::npos);
 }
 
 TEST(WindowPlacementDocument, WhatIsWrittenIsReadBack) {
@@ -52,7 +52,7 @@ const ReadingRow readingRows[] = {
      "1 2 803 404 maximized"},
     {"a layout of lines and blanks", "<window>\n  <left>1</left>\n  <top>2</top>\n</window>", "1 2 790 400"},
     {"only maximized", "<window><maximized>1</maximized></window>", "100 200 790 400 maximized"},
-    {"only not maximized", "<window><maximized>0</maximized></window>", "100 200 790 400"},
+    {"only not maximized", "<window><maximized>0</maximized></window>", "100 200 790 400 normal"},
     {"missing elements leave what is", "<window><top>2</top><height>404</height></window>", "100 2 790 404"},
     {"an empty window", "<window/>", "100 200 790 400"},
     {"bad numbers leave what is",
@@ -61,7 +61,8 @@ const ReadingRow readingRows[] = {
     {"a window may stand left of the main screen", "<window><left>-1280</left></window>", "-1280 200 790 400"},
     {"sizes are not limited here; the form's constraints do that", "<window><width>5</width></window>",
      "100 200 5 400"},
-    {"any other text of maximized means normal", "<window><maximized>true</maximized></window>", "100 200 790 400"},
+    {"any other text of maximized means normal", "<window><maximized>true</maximized></window>",
+     "100 200 790 400 normal"},
     {"foreign elements are passed over", "<window><colour>red</colour><left>1</left></window>", "1 200 790 400"},
     {"another document", "<settings><left>1</left></settings>", "nothing"},
     {"the root's name is compared with regard to case", "<Window><left>1</left></Window>", "nothing"},
@@ -77,13 +78,11 @@ TEST(WindowPlacementDocument, ReadingTakesWhatTheDocumentSaysAndLeavesTheRest) {
     }
 }
 
-TEST(WindowPlacementDocument, MaximisedWindowStaysSoWhenTheDocumentSaysNothing) {
+TEST(WindowPlacementDocument, WithoutTheElementNothingIsSaidOfTheState) {
     WindowPlacement maximized = current;
     maximized.Maximized = true;
 
-    EXPECT_EQ(placementText(ReadWindowPlacement("<window/>", maximized)), "100 200 790 400 maximized");
-    EXPECT_EQ(placementText(ReadWindowPlacement("<window><maximized>no</maximized></window>", maximized)),
-              "100 200 790 400");
+    EXPECT_EQ(placementText(ReadWindowPlacement("<window/>", maximized)), "100 200 790 400");
 }
 
 } // namespace
