@@ -96,7 +96,7 @@ void TDodakEditBox::FillGridFromSablona(bool aPrenesMnozstvi, bool aPrenesCeny) 
 
 bool TDodakEditBox::PrepocetCen(int aCol, int aRow, const AnsiString&) {
     const RecalculationRequest request{
-        .Row = RowToDataGridRow(aRow), .FocusKey = GetVisibleColumn(aCol).Name, .RecalculatesAll = GetPrepocetCen()};
+        .Row = RowToDataGridRow(aRow), .FocusKey = CallbackKey(aCol), .RecalculatesAll = GetPrepocetCen()};
     for (const RecalculatedCell& cell : Recalculate(DataGrid(), Columns(), request, CurrentHost().FormatSettings())) {
         Cells().WriteDerived(cell.DataColumn, request.Row, cell.Text);
     }

@@ -71,6 +71,7 @@ void InPlaceEditing::ShowEditor(int col, int row, Reach reach) {
     FEditCol = col;
     FEditRow = row;
     FOpened = {.Editor = FSharedEdit,
+               .Key = column->Name,
                .DataColumn = column->DataColumn,
                .StoreRow = FEditing.Rows.StoreRow(row),
                .DataType = column->DataType,
@@ -183,6 +184,13 @@ void InPlaceEditing::FollowOpenedCell() {
         FEditCol = shownAt.empty() ? 0 : shownAt.front();
     }
     FEditRow = FEditing.Rows.GridRow(FOpened.StoreRow);
+}
+
+AnsiString InPlaceEditing::CallbackKey(int gridCol) const {
+    if (const RColumn* const column = FEditing.ColumnAt(gridCol)) {
+        return column->Name;
+    }
+    return gridCol == FEditCol ? FOpened.Key : AnsiString();
 }
 
 void InPlaceEditing::ReturnToEditCell() {

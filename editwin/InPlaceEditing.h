@@ -83,6 +83,9 @@ public:
     /// The cell that was opened last; column or row 0 once the open one is no longer shown.
     int EditCol() const { return FEditCol; }
     int EditRow() const { return FEditRow; }
+    /// The key of the column that a callback's grid column means: the one that stands there, or the opened one when the
+    /// edited column is shown no longer (grid column 0). Empty when there is neither.
+    AnsiString CallbackKey(int gridCol) const;
     /// The edited column stands elsewhere.
     void SetEditCol(int col) { FEditCol = col; }
 
@@ -92,6 +95,7 @@ private:
     /// The open cell, as it stood when it was opened: the column list may change before it is committed.
     struct OpenedCell {
         QWidget* Editor = nullptr; ///< Null while no cell is open.
+        AnsiString Key;
         int DataColumn = -1;
         int StoreRow = 0;
         TColumnsDataType DataType = cdtString;

@@ -183,6 +183,10 @@ RColumn TEditBox::GetDataColumn(int dataIndex) const {
     return DataColumnSettings(FHelpers->Editing.Active, dataIndex);
 }
 
+AnsiString TEditBox::CallbackKey(int aCol) const {
+    return FHelpers->Keeper.CallbackKey(aCol);
+}
+
 int TEditBox::RowToDataGridRow(int row) const {
     return FHelpers->Editing.Rows.StoreRow(row);
 }

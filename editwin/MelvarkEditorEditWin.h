@@ -81,6 +81,8 @@ public:
     /// Falls back to the default column when the active list lacks the name.
     RColumn GetColumnSettings(const AnsiString& name) const;
     RColumn GetDataColumn(int dataIndex) const;
+    /// The key of the column that a callback was called for: also when its cell was hidden between opening and commit.
+    AnsiString CallbackKey(int aCol) const;
     int RowToDataGridRow(int row) const;
     const melvark::RowView& Rows() const;
     /// The columns in force. The grid still pictures others after a setting was deleted, until they are laid out.

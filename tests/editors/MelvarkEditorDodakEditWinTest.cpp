@@ -368,6 +368,30 @@ TEST_F(DodakEditorPrices, InAnotherRowOfMovedAndHiddenColumnsTheTypedCellAndItsL
     });
 }
 
+TEST_F(DodakEditorPrices, ACellWhoseColumnWasHiddenWhileItWasTypedIsStillTheOneThatWasEdited) {
+    databaseReturns({"JEDNCENABSESLEVOU", "CENABSESLEVOU"}, {"7,5", "30,00"});
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        for (int cell = 0; openAt(*editor) != "CENABSESLEVOU in row 2" && cell < 20; ++cell) {
+            type(*editor, "");
+        }
+        ASSERT_EQ(openAt(*editor), "CENABSESLEVOU in row 2");
+        QTest::keyClicks(editor->ActiveEditor(), QStringLiteral("30"));
+        editor->LoadColumnsSettingsFromXml("<settings><columns><column><name>CENABSESLEVOU</name><visible>0</visible>"
+                                           "</column></columns></settings>");
+        editor->ApplyColumnsSettingsToGrid();
+        ASSERT_EQ(editor->GetColumnByName("CENABSESLEVOU"), 0);
+        QTest::keyClick(editor->ActiveEditor(), Qt::Key_Return);
+        EXPECT_THAT(host_.connection.calls(),
+                    ElementsAre(AllOf(HasSubstr("a_ZMENENEBUNKY=\"CENABSESLEVOU;\""),
+                                      HasSubstr("a_FOCUS=\"CENABSESLEVOU\""), HasSubstr("a_CENABSESLEVOU=30, "))));
+        EXPECT_EQ(row(*editor, 2, {"SKLADPOL", "JEDNCENABSESLEVOU"}), "Žitný chléb | 7,5");
+        EXPECT_EQ(stored(*editor, 1, "CENABSESLEVOU") + " | " + stored(*editor, 2, "CENABSESLEVOU"), "190,00 | 30,00");
+        EXPECT_TRUE(isModified(*editor, 2, "CENABSESLEVOU"));
+        EXPECT_EQ(editor->StringGrid->Cells(0, 2), "") << "the indicator column stays empty";
+    });
+}
+
 TEST_F(DodakEditorPrices, TheSwitchTravelsWithEachCall) {
     const auto editor = open();
     showAnd(*editor, [&] {

@@ -73,6 +73,24 @@ TEST_F(OpenedCell, OfTwoColumnsWithTheSameDataTheEditedOneIsReported) {
     EXPECT_EQ(rowText(2), "42|42|Matice|2||vedlejší|B2||y");
 }
 
+TEST_F(OpenedCell, ACallbacksColumnHasItsKeyWhetherItIsShownOrNot) {
+    open();
+    EXPECT_EQ(form->CallbackKey(c_CountCol), "POCET");
+    EXPECT_EQ(form->CallbackKey(0), "") << "the open cell is shown";
+    std::vector<AnsiString> keys;
+    log.answer = [&] {
+        keys.push_back(form->CallbackKey(form->EditCol()));
+        return true;
+    };
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("42"));
+    form->LoadColumnsSettingsFromXml("<settings><columns><column><name>POCET</name><visible>0</visible></column>"
+                                     "</columns></settings>");
+    ASSERT_TRUE(form->HideEditor());
+    EXPECT_THAT(log.lines, ElementsAre("0,2=42"));
+    EXPECT_THAT(keys, ElementsAre("POCET"));
+}
+
 TEST(CommitAnswer, ARefusedValueAndACommitAtWorkAreTwoAnswers) {
     RecordingHost host;
     const TScopedHost installed(host);
