@@ -63,6 +63,8 @@ TEST_P(SourceChecksContract, AnOrderForANoteIsRefusedInWords) {
               "ML021 Objednávka „7“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.");
     EXPECT_EQ(orderForNote(id(c_OpenNote), text("OBJ-10"), id(c_Order)),
               "ML022 Zapsáno je „OBJ-10“, ale vybráno bylo „OBJ-1“. Vyberte ze seznamu znovu.");
+    EXPECT_EQ(orderForNote(id(c_OpenNote), text("OBJ-1"), id(c_EarlierOrder)), // the picked one comes second
+              "ML022 Zapsáno je „OBJ-1“, ale vybráno bylo „OBJ-10“. Vyberte ze seznamu znovu.");
     EXPECT_EQ(orderForNote(id(c_OpenNote), text("OBJ-3"), c_None),
               "ML024 Objednávka „OBJ-3“ patří jinému dodavateli než tento doklad. Vyberte ze seznamu doklad stejného "
               "dodavatele.");
@@ -167,6 +169,8 @@ TEST_P(SourceChecksContract, ANoteForAnOrder) {
     EXPECT_EQ(noteForOrder(id(c_OrderOfBranch), text("DL-1"), c_None), // none will do: the fault of the lowest id
               "ML025 Dodací list „DL-1“ patří jinému skladu než tento doklad. Vyberte ze seznamu doklad stejného "
               "skladu.");
+    EXPECT_EQ(noteForOrder(id(c_Order), text("DL-2"), id(c_SameDayNote)),
+              "ML022 Zapsáno je „DL-2“, ale vybráno bylo „DL-6“. Vyberte ze seznamu znovu.");
     EXPECT_EQ(noteForOrder(id(c_Order), text("DL-99"), c_None),
               "ML021 Dodací list „DL-99“ neexistuje. Opravte zápis, nebo vyberte ze seznamu.");
 }
