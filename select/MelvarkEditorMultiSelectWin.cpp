@@ -2,11 +2,11 @@
 
 #include "host/Identifier.h"
 #include "host/LiveData.h"
-#include "host/widgets/Text.h"
 
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include <array>
 #include <functional>
 
 namespace {
@@ -14,6 +14,7 @@ namespace {
 constexpr int c_MinimumWidth = 400;
 constexpr int c_Height = 170;
 constexpr int c_LineSpacing = 3;
+constexpr const char* c_DocumentParam = "a_DDOBIDMASTER";
 
 /// What differs between the levels.
 struct TGroupLevel {
@@ -39,8 +40,8 @@ TMultiSelectBox::TMultiSelectBox(TComponent* aOwner, TLibraryManager* aLibraryMa
     : TSelectForm(aOwner, aLibraryManager) {
     CreateControls();
     FormCreate();
-    for (const TLevel& level : FLevels) {
-        level.Line.Edit->clear();
+    for (std::size_t level = 0; level < LineCount(); ++level) {
+        Line(level).Edit->clear();
     }
     Constructed();
 }
@@ -52,12 +53,11 @@ void TMultiSelectBox::CreateControls() {
     SetCaption("Multi výběr");
     CreatePanels(c_MinimumWidth, c_Height);
     MainColumn().setSpacing(c_LineSpacing);
-    for (std::size_t level = 0; level < FLevels.size(); ++level) {
-        const int tag = static_cast<int>(level) + 1;
-        FLevels[level].Line = CreateLine(QString::number(tag), tag);
+    for (std::size_t level = 1; level <= c_Groups.size(); ++level) {
+        CreateLine(QString::number(level));
     }
     CreateButtons();
-    FLevels.front().Line.Edit->setFocus();
+    Line(0).Edit->setFocus();
 }
 
 void TMultiSelectBox::FormCreate() {
@@ -68,78 +68,50 @@ void TMultiSelectBox::FormCreate() {
 void TMultiSelectBox::DodObjSelectSkupSkladPol(int aDocID) {
     FDocumentID = aDocID;
     SetCaption(EditorText("ORDERPATTERNSELECTION", "Výběr skupin skladových položek"));
-    for (std::size_t level = 0; level < FLevels.size(); ++level) {
-        SetLabel(FLevels[level].Line, EditorText(c_Groups[level].LabelKey, c_Groups[level].Label));
+    struct TOperations {
+        void (TMultiSelectBox::*Check)();
+        void (TMultiSelectBox::*ShowDlg)();
+    };
+    static constexpr std::array<TOperations, c_Groups.size()> c_Operations{{
+        {&TMultiSelectBox::DodObjSelectSkupSkladPolCheck1, &TMultiSelectBox::DodObjSelectSkupSkladPolShowDlg1},
+        {&TMultiSelectBox::DodObjSelectSkupSkladPolCheck2, &TMultiSelectBox::DodObjSelectSkupSkladPolShowDlg2},
+        {&TMultiSelectBox::DodObjSelectSkupSkladPolCheck3, &TMultiSelectBox::DodObjSelectSkupSkladPolShowDlg3},
+    }};
+    FCheckAll = std::bind_front(&TMultiSelectBox::DodObjSelectSkupSkladPolCheckAll, this);
+    for (std::size_t level = 0; level < c_Groups.size(); ++level) {
+        SetLabel(Line(level), EditorText(c_Groups[level].LabelKey, c_Groups[level].Label));
+        Line(level).Check = std::bind_front(c_Operations[level].Check, this);
+        Line(level).ShowDlg = std::bind_front(c_Operations[level].ShowDlg, this);
     }
-    FCheckAll = &TMultiSelectBox::DodObjSelectSkupSkladPolCheckAll;
-    FLevels[0].Check = &TMultiSelectBox::DodObjSelectSkupSkladPolCheck1;
-    FLevels[1].Check = &TMultiSelectBox::DodObjSelectSkupSkladPolCheck2;
-    FLevels[2].Check = &TMultiSelectBox::DodObjSelectSkupSkladPolCheck3;
-    FLevels[0].ShowDlg = &TMultiSelectBox::DodObjSelectSkupSkladPolShowDlg1;
-    FLevels[1].ShowDlg = &TMultiSelectBox::DodObjSelectSkupSkladPolShowDlg2;
-    FLevels[2].ShowDlg = &TMultiSelectBox::DodObjSelectSkupSkladPolShowDlg3;
-}
-
-TMultiSelectBox::TLevel* TMultiSelectBox::LevelOf(const TObject* sender) {
-    const int tag = TagOf(sender);
-    return tag > 0 ? &FLevels.at(static_cast<std::size_t>(tag) - 1) : nullptr;
 }
 
 // An empty level is answered by a null and stays without a group.
 void TMultiSelectBox::Check(std::size_t level) {
-    TLevel& chosen = FLevels.at(level);
-    TLiveStoredProc procedure(c_Groups.at(level).CheckProcedure);
-    procedure.ParamByName("a_DDOBIDMASTER").SetAsInteger(FDocumentID);
-    procedure.ParamByName("a_NAZEV").SetAsString(melvark::ToAnsi(chosen.Line.Edit->text()));
-    melvark::SetIdentifier(procedure.ParamByName(c_Groups.at(level).IdParam), chosen.ID);
-    procedure.Exec(true);
-    if (const TField answer = procedure.FieldByName("ID"); !answer.IsNull()) {
-        chosen.ID = answer.AsInteger();
+    const TSelectCheck check{.Procedure = c_Groups.at(level).CheckProcedure,
+                             .DocumentParam = c_DocumentParam,
+                             .TextParam = "a_NAZEV",
+                             .IdParam = c_Groups.at(level).IdParam};
+    if (const TField answer = AskDatabase(Line(level), check, FDocumentID); !answer.IsNull()) {
+        Line(level).ID = answer.AsInteger();
     }
 }
 
 void TMultiSelectBox::DodObjSelectSkupSkladPolCheckAll() {
     TLiveStoredProc procedure("MELVARKEDITORDodObjCheckSkupSkladPol");
-    procedure.ParamByName("a_DDOBIDMASTER").SetAsInteger(FDocumentID);
-    for (std::size_t level = 0; level < FLevels.size(); ++level) {
-        melvark::SetIdentifier(procedure.ParamByName(c_Groups[level].IdParam), FLevels[level].ID);
+    procedure.ParamByName(c_DocumentParam).SetAsInteger(FDocumentID);
+    for (std::size_t level = 0; level < c_Groups.size(); ++level) {
+        melvark::SetIdentifier(procedure.ParamByName(c_Groups[level].IdParam), Line(level).ID);
     }
     procedure.Exec(false);
 }
 
 void TMultiSelectBox::ShowDlg(std::size_t level) {
-    PickFromList(FLevels.at(level).Line, FLevels.at(level).ID, c_Groups.at(level).HostForm, "NAZEV", {});
+    PickFromList(Line(level), c_Groups.at(level).HostForm, "NAZEV", {});
 }
 
-void TMultiSelectBox::Run(TOperation operation) {
-    if (operation) {
-        std::invoke(operation, this);
-    }
-}
-
-void TMultiSelectBox::OkBtnClick(TObject*) {
-    SetModalResult(0);
-    for (const TLevel& level : FLevels) {
-        level.Line.Edit->setFocus();
-        Run(level.Check);
-    }
-    FLevels.front().Line.Edit->setFocus();
+void TMultiSelectBox::CheckTogether() {
+    Line(0).Edit->setFocus();
     Run(FCheckAll);
-    SetModalResult(c_ResultOk);
-}
-
-void TMultiSelectBox::editSelectChange(TObject* Sender) {
-    TLevel* const level = LevelOf(Sender);
-    if (level && qobject_cast<TEdit*>(Sender)) {
-        level->ID = c_NullValue;
-    }
-}
-
-void TMultiSelectBox::SelectSpeedButtonClick(TObject* Sender) {
-    const TLevel* const level = LevelOf(Sender);
-    if (level && LibraryManager()) {
-        Run(level->ShowDlg);
-    }
 }
 
 void TMultiSelectBox::DodObjSelectSkupSkladPolCheck1() {

@@ -1,8 +1,6 @@
 #include "select/MelvarkEditorSelectWin.h"
 
 #include "host/HostServices.h"
-#include "host/Identifier.h"
-#include "host/LiveData.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/Text.h"
 
@@ -11,6 +9,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
+
+#include <functional>
 
 namespace {
 
@@ -41,9 +41,7 @@ void TSelectBox::CreateControls() {
     setObjectName(QStringLiteral("SelectBox"));
     SetCaption("Výběr");
     CreatePanels(c_MinimumWidth, c_Height);
-    FLine = CreateLine(QString(), 1);
-
-    QWidget* const panel = FLine.Edit->parentWidget();
+    QWidget* const panel = CreateLine(QString()).Edit->parentWidget();
     lblPrenest = new TLabel(QStringLiteral("Přenést:"), panel);
     lblPrenest->setObjectName(QStringLiteral("lblPrenest"));
     chbMnozstvi = new TCheckBox(QStringLiteral("množství"), panel);
@@ -60,12 +58,11 @@ void TSelectBox::CreateControls() {
     MainColumn().addLayout(options);
 
     CreateButtons();
-    FLine.Edit->setFocus();
+    Line(0).Edit->setFocus();
 }
 
 void TSelectBox::FormCreate() {
-    FID = c_NullValue;
-    FLine.Edit->clear();
+    Line(0).Edit->clear();
     LocalizeLines(R"(KORDAN30\MelvarkEditorSelectWin)");
 }
 
@@ -73,7 +70,7 @@ void TSelectBox::SetUp(const RSourceSetup& setup, const RSourceArguments& argume
                        TOperation showDlg) {
     FArguments = arguments;
     SetCaption(EditorText(setup.TitleKey, setup.Title));
-    SetLabel(FLine, EditorText(setup.LabelKey, setup.Label));
+    SetLabel(Line(0), EditorText(setup.LabelKey, setup.Label));
     const bool offersOptions = setup.Options != TTransferOptions::None;
     lblPrenest->setVisible(offersOptions);
     chbMnozstvi->setVisible(offersOptions);
@@ -81,47 +78,26 @@ void TSelectBox::SetUp(const RSourceSetup& setup, const RSourceArguments& argume
     if (setup.Options == TTransferOptions::QuantitiesOnlyUnchecked) {
         chbMnozstvi->setChecked(false);
     }
-    FCheck = check;
-    FShowDlg = showDlg;
+    Line(0).Check = std::bind_front(check, this);
+    Line(0).ShowDlg = std::bind_front(showDlg, this);
 }
 
 void TSelectBox::Check(const RSourceSetup& setup) {
-    TLiveStoredProc procedure(setup.CheckProcedure);
-    procedure.ParamByName(setup.DocumentParam).SetAsInteger(FArguments.DocumentID);
-    procedure.ParamByName(setup.TextParam).SetAsString(melvark::ToAnsi(FLine.Edit->text()));
-    melvark::SetIdentifier(procedure.ParamByName(setup.IdParam), FID);
-    procedure.Exec(true);
-    const TField answer = procedure.FieldByName("ID");
+    const TField answer = AskDatabase(Line(0),
+                                      {.Procedure = setup.CheckProcedure,
+                                       .DocumentParam = setup.DocumentParam,
+                                       .TextParam = setup.TextParam,
+                                       .IdParam = setup.IdParam},
+                                      FArguments.DocumentID);
     if (answer.IsNull()) {
         throw ESelectBox(EditorText("SOURCENOTCONFIRMED", "Databáze zdroj nepotvrdila. Zadejte jiný zdroj."));
     }
-    FID = answer.AsInteger();
+    Line(0).ID = answer.AsInteger();
 }
 
 void TSelectBox::ShowDlg(const RSourceSetup& setup) {
-    PickFromList(FLine, FID, setup.HostForm, setup.DisplayColumn,
+    PickFromList(Line(0), setup.HostForm, setup.DisplayColumn,
                  melvark::LookupCondition(setup, FArguments, CurrentHost().FormatSettings()));
-}
-
-void TSelectBox::OkBtnClick(TObject*) {
-    SetModalResult(0);
-    if (FLine.Edit->isEnabled()) {
-        FLine.Edit->setFocus();
-    }
-    if (FCheck != nullptr) {
-        (this->*FCheck)();
-    }
-    SetModalResult(c_ResultOk);
-}
-
-void TSelectBox::editSelectChange(TObject*) {
-    FID = c_NullValue;
-}
-
-void TSelectBox::SelectSpeedButtonClick(TObject*) {
-    if (LibraryManager() != nullptr && FShowDlg != nullptr) {
-        (this->*FShowDlg)();
-    }
 }
 
 void TSelectBox::DodakSelectFromObjednavka(int aDocID, int aDodvID) {
@@ -161,9 +137,9 @@ void TSelectBox::DodObjSelectFromDodavky(int aDocID, const AnsiString& aDodavate
     SetUp(c_DodObjFromDodavky,
           {.DocumentID = aDocID, .WarehouseID = c_NullValue, .SupplierID = c_NullValue, .Moment = aDate},
           &TSelectBox::DodObjSelectFromDodavkyCheck, &TSelectBox::DodObjSelectFromDodavkyShowDlg);
-    FLine.Edit->setText(melvark::ToQString(aDodavatel));
-    FLine.Edit->setEnabled(aDodavatel.empty());
-    FLine.Button->setEnabled(aDodavatel.empty());
+    Line(0).Edit->setText(melvark::ToQString(aDodavatel));
+    Line(0).Edit->setEnabled(aDodavatel.empty());
+    Line(0).Button->setEnabled(aDodavatel.empty());
 }
 
 void TSelectBox::DodakSelectFromObjednavkaCheck() {

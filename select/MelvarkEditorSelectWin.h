@@ -1,7 +1,6 @@
 #pragma once
 
 #include "host/Exceptions.h"
-#include "host/Identifier.h"
 #include "host/Types.h"
 #include "select/SelectForm.h"
 #include "select/SourceTable.h"
@@ -28,7 +27,7 @@ public:
     ~TSelectBox() override;
 
     /// The id of the chosen source, -1 when none. It falls back to -1 with every change of the text.
-    int GetID() const { return FID; }
+    int GetID() const { return Line(0).ID; }
     bool GetPrenesMnozstvi() const;
     bool GetPrenesCeny() const;
 
@@ -61,10 +60,6 @@ public:
     void DodObjSelectFromDodavkyCheck();
     void DodObjSelectFromDodavkyShowDlg();
 
-    void OkBtnClick(TObject* Sender) override;
-    void editSelectChange(TObject* Sender) override;
-    void SelectSpeedButtonClick(TObject* Sender) override;
-
 protected:
     void FormCreate();
 
@@ -77,11 +72,6 @@ private:
     void ShowDlg(const RSourceSetup& setup);
 
     RSourceArguments FArguments;
-    TOperation FCheck = nullptr;
-    TOperation FShowDlg = nullptr;
-    int FID = c_NullValue;
-
-    TSelectLine FLine;
     TLabel* lblPrenest = nullptr;
     TCheckBox* chbMnozstvi = nullptr;
     TCheckBox* chbCeny = nullptr;

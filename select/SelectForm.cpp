@@ -55,19 +55,24 @@ void TSelectForm::CreatePanels(int minimumWidth, int height) {
     resize(minimumWidth, height);
 }
 
-TSelectLine TSelectForm::CreateLine(const QString& suffix, int tag) {
+TSelectLine& TSelectForm::CreateLine(const QString& suffix) {
     const QString labelName = QStringLiteral("lblSelect") + suffix;
-    const TSelectLine line{new TLabel(labelName, MainPanel), new TEdit(MainPanel), new TQelPngSpeedButton(MainPanel)};
+    TSelectLine& line = FLines.emplace_back(TSelectLine{
+        .Label = new TLabel(labelName, MainPanel),
+        .Edit = new TEdit(MainPanel),
+        .Button = new TQelPngSpeedButton(MainPanel),
+    });
     line.Label->setObjectName(labelName);
     line.Label->setBuddy(line.Edit);
     line.Edit->setObjectName(QStringLiteral("editSelect") + suffix);
     line.Edit->installEventFilter(this);
-    melvark::ConnectGuarded(line.Edit, &QLineEdit::textChanged, this, [this, line] { editSelectChange(line.Edit); });
+    melvark::ConnectGuarded(line.Edit, &QLineEdit::textChanged, this,
+                            [this, edit = line.Edit] { editSelectChange(edit); });
     line.Button->setObjectName(QStringLiteral("SelectSpeedButton") + suffix);
     line.Button->setToolTip(QStringLiteral("Vybrat ze seznamu (F5)"));
     line.Button->SetOnClick([this](TObject* sender) { SelectSpeedButtonClick(sender); });
     for (QWidget* const control : std::initializer_list<QWidget*>{line.Label, line.Edit, line.Button}) {
-        control->setProperty(c_TagProperty, tag);
+        control->setProperty(c_TagProperty, static_cast<int>(FLines.size()));
     }
 
     auto* const row = new QHBoxLayout;
@@ -75,7 +80,6 @@ TSelectLine TSelectForm::CreateLine(const QString& suffix, int tag) {
     row->addWidget(line.Button);
     FMainColumn->addWidget(line.Label);
     FMainColumn->addLayout(row);
-    FLines.push_back(line);
     return line;
 }
 
@@ -114,19 +118,61 @@ AnsiString TSelectForm::EditorText(const char* key, const char* fallback) {
     return LangStr(AnsiString(c_ModuleKeyPrefix) + key, {}, fallback);
 }
 
-int TSelectForm::TagOf(const TObject* sender) {
-    return sender ? sender->property(c_TagProperty).toInt() : 0;
+TSelectLine* TSelectForm::LineOf(const TObject* sender) {
+    const int tag = sender ? sender->property(c_TagProperty).toInt() : 0;
+    return tag > 0 ? &FLines.at(static_cast<std::size_t>(tag) - 1) : nullptr;
 }
 
-void TSelectForm::PickFromList(const TSelectLine& line, int& id, const AnsiString& hostForm,
-                               const AnsiString& displayColumn, const AnsiString& condition) {
+void TSelectForm::Run(const std::function<void()>& operation) {
+    if (operation) {
+        operation();
+    }
+}
+
+void TSelectForm::OkBtnClick(TObject*) {
+    SetModalResult(0);
+    for (const TSelectLine& line : FLines) {
+        if (line.Edit->isEnabled()) {
+            line.Edit->setFocus();
+        }
+        Run(line.Check);
+    }
+    CheckTogether();
+    SetModalResult(c_ResultOk);
+}
+
+void TSelectForm::editSelectChange(TObject* Sender) {
+    TSelectLine* const line = LineOf(Sender);
+    if (line && qobject_cast<TEdit*>(Sender)) {
+        line->ID = c_NullValue;
+    }
+}
+
+void TSelectForm::SelectSpeedButtonClick(TObject* Sender) {
+    const TSelectLine* const line = LineOf(Sender);
+    if (line && FLibraryManager) {
+        Run(line->ShowDlg);
+    }
+}
+
+TField TSelectForm::AskDatabase(const TSelectLine& line, const TSelectCheck& check, int documentId) {
+    TLiveStoredProc procedure(check.Procedure);
+    procedure.ParamByName(check.DocumentParam).SetAsInteger(documentId);
+    procedure.ParamByName(check.TextParam).SetAsString(melvark::ToAnsi(line.Edit->text()));
+    melvark::SetIdentifier(procedure.ParamByName(check.IdParam), line.ID);
+    procedure.Exec(true);
+    return procedure.FieldByName("ID");
+}
+
+void TSelectForm::PickFromList(TSelectLine& line, const AnsiString& hostForm, const AnsiString& displayColumn,
+                               const AnsiString& condition) {
     const auto pick = FLibraryManager->LookupList(hostForm, displayColumn, "_ID", condition);
     if (!pick) {
         return;
     }
     // The change of the text takes the id back to none, so the id is set after it.
     line.Edit->setText(melvark::ToQString(pick->Display));
-    id = melvark::PickedId(pick->Key);
+    line.ID = melvark::PickedId(pick->Key);
 }
 
 void TSelectForm::FormShow() {
