@@ -7,8 +7,7 @@
 //
 //   saving_benchmark [ROWS [ROUNDS]]
 
-#include "editors/DodakColumns.h"
-#include "editors/DodakSaving.h"
+#include "editors/DodakTables.h"
 #include "editwin/model/DataGrid.h"
 #include "host/HostServices.h"
 #include "host/LiveData.h"
@@ -85,8 +84,8 @@ void fill(TDataGrid& store, const std::vector<RColumn>& columns, int rows) {
 
 void saveAsTheEditor(const std::vector<RColumn>& columns, const TDataGrid& store) {
     TLiveStoredProc("MELVARKEDITORResetTemp").Exec(false);
-    const melvark::DodakSaveTarget target{.DodkID = tinycompany::c_OpenNote, .SourceDodkID = -1, .SourceOrderID = -1};
-    if (!melvark::InsertDodakRows({columns, columns}, store) || !melvark::TakeOverDodakRows(target)) {
+    if (!melvark::SaveLines(melvark::c_DodakKind, {columns, columns}, store, tinycompany::c_OpenNote,
+                            {{"a_DODKID_ZDROJ", -1}, {"a_DDOBID_ZDROJ", -1}})) {
         std::abort();
     }
 }

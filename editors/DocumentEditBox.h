@@ -1,28 +1,19 @@
 #pragma once
 
-#include "editors/DocumentRows.h"
+#include "editors/DocumentKind.h"
 #include "editors/EditTypes.h"
 #include "editwin/MelvarkEditorEditWin.h"
 #include "editwin/model/EditExceptions.h"
-#include "host/Identifier.h"
 
 #include <functional>
+#include <initializer_list>
+#include <span>
+#include <string_view>
 
 class TSelectBox;
 
-namespace melvark {
-
-/// What the clerk chose in the source dialog.
-struct SourceChoice {
-    int ID = c_NullValue;
-    bool WithQuantities = true;
-    bool WithPrices = true;
-};
-
-} // namespace melvark
-
-/// What the editors of all kinds of document do alike around their tables. An editor's constructor hands in its
-/// columns, presents itself, has the document checked, installs its hooks, fills its lines and calls Filled() last.
+/// What the editors of all kinds of document do alike around their tables. An editor's constructor hands in its kind
+/// and its columns, has the document checked, installs its hooks, fills its lines and calls Filled() last.
 class TDocumentEditBox : public TEditBox {
     Q_OBJECT
 
@@ -30,17 +21,33 @@ public:
     ~TDocumentEditBox() override;
 
 protected:
-    using TEditBox::TEditBox;
+    /// `kind` outlives the editor.
+    TDocumentEditBox(TComponent* owner, TLibraryManager* libraryManager, const melvark::DocumentKind& kind,
+                     const melvark::DocumentOpening& opening, std::span<const RColumn> columns);
+
+    /// Asks the database whether the document may be edited: false when it answers no. A refusal throws EDatabaseError.
+    bool CheckDocument(int id) const;
+    /// Throws what cancels the editor when the check answered no.
+    static void RequireMaster(bool mayBeEdited);
 
     /// Shows the source dialog as `setUp` sets it up; the dialog is gone when the choice is returned. Throws
     /// EEditBoxCanceled when the clerk cancelled it or no id came of it.
     melvark::SourceChoice AskForSource(const std::function<void(TSelectBox&)>& setUp);
-
     /// What calls the preparation off without a word to the clerk.
     static EEditBoxCanceled Canceled();
 
-    melvark::DocumentColumns Columns() const;
-
+    /// See melvark::FillLines.
+    void FillLines(const AnsiString& procedure, std::initializer_list<melvark::LinesParam> params,
+                   std::string_view skippedKey = {});
     /// Freshly filled lines count as unchanged; the editor is complete.
     void Filled();
+    /// Empties the row store, then see melvark::SaveLines.
+    bool SaveLines(std::initializer_list<melvark::IdParam> sources);
+
+    int DocumentID() const { return FDocumentID; }
+    melvark::DocumentColumns Columns() const;
+
+private:
+    const melvark::DocumentKind& FDocumentKind;
+    int FDocumentID;
 };

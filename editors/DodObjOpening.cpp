@@ -22,12 +22,12 @@ void Init(DodObjOpening& opening) {
 
 } // namespace
 
-DodObjOpening OpenDodObj(DodObjDocument document) {
-    const int number = RequireEditType<EDodObjEditBox>(c_DodObjEditType, document.SourceKind);
-    DodObjOpening opening{.Document = std::move(document),
-                          .SourceNumber = number,
-                          .UserName = {},
-                          .Lists = std::make_unique<DodObjLists>()};
+DodObjOpening OpenDodObj(const AnsiString& sourceKind, DodObjDocument document) {
+    const int number = RequireEditType<EDodObjEditBox>(c_DodObjEditType, sourceKind);
+    DodObjOpening opening{
+        {.EditType = sourceKind, .SourceNumber = number, .DocumentID = document.DdobID, .UserName = {}},
+        std::move(document),
+        std::make_unique<DodObjLists>()};
     Init(opening);
     return opening;
 }

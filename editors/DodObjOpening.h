@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editors/DocumentKind.h"
 #include "host/Exceptions.h"
 #include "host/Identifier.h"
 #include "host/Types.h"
@@ -18,11 +19,10 @@ public:
 
 namespace melvark {
 
-/// The supplier order or order template that is edited, and where its lines come from.
+/// The supplier order or order template that is edited, as its screen shows it.
 struct DodObjDocument {
-    bool IsTemplate = false;
-    AnsiString SourceKind; ///< One of c_DodObjEditType.
     int DdobID = c_NullValue;
+    bool IsTemplate = false;
     int SkldID = c_NullValue; ///< Its warehouse.
     int DodvID = c_NullValue; ///< Its supplier; 0 or below for none.
     AnsiString Sklad;         ///< The warehouse as shown.
@@ -37,16 +37,14 @@ struct DodObjLists {
 };
 
 /// What must be known of a supplier order's editor before its form can be built.
-struct DodObjOpening {
+struct DodObjOpening : DocumentOpening {
     DodObjDocument Document;
-    int SourceNumber = 0; ///< Of the source kind in its table.
-    AnsiString UserName;
     std::unique_ptr<DodObjLists> Lists;
 };
 
 /// Checks the source kind, then asks the database for the user and the lists. Throws EDodObjEditBox for a source that
 /// is not exactly one of c_DodObjEditType, before the database is asked; EDatabaseError.
-DodObjOpening OpenDodObj(DodObjDocument document);
+DodObjOpening OpenDodObj(const AnsiString& sourceKind, DodObjDocument document);
 
 /// The names of all suppliers, sorted by the database.
 std::vector<AnsiString> FillDodavatelList();

@@ -26,14 +26,11 @@ void Init(DodakOpening& opening) {
 } // namespace
 
 DodakOpening OpenDodak(const AnsiString& editType, int dodkId, int dodvId) {
-    const int fillMode = RequireEditType<EDodakEditBox>(c_DodakEditType, editType);
-    DodakOpening opening{.EditType = editType,
-                         .FillMode = fillMode,
-                         .DodkID = dodkId,
-                         .DodvID = dodvId,
-                         .UserName = {},
-                         .LocalVat = false,
-                         .Lists = std::make_unique<DodakLists>()};
+    const int number = RequireEditType<EDodakEditBox>(c_DodakEditType, editType);
+    DodakOpening opening{{.EditType = editType, .SourceNumber = number, .DocumentID = dodkId, .UserName = {}},
+                         dodvId,
+                         false,
+                         std::make_unique<DodakLists>()};
     Init(opening);
     return opening;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editors/DocumentKind.h"
 #include "host/Exceptions.h"
 #include "host/Identifier.h"
 #include "host/LiveData.h"
@@ -26,12 +27,8 @@ struct DodakLists {
 };
 
 /// What must be known of a delivery note's editor before its form can be built.
-struct DodakOpening {
-    AnsiString EditType;
-    int FillMode = 0;         ///< Number of the edit type.
-    int DodkID = c_NullValue; ///< The delivery note that is edited.
-    int DodvID = c_NullValue; ///< Its supplier, whose documents alone are offered as sources.
-    AnsiString UserName;
+struct DodakOpening : DocumentOpening {
+    int DodvID = c_NullValue; ///< The note's supplier, whose documents alone are offered as sources.
     bool LocalVat = false;
     std::unique_ptr<DodakLists> Lists;
 };

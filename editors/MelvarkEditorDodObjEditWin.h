@@ -2,16 +2,16 @@
 
 #include "editors/DocumentEditBox.h"
 #include "editors/DodObjOpening.h"
-#include "editors/DodObjSources.h"
 #include "host/Identifier.h"
 
+#include <array>
 #include <vector>
 
 /// The editor of the lines of a supplier order or of an order template: the base editor with the order's columns,
 /// filled from one of seven sources, with quantities in main and secondary units, saved through the row store.
 ///
 /// Constructed for one document, shown modally once by its workflow, and freed. It refreshes no screen. What the rules
-/// are stands beside it: DodObjColumns, DodObjSources, DodObjSaving.
+/// are stands beside it: DodObjTables, DodObjOpening.
 class TDodObjEditBox : public TDocumentEditBox {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private:
     TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, melvark::DodObjOpening opening);
 
     static std::vector<RColumn> LoadDefaultColumnsSettings(const melvark::DodObjOpening& opening);
-    bool CheckMaster() const;
+    bool CheckMaster() const { return CheckDocument(DocumentID()); }
 
     /// `aDodvID` is the document's supplier, whose price list is taken without a question. An unknown source leaves one
     /// empty row.
@@ -52,20 +52,25 @@ private:
     void FillGridFromSkupSkladPol(int aGroup1ID, int aGroup2ID, int aGroup3ID);
     void FillGridFromDodCenik(int aSupplierID);
     void FillGridFromDodavky(int aSupplierID, bool aPrenesMnozstvi);
-    void FillFromChosenOrder() { FillGridFromObjednavka(FOrderID); }
-    void FillFromChosenTemplate() { FillGridFromObjednavka(FTemplateID); }
-    void FillFromChosenDeliveryNote() { FillGridFromDodak(FDeliveryNoteID); }
-    void FillFromChosenGroups() { FillGridFromSkupSkladPol(FGroupIDs[0], FGroupIDs[1], FGroupIDs[2]); }
-    void FillFromChosenPriceList() { FillGridFromDodCenik(FSupplier.ID); }
-    void FillFromChosenDeliveries() { FillGridFromDodavky(FSupplier.ID, FSupplier.WithQuantities); }
+    void FillFromChosenOrder() { FillGridFromObjednavka(FChosen.OrderID); }
+    void FillFromChosenTemplate() { FillGridFromObjednavka(FChosen.TemplateID); }
+    void FillFromChosenDeliveryNote() { FillGridFromDodak(FChosen.DeliveryNoteID); }
+    void FillFromChosenGroups() {
+        FillGridFromSkupSkladPol(FChosen.GroupIDs[0], FChosen.GroupIDs[1], FChosen.GroupIDs[2]);
+    }
+    void FillFromChosenPriceList() { FillGridFromDodCenik(FChosen.Supplier.ID); }
+    void FillFromChosenDeliveries() { FillGridFromDodavky(FChosen.Supplier.ID, FChosen.Supplier.WithQuantities); }
 
     const melvark::DodObjDocument& Document() const { return FOpening.Document; }
 
     melvark::DodObjOpening FOpening;
-    // The sources, once one was chosen.
-    int FOrderID = c_NullValue;
-    int FTemplateID = c_NullValue;
-    int FDeliveryNoteID = c_NullValue;
-    melvark::StockGroups FGroupIDs{c_NullValue, c_NullValue, c_NullValue};
-    melvark::SourceChoice FSupplier; ///< Whose price list or deliveries; the document's own before a choice.
+    int FDodvID = c_NullValue; ///< Whose price list needs no question; 0 or below for nobody's.
+    /// The sources, once one was chosen.
+    struct {
+        int OrderID = c_NullValue;
+        int TemplateID = c_NullValue;
+        int DeliveryNoteID = c_NullValue;
+        std::array<int, 3> GroupIDs{c_NullValue, c_NullValue, c_NullValue}; ///< Of the levels; not each need be named.
+        melvark::SourceChoice Supplier;                                     ///< Whose price list or deliveries.
+    } FChosen;
 };

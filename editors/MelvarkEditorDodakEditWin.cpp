@@ -1,10 +1,7 @@
 #include "editors/MelvarkEditorDodakEditWin.h"
 
-#include "editors/DocumentOpening.h"
-#include "editors/DodakColumns.h"
 #include "editors/DodakPrices.h"
-#include "editors/DodakSaving.h"
-#include "editors/DodakSources.h"
+#include "editors/DodakTables.h"
 #include "editors/SourceSteps.h"
 #include "editwin/CellWriter.h"
 #include "host/HostServices.h"
@@ -18,27 +15,16 @@
 
 using namespace melvark;
 
-namespace {
-
-constexpr int c_EditTypeNumber = 0;
-
-} // namespace
-
 TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, const AnsiString& aEditType, int aID,
                              int aDodvID)
     : TDodakEditBox(aOwner, aLibraryManager, OpenDodak(aEditType, aID, aDodvID)) {}
 
 TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, DodakOpening opening)
-    : TDocumentEditBox(aOwner, aLibraryManager, c_EditTypeNumber, "DODAK", opening.FillMode, opening.EditType,
-                       opening.UserName, LoadDefaultColumnsSettings(opening, this)),
+    : TDocumentEditBox(aOwner, aLibraryManager, c_DodakKind, opening, LoadDefaultColumnsSettings(opening, this)),
       FOpening(std::move(opening)) {
-    SetTopButtonPanelVisibility(true);
-    SetTitle(LangStr(R"(KORDAN30\MELVARKEDITOR\DODAKAPPTITLE)", {}, "Vložení položek dodacího listu"));
-    if (!CheckMasterDodak(FOpening.DodkID)) {
-        throw Canceled();
-    }
+    RequireMaster(CheckMasterDodak(DocumentID()));
     SetOnSaveData([this] { return SaveData(); });
-    FillGrid(FOpening.FillMode);
+    FillGrid(FOpening.SourceNumber);
     Filled();
 }
 
@@ -53,10 +39,6 @@ std::vector<RColumn> TDodakEditBox::LoadDefaultColumnsSettings(const DodakOpenin
                          .CheckDiscount = std::bind_front(&TDodakEditBox::KontrolaSlevy, form)});
 }
 
-bool TDodakEditBox::CheckMasterDodak(int aDodkID) {
-    return CheckMasterDocument("MELVARKEDITORDodakCheckMaster", "a_DODKID", aDodkID);
-}
-
 void TDodakEditBox::FillGrid(int aFillMode) {
     static constexpr SourceStep<TDodakEditBox> c_Ways[] = {
         {&TDodakEditBox::AskForOrder, &TDodakEditBox::FillGridFromObjednavka},
@@ -64,34 +46,38 @@ void TDodakEditBox::FillGrid(int aFillMode) {
         {nullptr, &TDodakEditBox::FillFromTemplate},
     };
     static_assert(std::size(c_Ways) == c_DodakEditType.size());
+    FChosen = {};
     FillFromSource(*this, c_Ways, aFillMode);
 }
 
 void TDodakEditBox::AskForOrder() {
-    FOrderID = AskForSource([this](TSelectBox& selection) {
-                   selection.DodakSelectFromObjednavka(FOpening.DodkID, FOpening.DodvID);
-               }).ID;
+    FChosen.OrderID = AskForSource([this](TSelectBox& selection) {
+                          selection.DodakSelectFromObjednavka(DocumentID(), FOpening.DodvID);
+                      }).ID;
 }
 
 void TDodakEditBox::AskForDeliveryNote() {
-    FChoice = AskForSource(
-        [this](TSelectBox& selection) { selection.DodakSelectFromDodak(FOpening.DodkID, FOpening.DodvID); });
-    FDeliveryNoteID = FChoice.ID;
+    FChosen.Note =
+        AskForSource([this](TSelectBox& selection) { selection.DodakSelectFromDodak(DocumentID(), FOpening.DodvID); });
 }
 
 void TDodakEditBox::FillGridFromObjednavka() {
-    FillFromOrder(DataGrid(), Columns(), FOpening.DodkID, FOrderID);
+    FillLines("MELVARKEDITORDodakGetPolozkyByObjednavka", {{"a_DODKID", DocumentID()}, {"a_DDOBID", FChosen.OrderID}});
 }
 
+// What does not come from an order has no order line.
 void TDodakEditBox::FillGridFromDodak(bool aPrenesMnozstvi, bool aPrenesCeny) {
-    FillFromDeliveryNote(
-        DataGrid(), Columns(), FOpening.DodkID,
-        {.DeliveryNoteID = FDeliveryNoteID, .WithQuantities = aPrenesMnozstvi, .WithPrices = aPrenesCeny});
+    FillLines("MELVARKEDITORDodakGetPolozkyByDodak",
+              {{"a_DODKIDMASTER", FChosen.Note.ID},
+               {"a_DODKID", DocumentID()},
+               {"a_PRENESMNOZSTVI", aPrenesMnozstvi},
+               {"a_PRENESCENY", aPrenesCeny}},
+              "DOBSID");
 }
 
+// The template is a delivery note of none.
 void TDodakEditBox::FillGridFromSablona(bool aPrenesMnozstvi, bool aPrenesCeny) {
-    FillFromDeliveryNote(DataGrid(), Columns(), FOpening.DodkID,
-                         {.DeliveryNoteID = c_NullValue, .WithQuantities = aPrenesMnozstvi, .WithPrices = aPrenesCeny});
+    FillGridFromDodak(aPrenesMnozstvi, aPrenesCeny);
 }
 
 bool TDodakEditBox::PrepocetCen(int aCol, int aRow, const AnsiString&) {
@@ -112,7 +98,5 @@ bool TDodakEditBox::KontrolaSlevy(int, int, const AnsiString& aValue) {
 }
 
 bool TDodakEditBox::SaveData() {
-    ResetTable();
-    return InsertDodakRows(Columns(), DataGrid()) &&
-           TakeOverDodakRows({.DodkID = FOpening.DodkID, .SourceDodkID = FDeliveryNoteID, .SourceOrderID = FOrderID});
+    return SaveLines({{"a_DODKID_ZDROJ", FChosen.Note.ID}, {"a_DDOBID_ZDROJ", FChosen.OrderID}});
 }

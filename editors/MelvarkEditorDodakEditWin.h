@@ -10,7 +10,7 @@
 /// the user names, each changed price recalculated by the database, saved through the row store.
 ///
 /// Constructed for one delivery note, shown modally once by its workflow, and freed. It refreshes no screen. What the
-/// rules are stands beside it: DodakColumns, DodakSources, DodakPrices, DodakSaving.
+/// rules are stands beside it: DodakTables, DodakOpening, DodakPrices.
 class TDodakEditBox : public TDocumentEditBox {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ private:
     TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, melvark::DodakOpening opening);
 
     static std::vector<RColumn> LoadDefaultColumnsSettings(const melvark::DodakOpening& opening, TDodakEditBox* form);
-    static bool CheckMasterDodak(int aDodkID);
+    bool CheckMasterDodak(int aDodkID) const { return CheckDocument(aDodkID); }
 
     /// An unknown fill mode leaves one empty row.
     void FillGrid(int aFillMode);
@@ -44,11 +44,13 @@ private:
     void FillGridFromObjednavka();
     void FillGridFromDodak(bool aPrenesMnozstvi, bool aPrenesCeny);
     void FillGridFromSablona(bool aPrenesMnozstvi, bool aPrenesCeny);
-    void FillFromChosenDeliveryNote() { FillGridFromDodak(FChoice.WithQuantities, FChoice.WithPrices); }
+    void FillFromChosenDeliveryNote() { FillGridFromDodak(FChosen.Note.WithQuantities, FChosen.Note.WithPrices); }
     void FillFromTemplate() { FillGridFromSablona(true, true); }
 
     melvark::DodakOpening FOpening;
-    int FOrderID = c_NullValue;        ///< The source supplier order, once one was chosen.
-    int FDeliveryNoteID = c_NullValue; ///< The source delivery note, once one was chosen.
-    melvark::SourceChoice FChoice;     ///< What is wanted of it.
+    /// The sources, once one was chosen.
+    struct {
+        int OrderID = c_NullValue;
+        melvark::SourceChoice Note; ///< The delivery note and what is wanted of it.
+    } FChosen;
 };

@@ -15,14 +15,13 @@ protected:
     DodObjOpening() { scriptDodObjEditor(host_.connection); }
 
     static melvark::DodObjOpening open(const AnsiString& sourceKind) {
-        return melvark::OpenDodObj({.IsTemplate = true,
-                                    .SourceKind = sourceKind,
-                                    .DdobID = 7,
-                                    .SkldID = 3,
-                                    .DodvID = 5,
-                                    .Sklad = "Praha",
-                                    .Dodavatel = "Lípa",
-                                    .Moment = {}});
+        return melvark::OpenDodObj(sourceKind, {.DdobID = 7,
+                                                .IsTemplate = true,
+                                                .SkldID = 3,
+                                                .DodvID = 5,
+                                                .Sklad = "Praha",
+                                                .Dodavatel = "Lípa",
+                                                .Moment = {}});
     }
 
     RecordingHost host_;
@@ -38,7 +37,8 @@ TEST_F(DodObjOpening, AsksForTheUserThenTheWarehousesThenTheSuppliers) {
     EXPECT_THAT(opening.Lists->Warehouses, ElementsAre("Brno", "Praha"));
     EXPECT_THAT(opening.Lists->Suppliers, ElementsAre("Lípa", "Vrba"));
     EXPECT_TRUE(opening.Document.IsTemplate);
-    EXPECT_EQ(opening.Document.DdobID, 7);
+    EXPECT_EQ(opening.DocumentID, 7);
+    EXPECT_EQ(opening.EditType, "DODAVKY");
     EXPECT_EQ(opening.Document.SkldID, 3);
     EXPECT_EQ(opening.Document.DodvID, 5);
     EXPECT_EQ(opening.Document.Dodavatel, "Lípa");

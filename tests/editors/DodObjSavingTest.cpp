@@ -1,8 +1,5 @@
-#include "editors/DodObjSaving.h"
-
-#include "editors/DodObjColumns.h"
+#include "editors/DodObjTables.h"
 #include "editwin/model/DataGrid.h"
-#include "host/Exceptions.h"
 #include "tests/support/DodObjScripts.h"
 
 #include <gmock/gmock.h>
@@ -11,7 +8,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::SizeIs;
 
 class DodObjSaving : public testing::Test {
 protected:
@@ -26,6 +22,10 @@ protected:
         store_.SetCells(columns().ByKey(key).DataColumn, row, text);
     }
     melvark::DocumentColumns columns() const { return {columns_, columns_}; }
+    bool insertRows() {
+        const melvark::DocumentKind& kind = melvark::c_OrderKind;
+        return melvark::InsertRows(kind.InsertProcedure, kind.RowParams, columns(), store_);
+    }
 
     RecordingHost host_;
     TScopedHost scope_{host_};
@@ -39,7 +39,7 @@ TEST_F(DodObjSaving, ARowsParametersStandInTheirOrderWithTheirColumns) {
     for (const AnsiString& key : dodObjKeys()) {
         put(0, key, " " + key + ", ");
     }
-    EXPECT_TRUE(melvark::InsertDodObjRows(columns(), store_));
+    EXPECT_TRUE(insertRows());
     EXPECT_THAT(host_.connection.calls(),
                 ElementsAre("MELVARKEDITORDodObjInsertToTemp("
                             "a_SKLADPOL=\"SKLADPOL,\", a_SKLAD=\"SKLAD,\", a_DODAVATEL=\"DODAVATEL,\", "
@@ -53,13 +53,13 @@ TEST_F(DodObjSaving, AQuantityWithACommaIsSentWithAPointWhateverTheLocaleWrites)
     for (const TFormatSettings& locale : {TFormatSettings::Czech(), TFormatSettings()}) {
         host_.formatSettings = locale;
         put(0, "MNOZSTVIHL", "2,5");
-        EXPECT_TRUE(melvark::InsertDodObjRows(columns(), store_));
+        EXPECT_TRUE(insertRows());
         EXPECT_THAT(host_.connection.takeCalls(), ElementsAre(HasSubstr("a_MNOZSTVI=\"2.5\"")));
     }
 }
 
 TEST_F(DodObjSaving, AnEmptyRowIsFourteenNulls) {
-    EXPECT_TRUE(melvark::InsertDodObjRows(columns(), store_));
+    EXPECT_TRUE(insertRows());
     EXPECT_THAT(host_.connection.calls(),
                 ElementsAre("MELVARKEDITORDodObjInsertToTemp(a_SKLADPOL=null, a_SKLAD=null, a_DODAVATEL=null, "
                             "a_SKPLID=null, a_MNOZSTVI=null, a_JEDNOTKY=null, a_SKPLIDV1=null, a_MNOZSTVIV1=null, "
@@ -72,31 +72,9 @@ TEST_F(DodObjSaving, RowsAreSentFromTheFirstToTheOneThatFails) {
         put(row, "SKLADPOL", "Položka " + std::to_string(row));
     }
     host_.connection.procedure("MELVARKEDITORDodObjInsertToTemp").failsCall(3);
-    EXPECT_FALSE(melvark::InsertDodObjRows(columns(), store_));
+    EXPECT_FALSE(insertRows());
     EXPECT_THAT(host_.connection.calls(),
                 ElementsAre(HasSubstr("\"Položka 0\""), HasSubstr("\"Položka 1\""), HasSubstr("\"Položka 2\"")));
-}
-
-TEST_F(DodObjSaving, WithoutASourceAllThreeSourcesAreNull) {
-    EXPECT_TRUE(melvark::TakeOverDodObjRows({.DdobID = 7}));
-    EXPECT_THAT(host_.connection.calls(),
-                ElementsAre("MELVARKEDITORDodObjTempUloz(a_DDOBID=7, a_DDOBID_ZDROJ=null, a_DDOBIDVZOR_ZDROJ=null, "
-                            "a_DODKID_ZDROJ=null)"));
-}
-
-TEST_F(DodObjSaving, EachSourceHasItsOwnParameter) {
-    EXPECT_TRUE(
-        melvark::TakeOverDodObjRows({.DdobID = 7, .SourceOrderID = 11, .SourceTemplateID = 12, .SourceDodkID = 13}));
-    EXPECT_THAT(host_.connection.calls(),
-                ElementsAre("MELVARKEDITORDodObjTempUloz(a_DDOBID=7, a_DDOBID_ZDROJ=11, a_DDOBIDVZOR_ZDROJ=12, "
-                            "a_DODKID_ZDROJ=13)"));
-}
-
-TEST_F(DodObjSaving, AFailedClosingCallIsReportedAndARefusedOneThrows) {
-    host_.connection.procedure("MELVARKEDITORDodObjTempUloz").failsCall(1).refusesCall(2, "Objednávka je uzavřená.");
-    EXPECT_FALSE(melvark::TakeOverDodObjRows({.DdobID = 7}));
-    EXPECT_THROW(melvark::TakeOverDodObjRows({.DdobID = 7}), EDatabaseError);
-    EXPECT_THAT(host_.connection.calls(), SizeIs(2));
 }
 
 } // namespace

@@ -23,17 +23,17 @@ TEST_F(DodakOpening, AsksTheProcedureAndThenTheWarehouses) {
     EXPECT_THAT(host_.connection.calls(),
                 ElementsAre("MELVARKEDITORDodakInit() open", "select NAZEV from SKLAD_V order by NAZEV"));
     EXPECT_EQ(opening.EditType, "SABLONA");
-    EXPECT_EQ(opening.DodkID, 7);
+    EXPECT_EQ(opening.DocumentID, 7);
     EXPECT_EQ(opening.DodvID, 40);
     EXPECT_EQ(opening.UserName, "novak");
     EXPECT_THAT(opening.Lists->VatRates, ElementsAre("21 %", "12 %", "0 %")) << "as returned, not sorted";
     EXPECT_THAT(opening.Lists->Warehouses, ElementsAre("Brno", "Praha"));
 }
 
-TEST_F(DodakOpening, TheFillModeIsTheNumberOfTheEditType) {
-    EXPECT_EQ(melvark::OpenDodak("DODOBJ", 7, 40).FillMode, 1);
-    EXPECT_EQ(melvark::OpenDodak("DODAK", 7, 40).FillMode, 2);
-    EXPECT_EQ(melvark::OpenDodak("SABLONA", 7, 40).FillMode, 3);
+TEST_F(DodakOpening, TheSourcesNumberIsThatOfTheEditType) {
+    EXPECT_EQ(melvark::OpenDodak("DODOBJ", 7, 40).SourceNumber, 1);
+    EXPECT_EQ(melvark::OpenDodak("DODAK", 7, 40).SourceNumber, 2);
+    EXPECT_EQ(melvark::OpenDodak("SABLONA", 7, 40).SourceNumber, 3);
 }
 
 TEST_F(DodakOpening, AnUnknownEditTypeIsRefusedBeforeTheDatabaseIsAsked) {

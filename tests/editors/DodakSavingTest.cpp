@@ -1,5 +1,3 @@
-#include "editors/DodakSaving.h"
-
 #include "host/Exceptions.h"
 #include "tests/editors/EditorRules.h"
 
@@ -24,7 +22,10 @@ protected:
         }
     }
 
-    bool insertRows() { return melvark::InsertDodakRows(columns(), store_); }
+    bool insertRows() {
+        const melvark::DocumentKind& kind = melvark::c_DodakKind;
+        return melvark::InsertRows(kind.InsertProcedure, kind.RowParams, columns(), store_);
+    }
 };
 
 // Every cell holds its own column key, so that the line below reads as "parameter = column"; a key with a comma shows
@@ -127,26 +128,6 @@ TEST_F(DodakSaving, AFailureOfTheDatabaseIsAboutNoLine) {
     const std::optional<EDatabaseError> error = refusal();
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Row(), std::nullopt);
-}
-
-TEST_F(DodakSaving, TheClosingCallNamesTheSourcesOrNull) {
-    struct {
-        melvark::DodakSaveTarget target;
-        const char* call;
-    } const cases[] = {
-        {{7, -1, -1}, "MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=null, a_DDOBID_ZDROJ=null)"},
-        {{7, 12, -1}, "MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=12, a_DDOBID_ZDROJ=null)"},
-        {{7, -1, 31}, "MELVARKEDITORDodakTempUloz(a_DODKID=7, a_DODKID_ZDROJ=null, a_DDOBID_ZDROJ=31)"},
-    };
-    for (const auto& row : cases) {
-        EXPECT_TRUE(melvark::TakeOverDodakRows(row.target));
-        EXPECT_THAT(host_.connection.takeCalls(), ElementsAre(row.call));
-    }
-}
-
-TEST_F(DodakSaving, AFailedClosingCallIsAFailedSave) {
-    host_.connection.procedure("MELVARKEDITORDodakTempUloz").failsCall(1);
-    EXPECT_FALSE(melvark::TakeOverDodakRows({7, -1, -1}));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editors/DocumentRows.h"
-#include "editors/DodakColumns.h"
+#include "editors/DodakTables.h"
 #include "editwin/model/DataGrid.h"
 #include "tests/support/DodakScripts.h"
 #include "tests/support/RecordingHost.h"

@@ -1,4 +1,4 @@
-#include "editors/DodObjColumns.h"
+#include "editors/DodObjTables.h"
 
 #include "editwin/model/DataGrid.h"
 #include "tests/support/DodObjScripts.h"

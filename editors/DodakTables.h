@@ -1,11 +1,12 @@
 #pragma once
 
-#include "editors/EditTypes.h"
+#include "editors/DocumentKind.h"
 #include "editwin/model/Column.h"
 #include "host/Types.h"
 
 #include <vector>
 
+/// What makes a delivery note's editor one of delivery notes: its columns and its kind.
 namespace melvark {
 
 /// What the columns of a delivery note's lines are bound to. The lists outlive the columns.
@@ -20,5 +21,7 @@ struct DodakColumnBindings {
 /// The 26 default columns of a delivery note's lines, in grid order; a column's place is its data column. Captions and
 /// hints are in the user's language (needs a current host).
 std::vector<RColumn> DodakColumns(const DodakColumnBindings& bindings);
+
+extern const DocumentKind c_DodakKind;
 
 } // namespace melvark

@@ -1,4 +1,4 @@
-#include "editors/DodObjColumns.h"
+#include "editors/DodObjTables.h"
 
 #include "editors/ColumnTable.h"
 #include "editwin/model/DataGrid.h"
@@ -70,7 +70,45 @@ constexpr std::array c_Units{
     UnitOfQuantity{"MNOZSTVIV2", "SKPLIDV2"},
 };
 
+// The columns of the main unit end in HL, its parameters in nothing.
+constexpr std::array c_RowParams{
+    RowParam{"a_SKLADPOL", "SKLADPOL", ParamForm::Text},
+    RowParam{"a_SKLAD", "SKLAD", ParamForm::Text},
+    RowParam{"a_DODAVATEL", "DODAVATEL", ParamForm::Text},
+    RowParam{"a_SKPLID", "SKPLIDHL", ParamForm::Text},
+    RowParam{"a_MNOZSTVI", "MNOZSTVIHL", ParamForm::NumberText},
+    RowParam{"a_JEDNOTKY", "JEDNOTKYHL", ParamForm::Text},
+    RowParam{"a_SKPLIDV1", "SKPLIDV1", ParamForm::Text},
+    RowParam{"a_MNOZSTVIV1", "MNOZSTVIV1", ParamForm::NumberText},
+    RowParam{"a_JEDNOTKYV1", "JEDNOTKYV1", ParamForm::Text},
+    RowParam{"a_SKPLIDV2", "SKPLIDV2", ParamForm::Text},
+    RowParam{"a_MNOZSTVIV2", "MNOZSTVIV2", ParamForm::NumberText},
+    RowParam{"a_JEDNOTKYV2", "JEDNOTKYV2", ParamForm::Text},
+    RowParam{"a_POPIS", "POPIS", ParamForm::Text},
+    RowParam{"a_KOMENTAR", "KOMENTAR", ParamForm::Text},
+};
+
+// How an order and an order template are called; all else is alike.
+constexpr DocumentKind KindOf(int editTypeNumber, const char* firstNamePart, const char* titleKey, const char* title) {
+    return {.EditTypeNumber = editTypeNumber,
+            .FirstNamePart = firstNamePart,
+            .TitleKey = titleKey,
+            .Title = title,
+            .HasPrices = false,
+            .IdParam = "a_DDOBID",
+            .CheckProcedure = "MELVARKEDITORDodObjCheckMaster",
+            .InsertProcedure = "MELVARKEDITORDodObjInsertToTemp",
+            .RowParams = c_RowParams,
+            .TakeOverProcedure = "MELVARKEDITORDodObjTempUloz"};
+}
+
 } // namespace
+
+constinit const DocumentKind c_OrderKind =
+    KindOf(10, "DODOBJ", R"(KORDAN30\MELVARKEDITOR\OBJEDNAVKYZBOZIAPPTITLE)", "Vložení položek do objednávky zboží");
+constinit const DocumentKind c_TemplateKind =
+    KindOf(20, "DODOBJVZOR", R"(KORDAN30\MELVARKEDITOR\VZOROBJEDNAVKYZBOZIAPPTITLE)",
+           "Vložení položek do vzorové objednávky zboží");
 
 std::vector<RColumn> DodObjColumns(const DodObjColumnBindings& bindings) {
     return BuildColumns(c_Rows, bindings);

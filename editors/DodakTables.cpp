@@ -1,4 +1,4 @@
-#include "editors/DodakColumns.h"
+#include "editors/DodakTables.h"
 
 #include "editors/ColumnTable.h"
 
@@ -100,7 +100,45 @@ constexpr std::array c_Rows{
         .DataType = cdtDate},
 };
 
+// The parameters' names shorten what the column keys spell out: "SL" is after the discount, nothing is before it.
+constexpr std::array c_RowParams{
+    RowParam{"a_DOBSID", "DOBSID", ParamForm::Text},
+    RowParam{"a_SKLADPOL", "SKLADPOL", ParamForm::Text},
+    RowParam{"a_SKLAD", "SKLAD", ParamForm::Text},
+    RowParam{"a_MNOZSTVI", "MNOZSTVI", ParamForm::NumberText},
+    RowParam{"a_DPH", "DPH", ParamForm::Text},
+    RowParam{"a_SLEVA", "SLEVA", ParamForm::NumberText},
+    RowParam{"a_JEDNCENABSL", "JEDNCENABSESLEVOU", ParamForm::NumberText},
+    RowParam{"a_JEDNDPHASL", "JEDNDPHASESLEVOU", ParamForm::NumberText},
+    RowParam{"a_JEDNDPHBSL", "JEDNDPHBSESLEVOU", ParamForm::NumberText},
+    RowParam{"a_JEDNCENASSL", "JEDNCENASSESLEVOU", ParamForm::NumberText},
+    RowParam{"a_JEDNCENAB", "JEDNCENABBEZSLEVY", ParamForm::NumberText},
+    RowParam{"a_JEDNDPHA", "JEDNDPHABEZSLEVY", ParamForm::NumberText},
+    RowParam{"a_JEDNDPHB", "JEDNDPHBBEZSLEVY", ParamForm::NumberText},
+    RowParam{"a_JEDNCENAS", "JEDNCENASBEZSLEVY", ParamForm::NumberText},
+    RowParam{"a_CENABSL", "CENABSESLEVOU", ParamForm::NumberText},
+    RowParam{"a_DPHASL", "DPHASESLEVOU", ParamForm::NumberText},
+    RowParam{"a_DPHBSL", "DPHBSESLEVOU", ParamForm::NumberText},
+    RowParam{"a_CENASSL", "CENASSESLEVOU", ParamForm::NumberText},
+    RowParam{"a_CENAB", "CENABBEZSLEVY", ParamForm::NumberText},
+    RowParam{"a_DPHA", "DPHABEZSLEVY", ParamForm::NumberText},
+    RowParam{"a_DPHB", "DPHBBEZSLEVY", ParamForm::NumberText},
+    RowParam{"a_CENAS", "CENASBEZSLEVY", ParamForm::NumberText},
+    RowParam{"a_TRVANLIVOST", "TRVANLIVOST", ParamForm::Text},
+};
+
 } // namespace
+
+constinit const DocumentKind c_DodakKind{.EditTypeNumber = 0,
+                                         .FirstNamePart = "DODAK",
+                                         .TitleKey = R"(KORDAN30\MELVARKEDITOR\DODAKAPPTITLE)",
+                                         .Title = "Vložení položek dodacího listu",
+                                         .HasPrices = true,
+                                         .IdParam = "a_DODKID",
+                                         .CheckProcedure = "MELVARKEDITORDodakCheckMaster",
+                                         .InsertProcedure = "MELVARKEDITORDodakInsertToTemp",
+                                         .RowParams = c_RowParams,
+                                         .TakeOverProcedure = "MELVARKEDITORDodakTempUloz"};
 
 std::vector<RColumn> DodakColumns(const DodakColumnBindings& bindings) {
     return BuildColumns(c_Rows, bindings);
