@@ -13,7 +13,7 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-#include <set>
+#include <string>
 
 namespace refhost {
 
@@ -81,16 +81,22 @@ void DocumentScreen::refresh() {
     showLines();
 }
 
-QStringList DocumentScreen::refreshForNew() {
-    const ResultModel& documents = documents_->table().result();
-    std::set<std::string> known;
-    for (int row = 0; row < documents.rowCount(); ++row) {
-        known.insert(documents.text(row, "_ID"));
-    }
+std::set<std::int64_t> DocumentScreen::created() const {
+    return readCreated(connection_, definition_);
+}
+
+QStringList DocumentScreen::refreshForCreated(const std::set<std::int64_t>& before) {
     refresh();
+    std::set<std::string> made;
+    for (const std::int64_t id : created()) {
+        if (!before.contains(id)) {
+            made.insert(std::to_string(id));
+        }
+    }
+    const ResultModel& documents = documents_->table().result();
     QStringList numbers;
     for (int row = 0; row < documents.rowCount(); ++row) {
-        if (!known.contains(documents.text(row, "_ID"))) {
+        if (made.contains(documents.text(row, "_ID"))) {
             numbers.append(QString::fromStdString(documents.text(row, "CISLO")));
         }
     }

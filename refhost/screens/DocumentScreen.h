@@ -7,6 +7,9 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <cstdint>
+#include <set>
+
 class QLabel;
 
 namespace refhost {
@@ -29,8 +32,11 @@ public:
     /// Reads the documents and the current one's lines again; the current document stays current. Throws
     /// EDatabaseError.
     void refresh();
-    /// Refreshes; the numbers of the documents that have come since the screen was last read, in their order.
-    QStringList refreshForNew();
+    /// The documents that this session's saves have made so far.
+    std::set<std::int64_t> created() const;
+    /// Refreshes; the numbers of the documents that this session's saves have made beside those, in their order. What
+    /// others made meanwhile is not named.
+    QStringList refreshForCreated(const std::set<std::int64_t>& before);
 
     /// The current document, or an empty dataset.
     DocumentDataSet dataSet() const;

@@ -185,8 +185,9 @@ void MainWindow::insertLines() {
     DocumentScreen& screen = currentScreen();
     DocumentDataSet dataSet = screen.dataSet();
     tellNew({});
+    const auto madeBefore = screen.created();
     if (parts_.insertLines(std::string(screen.definition().code), dataSet)) {
-        tellNew(screen.refreshForNew());
+        tellNew(screen.refreshForCreated(madeBefore));
     }
 }
 

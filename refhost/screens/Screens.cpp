@@ -12,12 +12,12 @@ namespace refhost {
 namespace {
 
 constexpr std::array c_screens{
-    ScreenDefinition{"DODAK", texts::deliveryNotes, "SCREEN_DODAK_V", "SCREEN_DODAK_LINES_V", "DATUM",
+    ScreenDefinition{"DODAK", texts::deliveryNotes, "SCREEN_DODAK_V", "SCREEN_DODAK_LINES_V", "", "DATUM",
                      Qt::DescendingOrder},
-    ScreenDefinition{"DODOBJ", texts::orders, "SCREEN_DODOBJ_V", "SCREEN_DODOBJ_LINES_V", "OBJEDNANIDC",
-                     Qt::DescendingOrder},
-    ScreenDefinition{"DODOBJVZOR", texts::orderTemplates, "SCREEN_DODOBJVZOR_V", "SCREEN_DODOBJVZOR_LINES_V", "CISLO",
-                     Qt::AscendingOrder},
+    ScreenDefinition{"DODOBJ", texts::orders, "SCREEN_DODOBJ_V", "SCREEN_DODOBJ_LINES_V", "SCREEN_DODOBJ_CREATED_V",
+                     "OBJEDNANIDC", Qt::DescendingOrder},
+    ScreenDefinition{"DODOBJVZOR", texts::orderTemplates, "SCREEN_DODOBJVZOR_V", "SCREEN_DODOBJVZOR_LINES_V", "",
+                     "CISLO", Qt::AscendingOrder},
 };
 
 const ScreenDefinition* screenOfCode(std::string_view code) {
@@ -52,6 +52,17 @@ TResultTable readDocuments(TConnection& connection, const ScreenDefinition& scre
 TResultTable readDocument(TConnection& connection, const ScreenDefinition& screen, std::int32_t document) {
     return connection.Query("select * from " + std::string(screen.documentsView) +
                             " where _ID = " + std::to_string(document));
+}
+
+std::set<std::int64_t> readCreated(TConnection& connection, const ScreenDefinition& screen) {
+    if (screen.createdView.empty()) {
+        return {};
+    }
+    std::set<std::int64_t> created;
+    for (const auto& row : connection.Query("select _ID from " + std::string(screen.createdView)).Rows) {
+        created.insert(std::get<std::int64_t>(row.front()));
+    }
+    return created;
 }
 
 TResultTable readLines(TConnection& connection, const ScreenDefinition& screen, std::int32_t document) {

@@ -6,6 +6,7 @@
 #include <Qt>
 
 #include <cstdint>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,7 +21,8 @@ struct ScreenDefinition {
     HostText title;
     std::string_view documentsView;
     std::string_view linesView;
-    std::string_view sortColumn; ///< The order in which the documents first stand.
+    std::string_view createdView; ///< The documents that this session's saves have made; empty where none are made.
+    std::string_view sortColumn;  ///< The order in which the documents first stand.
     Qt::SortOrder sortOrder;
 };
 
@@ -39,6 +41,9 @@ TResultTable readDocuments(TConnection& connection, const ScreenDefinition& scre
 
 /// The document of that record number; no row when the screen has none.
 TResultTable readDocument(TConnection& connection, const ScreenDefinition& screen, std::int32_t document);
+
+/// The record numbers of the documents that this session's saves have made on the screen.
+std::set<std::int64_t> readCreated(TConnection& connection, const ScreenDefinition& screen);
 
 /// The stored lines of the document in their order.
 TResultTable readLines(TConnection& connection, const ScreenDefinition& screen, std::int32_t document);

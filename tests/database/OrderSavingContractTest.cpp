@@ -328,6 +328,27 @@ TEST_P(OrderSavingContract, ASuccessEmptiesTheSessionsRowsOfBothKindsOfDocument)
     EXPECT_NE(afterNote, afterOrder);
 }
 
+TEST_P(OrderSavingContract, ASessionKnowsTheOrdersThatItsOwnSavesHaveMadeAndNoOthers) {
+    const std::string url = ownCompanyUrl();
+    const auto clerk = openAs(url, "novakova");
+    const auto other = openAs(url, "dvorak");
+    const auto made = [](Database& session) {
+        return rows(session, "select _ID from SCREEN_DODOBJ_CREATED_V order by _ID");
+    };
+    EXPECT_EQ(made(*clerk), "") << "before any save of the session";
+
+    EXPECT_EQ(savedRow(*other, c_Order, flour("1", "Nápoje Švec")), "");
+    EXPECT_EQ(savedRow(*clerk, c_Order, flour("1", "Čajovna Říp")), "");
+    EXPECT_EQ(made(*other), "11");
+    EXPECT_EQ(made(*clerk), "12");
+
+    EXPECT_EQ(savedRow(*clerk, c_Order, flour("2")), "") << "a save that makes none";
+    EXPECT_NE(savedRow(*clerk, c_ClosedOrder, flour("1", "Nápoje Švec")), "") << "a refused one";
+    EXPECT_EQ(made(*clerk), "12");
+    EXPECT_EQ(savedRow(*clerk, c_Order, flour("1", "Nápoje Švec")), "");
+    EXPECT_EQ(made(*clerk), "12\n13");
+}
+
 INSTANTIATE_TEST_SUITE_P(Engines, OrderSavingContract, testing::ValuesIn(c_BothEngines), engineOf);
 
 } // namespace

@@ -220,7 +220,7 @@ TEST(ProceduresPage, TellsEveryViewThatTheHostReadsWithItsColumnsOnBothEngines) 
     const Page page;
     PostgreSQLSession session = serverSession();
     const auto embedded = newDatabase(Engine::SQLite);
-    EXPECT_EQ(page.views().size(), 15U);
+    EXPECT_EQ(page.views().size(), 16U);
     for (const auto& [name, columns] : page.views()) {
         EXPECT_EQ(columnsOf(session, "select * from melvark." + name), columns) << name;
         EXPECT_EQ(embedded->Query("select * from " + name).Columns, withoutTypes(columns)) << name;

@@ -40,15 +40,34 @@ protected:
                                      {.Columns = {"_ID", "CISLO"}, .Rows = {{std::int64_t{9}, AnsiString("OB-1")}}});
         host_.connection.answerQuery("select * from SCREEN_DODOBJVZOR_V order by _ID",
                                      {.Columns = {"_ID", "CISLO"}, .Rows = {}});
+        answerCreated({});
         for (const int document : {101, 102, 103}) {
             host_.connection.answerQuery(linesQuery("DODAK", document), linesOf(document));
         }
         host_.connection.answerQuery(linesQuery("DODOBJ", 9), linesOf(9));
         insertLines_ = [this](const std::string& params, TDataSet& dataSet) {
             executed_.push_back(params + " " + dataSet.FieldByName("_ID").AsString());
+            whileInserting_();
             return changed_;
         };
     }
+
+    void answerOrders(const std::vector<std::pair<std::int64_t, const char*>>& orders) {
+        TResultTable table{.Columns = {"_ID", "CISLO"}, .Rows = {}};
+        for (const auto& [id, number] : orders) {
+            table.Rows.push_back({id, AnsiString(number)});
+        }
+        host_.connection.answerQuery("select * from SCREEN_DODOBJ_V order by _ID", table);
+    }
+    /// The orders that this session's saves have made.
+    void answerCreated(const std::vector<std::int64_t>& orders) {
+        TResultTable table{.Columns = {"_ID"}, .Rows = {}};
+        for (const std::int64_t id : orders) {
+            table.Rows.push_back({id});
+        }
+        host_.connection.answerQuery("select _ID from SCREEN_DODOBJ_CREATED_V", table);
+    }
+    const QLabel& newDocuments() const { return *window_->findChild<QLabel*>(QStringLiteral("newDocumentsLabel")); }
 
     static std::string linesQuery(const std::string& screen, int document) {
         return "select * from SCREEN_" + screen + "_LINES_V where _DOCID = " + std::to_string(document) +
@@ -86,6 +105,7 @@ protected:
     Languages languages_{"cs"};
     std::function<bool(const std::string&, TDataSet&)> insertLines_;
     std::vector<std::string> executed_;
+    std::function<void()> whileInserting_ = [] {};
     bool changed_ = false;
     std::unique_ptr<MainWindow> window_;
 };
@@ -116,35 +136,44 @@ TEST_F(MainWindowTest, DocumentsThatInsertedLinesMadeAreNamedInTheStatusLine) {
     changed_ = true;
     open();
     press(Qt::Key_2, Qt::ControlModifier); // the orders
-    const auto answerOrders = [this](std::vector<std::pair<std::int64_t, const char*>> orders) {
-        TResultTable table{.Columns = {"_ID", "CISLO"}, .Rows = {}};
-        for (const auto& [id, number] : orders) {
-            table.Rows.push_back({id, AnsiString(number)});
-        }
-        host_.connection.answerQuery("select * from SCREEN_DODOBJ_V order by _ID", table);
-    };
-    const auto* status = window_->findChild<QLabel*>(QStringLiteral("newDocumentsLabel"));
-    EXPECT_EQ(status->text(), QString());
+    EXPECT_EQ(newDocuments().text(), QString());
 
-    answerOrders({{9, "OB-1"}, {12, "OB-2"}, {13, "OB-3"}});
+    whileInserting_ = [this] {
+        answerOrders({{9, "OB-1"}, {12, "OB-2"}, {13, "OB-3"}});
+        answerCreated({12, 13});
+    };
     press(Qt::Key_F8);
-    EXPECT_EQ(status->text(), QStringLiteral("Nové doklady: OB-2, OB-3"));
-    EXPECT_EQ(status->toolTip(), status->text());
+    EXPECT_EQ(newDocuments().text(), QStringLiteral("Nové doklady: OB-2, OB-3"));
+    EXPECT_EQ(newDocuments().toolTip(), newDocuments().text());
     EXPECT_EQ(documents().currentKey(), "9") << "the order that was filled stays current";
 
+    whileInserting_ = [] {};
     press(Qt::Key_F8);
-    EXPECT_EQ(status->text(), QString()) << "nothing came of the next one";
+    EXPECT_EQ(newDocuments().text(), QString()) << "nothing came of the next one";
+}
+
+TEST_F(MainWindowTest, AnotherClerksNewDocumentIsShownButNotNamed) {
+    changed_ = true;
+    open();
+    press(Qt::Key_2, Qt::ControlModifier);
+    whileInserting_ = [this] {
+        answerOrders({{9, "OB-1"}, {12, "OB-2 jiného"}, {13, "OB-3"}});
+        answerCreated({13});
+    };
+    press(Qt::Key_F8);
+    EXPECT_EQ(newDocuments().text(), QStringLiteral("Nové doklady: OB-3"));
+    EXPECT_EQ(shownDocuments().rowCount(), 3);
 }
 
 TEST_F(MainWindowTest, NothingIsNamedWhenNoLinesWereInserted) {
     open();
     press(Qt::Key_2, Qt::ControlModifier);
-    host_.connection.answerQuery(
-        "select * from SCREEN_DODOBJ_V order by _ID",
-        {.Columns = {"_ID", "CISLO"},
-         .Rows = {{std::int64_t{9}, AnsiString("OB-1")}, {std::int64_t{12}, AnsiString("OB-2")}}});
+    whileInserting_ = [this] {
+        answerOrders({{9, "OB-1"}, {12, "OB-2"}});
+        answerCreated({12});
+    };
     press(Qt::Key_F8);
-    EXPECT_EQ(window_->findChild<QLabel*>(QStringLiteral("newDocumentsLabel"))->text(), QString());
+    EXPECT_EQ(newDocuments().text(), QString());
 }
 
 TEST_F(MainWindowTest, MovingSidewaysReadsNothing) {

@@ -95,6 +95,12 @@ begin
     where coalesce(s.DODKID, s.DDOBID) > 0
     on conflict do nothing;
 
+    perform set_config('melvark.created_orders',
+                       concat_ws(',', nullif(current_setting('melvark.created_orders', true), ''),
+                                 string_agg(t.DDOBID::text, ',' order by t.DDOBID)), false)
+    from pg_temp.ORDER_TARGET t
+    where t.DDOBID <> a_DDOBID;
+
     -- The save is over for all that the session had checked, of either kind of document.
     truncate pg_temp.NOTE_STAGED, pg_temp.ORDER_STAGED, pg_temp.ORDER_TARGET;
 end

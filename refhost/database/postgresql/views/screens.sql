@@ -70,3 +70,8 @@ create view SCREEN_DODOBJVZOR_LINES_V as
 select _ID, _DOCID, PORADI, SKLADPOL, SKLAD, MNOZSTVI, JEDNOTKY, DODANO, DODAVATEL, POPIS, KOMENTAR
 from ORDER_LINES_V
 where _VZOR = 1;
+
+-- The orders that this session's saves have made beside the one that was saved, for the screen to name them.
+create view SCREEN_DODOBJ_CREATED_V as
+select c.ID::integer as _ID
+from unnest(string_to_array(nullif(current_setting('melvark.created_orders', true), ''), ',')) c (ID);

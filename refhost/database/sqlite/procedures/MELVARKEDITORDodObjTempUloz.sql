@@ -86,6 +86,9 @@ join (select :a_DODKID_ZDROJ as DODKID, null as DDOBID
 where true
 on conflict do nothing;
 
+insert into ORDER_CREATED (ID)
+select DDOBID from ORDER_TARGET where DDOBID <> :a_DDOBID;
+
 -- The save is over for all that the session had checked, of either kind of document.
 delete from ORDER_STAGED;
 

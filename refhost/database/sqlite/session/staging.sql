@@ -71,3 +71,9 @@ create temp table ORDER_STAGED (
 
 -- Into which order the lines of each supplier go; a null supplier is that of lines without one.
 create temp table ORDER_TARGET (DODVID integer, DDOBID integer);
+
+-- The orders that this session's saves have made beside the one that was saved, for the screen to name them.
+create temp table ORDER_CREATED (ID integer primary key);
+
+create temp view SCREEN_DODOBJ_CREATED_V as
+select ID as _ID from ORDER_CREATED;

@@ -1,0 +1,178 @@
+#include "refhost/CommandLine.h"
+#include "refhost/Languages.h"
+#include "refhost/Trace.h"
+#include "refhost/WindowedHost.h"
+#include "tests/database/ContractCompany.h"
+#include "tests/database/Engines.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+#include <gtest/gtest.h>
+
+// What the main window tells after a save, with the real module, window and database in this process.
+
+namespace {
+
+using refhost::Database;
+using refhost::Engine;
+
+constexpr int c_LimitMs = 20000;
+
+/// What a clerk does, each step as soon as its window is there, also within the loops of menus and modal windows.
+class Clerk {
+public:
+    void when(std::function<bool()> isThere, std::function<void()> act) {
+        steps_.push_back({std::move(isThere), std::move(act)});
+    }
+
+    void begin() {
+        waited_.start();
+        lookAgain();
+    }
+
+    bool isDone() const { return steps_.empty(); }
+
+private:
+    struct Step {
+        std::function<bool()> IsThere;
+        std::function<void()> Act;
+    };
+
+    // A timer of its own each time: one that is at work does not fire in the loop that it has entered.
+    void lookAgain() {
+        QTimer::singleShot(10, &context_, [this] { look(); });
+    }
+
+    void look() {
+        if (steps_.empty()) {
+            return;
+        }
+        if (waited_.hasExpired(c_LimitMs)) {
+            ADD_FAILURE() << steps_.size() << " steps were never possible";
+            steps_.clear();
+            QCoreApplication::exit(1);
+            for (QWidget* const window : QApplication::topLevelWidgets()) {
+                window->close();
+            }
+            return;
+        }
+        lookAgain();
+        if (steps_.front().IsThere()) {
+            const auto act = steps_.front().Act;
+            steps_.pop_front();
+            waited_.restart();
+            act();
+        }
+    }
+
+    std::deque<Step> steps_;
+    QElapsedTimer waited_;
+    QObject context_;
+};
+
+bool isActive(const char* objectName) {
+    const QWidget* const window = QApplication::activeWindow();
+    return window && window->objectName() == QLatin1String(objectName) && QApplication::focusWidget();
+}
+
+std::function<bool()> active(const char* objectName) {
+    return [=] { return isActive(objectName); };
+}
+
+bool isMenuOpen() {
+    return QApplication::activePopupWidget() != nullptr;
+}
+
+bool isEditorOpen() {
+    const QWidget* const window = QApplication::activeModalWidget();
+    return window && window->isActiveWindow() &&
+           window->windowTitle() == QStringLiteral("Vložení položek do objednávky zboží");
+}
+
+void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(isMenuOpen() ? QApplication::activePopupWidget() : QApplication::focusWidget(), key, modifiers);
+}
+
+void type(const char* text) {
+    for (const QChar letter : QString::fromUtf8(text)) {
+        QTest::keyClick(QApplication::focusWidget(), letter.toLatin1());
+    }
+}
+
+/// Another clerk's save, which makes an order of "Nápoje Švec" beside OBJ-10.
+void saveAsAnotherClerk(Database& database) {
+    const auto call = [&](const char* name, std::vector<TDbParam> params) {
+        database.Execute({name, std::move(params), false});
+    };
+    call("MELVARKEDITORResetTemp", {});
+    call("MELVARKEDITORDodObjInsertToTemp", {{"a_SKLADPOL", AnsiString("Sirup")},
+                                             {"a_DODAVATEL", AnsiString("Nápoje Švec")},
+                                             {"a_SKPLID", AnsiString("71")},
+                                             {"a_MNOZSTVI", AnsiString("1")},
+                                             {"a_JEDNOTKY", AnsiString("l")}});
+    call("MELVARKEDITORDodObjTempUloz", {{"a_DDOBID", std::int64_t{refhost::c_EarlierOrder}}});
+}
+
+class NewOrdersSession : public testing::TestWithParam<Engine> {};
+
+TEST_P(NewOrdersSession, OfThreeSuppliersAreNamedInTheStatusLineAndAnotherClerksIsNot) {
+    const std::string url = refhost::newDatabaseUrl(GetParam());
+    const auto database = refhost::openAs(url, "novakova");
+    refhost::addContractCompany(*database);
+    // The template's third line is of a third supplier.
+    database->runScript("insert into DODOBJPOL (ID, DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI) "
+                        "values (703, 7, 3, 4, 41, 1, 3, '2')");
+    const auto others = refhost::openAs(url, "dvorak");
+    const TFormatSettings settings = TFormatSettings::Czech();
+    const refhost::Languages languages("cs");
+    refhost::Trace trace;
+    const refhost::CommandLine commandLine{};
+    refhost::WindowedHost host(commandLine, *database, settings, languages, trace);
+
+    QString status;
+    QString hint;
+    Clerk clerk;
+    clerk.when(active("mainWindow"), [] {
+        press(Qt::Key_2, Qt::ControlModifier);
+        type("8:30"); // OBJ-1
+        press(Qt::Key_Return);
+        press(Qt::Key_Escape);
+        press(Qt::Key_F8);
+    });
+    clerk.when(isMenuOpen, [] {
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+        press(Qt::Key_Return);
+    });
+    clerk.when(active("SelectBox"), [] {
+        type("VZ-1");
+        press(Qt::Key_Return);
+    });
+    clerk.when(isEditorOpen, [&] {
+        saveAsAnotherClerk(*others); // OV2026-000011
+        press(Qt::Key_Return, Qt::ControlModifier);
+    });
+    clerk.when(active("mainWindow"), [&] {
+        const auto* const label = QApplication::activeWindow()->findChild<QLabel*>(QStringLiteral("newDocumentsLabel"));
+        status = label->text();
+        hint = label->toolTip();
+        QApplication::activeWindow()->close();
+    });
+    clerk.begin();
+    EXPECT_EQ(host.openMainWindow(), 0);
+    ASSERT_TRUE(clerk.isDone());
+    EXPECT_EQ(status, QStringLiteral("Nové doklady: OV2026-000012, OV2026-000013"));
+    EXPECT_EQ(hint, status);
+    EXPECT_EQ(database->Query("select _ID from SCREEN_DODOBJ_V where _ID > 10").Rows.size(), 3U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Engines, NewOrdersSession, testing::Values(Engine::SQLite, Engine::PostgreSQL),
+                         [](const auto& row) { return refhost::engineName(row.param); });
+
+} // namespace
