@@ -7,12 +7,22 @@
 #include "tests/widgets/ModalDriver.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <functional>
 #include <gmock/gmock.h>
 #include <vector>
+
+inline void press(const QWidget& window, const char* button) {
+    QTest::mouseClick(window.findChild<QPushButton*>(QString::fromUtf8(button)), Qt::LeftButton);
+}
+
+inline void typeInto(const QWidget& dialog, const char* edit, const char* text) {
+    QTest::keyClicks(dialog.findChild<QLineEdit*>(QString::fromLatin1(edit)), QString::fromUtf8(text));
+}
 
 /// An editor of a document on a recording host, driven by keys while it is shown modally.
 class DocumentEditorFixture : public testing::Test {
@@ -45,6 +55,16 @@ protected:
         QTest::keyClick(editor.ActiveEditor(), key, modifiers);
     }
 
+    /// What the list column offers.
+    static std::vector<AnsiString> choices(const TEditBox& editor, const char* key) {
+        const auto* combo = qobject_cast<QComboBox*>(editor.GetColumnSettings(key).Editor);
+        std::vector<AnsiString> texts;
+        for (int index = 0; combo && index < combo->count(); ++index) {
+            texts.push_back(combo->itemText(index).toStdString());
+        }
+        return texts;
+    }
+
     /// The texts of the named columns in a grid row as one line.
     static AnsiString row(const TEditBox& editor, int gridRow, const std::vector<AnsiString>& keys) {
         AnsiString line;
@@ -69,6 +89,14 @@ protected:
             return "closed";
         }
         return editor.GetVisibleColumn(editor.EditCol()).Name + " in row " + std::to_string(editor.EditRow());
+    }
+
+    /// The editor's current line as "column in row n", "out of view" when the grid does not show it.
+    static AnsiString currentLine(const TEditBox& editor) {
+        const TStringGrid& grid = *editor.StringGrid;
+        const bool isInView = grid.CellsArea().contains(grid.CellRect(grid.Col(), grid.Row()));
+        return isInView ? editor.GetVisibleColumn(grid.Col()).Name + " in row " + std::to_string(grid.Row())
+                        : "out of view";
     }
 
     RecordingHost host_;

@@ -16,18 +16,6 @@ using testing::StartsWith;
 
 class DodakEditorSaving : public DodakEditorFixture {
 protected:
-    /// The editor's current line as "column in row n", "out of view" when the grid does not show it.
-    static AnsiString currentLine(const TDodakEditBox& editor) {
-        const TStringGrid& grid = *editor.StringGrid;
-        const bool isInView = grid.CellsArea().contains(grid.CellRect(grid.Col(), grid.Row()));
-        return isInView ? editor.GetVisibleColumn(grid.Col()).Name + " in row " + std::to_string(grid.Row())
-                        : "out of view";
-    }
-
-    static void pressOk(const TDodakEditBox& editor) {
-        QTest::mouseClick(editor.findChild<QPushButton*>(QStringLiteral("OkBtn")), Qt::LeftButton);
-    }
-
     /// More lines than the grid shows at once.
     void scriptManyLines() {
         std::vector<LineCells> lines;
@@ -64,8 +52,7 @@ TEST_F(DodakEditorSaving, EmptiesStagesTakesOverAndClosesWithOk) {
 
 TEST_F(DodakEditorSaving, TheOkButtonSavesToo) {
     const auto editor = open();
-    const int result = showAnd(
-        *editor, [&] { QTest::mouseClick(editor->findChild<QPushButton*>(QStringLiteral("OkBtn")), Qt::LeftButton); });
+    const int result = showAnd(*editor, [&] { press(*editor, "OkBtn"); });
     EXPECT_EQ(result, c_ResultOk);
     EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakTempUloz"), SizeIs(1));
 }
@@ -81,7 +68,7 @@ TEST_F(DodakEditorSaving, ARefusedLineKeepsTheEditorOpenWithEverythingTyped) {
         EXPECT_EQ(row(*editor, 1, {"SKLADPOL", "MNOZSTVI"}), "Mléko | 12");
         // The next try empties the staged rows first, so that none is stored twice.
         host_.connection.takeCalls();
-        QTest::mouseClick(editor->findChild<QPushButton*>(QStringLiteral("OkBtn")), Qt::LeftButton);
+        press(*editor, "OkBtn");
     });
     EXPECT_EQ(result, c_ResultOk);
     EXPECT_EQ(names(host_.connection.calls()).front(), "MELVARKEDITORResetTemp");
@@ -127,7 +114,7 @@ TEST_F(DodakEditorSaving, CancelAndTheCloseBoxStoreNothing) {
 TEST_F(DodakEditorSaving, ARefusedLineBecomesTheCurrentOneAndIsScrolledTo) {
     const std::function<void(TDodakEditBox&)> ways[] = {
         [](TDodakEditBox& editor) { type(editor, "", Qt::Key_Return, Qt::ControlModifier); },
-        [](TDodakEditBox& editor) { pressOk(editor); },
+        [](TDodakEditBox& editor) { press(editor, "OkBtn"); },
     };
     expectedErrors_ = {"Sklad Brno neexistuje.", "Sklad Brno neexistuje."};
     for (const auto& confirm : ways) {
@@ -154,7 +141,7 @@ TEST_F(DodakEditorSaving, ALineThatTheClosingCallRefusesBecomesTheCurrentOne) {
     expectedErrors_ = {"Sazba DPH 22 % neplatí."};
     const auto editor = open();
     showAnd(*editor, [&] {
-        pressOk(*editor);
+        press(*editor, "OkBtn");
         EXPECT_EQ(currentLine(*editor), "MNOZSTVI in row 30");
     });
 }
@@ -166,9 +153,9 @@ TEST_F(DodakEditorSaving, ARefusalOrFailureOfNoLineLeavesTheCursor) {
     expectedErrors_ = {"Dodací list 7 je uzavřen.", "Spojení se přerušilo."};
     const auto editor = open();
     showAnd(*editor, [&] {
-        pressOk(*editor);
+        press(*editor, "OkBtn");
         EXPECT_EQ(currentLine(*editor), "MNOZSTVI in row 1");
-        pressOk(*editor);
+        press(*editor, "OkBtn");
         EXPECT_EQ(currentLine(*editor), "MNOZSTVI in row 1");
     });
 }
@@ -176,7 +163,7 @@ TEST_F(DodakEditorSaving, ARefusalOrFailureOfNoLineLeavesTheCursor) {
 TEST_F(DodakEditorSaving, OneEmptyRowIsStagedAsNullsAndTakenOver) {
     scriptDodakEditor(host_.connection, {});
     const auto editor = open();
-    EXPECT_EQ(showAnd(*editor, [&] { pressOk(*editor); }), c_ResultOk);
+    EXPECT_EQ(showAnd(*editor, [&] { press(*editor, "OkBtn"); }), c_ResultOk);
     EXPECT_THAT(host_.connection.calls(),
                 ElementsAre("MELVARKEDITORResetTemp()",
                             "MELVARKEDITORDodakInsertToTemp(a_DOBSID=null, a_SKLADPOL=null, a_SKLAD=null, "

@@ -19,14 +19,6 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
 
-void press(QWidget& dialog, const char* button) {
-    QTest::mouseClick(dialog.findChild<QPushButton*>(QString::fromUtf8(button)), Qt::LeftButton);
-}
-
-void typeInto(QWidget& dialog, const char* edit, const char* text) {
-    QTest::keyClicks(dialog.findChild<QLineEdit*>(QString::fromLatin1(edit)), QString::fromUtf8(text));
-}
-
 // ---- Opening ----
 
 class DodObjEditorOpening : public DodObjEditorFixture {};
@@ -120,16 +112,8 @@ TEST_F(DodObjEditorOpening, AMasterCheckThatAnswersNoIsAQuietCancel) {
 
 TEST_F(DodObjEditorOpening, ListColumnsOfferWarehousesAndSuppliers) {
     const auto editor = open();
-    const auto choices = [&](const char* key) {
-        const auto* combo = qobject_cast<QComboBox*>(editor->GetColumnSettings(key).Editor);
-        std::vector<AnsiString> texts;
-        for (int index = 0; combo && index < combo->count(); ++index) {
-            texts.push_back(combo->itemText(index).toStdString());
-        }
-        return texts;
-    };
-    EXPECT_THAT(choices("SKLAD"), ElementsAre("Brno", "Praha"));
-    EXPECT_THAT(choices("DODAVATEL"), ElementsAre("Lípa", "Vrba"));
+    EXPECT_THAT(choices(*editor, "SKLAD"), ElementsAre("Brno", "Praha"));
+    EXPECT_THAT(choices(*editor, "DODAVATEL"), ElementsAre("Lípa", "Vrba"));
 }
 
 // ---- Sources ----
@@ -263,6 +247,33 @@ TEST_F(DodObjEditorSource, ACancelledDialogCancelsTheEditorQuietly) {
     }
     EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjGet"), IsEmpty());
     EXPECT_THAT(manager_.boxes(), IsEmpty());
+}
+
+TEST_F(DodObjEditorSource, AnOkThatNamesNoDocumentCancelsTheEditor) {
+    const std::pair<const char*, const char*> sources[] = {{"OBJEDNAVKA", "Objednavka"},
+                                                           {"OBJEDNAVKAVZOR", "ObjednavkaVzor"},
+                                                           {"DODAK", "Dodak"},
+                                                           {"DODAVATEL", "DodCenik"},
+                                                           {"DODAVKY", "Dodavky"}};
+    supplier_ = 0; // so that the price list asks, too
+    for (const auto& [code, check] : sources) {
+        for (const std::int64_t id : {-1, -2}) {
+            host_.connection.procedure("MELVARKEDITORDodObjCheckZdroj" + AnsiString(check))
+                .returns({TResultTable{{"ID"}, {{id}}}});
+            ModalDriver dialog({}, [](QWidget& box) { press(box, "OkBtn"); });
+            EXPECT_THROW(open(code), EEditBoxCanceled) << code << ' ' << id;
+        }
+    }
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjCheckZdroj"), SizeIs(10)) << "OK was pressed each time";
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjGet"), IsEmpty());
+}
+
+TEST_F(DodObjEditorSource, GroupsWithoutAnyLevelAreNoCancelButTheDatabasesDecision) {
+    ModalDriver dialog({}, [](QWidget& box) { press(box, "OkBtn"); });
+    const auto editor = open("SKUPSKLADPOL");
+    EXPECT_EQ(fillCalls().back(), "MELVARKEDITORDodObjGetPolozkyBySkupSkladPol(a_DDOBIDMASTER=7, a_SSP1ID=null, "
+                                  "a_SSP2ID=null, a_SSP3ID=null) open");
+    EXPECT_EQ(editor->DataGrid().GetRowCount(), 3);
 }
 
 TEST_F(DodObjEditorSource, TheDialogIsGoneWhenTheLinesAreAskedFor) {
@@ -460,6 +471,25 @@ TEST_F(DodObjEditorSaving, ARefusedSaveKeepsTheEditorOpenWithEverythingTyped) {
     });
     EXPECT_EQ(result, c_ResultOk);
     EXPECT_EQ(host_.connection.calls().front(), "MELVARKEDITORResetTemp()");
+}
+
+TEST_F(DodObjEditorSaving, ARefusedLineIsTheCurrentOneAndTheNextTryEmptiesTheStagedRows) {
+    host_.connection.procedure("MELVARKEDITORDodObjInsertToTemp")
+        .refusesCall(2, "Jednotka „karton“ nepatří k položce „Cukr“. Načtěte řádek znovu.");
+    expectedErrors_ = {"Jednotka „karton“ nepatří k položce „Cukr“. Načtěte řádek znovu."};
+    const auto editor = open();
+    EXPECT_EQ(showAnd(*editor,
+                      [&] {
+                          type(*editor, "12", Qt::Key_Return, Qt::ControlModifier);
+                          EXPECT_EQ(currentLine(*editor), "MNOZSTVIHL in row 2");
+                          EXPECT_EQ(row(*editor, 1, {"SKLADPOL", "MNOZSTVIHL"}), "Mouka | 12");
+                          EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjTempUloz"), IsEmpty());
+                          host_.connection.takeCalls();
+                          press(*editor, "OkBtn");
+                      }),
+              c_ResultOk);
+    EXPECT_EQ(host_.connection.calls().front(), "MELVARKEDITORResetTemp()");
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjInsertToTemp"), SizeIs(3));
 }
 
 TEST_F(DodObjEditorSaving, AReportedFailureKeepsTheEditorOpen) {

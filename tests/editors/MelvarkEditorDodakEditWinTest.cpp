@@ -110,16 +110,8 @@ TEST_F(DodakEditorOpening, AMissingProcedureIsTheDatabasesError) {
 
 TEST_F(DodakEditorOpening, ListColumnsOfferWarehousesAndRates) {
     const auto editor = open();
-    const auto choices = [&](const char* key) {
-        const auto* combo = qobject_cast<QComboBox*>(editor->GetColumnSettings(key).Editor);
-        std::vector<AnsiString> texts;
-        for (int index = 0; combo && index < combo->count(); ++index) {
-            texts.push_back(combo->itemText(index).toStdString());
-        }
-        return texts;
-    };
-    EXPECT_THAT(choices("SKLAD"), ElementsAre("Brno", "Praha"));
-    EXPECT_THAT(choices("DPH"), ElementsAre("21 %", "12 %", "0 %"));
+    EXPECT_THAT(choices(*editor, "SKLAD"), ElementsAre("Brno", "Praha"));
+    EXPECT_THAT(choices(*editor, "DPH"), ElementsAre("21 %", "12 %", "0 %"));
 }
 
 TEST_F(DodakEditorOpening, LocalVatColumnsAreHiddenOnesThatTheClerkMayShowOnlyWithLocalVat) {
@@ -153,12 +145,6 @@ protected:
             .returns({TResultTable{{"ID"}, {{std::int64_t{12}}}}});
     }
 
-    static void typeNumber(QWidget& dialog, const char* number) {
-        QTest::keyClicks(dialog.findChild<QLineEdit*>(QStringLiteral("editSelect")), QString::fromUtf8(number));
-    }
-    static void press(QWidget& dialog, const char* button) {
-        QTest::mouseClick(dialog.findChild<QPushButton*>(QString::fromUtf8(button)), Qt::LeftButton);
-    }
     static void uncheck(QWidget& dialog, const char* option) {
         dialog.findChild<QCheckBox*>(QString::fromUtf8(option))->click();
     }
@@ -167,7 +153,7 @@ protected:
 TEST_F(DodakEditorSource, AnOrdersLinesAreFilledAndTheOrderIsNamedInTheSave) {
     ModalDriver dialog({}, [](QWidget& box) {
         EXPECT_EQ(box.windowTitle(), QStringLiteral("Výběr objednávky"));
-        typeNumber(box, "OV17");
+        typeInto(box, "editSelect", "OV17");
         press(box, "OkBtn");
     });
     const auto editor = open("DODOBJ");
@@ -190,7 +176,7 @@ TEST_F(DodakEditorSource, AnOrdersLinesAreFilledAndTheOrderIsNamedInTheSave) {
 TEST_F(DodakEditorSource, AnotherDeliveryNotesLinesAreFilledAsTheOptionsSay) {
     ModalDriver dialog({}, [](QWidget& box) {
         EXPECT_EQ(box.windowTitle(), QStringLiteral("Výběr dodacího listu"));
-        typeNumber(box, "DL3");
+        typeInto(box, "editSelect", "DL3");
         uncheck(box, "chbCeny");
         press(box, "OkBtn");
     });
@@ -270,7 +256,7 @@ TEST_F(DodakEditorSource, ARefusedSourceStaysInTheDialogUntilItIsCancelled) {
     host_.connection.procedure("MELVARKEDITORDodakCheckZdrojObjednavka").refusesCall(1, "Objednávka X neexistuje.");
     expectedErrors_ = {"Objednávka X neexistuje."};
     ModalDriver dialog({}, [](QWidget& box) {
-        typeNumber(box, "X");
+        typeInto(box, "editSelect", "X");
         press(box, "OkBtn");
         EXPECT_TRUE(box.isVisible());
         press(box, "CancelBtn");

@@ -236,16 +236,21 @@ TEST_F(OrderWorkflow, OnlyOkIsTrueAndTheEditorIsFreedInAnyCase) {
 
 TEST_F(OrderWorkflow, AMissingFieldIsTheDatasetsError) {
     const auto complete = dataSet_.fields;
-    for (const char* field : {"_SKLDID", "_DODVID", "SKLAD", "DODAVATEL", "OBJEDNANIDC"}) {
+    const auto expectError = [&](const char* params, const char* field) {
         dataSet_.fields = complete;
         dataSet_.fields.erase(field);
         try {
-            item_.Execute("DODOBJ,SABLONA", &dataSet_, nullptr);
-            ADD_FAILURE() << "no error without " << field;
+            item_.Execute(params, &dataSet_, nullptr);
+            ADD_FAILURE() << params << ": no error without " << field;
         } catch (const EDatabaseError& error) {
             EXPECT_THAT(error.Message(), HasSubstr(field));
         }
+    };
+    for (const char* field : {"_ID", "_SKLDID", "_DODVID", "SKLAD", "DODAVATEL"}) {
+        expectError("DODOBJ,SABLONA", field);
+        expectError("DODOBJVZOR,SABLONA", field);
     }
+    expectError("DODOBJ,SABLONA", "OBJEDNANIDC");
     EXPECT_THAT(host_.connection.calls(), IsEmpty());
 }
 

@@ -204,12 +204,22 @@ TEST_F(SourcePopupMenu, CaptionsAreShownLetterForLetter) {
 }
 
 TEST_F(SourcePopupMenu, AnotherSenderThanAMenuItemChangesNothing) {
-    PopupDriver menu([&](QMenu& popup) {
-        item_.OnPopupMenuClickDodak(screen_.get());
-        item_.OnPopupMenuClickDodObj(nullptr);
-        dismiss(popup);
-    });
-    EXPECT_FALSE(item_.Execute("DODAK", &dataSet_, nullptr));
+    showOrder();
+    for (const char* screen : {"DODAK", "DODOBJ", "DODOBJVZOR"}) {
+        SCOPED_TRACE(screen);
+        QAction strange; // an item, but its tag is no source's
+        strange.setData(8);
+        PopupDriver menu([&](QMenu& popup) {
+            for (TObject* const sender : {static_cast<TObject*>(screen_.get()), static_cast<TObject*>(&popup),
+                                          static_cast<TObject*>(&strange), static_cast<TObject*>(nullptr)}) {
+                item_.OnPopupMenuClickDodak(sender);
+                item_.OnPopupMenuClickDodObj(sender);
+                item_.OnPopupMenuClickDodObjVzor(sender);
+            }
+            dismiss(popup);
+        });
+        EXPECT_FALSE(item_.Execute(screen, &dataSet_, nullptr));
+    }
     EXPECT_THAT(host_.connection.calls(), IsEmpty());
 }
 

@@ -313,4 +313,34 @@ TEST_F(MultiSelectBox, ItsLinesStandBelowOneAnotherInAFixedHeightAndGrowInWidth)
     });
 }
 
+// Runs at 100 % and, as a test of its own, at 200 %.
+TEST_F(MultiSelectBox, EveryControlHasTheRoomThatItsTextNeedsAndNoneLiesOverAnother) {
+    showAnd([&] {
+        ASSERT_EQ(box.height(), 170);
+        std::vector<QWidget*> controls{box.findChild<QPushButton*>(QStringLiteral("OkBtn")),
+                                       box.findChild<QPushButton*>(QStringLiteral("CancelBtn"))};
+        for (int level = 1; level <= 3; ++level) {
+            controls.insert(controls.end(), {control<QLabel>("lblSelect", level), edit(level),
+                                             control<QToolButton>("SelectSpeedButton", level)});
+        }
+        const auto onForm = [&](const QWidget* of) { return QRect(of->mapTo(&box, QPoint()), of->size()); };
+        for (const QWidget* const one : controls) {
+            SCOPED_TRACE(one->objectName().toStdString());
+            EXPECT_TRUE(one->isVisible());
+            EXPECT_TRUE(box.rect().contains(onForm(one)));
+            EXPECT_EQ(one->visibleRegion().boundingRect(), one->rect()) << "nothing of it is cut off";
+            const QSize needed = one->minimumSizeHint();
+            EXPECT_GE(one->width(), needed.width());
+            EXPECT_GE(one->height(), needed.height());
+            for (const QWidget* const other : controls) {
+                EXPECT_TRUE(one == other || !onForm(one).intersects(onForm(other)))
+                    << other->objectName().toStdString();
+            }
+        }
+        for (int level = 1; level <= 3; ++level) {
+            EXPECT_GE(edit(level)->height(), edit(level)->fontMetrics().height()) << "a letter's whole height";
+        }
+    });
+}
+
 } // namespace
