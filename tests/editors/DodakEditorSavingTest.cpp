@@ -74,43 +74,6 @@ TEST_F(DodakEditorSaving, ARefusedLineKeepsTheEditorOpenWithEverythingTyped) {
     EXPECT_EQ(names(host_.connection.calls()).front(), "MELVARKEDITORResetTemp");
 }
 
-TEST_F(DodakEditorSaving, AReportedFailureKeepsTheEditorOpen) {
-    struct {
-        const char* procedure;
-        std::size_t closingCalls;
-    } const cases[] = {{"MELVARKEDITORDodakInsertToTemp", 0}, {"MELVARKEDITORDodakTempUloz", 1}};
-    for (const auto& failing : cases) {
-        scriptDodakEditor(host_.connection);
-        host_.connection.procedure(failing.procedure).failsCall(1);
-        const auto editor = open();
-        EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "", Qt::Key_Return, Qt::ControlModifier); }), c_ResultCancel);
-        EXPECT_TRUE(wasLeftOpen_) << failing.procedure;
-        EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakTempUloz"), SizeIs(failing.closingCalls));
-        host_.connection.dropProcedure(failing.procedure);
-    }
-}
-
-TEST_F(DodakEditorSaving, CancelAndTheCloseBoxStoreNothing) {
-    const std::function<void(TDodakEditBox&)> ways[] = {
-        [](TDodakEditBox& editor) {
-            QTest::mouseClick(editor.findChild<QPushButton*>(QStringLiteral("CancelBtn")), Qt::LeftButton);
-        },
-        [](TDodakEditBox& editor) { editor.close(); },
-    };
-    for (const auto& leave : ways) {
-        const auto editor = open();
-        EXPECT_EQ(showAnd(*editor,
-                          [&] {
-                              QTest::keyClicks(editor->ActiveEditor(), QStringLiteral("abc"));
-                              leave(*editor);
-                          }),
-                  c_ResultCancel);
-        EXPECT_FALSE(wasLeftOpen_);
-        EXPECT_THAT(manager_.boxes(), IsEmpty()) << "a half-typed value is dropped unasked";
-        EXPECT_THAT(names(host_.connection.calls()), ElementsAre("MELVARKEDITORNASTAVENIUlozNastaveniOkna"));
-    }
-}
-
 TEST_F(DodakEditorSaving, ARefusedLineBecomesTheCurrentOneAndIsScrolledTo) {
     const std::function<void(TDodakEditBox&)> ways[] = {
         [](TDodakEditBox& editor) { type(editor, "", Qt::Key_Return, Qt::ControlModifier); },

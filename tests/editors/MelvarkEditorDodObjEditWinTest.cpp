@@ -3,12 +3,8 @@
 #include "host/LibraryManager.h"
 #include "tests/editors/DodObjEditorFixture.h"
 
-#include <QAction>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFrame>
-#include <QMenu>
-#include <QPushButton>
 
 namespace {
 
@@ -61,17 +57,6 @@ TEST_F(DodObjEditorOpening, ThePricePanelIsNotThere) {
     EXPECT_FALSE(melvark::Visible(*editor->TopPanel));
 }
 
-TEST_F(DodObjEditorOpening, LeavesNoCellModified) {
-    const auto editor = open();
-    ASSERT_EQ(editor->DataGrid().GetRowCount(), 3);
-    EXPECT_EQ(stored(*editor, 2, "SKLADPOL"), "Cukr");
-    for (const RColumn& column : editor->DefaultColumns()) {
-        for (int row = 1; row <= 3; ++row) {
-            EXPECT_FALSE(isModified(*editor, row, column.Name)) << column.Name;
-        }
-    }
-}
-
 TEST_F(DodObjEditorOpening, ASourceWithoutRowsGivesOneEmptyRowInWhichNoQuantityCanBeTyped) {
     scriptDodObjEditor(host_.connection, {});
     const auto editor = open();
@@ -95,18 +80,6 @@ TEST_F(DodObjEditorOpening, AClosedDocumentIsRefusedBeforeAnythingIsAskedOrFille
     } catch (const EDatabaseError& error) {
         EXPECT_EQ(error.Message(), "Objednávka 7 je uzavřená.");
     }
-    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjGet"), IsEmpty());
-}
-
-TEST_F(DodObjEditorOpening, AMasterCheckThatAnswersNoIsAQuietCancel) {
-    host_.connection.procedure("MELVARKEDITORDodObjCheckMaster").failsCall(1);
-    try {
-        open();
-        FAIL() << "no error";
-    } catch (const EEditBoxCanceled& canceled) {
-        EXPECT_EQ(canceled.Message(), "Canceled");
-    }
-    EXPECT_THAT(manager_.boxes(), IsEmpty());
     EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjGet"), IsEmpty());
 }
 
@@ -457,22 +430,6 @@ TEST_F(DodObjEditorCells, TheUnitsDecideWhereverTheUserMovedTheColumns) {
 
 class DodObjEditorSaving : public DodObjEditorFixture {};
 
-TEST_F(DodObjEditorSaving, ARefusedSaveKeepsTheEditorOpenWithEverythingTyped) {
-    host_.connection.procedure("MELVARKEDITORDodObjTempUloz").refusesCall(1, "Objednávka OV7 je uzavřená.");
-    expectedErrors_ = {"Objednávka OV7 je uzavřená."};
-    const auto editor = open();
-    const int result = showAnd(*editor, [&] {
-        type(*editor, "12", Qt::Key_Return, Qt::ControlModifier);
-        EXPECT_TRUE(editor->isVisible());
-        EXPECT_EQ(row(*editor, 1, {"SKLADPOL", "MNOZSTVIHL"}), "Mouka | 12");
-        // The next try empties the staged rows first, so that none is stored twice.
-        host_.connection.takeCalls();
-        press(*editor, "OkBtn");
-    });
-    EXPECT_EQ(result, c_ResultOk);
-    EXPECT_EQ(host_.connection.calls().front(), "MELVARKEDITORResetTemp()");
-}
-
 TEST_F(DodObjEditorSaving, ARefusedLineIsTheCurrentOneAndTheNextTryEmptiesTheStagedRows) {
     host_.connection.procedure("MELVARKEDITORDodObjInsertToTemp")
         .refusesCall(2, "Jednotka „karton“ nepatří k položce „Cukr“. Načtěte řádek znovu.");
@@ -490,27 +447,6 @@ TEST_F(DodObjEditorSaving, ARefusedLineIsTheCurrentOneAndTheNextTryEmptiesTheSta
               c_ResultOk);
     EXPECT_EQ(host_.connection.calls().front(), "MELVARKEDITORResetTemp()");
     EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjInsertToTemp"), SizeIs(3));
-}
-
-TEST_F(DodObjEditorSaving, AReportedFailureKeepsTheEditorOpen) {
-    const std::pair<const char*, std::size_t> cases[] = {{"MELVARKEDITORDodObjInsertToTemp", 0},
-                                                         {"MELVARKEDITORDodObjTempUloz", 1}};
-    for (const auto& [procedure, closingCalls] : cases) {
-        scriptDodObjEditor(host_.connection);
-        host_.connection.procedure(procedure).failsCall(1);
-        const auto editor = open();
-        EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "", Qt::Key_Return, Qt::ControlModifier); }), c_ResultCancel);
-        EXPECT_TRUE(wasLeftOpen_) << procedure;
-        EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjTempUloz"), SizeIs(closingCalls));
-        host_.connection.dropProcedure(procedure);
-    }
-}
-
-TEST_F(DodObjEditorSaving, CancelStoresNothing) {
-    const auto editor = open();
-    EXPECT_EQ(showAnd(*editor, [&] { press(*editor, "CancelBtn"); }), c_ResultCancel);
-    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObj"), IsEmpty());
-    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORResetTemp"), IsEmpty());
 }
 
 } // namespace

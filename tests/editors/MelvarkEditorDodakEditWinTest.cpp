@@ -7,7 +7,6 @@
 
 #include <QAction>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QFrame>
 #include <QMenu>
 #include <QPushButton>
@@ -51,16 +50,6 @@ TEST_F(DodakEditorOpening, ShowsItsTitleAndThePricePanelAboveTheGrid) {
     });
 }
 
-TEST_F(DodakEditorOpening, LeavesNoCellModified) {
-    const auto editor = open();
-    ASSERT_EQ(editor->DataGrid().GetRowCount(), 2);
-    EXPECT_EQ(stored(*editor, 1, "SKLADPOL"), "Mléko");
-    for (const RColumn& column : editor->DefaultColumns()) {
-        EXPECT_FALSE(isModified(*editor, 1, column.Name)) << column.Name;
-        EXPECT_FALSE(isModified(*editor, 2, column.Name)) << column.Name;
-    }
-}
-
 TEST_F(DodakEditorOpening, ASourceWithoutRowsGivesOneEmptyRow) {
     scriptDodakEditor(host_.connection, {});
     const auto editor = open();
@@ -74,29 +63,6 @@ TEST_F(DodakEditorOpening, ASourceWithoutRowsGivesOneEmptyRow) {
 TEST_F(DodakEditorOpening, AnUnknownEditTypeIsRefused) {
     EXPECT_THROW(open("dodak"), EDodakEditBox);
     EXPECT_THAT(host_.connection.calls(), IsEmpty());
-}
-
-TEST_F(DodakEditorOpening, ARefusedMasterCheckIsTheDatabasesError) {
-    host_.connection.procedure("MELVARKEDITORDodakCheckMaster").refusesCall(1, "Dodací list 7 je uzavřen.");
-    try {
-        open();
-        FAIL() << "no error";
-    } catch (const EDatabaseError& error) {
-        EXPECT_EQ(error.Message(), "Dodací list 7 je uzavřen.");
-    }
-    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"), IsEmpty()) << "nothing is filled";
-}
-
-TEST_F(DodakEditorOpening, AMasterCheckThatAnswersNoIsAQuietCancel) {
-    host_.connection.procedure("MELVARKEDITORDodakCheckMaster").failsCall(1);
-    try {
-        open();
-        FAIL() << "no error";
-    } catch (const EEditBoxCanceled& canceled) {
-        EXPECT_EQ(canceled.Message(), "Canceled");
-    }
-    EXPECT_THAT(manager_.boxes(), IsEmpty());
-    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodakGet"), IsEmpty());
 }
 
 TEST_F(DodakEditorOpening, AMissingProcedureIsTheDatabasesError) {
