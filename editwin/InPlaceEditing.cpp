@@ -212,7 +212,7 @@ bool InPlaceEditing::LayOutAwaited() {
     }
     TStringGrid& grid = FEditing.Grid;
     const RColumn* const current = FEditing.ColumnAt(grid.Col());
-    const int dataColumn = current ? current->DataColumn : -1;
+    const int dataColumn = (current ? *current : BlankColumn()).DataColumn;
     const int row = grid.Row();
     FEditing.LayOut();
     const std::vector<int> shownAt = GridColumnsOfData(FEditing.Active, dataColumn);

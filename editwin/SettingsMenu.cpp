@@ -77,7 +77,7 @@ void SettingsMenu::LoadLast() {
         return;
     }
     ApplyDocument(*document);
-    for (QAction* const item : FControls.Menu.actions()) {
+    for (QAction* const item : FGroup->actions()) {
         if (Tag(item) == FSettings.InForce()) {
             ShowInForce(*item);
             return;
@@ -146,9 +146,8 @@ void SettingsMenu::SaveAsNew() {
         return;
     }
     LoadList();
-    if (FSettingsItem) {
-        FSettingsItem->setText(PlainCaption(box.GetNazev()));
-    }
+    FSettings.ShowAs(box.GetNazev());
+    NameItemInForce(box.GetNazev());
 }
 
 void SettingsMenu::Rename() {
@@ -163,9 +162,7 @@ void SettingsMenu::Rename() {
     if (!AskAndStore(box, [this](const SettingInfo& changed) { FSettings.Rename(changed); })) {
         return;
     }
-    if (FSettingsItem) {
-        FSettingsItem->setText(PlainCaption(box.GetNazev()));
-    }
+    NameItemInForce(box.GetNazev());
     FControls.Button.SetCaption(box.GetNazev());
 }
 
@@ -203,6 +200,12 @@ void SettingsMenu::RestoreBuiltIn() {
         FControls.Recalculation.setChecked(true);
     }
     FSettings.ForgetDefault();
+}
+
+void SettingsMenu::NameItemInForce(const AnsiString& name) {
+    if (FSettingsItem) {
+        FSettingsItem->setText(PlainCaption(name));
+    }
 }
 
 /// No setting is in force, and none is checked.

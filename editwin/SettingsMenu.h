@@ -69,7 +69,7 @@ public:
     void Delete();
     void RestoreBuiltIn();
 
-    /// The setting in force; -1 for none.
+    /// The setting in force; c_NullValue for none.
     std::int32_t SettingsId() const { return FSettings.InForce(); }
     /// Its item; null for none, and for a setting that the list does not hold.
     QAction* SettingsItem() const { return FSettingsItem; }
@@ -78,6 +78,7 @@ private:
     QAction* MakeItem(const SavedSetting& setting);
     void ShowInForce(QAction& item);
     void LeaveSetting();
+    void NameItemInForce(const AnsiString& name);
     bool AskAndStore(TSettingsBox& box, const std::function<void(const SettingInfo&)>& store) const;
 
     GridEditing& FEditing;

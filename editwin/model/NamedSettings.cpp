@@ -9,6 +9,13 @@ const SavedSetting* NamedSettings::Find(std::int32_t id) const {
     return found == FListed.end() ? nullptr : &*found;
 }
 
+void NamedSettings::ShowAs(const AnsiString& name) {
+    const auto shown = std::ranges::find(FListed, FInForce, &SavedSetting::Id);
+    if (shown != FListed.end()) {
+        shown->Name = name;
+    }
+}
+
 std::optional<AnsiString> NamedSettings::LoadDefault() {
     std::optional<DefaultSetting> setting = FStore.LoadDefault();
     if (!setting) {
@@ -20,10 +27,7 @@ std::optional<AnsiString> NamedSettings::LoadDefault() {
 
 void NamedSettings::Rename(const SettingInfo& info) {
     FStore.Rename(FInForce, info);
-    const auto renamed = std::ranges::find(FListed, FInForce, &SavedSetting::Id);
-    if (renamed != FListed.end()) {
-        renamed->Name = info.Name;
-    }
+    ShowAs(info.Name);
 }
 
 void NamedSettings::Delete() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editwin/model/SettingsStore.h"
+#include "host/Identifier.h"
 
 #include <cstdint>
 #include <optional>
@@ -15,16 +16,14 @@ namespace melvark {
 /// is read, a renamed, saved or deleted one changes only after the database agreed.
 class NamedSettings {
 public:
-    static constexpr std::int32_t c_NoSetting = -1;
-
     explicit NamedSettings(SettingsStore store) : FStore(store) {}
 
-    /// c_NoSetting: the built-in layout.
+    /// c_NullValue: none, the built-in layout.
     std::int32_t InForce() const { return FInForce; }
-    bool HasInForce() const { return FInForce != c_NoSetting; }
+    bool HasInForce() const { return FInForce != c_NullValue; }
     void PutInForce(std::int32_t id) { FInForce = id; }
     /// No setting is in force; the store is not told.
-    void Leave() { FInForce = c_NoSetting; }
+    void Leave() { FInForce = c_NullValue; }
 
     /// In the order of the store at the last LoadList.
     const std::vector<SavedSetting>& Listed() const { return FListed; }
@@ -32,6 +31,8 @@ public:
     const SavedSetting* Find(std::int32_t id) const;
 
     void LoadList() { FListed = FStore.List(); }
+    /// The one in force is shown under this name, if it is listed; the list keeps its order.
+    void ShowAs(const AnsiString& name);
     /// Puts the store's default in force, if there is one, and gives its document.
     std::optional<AnsiString> LoadDefault();
 
@@ -51,7 +52,7 @@ public:
 
 private:
     SettingsStore FStore;
-    std::int32_t FInForce = c_NoSetting;
+    std::int32_t FInForce = c_NullValue;
     std::vector<SavedSetting> FListed;
 };
 
