@@ -33,6 +33,7 @@ TEditBox::TEditBox(TComponent* owner, TLibraryManager* libraryManager, std::int3
     FormCreate();
     FHelpers->Editing.LayOut = [this] { ApplyColumnsSettingsToGrid(); };
     FHelpers->Settings.ShowNoSetting();
+    MenuBtn->LimitWidth(); // a long name would take the grid's room
     FHelpers->Keeper.CreateListEditors();
     ConnectEditors();
     ConnectGrid();

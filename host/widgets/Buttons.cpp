@@ -101,6 +101,17 @@ AnsiString TMenuButton::Caption() const {
 
 void TMenuButton::SetCaption(const AnsiString& caption) {
     setText(PlainCaption(caption));
+    setToolTip(FWidest < QWIDGETSIZE_MAX ? ToQString(caption) : QString());
+}
+
+void TMenuButton::LimitWidth() {
+    FWidest = sizeHint().width();
+}
+
+int TMenuButton::ArrowRoom() const {
+    QStyleOptionButton option;
+    option.initFrom(this);
+    return style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this) + fontMetrics().horizontalAdvance(u' ');
 }
 
 TPopupMenu* TMenuButton::PopupMenu() const {
@@ -121,9 +132,9 @@ QSize TMenuButton::sizeHint() const {
     QStyleOptionButton option;
     initStyleOption(&option);
     QSize contents = fontMetrics().size(Qt::TextShowMnemonic, text());
-    contents.rwidth() +=
-        style()->pixelMetric(QStyle::PM_MenuButtonIndicator, &option, this) + fontMetrics().horizontalAdvance(u' ');
-    return style()->sizeFromContents(QStyle::CT_PushButton, &option, contents, this);
+    contents.rwidth() += ArrowRoom();
+    const QSize wanted = style()->sizeFromContents(QStyle::CT_PushButton, &option, contents, this);
+    return {std::min(wanted.width(), FWidest), wanted.height()};
 }
 
 void TMenuButton::keyPressEvent(QKeyEvent* event) {
@@ -138,6 +149,10 @@ void TMenuButton::initStyleOption(QStyleOptionButton* option) const {
     QPushButton::initStyleOption(option);
     if (FMenu) {
         option->features |= QStyleOptionButton::HasMenu;
+    }
+    if (FWidest < QWIDGETSIZE_MAX) {
+        const int room = style()->subElementRect(QStyle::SE_PushButtonContents, option, this).width() - ArrowRoom();
+        option->text = fontMetrics().elidedText(text(), Qt::ElideRight, room, Qt::TextShowMnemonic);
     }
 }
 

@@ -68,6 +68,9 @@ public:
     TPopupMenu* PopupMenu() const;
     /// The menu is not owned.
     void SetPopupMenu(TPopupMenu* menu);
+    /// No later caption asks for more width than the present one needs: a longer one is cut with an ellipsis, and the
+    /// tooltip has all of it.
+    void LimitWidth();
 
     /// With room for the arrow beside the caption.
     QSize sizeHint() const override;
@@ -78,6 +81,8 @@ protected:
 
 private:
     void DropDown();
+    int ArrowRoom() const;
 
     QPointer<QMenu> FMenu;
+    int FWidest = QWIDGETSIZE_MAX; ///< The most that is asked for.
 };

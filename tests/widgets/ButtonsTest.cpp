@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QPixmap>
 #include <QStyle>
+#include <QStyleOptionButton>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -168,6 +169,33 @@ TEST_F(ButtonsTest, AMenuButtonsArrowFitsIntoTheLeastWidthOfAButton) {
     QMenu menu;
     button->SetPopupMenu(&menu);
     EXPECT_EQ(button->sizeHint(), least);
+}
+
+TEST_F(ButtonsTest, AMenuButtonOfLimitedWidthCutsALongCaption) {
+    struct MenuButton : TMenuButton {
+        using TMenuButton::TMenuButton;
+        QString shownText() const {
+            QStyleOptionButton option;
+            initStyleOption(&option);
+            return option.text;
+        }
+    };
+    auto* button = add<MenuButton>();
+    QMenu menu;
+    button->SetPopupMenu(&menu);
+    button->SetCaption("Žádný vzor");
+    button->LimitWidth();
+    const QSize needed = button->sizeHint();
+    button->resize(needed);
+    EXPECT_EQ(button->shownText(), QStringLiteral("Žádný vzor")) << "it was wide enough";
+    button->SetCaption("Příjem zeleniny & ovoce od všech dodavatelů");
+    EXPECT_EQ(button->Caption(), "Příjem zeleniny & ovoce od všech dodavatelů");
+    EXPECT_EQ(button->toolTip(), QStringLiteral("Příjem zeleniny & ovoce od všech dodavatelů"));
+    EXPECT_TRUE(button->shownText().startsWith(QStringLiteral("Příj")));
+    EXPECT_TRUE(button->shownText().endsWith(u'…'));
+    EXPECT_EQ(button->sizeHint(), needed);
+    button->SetCaption("-");
+    EXPECT_LT(button->sizeHint().width(), needed.width()) << "a short one still asks for less";
 }
 
 TEST_F(ButtonsTest, AnEmptyMenuIsNeverOpened) {
