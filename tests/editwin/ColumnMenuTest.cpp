@@ -300,6 +300,17 @@ TEST_F(ColumnMenu, NoHiddenColumnComesBackPastARefusedValue) {
     EXPECT_EQ(openCellText(), "2,2");
 }
 
+TEST_F(ColumnMenu, AnItemThatNoColumnOwnsDoesNothing) {
+    open();
+    const AnsiString header = rowText(0);
+    form->LoadColumnsSettingsFromXml("<settings/>"); // new columns that are not laid out: the items are the old ones'
+    pick(hiddenItem(QStringLiteral("SLEVA")));
+    EXPECT_EQ(rowText(0), header);
+    EXPECT_THAT(hiddenItems(), ElementsAre("Sleva"));
+    form->ShowGridColumn(nullptr);
+    EXPECT_EQ(rowText(0), header);
+}
+
 TEST_F(ColumnMenu, TheSubmenuIsDisabledWhileNothingIsHidden) {
     open();
     pick(hiddenItem(QStringLiteral("SLEVA")));

@@ -361,7 +361,7 @@ TEST_F(EditBoxOnDisplay, AWindowDoesNotCreepFromOneUseToTheNext) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return form->geometry() == QRect(120, 130, 900, 500); }));
     form->close();
     const AnsiString first = document;
-    for (int use = 0; use < 3; ++use) {
+    for (int use = 0; use < 50; ++use) {
         host.connection.procedure("MELVARKEDITORNASTAVENINactiNastaveniOkna").returns({{{"DATA"}, {{document}}}});
         open();
         form->close();

@@ -248,6 +248,9 @@ TEST_F(SettingsCommands, ANewSettingIsStoredListedAndInForce) {
     EXPECT_TRUE(item(12)->isChecked());
     EXPECT_EQ(item(12)->text(), QStringLiteral(" Příjem")) << "as typed";
     EXPECT_EQ(form->MenuBtn->Caption(), "Příjem") << "as listed";
+    choose(item(3));
+    choose(item(12));
+    EXPECT_EQ(form->MenuBtn->Caption(), " Příjem") << "the item's caption";
 }
 
 TEST_F(SettingsCommands, ACanceledNameStoresNothing) {
@@ -511,6 +514,27 @@ TEST_F(SettingsCommands, ASettingThatIsNotListedIsWorkedWithAllTheSame) {
     choose(form->SmazatNastaveni);
     EXPECT_EQ(form->SettingsId(), -1);
     EXPECT_EQ(items().front(), "Moje");
+}
+
+TEST_F(SettingsCommands, ALongNameTakesNoRoomFromTheGrid) {
+    const AnsiString name(100, 'W');
+    list({{AnsiString("Moje"), std::int64_t{3}}, {name, std::int64_t{7}}});
+    start();
+    const int room = grid().width();
+    const int least = form->minimumSizeHint().width();
+    choose(item(7));
+    EXPECT_EQ(form->MenuBtn->Caption(), name);
+    EXPECT_EQ(form->MenuBtn->toolTip().toStdString(), name);
+    EXPECT_EQ(grid().width(), room);
+    EXPECT_EQ(form->minimumSizeHint().width(), least);
+}
+
+TEST_F(SettingsCommands, ADefaultWithTheNumberZeroThatIsNotListedHasNoItem) {
+    host.connection.procedure("MELVARKEDITORNASTAVENINactiDef")
+        .returns({{{"ID", "DATA"}, {{std::int64_t{0}, AnsiString(c_PriceFirst)}}}});
+    start();
+    EXPECT_EQ(form->SettingsId(), 0);
+    EXPECT_EQ(form->SettingsItem(), nullptr) << "no fixed item stands for it";
 }
 
 TEST_F(SettingsCommands, ARecordWithTheNumberZeroCountsAsFixed) {

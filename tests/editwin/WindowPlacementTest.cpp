@@ -50,6 +50,16 @@ TEST_F(WindowPlacement, WhatTheDocumentDoesNotSayStaysCentred) {
     EXPECT_EQ(form->geometry(), centred());
 }
 
+TEST_F(WindowPlacement, WithoutTheElementTheStateIsLeftAlone) {
+    storedIs("<window><left>31</left></window>");
+    make().setWindowState(Qt::WindowMaximized);
+    form->LoadWindowSettings();
+    EXPECT_EQ(form->windowState(), Qt::WindowMaximized);
+    storedIs("<window><left>31</left><maximized>ne</maximized></window>");
+    form->LoadWindowSettings();
+    EXPECT_EQ(form->windowState(), Qt::WindowNoState) << "any other text";
+}
+
 TEST_F(WindowPlacement, ABadNumberKeepsTheCurrentValue) {
     storedIs("<window><left>vlevo</left><top>44</top><width>9e2</width><height>500</height></window>");
     open();
