@@ -37,12 +37,13 @@ std::vector<std::string> linesOf(const QByteArray& text) {
 
 } // namespace
 
-HostSession::HostSession() : database_("sqlite:" + folder_.filePath(QStringLiteral("tiny.db")).toStdString()) {
-    tinycompany::create(folder_.filePath(QStringLiteral("tiny.db")).toStdString());
-    host_.setProcessChannelMode(QProcess::SeparateChannels);
+HostSession::HostSession() : HostSession(std::string()) {
+    const std::string file = folder_.filePath(QStringLiteral("tiny.db")).toStdString();
+    database_ = "sqlite:" + file;
+    tinycompany::create(file);
 }
 
-HostSession::HostSession(std::string database) : database_(std::move(database)) {
+HostSession::HostSession(std::string database, QString user) : database_(std::move(database)), user_(std::move(user)) {
     host_.setProcessChannelMode(QProcess::SeparateChannels);
 }
 
@@ -54,7 +55,7 @@ HostSession::~HostSession() {
 
 QStringList HostSession::withDatabase(const QStringList& arguments) const {
     return QStringList{QStringLiteral("--database"), QString::fromStdString(database_), QStringLiteral("--user"),
-                       QStringLiteral("novakova")} +
+                       user_} +
            arguments;
 }
 
@@ -99,6 +100,7 @@ void HostSession::runTool(const QStringList& arguments) const {
 
 void HostSession::waitForWindow(const QString& title) {
     const QStringList search = {QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
+                                QStringLiteral("--all"),  QStringLiteral("--pid"),  QString::number(host_.processId()),
                                 QStringLiteral("--name"), u'^' + title + u'$',      QStringLiteral("windowactivate"),
                                 QStringLiteral("--sync")};
     // A search fails when another window ends under it, so that it is asked again.
@@ -121,20 +123,90 @@ void HostSession::press(const QStringList& keys) {
     runTool(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("50")} + keys);
 }
 
-qsizetype HostSession::visibleWindows() const {
+void HostSession::runToolAt(QPoint place, const QStringList& arguments) const {
+    runTool(QStringList{QStringLiteral("getactivewindow"), QStringLiteral("mousemove"), QStringLiteral("--window"),
+                        QStringLiteral("%1"), QString::number(place.x()), QString::number(place.y())} +
+            arguments);
+}
+
+void HostSession::click(QPoint place, int button) {
+    runToolAt(place, {QStringLiteral("click"), QString::number(button)});
+}
+
+void HostSession::doubleClick(QPoint place) {
+    runToolAt(place, {QStringLiteral("click"), QStringLiteral("--repeat"), QStringLiteral("2"),
+                      QStringLiteral("--delay"), QStringLiteral("60"), QStringLiteral("1")});
+}
+
+void HostSession::drag(QPoint from, QPoint to) {
+    constexpr int c_Steps = 5;
+    runToolAt(from, {QStringLiteral("mousedown"), QStringLiteral("1")});
+    for (int step = 1; step <= c_Steps; ++step) {
+        runToolAt(from + (to - from) * step / c_Steps, {});
+    }
+    runTool({QStringLiteral("mouseup"), QStringLiteral("1")});
+}
+
+void HostSession::placeWindow(const QRect& place) {
+    runTool({QStringLiteral("getactivewindow"), QStringLiteral("windowmove"), QStringLiteral("--sync"),
+             QString::number(place.x()), QString::number(place.y()), QStringLiteral("windowsize"),
+             QStringLiteral("--sync"), QString::number(place.width()), QString::number(place.height())});
+}
+
+void HostSession::waitForWindowWidth(int width) {
+    const QByteArray wanted = "WIDTH=" + QByteArray::number(width) + '\n';
+    const auto isSo = [&] {
+        QProcess tool;
+        tool.start(QStringLiteral("xdotool"),
+                   {QStringLiteral("getactivewindow"), QStringLiteral("getwindowgeometry"), QStringLiteral("--shell")});
+        tool.waitForFinished(c_LimitMs);
+        return tool.readAllStandardOutput().contains(wanted);
+    };
+    if (!QTest::qWaitFor(isSo, c_LimitMs)) {
+        fail(QStringLiteral("the window never was %1 wide").arg(width));
+    }
+}
+
+QStringList HostSession::visibleWindows() const {
     QProcess tool;
     tool.start(QStringLiteral("xdotool"),
                {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--pid"),
                 QString::number(host_.processId()), QStringLiteral("--name"), QString()});
     tool.waitForFinished(c_LimitMs);
-    return tool.readAllStandardOutput().count('\n');
+    return QString::fromLatin1(tool.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts);
+}
+
+void HostSession::awaitMenu(const std::function<void()>& open, const QString& what) {
+    const QStringList before = visibleWindows();
+    open();
+    const auto isThere = [&] {
+        menu_ = visibleWindows();
+        menu_.removeIf([&](const QString& window) { return before.contains(window); });
+        return !menu_.isEmpty();
+    };
+    if (!QTest::qWaitFor(isThere, c_LimitMs)) {
+        fail(QStringLiteral("no menu opened on ") + what);
+    }
 }
 
 void HostSession::openMenu(const QString& key) {
-    const qsizetype before = visibleWindows();
-    press({key});
-    if (!QTest::qWaitFor([&] { return visibleWindows() > before; }, c_LimitMs)) {
-        fail(QStringLiteral("no menu opened on ") + key);
+    awaitMenu([&] { press({key}); }, key);
+}
+
+void HostSession::openMenuAt(QPoint place, int button) {
+    awaitMenu([&] { click(place, button); },
+              QStringLiteral("a click at %1,%2").arg(QString::number(place.x()), QString::number(place.y())));
+}
+
+void HostSession::pickFromMenu(QPoint place, int button, const QStringList& keys) {
+    openMenuAt(place, button);
+    press(keys);
+    const auto isGone = [&] {
+        const QStringList windows = visibleWindows();
+        return std::ranges::none_of(menu_, [&](const QString& window) { return windows.contains(window); });
+    };
+    if (!QTest::qWaitFor(isGone, c_LimitMs)) {
+        fail(QStringLiteral("the menu stayed open after ") + keys.join(u' '));
     }
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QPoint>
 #include <QProcess>
+#include <QRect>
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,8 +18,8 @@ class HostSession {
 public:
     /// Makes the tiny company.
     HostSession();
-    /// On a company that the test has made, as its user: the address as the host's command line takes it.
-    explicit HostSession(std::string database);
+    /// On a company that the test has made, as `user`: the address as the host's command line takes it.
+    explicit HostSession(std::string database, QString user = QStringLiteral("novakova"));
     HostSession(const HostSession&) = delete;
     HostSession& operator=(const HostSession&) = delete;
     /// Ends a host that is still running.
@@ -31,7 +34,7 @@ public:
     void kill();
     bool isRunning() const;
 
-    /// Waits for a visible window of that title and gives it the focus.
+    /// Waits for a visible window of this host with that title and gives it the focus.
     void waitForWindow(const QString& title);
     /// Types the text, letter by letter.
     void type(const QString& text);
@@ -39,6 +42,18 @@ public:
     void press(const QStringList& keys);
     /// Presses the key that opens a menu and waits until the host has one more window.
     void openMenu(const QString& key);
+    /// The mouse, at places of the active window's contents.
+    void click(QPoint place, int button = 1);
+    void doubleClick(QPoint place);
+    void drag(QPoint from, QPoint to);
+    /// Clicks where a menu opens, waits for it, presses keys in it and waits until it is gone.
+    void pickFromMenu(QPoint place, int button, const QStringList& keys);
+    /// Opens the menu there and leaves it open.
+    void openMenuAt(QPoint place, int button);
+    /// Moves and resizes the active window as the window manager does for its user.
+    void placeWindow(const QRect& place);
+    /// Waits until the active window's contents are so wide.
+    void waitForWindowWidth(int width);
     /// Waits for the host's lookup list and picks its first row.
     void pickFirstRow();
     /// Waits until the trace has so many lines that contain the text.
@@ -56,10 +71,16 @@ public:
 private:
     QStringList withDatabase(const QStringList& arguments) const;
     void runTool(const QStringList& arguments) const;
-    qsizetype visibleWindows() const;
+    /// Runs the input tool on the active window, whose place is its first argument.
+    void runToolAt(QPoint place, const QStringList& arguments) const;
+    QStringList visibleWindows() const;
+    /// Does what opens a menu and waits until there is one more window.
+    void awaitMenu(const std::function<void()>& open, const QString& what);
 
     QTemporaryDir folder_;
     std::string database_;
+    QString user_;
+    QStringList menu_; ///< The windows of the menu that was opened last.
     QProcess host_;
     std::string standardError_;
 };

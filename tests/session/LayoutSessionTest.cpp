@@ -1,0 +1,363 @@
+#include "tests/database/ContractCompany.h"
+#include "tests/database/Engines.h"
+#include "tests/database/PrivateServer.h"
+#include "tests/database/ServerCompany.h"
+#include "tests/session/DeliveryNoteTrace.h"
+#include "tests/session/HostSession.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <gmock/gmock.h>
+#include <regex>
+
+/// Column layouts by name, and the window's place, as clerks use them: real pointer and keys, one or two processes on
+/// one database. Places in the window are those of its design size of 790 × 400, whose columns begin so:
+///
+///   indicator 10, SKUPSPOL1 to SKUPSPOL3, SKLADPOL, SKLAD 100 each, MNOZSTVI 55, DPH 60, SLEVA 55
+namespace {
+
+using refhost::Engine;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+const QString c_Title = QStringLiteral("Vložení položek dodacího listu");
+const QString c_LayoutTitle = QStringLiteral("Uložení nastavení");
+const QString c_ColumnTitle = QStringLiteral("Vlastnosti sloupce");
+const QString c_ErrorTitle = QStringLiteral("Chyba");
+const QString c_QuestionTitle = QStringLiteral("Potvrzení");
+
+constexpr int c_Width = 790;
+constexpr int c_SettingsType = 3; ///< Delivery notes from the template.
+
+constexpr int c_Left = 1;
+constexpr int c_Right = 3;
+
+/// A place in the header row.
+QPoint header(int x) {
+    return {x, 97};
+}
+
+QPoint menuButton(int windowWidth = c_Width) {
+    return {windowWidth - 53, 114};
+}
+
+/// The items of the settings menu from its lower end; those that are disabled are passed by. From the upper end the
+/// saved settings come first.
+const QStringList c_SaveAsNew = {QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Return")};
+const QStringList c_Delete = {QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Return")};
+const QStringList c_SaveAsNewInForce = {QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Up"),
+                                        QStringLiteral("Return")};
+const QStringList c_Save = {QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Up"),
+                            QStringLiteral("Return")};
+const QStringList c_Rename = {QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Up"),
+                              QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Return")};
+const QStringList c_FirstSaved = {QStringLiteral("Down"), QStringLiteral("Return")};
+
+/// The document in a traced call.
+std::string documentIn(const std::string& line) {
+    const std::string before = R"(["a_DATA",")";
+    const std::size_t from = line.find(before);
+    if (from == line.npos) {
+        return {};
+    }
+    const std::size_t begin = from + before.size();
+    const std::string quoted = line.substr(begin, line.find(R"("]])", begin) - begin);
+    return std::regex_replace(quoted, std::regex(R"(\\")"), "\"");
+}
+
+/// The columns of a layout by name, the first of them.
+std::vector<std::string> columnsIn(const std::string& layout, std::size_t count) {
+    static const std::regex name("<name>([^<]*)</name>");
+    std::vector<std::string> names;
+    for (std::sregex_iterator each(layout.begin(), layout.end(), name), end; each != end && names.size() < count;
+         ++each) {
+        names.push_back((*each)[1]);
+    }
+    return names;
+}
+
+/// What a layout says of a column behind its name.
+std::string columnIn(const std::string& layout, const std::string& name) {
+    const std::string before = "<name>" + name + "</name>";
+    const std::size_t from = layout.find(before);
+    return from == layout.npos ? "" : layout.substr(from + before.size(), layout.find("</column>", from) - from - before.size());
+}
+
+int widthIn(const std::string& layout, const std::string& name) {
+    const std::string column = columnIn(layout, name);
+    std::smatch width;
+    return std::regex_search(column, width, std::regex("<width>([0-9]+)</width>")) ? std::stoi(width[1]) : -1;
+}
+
+/// The traced calls of a procedure of the settings.
+Lines callsOf(const HostSession& session, const std::string& name) {
+    Lines calls;
+    for (const std::string& line : session.trace()) {
+        if (line.starts_with(R"({"call":"MELVARKEDITORNASTAVENI)" + name + '"')) {
+            calls.push_back(line);
+        }
+    }
+    return calls;
+}
+
+/// The last document that was sent with a procedure.
+std::string sentWith(const HostSession& session, const std::string& name) {
+    const Lines calls = callsOf(session, name);
+    return calls.empty() ? "" : documentIn(calls.back());
+}
+
+std::string idParam(int id) {
+    return R"(["a_ID",)" + std::to_string(id) + "]";
+}
+
+class LayoutSession : public testing::TestWithParam<Engine> {
+protected:
+    LayoutSession() : url_(refhost::newDatabaseUrl(GetParam())) {
+        refhost::addContractCompany(*refhost::openAs(url_, "novakova"));
+        refhost::openAs(url_, "dvorak");
+    }
+
+    /// The database's address for a user.
+    std::string addressFor(const char* user) const {
+        return GetParam() == Engine::PostgreSQL ? url_ + " user=" + user : url_;
+    }
+
+    static void openEditor(HostSession& session) {
+        session.startEditor(QStringLiteral("DODAK,SABLONA"), 2);
+        session.waitForWindow(c_Title);
+        session.waitForTrace("NactiNastaveniOkna");
+    }
+
+    static void closeEditor(HostSession& session) {
+        session.waitForWindow(c_Title);
+        session.press({QStringLiteral("alt+F4")});
+        EXPECT_EQ(session.finish(), 1);
+    }
+
+    /// Stores a shared layout beforehand, by the command line.
+    static void keepLayout(const HostSession& session, const QString& name) {
+        session.ask({QStringLiteral("--call"), QStringLiteral("MELVARKEDITORNASTAVENIUlozNove"),
+                     QStringLiteral("a_NAZEV=") + name, QStringLiteral("a_TYPEDITACE=3"), QStringLiteral("a_SDILENE=1"),
+                     QStringLiteral("a_DATA=<settings/>")});
+    }
+
+    /// Fills the dialog of the name, replacing what stands there, and confirms it.
+    static void nameIt(HostSession& session, const QString& name) {
+        session.waitForWindow(c_LayoutTitle);
+        session.press({QStringLiteral("ctrl+a")});
+        session.type(name);
+        session.press({QStringLiteral("Return")});
+    }
+
+    static void readError(HostSession& session) {
+        session.waitForWindow(c_ErrorTitle);
+        session.press({QStringLiteral("Return")});
+    }
+
+private:
+    std::string url_;
+};
+
+/// Renames the quantity, moves it before the item, narrows the item, hides the first group and lets the discount be
+/// edited; hides and shows another column on the way.
+void shape(HostSession& session) {
+    session.pickFromMenu(header(550), c_Right, {QStringLiteral("Down"), QStringLiteral("Return")});
+    session.waitForWindow(c_ColumnTitle);
+    session.press({QStringLiteral("ctrl+a")});
+    session.type(QStringLiteral("Kusů"));
+    session.press({QStringLiteral("Return")});
+    session.waitForWindow(c_Title);
+    session.drag(header(550), header(345));
+    session.drag(header(479), header(439)); // the right edge of the item, which begins at 378 now
+    const QStringList hide = {QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")};
+    session.pickFromMenu(header(70), c_Right, hide);
+    session.pickFromMenu(header(70), c_Right, hide); // the second group has come to its place
+    session.pickFromMenu(header(70), c_Right,
+                         {QStringLiteral("Up"), QStringLiteral("Right"), QStringLiteral("Down"),
+                          QStringLiteral("Return")}); // and is shown again
+    session.pickFromMenu(header(525), c_Right,
+                         {QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Down"),
+                          QStringLiteral("Return")});
+}
+
+TEST_P(LayoutSession, AShapedLayoutIsFoundTheNextDayAndPickedByAColleague) {
+    HostSession first(addressFor("novakova"));
+    openEditor(first);
+    shape(first);
+    first.pickFromMenu(menuButton(), c_Left, c_SaveAsNew);
+    first.waitForWindow(c_LayoutTitle);
+    first.type(QStringLiteral("Příjem zeleniny"));
+    first.press({QStringLiteral("Tab")});
+    first.type(QStringLiteral("kusy vlevo"));
+    first.press({QStringLiteral("Tab"), QStringLiteral("space"), QStringLiteral("Return")});
+    first.waitForTrace("NASTAVENIGetList", 2);
+    first.waitForWindow(c_Title);
+    first.placeWindow(QRect(150, 120, 900, 500));
+    closeEditor(first);
+
+    const std::string layout = sentWith(first, "UlozNove");
+    EXPECT_THAT(callsOf(first, "UlozNove"),
+                ElementsAre(HasSubstr(R"("params":[["a_NAZEV","Příjem zeleniny"],["a_TYPEDITACE",3],["a_SDILENE",true],)"
+                                      R"(["a_KOMENTAR","kusy vlevo"],["a_DATA",")")));
+    EXPECT_THAT(layout, HasSubstr("<settings><prepocet>1</prepocet><columns>"));
+    EXPECT_THAT(columnsIn(layout, 9), ElementsAre("DOBSID", "SKUPSPOL1", "SKUPSPOL2", "SKUPSPOL3", "MNOZSTVI",
+                                                  "SKLADPOL", "SKLAD", "DPH", "SLEVA"));
+    EXPECT_THAT(columnIn(layout, "MNOZSTVI"), HasSubstr("<caption>Kusů</caption><hint>Množství</hint>"));
+    EXPECT_NEAR(widthIn(layout, "SKLADPOL"), 60, 2);
+    EXPECT_EQ(widthIn(layout, "SKLAD"), 100);
+    EXPECT_THAT(columnIn(layout, "SKUPSPOL1"), HasSubstr("<visible>0</visible>"));
+    EXPECT_THAT(columnIn(layout, "SKUPSPOL2"), HasSubstr("<visible>1</visible>"));
+    EXPECT_THAT(columnIn(layout, "SLEVA"), HasSubstr("<editable>AUTO</editable>"));
+    const std::string place = sentWith(first, "UlozNastaveniOkna");
+    EXPECT_THAT(place, HasSubstr("<width>900</width><height>500</height><maximized>0</maximized>"));
+
+    // Another process finds both; what it would save is what was saved.
+    HostSession next(addressFor("novakova"));
+    openEditor(next);
+    next.pickFromMenu(menuButton(900), c_Left, c_Save);
+    next.waitForTrace(R"("MELVARKEDITORNASTAVENIUloz")");
+    closeEditor(next);
+    EXPECT_EQ(sentWith(next, "Uloz"), layout);
+    EXPECT_EQ(sentWith(next, "UlozNastaveniOkna"), place);
+
+    // A colleague picks it, cannot overwrite it, and keeps it as his own.
+    HostSession colleague(addressFor("dvorak"), QStringLiteral("dvorak"));
+    openEditor(colleague);
+    colleague.pickFromMenu(menuButton(), c_Left, c_FirstSaved);
+    colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
+    colleague.pickFromMenu(menuButton(), c_Left, c_Save);
+    readError(colleague);
+    colleague.waitForWindow(c_Title);
+    colleague.pickFromMenu(menuButton(), c_Left, c_SaveAsNewInForce);
+    nameIt(colleague, QStringLiteral("Moje zelenina"));
+    colleague.waitForTrace("NASTAVENIGetList", 2);
+    closeEditor(colleague);
+    EXPECT_THAT(callsOf(colleague, "Nacti"), ElementsAre(HasSubstr(idParam(1))));
+    EXPECT_THAT(colleague.trace(),
+                Contains(shownError("Nastavení „Příjem zeleniny“ patří jinému uživateli. Uložte si je jako nové.")));
+    EXPECT_EQ(sentWith(colleague, "UlozNove"), layout);
+    EXPECT_THAT(sentWith(colleague, "UlozNastaveniOkna"), HasSubstr("<width>790</width><height>400</height>"))
+        << "the place is each clerk's own";
+}
+
+TEST_P(LayoutSession, WhatIsRenamedAndDeletedWhileAColleagueHasTheListIsToldWhenHePicksIt) {
+    HostSession owner(addressFor("novakova"));
+    keepLayout(owner, QStringLiteral("Druhý"));
+    keepLayout(owner, QStringLiteral("První"));
+    HostSession colleague(addressFor("dvorak"), QStringLiteral("dvorak"));
+    openEditor(colleague); // lists both, that of the owner first by name
+    openEditor(owner);     // with the one that was kept last in force
+
+    owner.pickFromMenu(menuButton(), c_Left, c_FirstSaved);
+    owner.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
+    owner.pickFromMenu(menuButton(), c_Left, c_Rename);
+    nameIt(owner, QStringLiteral("Jinak"));
+    owner.waitForTrace("NASTAVENIPremenuj");
+    owner.waitForWindow(c_Title);
+    colleague.waitForWindow(c_Title);
+    colleague.pickFromMenu(menuButton(), c_Left, c_FirstSaved); // still under its old name
+    colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
+
+    owner.waitForWindow(c_Title);
+    owner.pickFromMenu(menuButton(), c_Left, c_Delete);
+    owner.waitForWindow(c_QuestionTitle);
+    owner.press({QStringLiteral("alt+a")});
+    owner.waitForTrace(R"("MELVARKEDITORNASTAVENISmaz")");
+    owner.waitForWindow(c_Title);
+    colleague.waitForWindow(c_Title);
+    colleague.pickFromMenu(menuButton(), c_Left, c_FirstSaved);
+    readError(colleague);
+    colleague.waitForWindow(c_Title);
+
+    // The other one goes while the menu is open.
+    colleague.openMenuAt(menuButton(), c_Left);
+    owner.ask({QStringLiteral("--call"), QStringLiteral("MELVARKEDITORNASTAVENISmaz"), QStringLiteral("a_ID=2")});
+    colleague.press({QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")});
+    readError(colleague);
+    colleague.waitForWindow(c_Title);
+    colleague.type(QStringLiteral("3"));
+    closeEditor(colleague);
+    closeEditor(owner);
+
+    EXPECT_THAT(callsOf(owner, "Premenuj"),
+                ElementsAre(HasSubstr(R"("params":[["a_ID",1],["a_NAZEV","Jinak"],["a_KOMENTAR",""],["a_SDILENE",true]])")));
+    EXPECT_THAT(callsOf(owner, "Smaz"), ElementsAre(HasSubstr(idParam(1))));
+    EXPECT_THAT(owner.trace(), Contains(HasSubstr(R"({"box":"Smazat zvolené nastavení?","flags":36,"result":6})")));
+    for (const int id : {1, 2}) {
+        EXPECT_THAT(colleague.trace(), Contains(shownError("Nastavení s identifikátorem " + std::to_string(id) +
+                                                           " neexistuje nebo není sdílené. Vyberte jiné.")));
+    }
+}
+
+TEST_P(LayoutSession, ATakenNameIsToldAndAskedForAgainWithItsTexts) {
+    HostSession session(addressFor("novakova"));
+    keepLayout(session, QStringLiteral("Můj"));
+    session.ask({QStringLiteral("--call"), QStringLiteral("MELVARKEDITORNASTAVENISmazDef"),
+                 QStringLiteral("a_TYPEDITACE=3")});
+    openEditor(session);
+    session.pickFromMenu(menuButton(), c_Left, c_SaveAsNew);
+    session.waitForWindow(c_LayoutTitle);
+    session.press({QStringLiteral("Return")}); // no name at all
+    readError(session);
+    nameIt(session, QStringLiteral("Můj"));
+    readError(session);
+    session.waitForWindow(c_LayoutTitle);
+    session.press({QStringLiteral("End")});
+    session.type(QStringLiteral(" 2"));
+    session.press({QStringLiteral("Return")});
+    session.waitForTrace("NASTAVENIGetList", 2);
+    session.waitForWindow(c_Title);
+    session.pickFromMenu(menuButton(), c_Left, c_Rename);
+    nameIt(session, QStringLiteral("Můj"));
+    readError(session);
+    session.waitForWindow(c_LayoutTitle);
+    session.press({QStringLiteral("Escape")});
+    closeEditor(session);
+
+    EXPECT_THAT(callsOf(session, "UlozNove"), ElementsAre(HasSubstr(R"(["a_NAZEV","Můj"])"), HasSubstr(R"(["a_NAZEV","Můj 2"])")));
+    EXPECT_EQ(callsOf(session, "GetInfo").size(), 1u);
+    EXPECT_EQ(callsOf(session, "Premenuj").size(), 1u);
+    EXPECT_THAT(session.trace(), Contains(shownError("Nastavení s názvem „Můj“ už máte. Zvolte jiný název.")).Times(2));
+    EXPECT_THAT(session.trace(), Contains(HasSubstr(R"({"box":"Název musí být vyplněn","flags":16)")));
+}
+
+TEST_P(LayoutSession, AMaximisedWindowComesBackMaximisedOverItsNormalPlace) {
+    const QPoint titleBar(300, -12);
+    const std::string normal = "<left>405</left><top>300</top><width>790</width><height>400</height>";
+    HostSession first(addressFor("novakova"));
+    openEditor(first); // centred on 1600 × 1000
+    first.doubleClick(titleBar);
+    first.waitForWindowWidth(1600);
+    closeEditor(first);
+    EXPECT_THAT(sentWith(first, "UlozNastaveniOkna"), HasSubstr(normal + "<maximized>1</maximized>"));
+
+    HostSession second(addressFor("novakova"));
+    openEditor(second);
+    second.waitForWindowWidth(1600);
+    second.doubleClick(titleBar);
+    second.waitForWindowWidth(c_Width);
+    closeEditor(second);
+    EXPECT_THAT(sentWith(second, "UlozNastaveniOkna"), HasSubstr(normal + "<maximized>0</maximized>"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Engines, LayoutSession, testing::Values(Engine::SQLite, Engine::PostgreSQL),
+                         [](const auto& row) { return refhost::engineName(row.param); });
+
+TEST(LayoutSessionLink, ALinkLostWhileThePlaceIsStoredIsToldAndTheWindowCloses) {
+    const refhost::ServerCompany company;
+    company.open();
+    HostSession session("postgresql:" + refhost::PrivateServer::instance().address(company.name(), "novakova"));
+    session.startEditor(QStringLiteral("DODAK,SABLONA"), 1);
+    session.waitForWindow(c_Title);
+    session.waitForTrace("NactiNastaveniOkna");
+    company.cutLinks();
+    session.press({QStringLiteral("alt+F4")});
+    session.waitForWindow(c_ErrorTitle);
+    session.press({QStringLiteral("Return")});
+    EXPECT_EQ(session.finish(), 1);
+    EXPECT_THAT(session.trace(), Contains(HasSubstr(R"({"error":"Spojení s databází)")));
+}
+
+} // namespace
