@@ -5,10 +5,12 @@
 #include "host/XMLTag.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <iterator>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace melvark {
@@ -44,40 +46,56 @@ AnsiString FlagText(bool flag) {
     return flag ? "1" : "0";
 }
 
-bool IsFlagSet(const TXMLTag& element) {
-    return element.GetValue() == "1";
+bool IsFlagSet(const AnsiString& text) {
+    return text == "1";
 }
+
+/// One property of a column: its element, the text that is written, and what a text that is read makes of the column.
+struct ColumnElement {
+    const char* Name;
+    AnsiString (*Text)(const RColumn& column);
+    void (*Take)(const AnsiString& text, RColumn& column);
+};
+
+/// In the order in which they are written, behind the column's name.
+constexpr ColumnElement c_ColumnElements[] = {
+    {"caption", [](const RColumn& column) { return column.Caption; },
+     [](const AnsiString& text, RColumn& column) { column.Caption = text; }},
+    {"hint", [](const RColumn& column) { return column.Hint; },
+     [](const AnsiString& text, RColumn& column) { column.Hint = text; }},
+    {"align", [](const RColumn& column) { return CodeOf(column.Align, c_AlignCodes); },
+     [](const AnsiString& text, RColumn& column) { column.Align = ValueOf(text, c_AlignCodes, column.Align); }},
+    {"visible", [](const RColumn& column) { return FlagText(column.Visible); },
+     [](const AnsiString& text, RColumn& column) { column.Visible = IsFlagSet(text); }},
+    {"editable", [](const RColumn& column) { return CodeOf(column.Editable, c_EditableCodes); },
+     [](const AnsiString& text, RColumn& column) {
+         column.Editable = ValueOf(text, c_EditableCodes, column.Editable);
+     }},
+    {"width", [](const RColumn& column) { return AnsiString(std::to_string(column.Width)); },
+     [](const AnsiString& text, RColumn& column) { column.Width = TextToInt(text).value_or(c_WidthOfBadText); }},
+};
 
 void WriteColumn(const RColumn& column, TXMLTag& parent) {
     TXMLTag& element = parent.CreateTag("column");
     element.CreateTag("name").SetValue(column.Name);
-    element.CreateTag("caption").SetValue(column.Caption);
-    element.CreateTag("hint").SetValue(column.Hint);
-    element.CreateTag("align").SetValue(CodeOf(column.Align, c_AlignCodes));
-    element.CreateTag("visible").SetValue(FlagText(column.Visible));
-    element.CreateTag("editable").SetValue(CodeOf(column.Editable, c_EditableCodes));
-    element.CreateTag("width").SetValue(std::to_string(column.Width));
+    for (const ColumnElement& property : c_ColumnElements) {
+        element.CreateTag(property.Name).SetValue(property.Text(column));
+    }
 }
 
-/// Changes the built-in `column` to what the children of its element say.
+/// Changes the built-in `column` to what the children of its element say, the first of each name. One pass: a stored
+/// document may have any number of children.
 void ReadColumn(const TXMLTag& element, RColumn& column) {
-    if (const TXMLTag* caption = element.GetTagByName("caption")) {
-        column.Caption = caption->GetValue();
-    }
-    if (const TXMLTag* hint = element.GetTagByName("hint")) {
-        column.Hint = hint->GetValue();
-    }
-    if (const TXMLTag* align = element.GetTagByName("align")) {
-        column.Align = ValueOf(align->GetValue(), c_AlignCodes, column.Align);
-    }
-    if (const TXMLTag* visible = element.GetTagByName("visible")) {
-        column.Visible = IsFlagSet(*visible);
-    }
-    if (const TXMLTag* editable = element.GetTagByName("editable")) {
-        column.Editable = ValueOf(editable->GetValue(), c_EditableCodes, column.Editable);
-    }
-    if (const TXMLTag* width = element.GetTagByName("width")) {
-        column.Width = TextToInt(width->GetValue()).value_or(c_WidthOfBadText);
+    std::array<bool, std::size(c_ColumnElements)> isRead{};
+    for (std::size_t index = 0; index < element.GetTagsCount(); ++index) {
+        const TXMLTag& child = element.GetTag(index);
+        const auto* const property =
+            std::ranges::find(c_ColumnElements, std::string_view(child.GetName()),
+                              [](const ColumnElement& each) { return std::string_view(each.Name); });
+        if (property != std::end(c_ColumnElements) &&
+            !std::exchange(isRead[static_cast<std::size_t>(property - c_ColumnElements)], true)) {
+            property->Take(child.GetValue(), column);
+        }
     }
 }
 
@@ -159,7 +177,7 @@ AppliedColumnSettings ReadColumnSettings(std::string_view document, std::span<co
         for (std::size_t index = 0; index < root->GetTagsCount(); ++index) {
             const TXMLTag& element = root->GetTag(index);
             if (element.GetName() == "prepocet") {
-                applied.Recalculation = IsFlagSet(element);
+                applied.Recalculation = IsFlagSet(element.GetValue());
             } else if (element.GetName() == "columns") {
                 placing.PlaceNamed(element);
             }

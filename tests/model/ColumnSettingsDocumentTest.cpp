@@ -195,6 +195,8 @@ const ShapeRow shapeRows[] = {
      "caption of B|hint of B|align 2|visible 1|editable 1|width 100"},
     {"a width beyond 32 bits is 100", "<width>99999999999</width>",
      "caption of B|hint of B|align 2|visible 1|editable 1|width 100"},
+    {"the first of two", "<width>55</width><hint>za kus</hint><width>66</width>",
+     "caption of B|za kus|align 2|visible 1|editable 1|width 55"},
     {"foreign children are passed over", "<colour>red</colour>", c_BuiltInShapeOfB},
 };
 

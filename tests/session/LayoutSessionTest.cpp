@@ -82,7 +82,9 @@ std::vector<std::string> columnsIn(const std::string& layout, std::size_t count)
 std::string columnIn(const std::string& layout, const std::string& name) {
     const std::string before = "<name>" + name + "</name>";
     const std::size_t from = layout.find(before);
-    return from == layout.npos ? "" : layout.substr(from + before.size(), layout.find("</column>", from) - from - before.size());
+    return from == layout.npos
+               ? ""
+               : layout.substr(from + before.size(), layout.find("</column>", from) - from - before.size());
 }
 
 int widthIn(const std::string& layout, const std::string& name) {
@@ -177,9 +179,9 @@ void shape(HostSession& session) {
     session.pickFromMenu(header(70), c_Right,
                          {QStringLiteral("Up"), QStringLiteral("Right"), QStringLiteral("Down"),
                           QStringLiteral("Return")}); // and is shown again
-    session.pickFromMenu(header(525), c_Right,
-                         {QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Down"),
-                          QStringLiteral("Return")});
+    session.pickFromMenu(
+        header(525), c_Right,
+        {QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")});
 }
 
 TEST_P(LayoutSession, AShapedLayoutIsFoundTheNextDayAndPickedByAColleague) {
@@ -198,9 +200,10 @@ TEST_P(LayoutSession, AShapedLayoutIsFoundTheNextDayAndPickedByAColleague) {
     closeEditor(first);
 
     const std::string layout = sentWith(first, "UlozNove");
-    EXPECT_THAT(callsOf(first, "UlozNove"),
-                ElementsAre(HasSubstr(R"("params":[["a_NAZEV","Příjem zeleniny"],["a_TYPEDITACE",3],["a_SDILENE",true],)"
-                                      R"(["a_KOMENTAR","kusy vlevo"],["a_DATA",")")));
+    EXPECT_THAT(
+        callsOf(first, "UlozNove"),
+        ElementsAre(HasSubstr(R"("params":[["a_NAZEV","Příjem zeleniny"],["a_TYPEDITACE",3],["a_SDILENE",true],)"
+                              R"(["a_KOMENTAR","kusy vlevo"],["a_DATA",")")));
     EXPECT_THAT(layout, HasSubstr("<settings><prepocet>1</prepocet><columns>"));
     EXPECT_THAT(columnsIn(layout, 9), ElementsAre("DOBSID", "SKUPSPOL1", "SKUPSPOL2", "SKUPSPOL3", "MNOZSTVI",
                                                   "SKLADPOL", "SKLAD", "DPH", "SLEVA"));
@@ -281,8 +284,9 @@ TEST_P(LayoutSession, WhatIsRenamedAndDeletedWhileAColleagueHasTheListIsToldWhen
     closeEditor(colleague);
     closeEditor(owner);
 
-    EXPECT_THAT(callsOf(owner, "Premenuj"),
-                ElementsAre(HasSubstr(R"("params":[["a_ID",1],["a_NAZEV","Jinak"],["a_KOMENTAR",""],["a_SDILENE",true]])")));
+    EXPECT_THAT(
+        callsOf(owner, "Premenuj"),
+        ElementsAre(HasSubstr(R"("params":[["a_ID",1],["a_NAZEV","Jinak"],["a_KOMENTAR",""],["a_SDILENE",true]])")));
     EXPECT_THAT(callsOf(owner, "Smaz"), ElementsAre(HasSubstr(idParam(1))));
     EXPECT_THAT(owner.trace(), Contains(HasSubstr(R"({"box":"Smazat zvolené nastavení?","flags":36,"result":6})")));
     for (const int id : {1, 2}) {
@@ -294,8 +298,8 @@ TEST_P(LayoutSession, WhatIsRenamedAndDeletedWhileAColleagueHasTheListIsToldWhen
 TEST_P(LayoutSession, ATakenNameIsToldAndAskedForAgainWithItsTexts) {
     HostSession session(addressFor("novakova"));
     keepLayout(session, QStringLiteral("Můj"));
-    session.ask({QStringLiteral("--call"), QStringLiteral("MELVARKEDITORNASTAVENISmazDef"),
-                 QStringLiteral("a_TYPEDITACE=3")});
+    session.ask(
+        {QStringLiteral("--call"), QStringLiteral("MELVARKEDITORNASTAVENISmazDef"), QStringLiteral("a_TYPEDITACE=3")});
     openEditor(session);
     session.pickFromMenu(menuButton(), c_Left, c_SaveAsNew);
     session.waitForWindow(c_LayoutTitle);
@@ -316,7 +320,8 @@ TEST_P(LayoutSession, ATakenNameIsToldAndAskedForAgainWithItsTexts) {
     session.press({QStringLiteral("Escape")});
     closeEditor(session);
 
-    EXPECT_THAT(callsOf(session, "UlozNove"), ElementsAre(HasSubstr(R"(["a_NAZEV","Můj"])"), HasSubstr(R"(["a_NAZEV","Můj 2"])")));
+    EXPECT_THAT(callsOf(session, "UlozNove"),
+                ElementsAre(HasSubstr(R"(["a_NAZEV","Můj"])"), HasSubstr(R"(["a_NAZEV","Můj 2"])")));
     EXPECT_EQ(callsOf(session, "GetInfo").size(), 1u);
     EXPECT_EQ(callsOf(session, "Premenuj").size(), 1u);
     EXPECT_THAT(session.trace(), Contains(shownError("Nastavení s názvem „Můj“ už máte. Zvolte jiný název.")).Times(2));
