@@ -25,11 +25,19 @@ std::vector<ScreenArea> Screens() {
     return screens;
 }
 
-/// The placement that a stored document wants, brought within reach; nothing when it says nothing of one.
-std::optional<WindowPlacement> StoredPlace(const AnsiString& document, const TForm& form) {
+/// The placement that the stored document wants, brought within reach; nothing when it says nothing of one.
+std::optional<WindowPlacement> StoredPlace(std::int32_t editType, const TForm& form) {
+    TLiveStoredProc proc("MELVARKEDITORNASTAVENINactiNastaveniOkna");
+    proc.ParamByName("a_TYPEDITACE").SetAsInteger(editType);
+    proc.Exec(true);
+    const TField document = proc.FieldByName("DATA");
+    if (document.IsNull()) {
+        return std::nullopt;
+    }
     const QRect current = form.geometry();
     const auto wanted = ReadWindowPlacement(
-        document, {.Left = current.x(), .Top = current.y(), .Width = current.width(), .Height = current.height()});
+        document.AsString(),
+        {.Left = current.x(), .Top = current.y(), .Width = current.width(), .Height = current.height()});
     const int titleHeight = form.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &form);
     return wanted ? std::optional(ReachablePlace(*wanted, Screens(), titleHeight)) : std::nullopt;
 }
@@ -41,22 +49,16 @@ WindowPlacementKeeper::WindowPlacementKeeper(TForm& form, std::int32_t editType)
 }
 
 void WindowPlacementKeeper::Load() {
+    Qt::WindowStates state = FForm.windowState();
     FForm.CenterOnScreen();
-    TLiveStoredProc proc("MELVARKEDITORNASTAVENINactiNastaveniOkna");
-    proc.ParamByName("a_TYPEDITACE").SetAsInteger(FEditType);
-    proc.Exec(true);
-    const TField document = proc.FieldByName("DATA");
-    if (document.IsNull()) {
-        return;
+    if (const auto placement = StoredPlace(FEditType, FForm)) {
+        FForm.setGeometry(placement->Left, placement->Top, placement->Width, placement->Height);
+        if (placement->Maximized) {
+            state = *placement->Maximized ? Qt::WindowMaximized : Qt::WindowNoState;
+        }
     }
-    const auto placement = StoredPlace(document.AsString(), FForm);
-    if (!placement) {
-        return;
-    }
-    FForm.setGeometry(placement->Left, placement->Top, placement->Width, placement->Height);
-    if (placement->Maximized) {
-        FForm.setWindowState(*placement->Maximized ? Qt::WindowMaximized : Qt::WindowNoState);
-    }
+    // Qt ends a maximised state with the first move.
+    FForm.setWindowState(state);
 }
 
 void WindowPlacementKeeper::Save() const {
