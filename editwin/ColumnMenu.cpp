@@ -65,8 +65,10 @@ void ColumnMenu::EditProperties(TLibraryManager* manager) {
 void ColumnMenu::SetEditability(TEditable editable) {
     const bool isEdited = FKeeper.ActiveEditor() && FKeeper.EditCol() == FPopupColumn;
     const bool closes = editable == eNone && isEdited;
+    // The column is sought after the commit, whose callback may have replaced the list.
+    const bool mayChange = !closes || FKeeper.HideEditor();
     RColumn* const column = FEditing.ColumnAt(FPopupColumn);
-    if (column && (!closes || FKeeper.HideEditor())) {
+    if (column && mayChange) {
         column->Editable = editable;
         if (closes) {
             FEditing.Grid.SetCurrentCell(FKeeper.EditCol(), FKeeper.EditRow());

@@ -207,6 +207,20 @@ TEST_F(ColumnMenu, ANotEditableColumnKeepsTheCursorOnTheEditedCell) {
     EXPECT_EQ(columnAt(c_CountCol).Editable, eNone);
 }
 
+TEST_F(ColumnMenu, ANotEditableColumnIsThatOfTheListWhichTheCommitLeft) {
+    open();
+    log.answer = [&] {
+        form->LoadColumnsSettingsFromXml("<settings><columns/></settings>"); // a list anew
+        return true;
+    };
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("3"));
+    openColumnMenu(c_CountCol);
+    pick(form->NeeditovatelnySloupec);
+    EXPECT_THAT(log.lines, ElementsAre("2,2=3"));
+    EXPECT_EQ(columnAt(c_CountCol).Editable, eNone);
+}
+
 TEST_F(ColumnMenu, ARefusedValueLeavesItsColumnEditable) {
     open();
     openCell(c_CountCol, 2);
