@@ -11,7 +11,7 @@ std::string decimalText(std::int64_t value, int decimals) {
     if (digits.size() <= places) {
         digits.insert(0, places + 1 - digits.size(), '0');
     }
-    digits.insert(digits.size() - places, ".");
+    digits.insert(digits.size() - places, 1, '.');
     return canonicalDecimal((isNegative ? "-" : "") + digits);
 }
 
