@@ -108,3 +108,20 @@ TEST_F(WindowPlacement, ClosingStoresTheRectangleUnderTheEditTypeAlone) {
     EXPECT_THAT(line, testing::HasSubstr("<window><left>50</left><top>60</top><width>1000</width><height>600</height>"
                                          "<maximized>0</maximized></window>"));
 }
+
+// The window manager's answers take a maximised window through other states before it is down: how many, and with which
+// geometry, differs from time to time. Here they are played one by one.
+TEST_F(WindowPlacement, WhateverAMaximisedWindowPassesOnItsWayDownItsNormalRectangleIsStored) {
+    open();
+    form->setGeometry(50, 60, 1000, 600);
+    form->setWindowState(Qt::WindowMaximized);
+    settle();
+    form->setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    form->setWindowState(Qt::WindowNoState);
+    form->setGeometry(0, 20, 1600, 980);
+    form->setWindowState(Qt::WindowMinimized);
+    ASSERT_EQ(form->normalGeometry(), QRect(0, 20, 1600, 980)) << "Qt takes the wide one for the normal one";
+    form->close();
+    EXPECT_THAT(lastSave(), testing::HasSubstr("<left>50</left><top>60</top><width>1000</width><height>600</height>"
+                                               "<maximized>0</maximized>"));
+}
