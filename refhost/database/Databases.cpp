@@ -1,10 +1,10 @@
 #include "refhost/database/Databases.h"
 
-#include "host/Exceptions.h"
 #include "refhost/database/ParameterValues.h"
 #include "refhost/database/PostgreSQLConnection.h"
 #include "refhost/database/PostgreSQLSchema.h"
 #include "refhost/database/PostgreSQLUpgrade.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteConnection.h"
 #include "refhost/database/SQLiteSchema.h"
 #include "refhost/database/SQLiteUpgrade.h"
@@ -21,9 +21,7 @@ constexpr std::chrono::seconds c_Patience{5};
 constexpr std::chrono::seconds c_MakingTime{60};
 
 [[noreturn]] void refuseAddress(const std::string& url) {
-    throw EDatabaseError("Adresa databáze „" + shownText(url) +
-                             "“ není známá. Zadejte sqlite:SOUBOR nebo postgresql:PŘIPOJENÍ.",
-                         "ML915");
+    throw refusal("ML915/address", {shownText(url)});
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "host/FormatSettings.h"
 #include "host/ValueText.h"
 #include "refhost/database/Decimal.h"
+#include "refhost/database/RefusalTable.h"
 
 #include <memory>
 #include <optional>
@@ -181,7 +182,7 @@ constexpr int c_Flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
 
 void checkRegistered(sqlite3* database, int status) {
     if (status != SQLITE_OK) {
-        throw EDatabaseError("Databázi nelze připravit pro výpočty s desetinnými čísly.", {}, sqlite3_errmsg(database));
+        throw refusal("ML930/decimals", {}, sqlite3_errmsg(database));
     }
 }
 

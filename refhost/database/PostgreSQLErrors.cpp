@@ -9,31 +9,21 @@ namespace refhost {
 
 namespace {
 
-struct Sentence {
-    std::string_view SqlState; ///< The server's code, or its first two characters for a whole class.
-    const char* Refusal;
-    const char* Before; ///< Stands before the database's name,
-    const char* After;  ///< and this after it.
+/// Which row of the table of refusals an error of the server is told by. Each names the database.
+struct Failure {
+    std::string_view SqlState; ///< The server's code, or its first characters for a whole class.
+    std::string_view Refusal;
 };
 
-constexpr Sentence c_Sentences[] = {
-    {"40P01", "ML910", "Databázi „", "“ právě používá někdo jiný. Zkuste to za chvíli znovu."},
-    {"40001", "ML910", "Databázi „", "“ právě používá někdo jiný. Zkuste to za chvíli znovu."},
-    {"55P03", "ML910", "Databázi „", "“ právě používá někdo jiný. Zkuste to za chvíli znovu."},
-    {"53300", "ML910", "Databázi „", "“ používá příliš mnoho uživatelů. Zkuste to za chvíli znovu."},
-    {"25006", "ML911", "Databáze „", "“ je jen pro čtení. Připojte se k databázi, do které se smí zapisovat."},
-    {"3D000", "ML915", "Databáze „", "“ na serveru není. Zkontrolujte její název, nebo ji nejprve vytvořte."},
-    {"08", "ML916", "Spojení s databází „", "“ se přerušilo. Ověřte, co se stihlo uložit, a zkuste to znovu."},
-    {"57P", "ML916", "Spojení s databází „", "“ se přerušilo. Ověřte, co se stihlo uložit, a zkuste to znovu."},
-    {"28", "ML917", "Databáze „", "“ odmítla přihlášení. Zkontrolujte jméno a heslo."},
-    {"53100", "ML923", "Pro databázi „", "“ není na disku serveru místo. Obraťte se na správce."},
-    {"23503", "ML925", "V databázi „", "“ už není něco, na co se změna odvolává. Načtěte data znovu."},
-    {"2BP01", "ML929", "V databázi „",
-     "“ závisí na pohledech nebo funkcích něco vlastního. Odstraňte to a převod zopakujte."},
-    {"42501", "ML924", "V databázi „", "“ k tomu nemáte oprávnění. Požádejte o ně správce."},
+constexpr Failure c_Failures[] = {
+    {"40P01", "ML910"}, {"40001", "ML910"},        {"55P03", "ML910"}, {"53300", "ML910/users"},
+    {"25006", "ML911"}, {"3D000", "ML915/server"}, {"08", "ML916"},    {"57P", "ML916"},
+    {"28", "ML917"},    {"53100", "ML923/server"}, {"23503", "ML925"}, {"2BP01", "ML929"},
+    {"42501", "ML924"},
 };
 
-constexpr Sentence c_Other{"", "ML930", "Databáze „", "“ nemohla příkaz provést. Obraťte se na správce."};
+constexpr std::string_view c_OtherFailure = "ML930";
+
 /// A constraint of the tables whose violation is a refusal, and its key.
 struct Constraint {
     std::string_view Name;
@@ -47,12 +37,11 @@ constexpr Constraint c_Constraints[] = {
 constexpr std::string_view c_LostLink = "08006";
 constexpr std::string_view c_WrongPassword = "28P01";
 
-EDatabaseError sentence(std::string_view sqlState, std::string_view database, const std::string& details) {
+EDatabaseError failure(std::string_view sqlState, std::string_view database, std::string details) {
     const auto* found = std::ranges::find_if(
-        c_Sentences, [sqlState](const Sentence& candidate) { return sqlState.starts_with(candidate.SqlState); });
-    const Sentence& chosen = found == std::end(c_Sentences) ? c_Other : *found;
-    return EDatabaseError(std::string(chosen.Before).append(database) + chosen.After, chosen.Refusal, details,
-                          TDatabaseCause::Failure);
+        c_Failures, [sqlState](const Failure& candidate) { return sqlState.starts_with(candidate.SqlState); });
+    return refusal(found == std::end(c_Failures) ? c_OtherFailure : found->Refusal, {std::string(database)},
+                   std::move(details), TDatabaseCause::Failure);
 }
 
 std::string details(std::string_view sqlState, std::string_view words, std::string_view statement) {
@@ -117,28 +106,25 @@ EPostgreSQLError statementError(const PGresult* result, std::string_view databas
         constraint != std::end(c_Constraints)) {
         return {refusal(constraint->Refusal, {}, more), sqlState};
     }
-    return {sentence(sqlState, database, more), sqlState, field(result, PG_DIAG_SOURCE_FUNCTION)};
+    return {failure(sqlState, database, more), sqlState, field(result, PG_DIAG_SOURCE_FUNCTION)};
 }
 
 EPostgreSQLError openingError(std::string_view words, std::string_view database, std::string_view host) {
     const std::string sqlState = codeIn(words);
     const std::string more = details(sqlState, words, {});
     if (!sqlState.empty()) {
-        return {sentence(sqlState, database, more), sqlState};
+        return {failure(sqlState, database, more), sqlState};
     }
-    return {EDatabaseError("Server databáze „" + std::string(host) +
-                               "“ není dostupný. Zkontrolujte jeho adresu a zda běží.",
-                           "ML916", more, TDatabaseCause::Failure),
-            std::string(c_LostLink)};
+    return {refusal("ML916/server", {std::string(host)}, more, TDatabaseCause::Failure), std::string(c_LostLink)};
 }
 
 EPostgreSQLError missingPasswordError(std::string_view database) {
-    return {sentence(c_WrongPassword, database, details(c_WrongPassword, "no password was given", {})),
+    return {failure(c_WrongPassword, database, details(c_WrongPassword, "no password was given", {})),
             std::string(c_WrongPassword)};
 }
 
 EPostgreSQLError lostLinkError(std::string_view database, std::string_view words, std::string_view statement) {
-    return {sentence(c_LostLink, database, details(c_LostLink, words, statement)), std::string(c_LostLink)};
+    return {failure(c_LostLink, database, details(c_LostLink, words, statement)), std::string(c_LostLink)};
 }
 
 } // namespace refhost

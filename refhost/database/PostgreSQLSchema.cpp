@@ -1,10 +1,10 @@
 #include "refhost/database/PostgreSQLSchema.h"
 
-#include "host/Exceptions.h"
 #include "host/ValueText.h"
 #include "refhost/database/EmbeddedSql.h"
 #include "refhost/database/PostgreSQLRows.h"
 #include "refhost/database/PostgreSQLShipped.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SchemaVersion.h"
 
 namespace refhost {
@@ -36,9 +36,7 @@ std::int64_t postgresqlSchemaVersion(PostgreSQLSession& session) {
     const AnsiString comment = std::get<AnsiString>(table.Rows.front().front());
     const auto version = comment.starts_with(c_Mark) ? TextToInt(comment.substr(c_Mark.size())) : std::nullopt;
     if (!version) {
-        throw EDatabaseError("Schéma „melvark“ v databázi „" + session.database() +
-                                 "“ patří jinému programu. Zvolte jinou databázi.",
-                             "ML913");
+        throw refusal("ML913/schema", {session.database()});
     }
     return *version;
 }
@@ -49,6 +47,10 @@ bool hasPostgreSQLSchema(PostgreSQLSession& session) {
         throw otherVersionError(session.database(), version);
     }
     return version != 0;
+}
+
+void waitForOtherMakers(PostgreSQLSession& session) {
+    session.execute("set local lock_timeout = '60s'; select pg_advisory_xact_lock(hashtext('melvark'))");
 }
 
 void beginPostgreSQLSchema(PostgreSQLSession& session) {
@@ -73,10 +75,9 @@ void finishPostgreSQLSchema(PostgreSQLSession& session) {
 
 void createPostgreSQLSchema(PostgreSQLSession& session) {
     PostgreSQLTransaction transaction(session, PostgreSQLTransaction::Kind::Writing);
-    // Whoever else makes one in this database goes first or waits.
-    session.execute("set local lock_timeout = '60s'; select pg_advisory_xact_lock(hashtext('melvark'))");
+    waitForOtherMakers(session);
     if (hasPostgreSQLSchema(session)) {
-        throw EDatabaseError("Databáze „" + session.database() + "“ už tabulky má. Zvolte prázdnou databázi.", "ML921");
+        throw refusal("ML921/server", {session.database()});
     }
     beginPostgreSQLSchema(session);
     runFolder(session, "tables.sql");

@@ -22,6 +22,8 @@ void createPostgreSQLSchema(PostgreSQLSession& session);
 
 /// The steps that making and upgrading share; the caller has the transaction.
 ///
+/// Whoever else makes or upgrades one in this database goes first; waits up to a minute.
+void waitForOtherMakers(PostgreSQLSession& session);
 /// Roles and rights of the database as the connecting role, then on as the owner until the transaction ends.
 void beginPostgreSQLSchema(PostgreSQLSession& session);
 /// Types, functions, views and procedures, marked as ours.

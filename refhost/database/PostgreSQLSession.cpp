@@ -2,6 +2,7 @@
 
 #include "refhost/database/ParameterValues.h"
 #include "refhost/database/PostgreSQLErrors.h"
+#include "refhost/database/RefusalTable.h"
 
 #include <algorithm>
 #include <array>
@@ -102,8 +103,7 @@ PostgreSQLSession::PostgreSQLSession(std::string address, const TFormatSettings&
     : address_(std::move(address)), settings_(settings) {
     const std::unique_ptr<PQconninfoOption, PostgreSQLDeleter> options(PQconninfoParse(address_.c_str(), nullptr));
     if (!options) {
-        throw EDatabaseError("Adresa databáze není srozumitelná. Zapište ji slovy jako host=SERVER dbname=NÁZEV.",
-                             "ML915");
+        throw refusal("ML915/words");
     }
     database_ = addressWord(options.get(), "dbname");
     open();
@@ -235,7 +235,7 @@ void PostgreSQLSession::copy(const std::string& statement, std::span<const std::
 std::string PostgreSQLSession::quoted(std::string_view name) const {
     const std::unique_ptr<char, PostgreSQLDeleter> text(PQescapeIdentifier(handle(), name.data(), name.size()));
     if (!text) {
-        throw EDatabaseError("Název „" + shownText(name) + "“ není platný text.", "ML009");
+        throw refusal("ML009/name", {shownText(name)});
     }
     return text.get();
 }

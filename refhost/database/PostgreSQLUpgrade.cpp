@@ -12,8 +12,10 @@ namespace refhost {
 
 namespace {
 
-/// Waits until nobody is in the middle of a call, and keeps everybody out until the end of the transaction.
+/// Waits, but not for long, until nobody is in the middle of a call, and keeps everybody out until the end of the
+/// transaction.
 constexpr const char* c_LockTables =
+    "set local lock_timeout = '5s';"
     "do $$ declare company text; begin "
     "select string_agg(c.oid::regclass::text, ', ') into company from pg_catalog.pg_class c "
     "where c.relnamespace = 'melvark'::regnamespace and c.relkind = 'r'; "
@@ -50,6 +52,7 @@ UpgradeReport upgradePostgreSQLSchema(PostgreSQLSession& session) {
         return report;
     }
     PostgreSQLTransaction transaction(session, PostgreSQLTransaction::Kind::Writing);
+    waitForOtherMakers(session);
     session.execute(c_LockTables);
     // Asked again now that nobody else can write: another upgrade may have been first.
     report.From = postgresqlSchemaVersion(session);

@@ -16,7 +16,8 @@ bool isPlace(std::string_view text) {
 
 } // namespace
 
-EDatabaseError refusal(std::string_view key, const std::vector<std::string>& named, std::string details) {
+EDatabaseError refusal(std::string_view key, const std::vector<std::string>& named, std::string details,
+                       TDatabaseCause cause) {
     const auto rows = refusalRows();
     const auto row = std::ranges::find(rows, key, &RefusalRow::Key);
     if (row == rows.end()) {
@@ -33,7 +34,7 @@ EDatabaseError refusal(std::string_view key, const std::vector<std::string>& nam
         sentence += named.at(static_cast<std::size_t>(left[1] - '1'));
         left.remove_prefix(c_PlaceLength);
     }
-    return EDatabaseError(std::move(sentence), std::string(key.substr(0, c_CodeLength)), std::move(details));
+    return EDatabaseError(std::move(sentence), std::string(key.substr(0, c_CodeLength)), std::move(details), cause);
 }
 
 } // namespace refhost

@@ -1,3 +1,4 @@
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteCall.h"
 #include "refhost/database/SQLiteFunctions.h"
 
@@ -58,8 +59,7 @@ std::unique_ptr<icu::Collator> makeCollator() {
     UErrorCode error = U_ZERO_ERROR;
     std::unique_ptr<icu::Collator> collator(icu::Collator::createInstance(czech(), error));
     if (U_FAILURE(error)) {
-        throw EDatabaseError("České řazení není v systému k dispozici. Obraťte se na správce.", "ML930",
-                             u_errorName(error));
+        throw refusal("ML930/collation", {}, u_errorName(error));
     }
     return collator;
 }

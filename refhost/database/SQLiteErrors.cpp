@@ -8,28 +8,20 @@ namespace refhost {
 
 namespace {
 
-struct Sentence {
+/// Which row of the table of refusals an error of the engine is told by. Each names the file.
+struct Failure {
     int Code; ///< The engine's code, either one that stands for a whole class or an extended one.
-    const char* Refusal;
-    const char* Before; ///< Stands before the file's name,
-    const char* After;  ///< and this after it.
+    std::string_view Refusal;
 };
 
-constexpr Sentence c_Sentences[] = {
-    {SQLITE_BUSY, "ML910", "Databázi „", "“ právě používá někdo jiný. Zkuste to za chvíli znovu."},
-    {SQLITE_LOCKED, "ML910", "Databázi „", "“ právě používá někdo jiný. Zkuste to za chvíli znovu."},
-    {SQLITE_READONLY, "ML911", "Databáze „", "“ je jen pro čtení. Povolte zápis do souboru i do jeho složky."},
-    {SQLITE_CORRUPT, "ML912", "Soubor „", "“ není databáze, nebo je poškozený. Obnovte jej ze zálohy."},
-    {SQLITE_NOTADB, "ML912", "Soubor „", "“ není databáze, nebo je poškozený. Obnovte jej ze zálohy."},
-    {SQLITE_CANTOPEN, "ML915", "Soubor databáze „", "“ nelze otevřít. Zkontrolujte jeho umístění a oprávnění."},
-    {SQLITE_PERM, "ML915", "Soubor databáze „", "“ nelze otevřít. Zkontrolujte jeho umístění a oprávnění."},
-    {SQLITE_IOERR, "ML916", "Databázi „", "“ nelze číst ani zapisovat. Zkontrolujte disk, na kterém leží."},
-    {SQLITE_CONSTRAINT_FOREIGNKEY, "ML925", "V databázi „",
-     "“ už není něco, na co se změna odvolává. Načtěte data znovu."},
-    {SQLITE_FULL, "ML923", "Pro databázi „", "“ není na disku místo. Uvolněte je a zkuste to znovu."},
+constexpr Failure c_Failures[] = {
+    {SQLITE_BUSY, "ML910"},    {SQLITE_LOCKED, "ML910"},     {SQLITE_READONLY, "ML911/file"},
+    {SQLITE_CORRUPT, "ML912"}, {SQLITE_NOTADB, "ML912"},     {SQLITE_CANTOPEN, "ML915"},
+    {SQLITE_PERM, "ML915"},    {SQLITE_IOERR, "ML916/disk"}, {SQLITE_CONSTRAINT_FOREIGNKEY, "ML925"},
+    {SQLITE_FULL, "ML923"},
 };
 
-constexpr Sentence c_Other{SQLITE_ERROR, "ML930", "Databáze „", "“ nemohla příkaz provést. Obraťte se na správce."};
+constexpr std::string_view c_OtherFailure = "ML930";
 
 } // namespace
 
@@ -40,14 +32,13 @@ EDatabaseError sqliteError(int code, sqlite3* database, std::string_view file, s
     if (code == SQLITE_CONSTRAINT_TRIGGER) {
         return refusal(words, {}, details); // our triggers say the key of a refusal and nothing else
     }
-    const Sentence* sentence = &c_Other;
-    for (const Sentence& candidate : c_Sentences) {
+    std::string_view key = c_OtherFailure;
+    for (const Failure& candidate : c_Failures) {
         if (candidate.Code == code || candidate.Code == (code & 0xFF)) {
-            sentence = &candidate;
+            key = candidate.Refusal;
         }
     }
-    return EDatabaseError(std::string(sentence->Before).append(file) + sentence->After, sentence->Refusal, details,
-                          TDatabaseCause::Failure);
+    return refusal(key, {std::string(file)}, std::move(details), TDatabaseCause::Failure);
 }
 
 } // namespace refhost

@@ -1,6 +1,7 @@
 #include "refhost/database/SQLiteSchema.h"
 
 #include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteCollation.h"
 #include "refhost/database/SQLiteStatement.h"
 #include "refhost/database/SchemaVersion.h"
@@ -33,7 +34,7 @@ std::int64_t sqliteSchemaVersion(SQLiteSession& session) {
         return sqlitePragma(session, "user_version");
     }
     if (applicationId != 0 || sqlitePragma(session, "user_version") != 0 || hasObjects(session)) {
-        throw EDatabaseError("Soubor „" + session.file() + "“ patří jinému programu. Zvolte jiný soubor.", "ML913");
+        throw refusal("ML913", {session.file()});
     }
     return 0;
 }
@@ -56,7 +57,7 @@ void createSQLiteSchema(SQLiteSession& session) {
     SQLiteTransaction transaction(session, SQLiteTransaction::Kind::Writing);
     // Asked within the transaction: another program may have made it while this one waited for its turn.
     if (sqliteSchemaVersion(session) != 0) {
-        throw EDatabaseError("Databáze „" + session.file() + "“ už tabulky má. Zvolte prázdný soubor.", "ML921");
+        throw refusal("ML921", {session.file()});
     }
     createSQLiteTables(session);
     createSQLiteViews(session);

@@ -1,6 +1,7 @@
 #include "refhost/database/SQLiteSession.h"
 
 #include "refhost/database/PrivateFile.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteErrors.h"
 
 #include <filesystem>
@@ -17,15 +18,13 @@ void checkPlace(const std::string& file, bool create) {
     const std::filesystem::path path(file);
     const std::filesystem::path folder = path.has_parent_path() ? path.parent_path() : std::filesystem::path(".");
     if (!std::filesystem::is_directory(folder, error)) {
-        throw EDatabaseError(
-            "Složka „" + folder.string() + "“ pro databázi neexistuje. Vytvořte ji, nebo zvolte jinou.", "ML915");
+        throw refusal("ML915/nofolder", {folder.string()});
     }
     if (std::filesystem::is_directory(path, error)) {
-        throw EDatabaseError("„" + file + "“ je složka, ne soubor databáze. Zvolte jiný soubor.", "ML915");
+        throw refusal("ML915/folder", {file});
     }
     if (!create && !std::filesystem::exists(path, error)) {
-        throw EDatabaseError("Soubor databáze „" + file + "“ neexistuje. Zvolte jiný, nebo databázi vytvořte.",
-                             "ML915");
+        throw refusal("ML915/nofile", {file});
     }
 }
 

@@ -40,6 +40,10 @@
         <source>Text v parametru … není platné UTF-8. Opravte kódování.</source>
         <translation>A text is not valid UTF-8. Correct its encoding.</translation>
     </message>
+    <message id="MELVARKHOST\REFUSAL\ML009|Název „%1“ není platný text. Opravte jej.">
+        <source>Název „%1“ není platný text. Opravte jej.</source>
+        <translation>The name “%1” is not valid text. Correct it.</translation>
+    </message>
     <!-- Documents -->
     <message id="MELVARKHOST\REFUSAL\ML010">
         <source>Dodací list s identifikátorem … neexistuje. Obnovte seznam a vyberte jiný.</source>
@@ -275,9 +279,17 @@
         <source>Databázi „%1“ právě používá někdo jiný. Zkuste to za chvíli znovu.</source>
         <translation>Somebody else is using database “%1” right now. Try again in a moment.</translation>
     </message>
+    <message id="MELVARKHOST\REFUSAL\ML910|Databázi „%1“ používá příliš mnoho uživatelů. Zkuste to za chvíli znovu.">
+        <source>Databázi „%1“ používá příliš mnoho uživatelů. Zkuste to za chvíli znovu.</source>
+        <translation>Too many people are using database “%1”. Try again in a moment.</translation>
+    </message>
     <message id="MELVARKHOST\REFUSAL\ML911">
-        <source>Databáze „%1“ je jen pro čtení. …</source>
-        <translation>Database “%1” is read-only. Ask your administrator for the right to write to it.</translation>
+        <source>Databáze „%1“ je jen pro čtení. Připojte se k databázi, do které se smí zapisovat.</source>
+        <translation>Database “%1” is read-only. Connect to one that may be written to.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML911|Databáze „%1“ je jen pro čtení. Povolte zápis do souboru i do jeho složky.">
+        <source>Databáze „%1“ je jen pro čtení. Povolte zápis do souboru i do jeho složky.</source>
+        <translation>Database “%1” is read-only. Allow writing to the file and to its folder.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML912">
         <source>Soubor „%1“ není databáze, nebo je poškozený. Obnovte jej ze zálohy.</source>
@@ -285,7 +297,11 @@
     </message>
     <message id="MELVARKHOST\REFUSAL\ML913">
         <source>Soubor „%1“ patří jinému programu. Zvolte jiný soubor.</source>
-        <translation>“%1” belongs to another program. Choose another database.</translation>
+        <translation>File “%1” belongs to another program. Choose another file.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML913|Schéma „%1“ v databázi „%2“ patří jinému programu. Zvolte jinou databázi.">
+        <source>Schéma „%1“ v databázi „%2“ patří jinému programu. Zvolte jinou databázi.</source>
+        <translation>The schema “%1” in database “%2” belongs to another program. Choose another database.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML914">
         <source>Databáze „%1“ je starší než tento program. Převeďte ji příkazem melvark-host --upgrade-database.</source>
@@ -357,7 +373,11 @@
     </message>
     <message id="MELVARKHOST\REFUSAL\ML921">
         <source>Databáze „%1“ už tabulky má. Zvolte prázdný soubor.</source>
-        <translation>Database “%1” has its tables already. Choose an empty one.</translation>
+        <translation>Database “%1” has its tables already. Choose an empty file.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML921|Databáze „%1“ už tabulky má. Zvolte prázdnou databázi.">
+        <source>Databáze „%1“ už tabulky má. Zvolte prázdnou databázi.</source>
+        <translation>Database “%1” has its tables already. Choose an empty database.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML922">
         <source>Databáze „%1“ nemá tabulky. Nejprve ji vytvořte.</source>
@@ -366,6 +386,10 @@
     <message id="MELVARKHOST\REFUSAL\ML923">
         <source>Pro databázi „%1“ není na disku místo. Uvolněte je a zkuste to znovu.</source>
         <translation>The disk of database “%1” is full. Free some space and try again.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML923|Pro databázi „%1“ není na disku serveru místo. Obraťte se na správce.">
+        <source>Pro databázi „%1“ není na disku serveru místo. Obraťte se na správce.</source>
+        <translation>The server’s disk is full for database “%1”. Contact your administrator.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML924">
         <source>V databázi „%1“ k tomu nemáte oprávnění. Požádejte o ně správce.</source>
@@ -382,6 +406,10 @@
     <message id="MELVARKHOST\REFUSAL\ML930|České řazení není v systému k dispozici. Obraťte se na správce.">
         <source>České řazení není v systému k dispozici. Obraťte se na správce.</source>
         <translation>Czech collation is not available on this system. Contact your administrator.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML930|Databázi nelze připravit pro výpočty s desetinnými čísly. Obraťte se na správce.">
+        <source>Databázi nelze připravit pro výpočty s desetinnými čísly. Obraťte se na správce.</source>
+        <translation>The database cannot be prepared for computing with decimals. Contact your administrator.</translation>
     </message>
     <message id="MELVARKHOST\REFUSAL\ML926">
         <source>Tabulka „%1“ má navíc sloupec „%2“, který by převod ztratil. Přesuňte jej do vlastní tabulky.</source>

@@ -2,7 +2,10 @@
 
 #include "refhost/database/EmbeddedSql.h"
 
+#include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <regex>
 #include <set>
 #include <stdexcept>
@@ -31,9 +34,20 @@ std::string statements(std::span<const SqlFile> files) {
     return text;
 }
 
-std::set<std::string> quotedKeys(const std::string& sql) {
-    static const std::regex key("'(ML[0-9]{3}(/[a-z]+)?)'");
-    return {std::sregex_token_iterator(sql.begin(), sql.end(), key, 1), std::sregex_token_iterator()};
+/// The program's own sources of the database.
+std::string programText() {
+    std::string text;
+    for (const auto& file : std::filesystem::directory_iterator(MELVARK_SOURCE_DIR "/refhost/database")) {
+        if (file.path().extension() == ".cpp") {
+            text.append(std::istreambuf_iterator<char>(std::ifstream(file.path()).rdbuf()), {});
+        }
+    }
+    return text;
+}
+
+std::set<std::string> quotedKeys(const std::string& text, char quote) {
+    const std::regex key(std::string(1, quote) + "(ML[0-9]{3}(/[a-z]+)?)" + quote);
+    return {std::sregex_token_iterator(text.begin(), text.end(), key, 1), std::sregex_token_iterator()};
 }
 
 TEST(RefusalTable, FillsThePlacesOfASentence) {
@@ -61,7 +75,7 @@ TEST(RefusalTable, KnowsNoOtherKeyAndLeavesNoPlaceEmpty) {
 TEST(RefusalTable, HasEveryKeyThatTheSqlOfAnEngineRefusesWith) {
     const std::set<std::string> known = tableKeys();
     for (const auto files : {sqliteFiles(), postgresqlFiles()}) {
-        const std::set<std::string> used = quotedKeys(statements(files));
+        const std::set<std::string> used = quotedKeys(statements(files), '\'');
         EXPECT_GT(used.size(), 40U) << "the keys are not recognised any more";
         for (const std::string& key : used) {
             EXPECT_TRUE(known.contains(key)) << key;
@@ -69,17 +83,41 @@ TEST(RefusalTable, HasEveryKeyThatTheSqlOfAnEngineRefusesWith) {
     }
 }
 
+TEST(RefusalTable, HasEveryKeyThatTheProgramRefusesWith) {
+    const std::set<std::string> known = tableKeys();
+    const std::set<std::string> used = quotedKeys(programText(), '"');
+    EXPECT_GT(used.size(), 30U) << "the keys are not recognised any more";
+    for (const std::string& key : used) {
+        EXPECT_TRUE(known.contains(key)) << key;
+    }
+}
+
+TEST(RefusalTable, HasNoKeyThatNobodyRefusesWith) {
+    std::set<std::string> used = quotedKeys(programText(), '"');
+    for (const auto files : {sqliteFiles(), postgresqlFiles()}) {
+        used.merge(quotedKeys(statements(files), '\''));
+    }
+    for (const std::string& key : tableKeys()) {
+        EXPECT_TRUE(used.contains(key)) << key;
+    }
+}
+
 /// A sentence has one place to stand: no engine and no function spells one out beside the table.
 TEST(RefusalTable, IsTheOnlyPlaceOfItsSentences) {
-    for (const auto files : {sqliteFiles(), postgresqlFiles()}) {
-        const std::string sql = statements(files);
+    for (const std::string& text : {statements(sqliteFiles()), statements(postgresqlFiles()), programText()}) {
         for (const RefusalRow& row : refusalRows()) {
             const std::string sentence(row.Sentence);
             const std::string ending =
                 sentence.substr(sentence.rfind(". ") == std::string::npos ? 0 : sentence.rfind(". ") + 2);
-            EXPECT_EQ(sql.find(ending), std::string::npos) << row.Key;
+            EXPECT_EQ(text.find(ending), std::string::npos) << row.Key;
         }
     }
+}
+
+/// Nobody makes an error of the database without the table but who passes on what the server itself said.
+TEST(RefusalTable, IsAskedForEveryErrorOfTheProgram) {
+    static const std::regex made("EDatabaseError\\(\"");
+    EXPECT_FALSE(std::regex_search(programText(), made));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "refhost/Languages.h"
 #include "refhost/Refusals.h"
+#include "refhost/database/RefusalTable.h"
 #include "tests/languages/CatalogueFile.h"
 
 #include <filesystem>
@@ -58,6 +59,33 @@ TEST(DatabaseCatalogue, FormsOfOneCodeBearTheirCzechPatternInTheId) {
         }
         EXPECT_EQ(entry.id.substr(bar + 1), entry.source);
         EXPECT_EQ(refhost::takeThingsOut(entry.source).pattern, entry.source) << "the pattern is not in its final form";
+    }
+}
+
+/// A refusal as the database sends it: its places filled, each by something else.
+EDatabaseError sentOf(const refhost::RefusalRow& row) {
+    return refhost::refusal(row.Key, {"první", "druhý", "třetí", "čtvrtý", "pátý", "šestý", "sedmý", "osmý", "devátý"});
+}
+
+TEST(DatabaseCatalogue, TellsEveryRefusalOfTheTable) {
+    const refhost::Languages english("en");
+    for (const refhost::RefusalRow& row : refhost::refusalRows()) {
+        // What kind of thing "{1}" is stands in the sentence, and each kind has a text of its own.
+        EXPECT_TRUE(row.Sentence.starts_with("{1} ") || refhost::translateRefusal(sentOf(row), english)) << row.Key;
+    }
+}
+
+TEST(DatabaseCatalogue, TellsTheFormsOfACodeApart) {
+    std::set<std::string> ids;
+    for (const CatalogueEntry& entry : readCatalogue(QStringLiteral("database_en"))) {
+        ids.insert(entry.id);
+    }
+    for (const refhost::RefusalRow& row : refhost::refusalRows()) {
+        if (row.Key.find('/') != std::string_view::npos) {
+            const EDatabaseError sent = sentOf(row);
+            EXPECT_TRUE(ids.contains(c_keyStart + sent.Code() + "|" + refhost::takeThingsOut(sent.Message()).pattern))
+                << row.Key;
+        }
     }
 }
 
