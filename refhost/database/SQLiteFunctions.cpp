@@ -6,12 +6,11 @@
 #include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteCall.h"
 #include "refhost/database/SQLiteStatement.h"
+#include "refhost/database/TimeZones.h"
 
 #include <algorithm>
 #include <chrono>
-#include <memory>
 #include <stdexcept>
-#include <unicode/timezone.h>
 #include <vector>
 
 namespace refhost {
@@ -239,19 +238,12 @@ void monthsBefore(const SQLiteCall& call) {
 /// The moment of now in a time zone.
 void momentIn(const SQLiteCall& call) {
     const std::string zone = call.text(0).value_or(std::string());
-    const std::unique_ptr<icu::TimeZone> found(icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(zone)));
-    // Names of regions have a slash; the library would read other words as rules of its own.
-    const bool isName = zone == "UTC" || zone.find('/') != std::string::npos;
-    if (!isName || *found == icu::TimeZone::getUnknown()) {
+    const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    const auto offset = zoneOffset(zone, now);
+    if (!offset) {
         throw refusal("ML071", {shownText(zone)});
     }
-    const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-    std::int32_t offset = 0;
-    std::int32_t summer = 0;
-    UErrorCode error = U_ZERO_ERROR;
-    constexpr double c_Millisecond = 1000;
-    found->getOffset(static_cast<double>(now.time_since_epoch().count()) * c_Millisecond, false, offset, summer, error);
-    call.give(isoMoment(TDateTime(now.time_since_epoch() + std::chrono::seconds((offset + summer) / 1000))));
+    call.give(isoMoment(TDateTime(now.time_since_epoch() + *offset)));
 }
 
 void currentUserName(const SQLiteCall& call) {

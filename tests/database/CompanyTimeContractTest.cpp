@@ -44,6 +44,15 @@ TEST_P(CompanyTime, IsThatOfTheCompanysParameter) {
     EXPECT_EQ(hoursAhead(), 0);
 }
 
+TEST_P(CompanyTime, IsTheSameHoweverTheZonesLettersAreWritten) {
+    for (const char* zone : {"Pacific/Kiritimati", "pacific/kiritimati", "PACIFIC/KIRITIMATI", "etc/gmt-14"}) {
+        setZone(zone);
+        EXPECT_EQ(hoursAhead(), 14) << zone;
+    }
+    setZone("utc");
+    EXPECT_EQ(hoursAhead(), 0);
+}
+
 TEST_P(CompanyTime, IsPragueWithoutOne) {
     const long hours = hoursAhead();
     EXPECT_TRUE(hours == 1 || hours == 2) << hours;
@@ -64,7 +73,9 @@ TEST_P(CompanyTime, DecidesWhichPricesHoldToday) {
 }
 
 TEST_P(CompanyTime, AnUnknownZoneIsRefusedInWords) {
-    for (const char* zone : {"Europe/Praha", "CEST", "GMT+2", "+02:00", "x"}) {
+    for (const char* zone :
+         {"Europe/Praha", "CEST", "GMT+2", "+02:00", "x", "A/B+3", "Abc/Def5", "Etc/GMT+13", "Etc/GMT-15",
+          "Etc/GMT+012", "SystemV/AST4", "posix/Europe/Prague", "right/Europe/Prague"}) {
         setZone(zone);
         EXPECT_EQ(answer(*database_, "MELVARKEDITORDodObjCheckZdrojDodCenik",
                          {{"a_DDOBIDMASTER", id(7)}, {"a_DODVID", id(1)}}),

@@ -13,8 +13,9 @@ language plpgsql stable as $$
 declare
     zone constant text := coalesce(typed(V_GetGlobalParam('FIRMA', 'CASOVEPASMO')), 'Europe/Prague');
 begin
-    -- The server would take rules of other kinds for a zone, too, and read some of them the other way round.
-    if zone !~ '^(UTC|[A-Za-z_+-]+(/[A-Za-z0-9_+-]+)+)$' then
+    -- The server would take rules of other kinds for a zone, too, and read some of them the other way round. Nearly all
+    -- of these have digits, names of regions have none.
+    if zone !~* '^(UTC|[a-z_-]+(/[a-z_-]+)+|Etc/GMT(0|[+-][0-9]|[+-]1[0-2]|-1[34]))$' or zone ~* '^(posix|right)/' then
         perform refuse('ML071', zone);
     end if;
     return date_trunc('second', now() at time zone zone);

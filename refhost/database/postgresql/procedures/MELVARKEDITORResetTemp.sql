@@ -20,10 +20,11 @@ begin
     if not has_own_staging() then
         raise exception 'the rows of a save lie in tables that another role made';
     end if;
-    -- Emptied with their files: deleted rows would stay in them as long as the session lasts. After a success they are
-    -- empty already.
-    if exists (select from pg_temp.NOTE_STAGED) or exists (select from pg_temp.ORDER_STAGED) then
-        truncate pg_temp.NOTE_STAGED, pg_temp.ORDER_STAGED;
+    -- Emptied with their files: rows that were deleted or taken back would stay in them as long as the session lasts.
+    -- After a success they are empty already.
+    if pg_relation_size('pg_temp.note_staged') > 0 or pg_relation_size('pg_temp.order_staged') > 0
+       or pg_relation_size('pg_temp.order_target') > 0 then
+        truncate pg_temp.NOTE_STAGED, pg_temp.ORDER_STAGED, pg_temp.ORDER_TARGET;
     end if;
     perform set_config('melvark.last_row', '-1', false), set_config('melvark.staging', 'open', false);
 end
