@@ -1,6 +1,21 @@
 #include "benchmarks/database/Floors.h"
 
+#include "tests/database/PriceColumns.h"
+
 namespace benchmark::floors {
+
+namespace {
+
+/// The price columns as a list, each behind the name of its table.
+std::string prices(const std::string& table = {}) {
+    std::string list;
+    for (const char* column : refhost::c_PriceColumns) {
+        list += (list.empty() ? "" : ", ") + table + column;
+    }
+    return list;
+}
+
+} // namespace
 
 const std::string c_NoteFromOrder =
     "select p.ID, g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, p.MNOZSTVI, r.NAZEV, c.SLEVA, c.CENA, c.CENA, "
@@ -14,10 +29,8 @@ const std::string c_NoteFromOrder =
     "where p.DDOBID = $2 order by p.PORADI";
 
 const std::string c_NoteFromNote =
-    "select p.DOBSID, g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, p.MNOZSTVI, r.NAZEV, p.SLEVA, "
-    "p.JEDNCENABSESLEVOU, p.JEDNDPHASESLEVOU, p.JEDNDPHBSESLEVOU, p.JEDNCENASSESLEVOU, p.JEDNCENABBEZSLEVY, "
-    "p.JEDNDPHABEZSLEVY, p.JEDNDPHBBEZSLEVY, p.JEDNCENASBEZSLEVY, p.CENABSESLEVOU, p.DPHASESLEVOU, p.DPHBSESLEVOU, "
-    "p.CENASSESLEVOU, p.CENABBEZSLEVY, p.DPHABEZSLEVY, p.DPHBBEZSLEVY, p.CENASBEZSLEVY, d.DATUM "
+    "select p.DOBSID, g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, p.MNOZSTVI, r.NAZEV, p.SLEVA, " + prices("p.") +
+    ", d.DATUM "
     "from DODAKPOL p join DODAK d on d.ID = $1 join SKLADPOL i on i.ID = p.SKLPID "
     "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
     "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID left join DPH r on r.ID = p.DPHID "
@@ -51,10 +64,8 @@ std::string noteStaging(const BareSession& session) {
     const std::string decimal = " " + session.decimalType() + ", ";
     std::string table = "create temp table NOTE_FLOOR (PLACE " + session.countingKey() +
                         ", DOBSID integer, SKLPID integer, SKLDID integer, DPHID integer, ";
-    for (const char* column : {"MNOZSTVI", "SLEVA", "JEDNCENABSESLEVOU", "JEDNDPHASESLEVOU", "JEDNDPHBSESLEVOU",
-                               "JEDNCENASSESLEVOU", "JEDNCENABBEZSLEVY", "JEDNDPHABEZSLEVY", "JEDNDPHBBEZSLEVY",
-                               "JEDNCENASBEZSLEVY", "CENABSESLEVOU", "DPHASESLEVOU", "DPHBSESLEVOU", "CENASSESLEVOU",
-                               "CENABBEZSLEVY", "DPHABEZSLEVY", "DPHBBEZSLEVY", "CENASBEZSLEVY"}) {
+    table += "MNOZSTVI" + decimal + "SLEVA" + decimal;
+    for (const char* column : refhost::c_PriceColumns) {
         table += column + decimal;
     }
     return table + "TRVANLIVOST text)";
@@ -67,10 +78,8 @@ std::string orderStaging(const BareSession& session) {
 }
 
 const std::string c_StageNoteRow =
-    "insert into NOTE_FLOOR (DOBSID, SKLPID, SKLDID, MNOZSTVI, DPHID, SLEVA, JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, "
-    "JEDNDPHBSESLEVOU, JEDNCENASSESLEVOU, JEDNCENABBEZSLEVY, JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY, "
-    "CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU, CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, "
-    "CENASBEZSLEVY, TRVANLIVOST) "
+    "insert into NOTE_FLOOR (DOBSID, SKLPID, SKLDID, MNOZSTVI, DPHID, SLEVA, " + prices() +
+    ", TRVANLIVOST) "
     "values ($1, (select ID from SKLADPOL where NAZEV = $2), (select ID from SKLAD where NAZEV = $3), $4, "
     "(select ID from DPH where NAZEV = $5), $6, $7, $8, $9, $10, $11, $12, $13, $14, $15, $16, $17, $18, $19, $20, "
     "$21, $22, $23)";
@@ -81,14 +90,10 @@ const std::string c_StageOrderRow =
     "(select ID from DODAVATEL where JMENO = $3), $4, $5, $6, $7)";
 
 const std::string c_CloseNote =
-    "insert into DODAKPOL (DODKID, PORADI, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA, JEDNCENABBEZSLEVY, "
-    "JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY, JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, "
-    "JEDNCENASSESLEVOU, CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU, CENABBEZSLEVY, DPHABEZSLEVY, "
-    "DPHBBEZSLEVY, CENASBEZSLEVY, DOBSID) "
-    "select $1, row_number() over (order by PLACE), SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA, JEDNCENABBEZSLEVY, "
-    "JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY, JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, "
-    "JEDNCENASSESLEVOU, CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU, CENABBEZSLEVY, DPHABEZSLEVY, "
-    "DPHBBEZSLEVY, CENASBEZSLEVY, DOBSID from NOTE_FLOOR order by PLACE";
+    "insert into DODAKPOL (DODKID, PORADI, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA, " + prices() +
+    ", DOBSID) "
+    "select $1, row_number() over (order by PLACE), SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA, " +
+    prices() + ", DOBSID from NOTE_FLOOR order by PLACE";
 
 const std::string c_CloseOrder =
     "insert into DODOBJPOL (DDOBID, PORADI, SKLPID, SKPLID, SKLDID, MNOZSTVI, POPIS, KOMENTAR) "

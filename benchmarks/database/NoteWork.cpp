@@ -1,6 +1,7 @@
 #include "benchmarks/database/NoteWork.h"
 
 #include "benchmarks/database/Floors.h"
+#include "tests/database/PriceColumns.h"
 
 #include <algorithm>
 #include <array>
@@ -11,42 +12,15 @@ namespace benchmark {
 namespace {
 
 /// The cells of a filled row that a save sends, in the order of the staging floor's parameters.
-constexpr std::array<const char*, 23> c_SavedColumns{"DOBSID",
-                                                     "SKLADPOL",
-                                                     "SKLAD",
-                                                     "MNOZSTVI",
-                                                     "DPH",
-                                                     "SLEVA",
-                                                     "JEDNCENABSESLEVOU",
-                                                     "JEDNDPHASESLEVOU",
-                                                     "JEDNDPHBSESLEVOU",
-                                                     "JEDNCENASSESLEVOU",
-                                                     "JEDNCENABBEZSLEVY",
-                                                     "JEDNDPHABEZSLEVY",
-                                                     "JEDNDPHBBEZSLEVY",
-                                                     "JEDNCENASBEZSLEVY",
-                                                     "CENABSESLEVOU",
-                                                     "DPHASESLEVOU",
-                                                     "DPHBSESLEVOU",
-                                                     "CENASSESLEVOU",
-                                                     "CENABBEZSLEVY",
-                                                     "DPHABEZSLEVY",
-                                                     "DPHBBEZSLEVY",
-                                                     "CENASBEZSLEVY",
-                                                     "TRVANLIVOST"};
+constexpr auto c_SavedColumns = [] {
+    constexpr std::array c_First{"DOBSID", "SKLADPOL", "SKLAD", "MNOZSTVI", "DPH", "SLEVA"};
+    std::array<const char*, c_First.size() + refhost::c_PriceColumns.size() + 1> columns{};
+    auto* next = std::ranges::copy(c_First, columns.begin()).out;
+    next = std::ranges::copy(refhost::c_PriceColumns, next).out;
+    *next = "TRVANLIVOST";
+    return columns;
+}();
 constexpr std::size_t c_FirstNumber = 3;
-
-/// "JEDNCENABSESLEVOU" is sent as "a_JEDNCENABSL", "CENABBEZSLEVY" as "a_CENAB".
-std::string parameterName(std::string column) {
-    constexpr std::string_view c_After = "SESLEVOU";
-    constexpr std::string_view c_Before = "BEZSLEVY";
-    if (column.ends_with(c_After)) {
-        column.replace(column.size() - c_After.size(), c_After.size(), "SL");
-    } else if (column.ends_with(c_Before)) {
-        column.erase(column.size() - c_Before.size());
-    }
-    return "a_" + column;
-}
 
 /// A cell as the editor sends it.
 TDbValue sent(const TDbValue& value) {
@@ -84,7 +58,7 @@ Rows rowsToSave(const TResultTable& filled) {
         std::vector<TDbParam>& params = rows.Sent.emplace_back();
         std::vector<TDbValue>& values = rows.Stored.emplace_back();
         for (std::size_t i = 0; i < places.size(); ++i) {
-            params.push_back({parameterName(c_SavedColumns[i]), sent(row[places[i]])});
+            params.push_back({refhost::savedParameter(c_SavedColumns[i]), sent(row[places[i]])});
             values.push_back(stored(row[places[i]], i));
         }
     }

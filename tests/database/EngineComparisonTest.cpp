@@ -1,6 +1,7 @@
 #include "tests/database/Answers.h"
 #include "tests/database/BothEngines.h"
 #include "tests/database/ContractCompany.h"
+#include "tests/database/PriceColumns.h"
 #include "tests/database/RandomCalls.h"
 #include "tests/database/RandomFlows.h"
 

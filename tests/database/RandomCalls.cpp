@@ -2,6 +2,7 @@
 
 #include "refhost/database/EmbeddedSql.h"
 #include "tests/database/HostileValues.h"
+#include "tests/database/PriceColumns.h"
 
 #include <algorithm>
 #include <array>

@@ -3,35 +3,11 @@
 #include "refhost/database/sample/Random.h"
 #include "tests/database/BothEngines.h"
 
-#include <array>
 #include <map>
 #include <string>
 #include <vector>
 
 namespace refhost {
-
-/// The columns that a recalculation takes and gives, in its order.
-inline constexpr std::array<const char*, 19> c_RecalculatedColumns{
-    "JEDNCENABBEZSLEVY",
-    "JEDNDPHABEZSLEVY",
-    "JEDNDPHBBEZSLEVY",
-    "JEDNCENASBEZSLEVY",
-    "JEDNCENABSESLEVOU",
-    "JEDNDPHASESLEVOU",
-    "JEDNDPHBSESLEVOU",
-    "JEDNCENASSESLEVOU",
-    "CENABSESLEVOU",
-    "DPHASESLEVOU",
-    "DPHBSESLEVOU",
-    "CENASSESLEVOU",
-    "CENABBEZSLEVY",
-    "DPHABEZSLEVY",
-    "DPHBBEZSLEVY",
-    "CENASBEZSLEVY",
-    "DPH",
-    "SLEVA",
-    "MNOZSTVI",
-};
 
 /// Calls of all procedures as nobody would think them up: with names, numbers and identifiers that the company has,
 /// that it has elsewhere, or that are nonsense. Rows and closing calls of a save come more often than the rest, so that

@@ -1,5 +1,7 @@
 #include "tests/database/RandomFlows.h"
 
+#include "tests/database/PriceColumns.h"
+
 #include <algorithm>
 
 namespace refhost {
@@ -64,11 +66,6 @@ std::string replaced(std::string text, std::string_view word, const std::string&
         text.replace(at, word.size(), value);
     }
     return text;
-}
-
-/// "JEDNCENABSESLEVOU" travels as "a_JEDNCENABSL" when a row is saved.
-std::string savedParameter(const std::string& column) {
-    return "a_" + replaced(replaced(column, "SESLEVOU", "SL"), "BEZSLEVY", "");
 }
 
 } // namespace

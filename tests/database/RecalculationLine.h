@@ -1,26 +1,13 @@
 #pragma once
 
 #include "host/Connection.h"
+#include "tests/database/PriceColumns.h"
 #include "tests/database/RecalculationCases.h"
 
-#include <array>
 #include <string>
 #include <string_view>
 
 namespace refhost {
-
-/// The sixteen price cells of the editor's row by row of prices, each B, A, L, S, in the order of the call.
-struct PriceRow {
-    const char* Title;
-    std::array<const char*, 4> Keys;
-};
-
-inline constexpr std::array<PriceRow, 4> c_PriceRows{{
-    {"unit before", {"JEDNCENABBEZSLEVY", "JEDNDPHABEZSLEVY", "JEDNDPHBBEZSLEVY", "JEDNCENASBEZSLEVY"}},
-    {"unit after", {"JEDNCENABSESLEVOU", "JEDNDPHASESLEVOU", "JEDNDPHBSESLEVOU", "JEDNCENASSESLEVOU"}},
-    {"total after", {"CENABSESLEVOU", "DPHASESLEVOU", "DPHBSESLEVOU", "CENASSESLEVOU"}},
-    {"total before", {"CENABBEZSLEVY", "DPHABEZSLEVY", "DPHBBEZSLEVY", "CENASBEZSLEVY"}},
-}};
 
 bool isPriceKey(std::string_view key);
 
