@@ -189,6 +189,9 @@ TResultTable PostgreSQLConnection::Query(const AnsiString& sql) {
         if (error.isNoReadingStatement()) {
             refuseQuery(sql);
         }
+        if (error.isMissingTable() && !hasPostgreSQLSchema(session_)) {
+            throw refusal("ML922", {session_.database()}, error.Details());
+        }
         throw;
     }
 }

@@ -93,6 +93,10 @@ bool EPostgreSQLError::isNoReadingStatement() const {
     return sqlState_ == "25006" || isSeveral;
 }
 
+bool EPostgreSQLError::isMissingTable() const {
+    return sqlState_ == "42P01";
+}
+
 EPostgreSQLError statementError(const PGresult* result, std::string_view database, std::string_view statement) {
     const std::string sqlState = field(result, PG_DIAG_SQLSTATE);
     std::string words = field(result, PG_DIAG_MESSAGE_PRIMARY);

@@ -23,6 +23,8 @@ public:
     bool isConflict() const;
     /// Whether a text that was to be one reading statement writes or is several.
     bool isNoReadingStatement() const;
+    /// Whether a statement names a table that is not there.
+    bool isMissingTable() const;
 
 private:
     std::string sqlState_;

@@ -208,7 +208,8 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
 TResultTable SQLiteConnection::Query(const AnsiString& sql) {
     parameterValue(ParameterKind::Text, "sql", sql);
     std::string_view text = sql;
-    if (hasSchema()) {
+    const bool isCompany = hasSchema();
+    if (isCompany) {
         refuseAfterUpgrade();
     }
     const ReadingOnly access(session_);
@@ -226,6 +227,9 @@ TResultTable SQLiteConnection::Query(const AnsiString& sql) {
     } catch (const EDatabaseError& error) {
         if (error.Details().starts_with("SQLite " + std::to_string(SQLITE_AUTH))) {
             refuseQuery(sql);
+        }
+        if (!isCompany && error.Cause() == TDatabaseCause::Failure) {
+            throw refusal("ML922", {session_.file()}, error.Details());
         }
         throw;
     }

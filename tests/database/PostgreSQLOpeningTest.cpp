@@ -58,6 +58,8 @@ TEST(PostgreSQLOpening, AnEmptyDatabaseHasNoSchemaAndNoProcedures) {
     PostgreSQLConnection database(server.address(server.newEmptyDatabase(), "postgres"), TFormatSettings::Czech());
     EXPECT_FALSE(database.hasSchema());
     EXPECT_EQ(failure([&] { database.Execute(serverCall("MELVARKEDITORDodObjInit")); }).Code(), "ML922");
+    EXPECT_EQ(failure([&] { database.Query("select NAZEV from SKLAD_V"); }).Code(), "ML922");
+    EXPECT_EQ(rowsOf(database, "select 1"), "1") << "what needs no table is answered";
 }
 
 TEST(PostgreSQLOpening, TheSchemaIsMadeOnce) {

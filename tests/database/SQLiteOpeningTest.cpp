@@ -138,6 +138,8 @@ TEST(SQLiteOpening, ADatabaseWithoutTablesSaysSo) {
     const auto database = file.open();
     EXPECT_FALSE(database->hasSchema());
     EXPECT_EQ(refusalCode([&] { database->Execute(procedureCall("MELVARKEDITORDodakInit")); }), "ML922");
+    EXPECT_EQ(refusalCode([&] { database->Query("select NAZEV from SKLAD_V"); }), "ML922");
+    EXPECT_EQ(database->Query("select 1 as A").Rows.size(), 1U) << "what needs no table is answered";
 }
 
 TEST(SQLiteOpening, TablesAreMadeOnce) {
