@@ -92,6 +92,8 @@ int reportFailure(const CommandLine& commandLine, const Languages& languages) {
     return c_failed;
 }
 
+} // namespace
+
 int runCommand(const CommandLine& commandLine, const Languages& languages) {
     try {
         Trace trace(commandLine.traceFile.empty() ? nullptr : openTraceFile(commandLine.traceFile));
@@ -104,8 +106,6 @@ int runCommand(const CommandLine& commandLine, const Languages& languages) {
         return reportFailure(commandLine, languages);
     }
 }
-
-} // namespace
 
 int runProgram(const CommandLine& commandLine, int& argc, char** argv) {
     Languages languages(commandLine.language);

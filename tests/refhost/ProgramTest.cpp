@@ -1,8 +1,8 @@
-#include "refhost/database/SQLiteFunctions.h"
-#include "refhost/database/SQLiteSession.h"
+#include "tests/refhost/VersionOneFile.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -16,6 +16,7 @@
 
 namespace {
 
+using refhost::makeVersionOne;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -24,15 +25,6 @@ struct Outcome {
     std::string output;
     std::string errors;
 };
-
-/// A company's file as the first version of the program made it.
-void makeVersionOne(const std::string& path) {
-    QFile fixture(QStringLiteral(DATABASE_FIXTURES "/version-1-sqlite.sql"));
-    ASSERT_TRUE(fixture.open(QFile::ReadOnly));
-    refhost::SQLiteSession session(path, {}, TFormatSettings{}, true, std::chrono::seconds(5));
-    refhost::registerCzech(session);
-    session.execute(fixture.readAll().toStdString());
-}
 
 /// The program with a data directory of its own for all tests: the first one that needs the sample company makes it.
 class ProgramTest : public testing::Test {
@@ -158,6 +150,26 @@ TEST_F(ProgramTest, ACompanyCanBeMadeWithoutTheSample) {
         run({QStringLiteral("--database"), database, QStringLiteral("--query"),
              QStringLiteral("select (select count(*) from DODAK) + (select count(*) from SKLADPOL) as ALL_ROWS")});
     EXPECT_EQ(rows.output, "{\"ALL_ROWS\":\"0\"}\n") << rows.errors;
+}
+
+TEST_F(ProgramTest, ACompanyThatIsKilledWhileItIsMadeDoesNotOpenAsOne) {
+    const QString path = file(QStringLiteral("killed.sqlite"));
+    const QStringList database{QStringLiteral("--database"), QStringLiteral("sqlite:") + path};
+    QProcess process;
+    process.start(QString::fromUtf8(HOST_PROGRAM),
+                  database + QStringList{QStringLiteral("--create-database"), QStringLiteral("--lines"),
+                                         QStringLiteral("20000")});
+    constexpr qint64 c_HalfWay = 1 << 20; // far behind the tables, in the middle of the sample
+    while (!process.waitForFinished(5) && QFileInfo(path).size() < c_HalfWay) {
+    }
+    ASSERT_EQ(process.state(), QProcess::Running) << "it was too fast to be killed";
+    process.kill();
+    ASSERT_TRUE(process.waitForFinished());
+
+    const Outcome opened = run(database + QStringList{QStringLiteral("--documents"), QStringLiteral("DODAK")});
+    EXPECT_EQ(opened.status, 2);
+    EXPECT_THAT(opened.errors, HasSubstr("nemá tabulky. Nejprve ji vytvořte."));
+    EXPECT_EQ(run(database + QStringList{QStringLiteral("--create-database"), QStringLiteral("--empty")}).status, 0);
 }
 
 TEST_F(ProgramTest, TwoFirstStartsAtOnceMakeOneCompany) {
