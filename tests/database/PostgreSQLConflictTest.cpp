@@ -1,5 +1,6 @@
 #include "tests/database/ServerCompany.h"
 
+#include <functional>
 #include <future>
 #include <gtest/gtest.h>
 
@@ -69,6 +70,39 @@ TEST(PostgreSQLConflict, ARefusalIsNotTriedAgain) {
     EXPECT_EQ(rowsOf(*database, "select last_value from melvark.BEGUN"), "1");
 }
 
+struct StateCase {
+    const char* SqlState;
+    const char* Code;
+};
+
+/// What an integrator's own procedure may meet.
+TEST(PostgreSQLConflict, EachStateOfTheServerHasItsCodeAndTheServersWordsInTheDetails) {
+    const ServerCompany company;
+    const auto database = company.open();
+    addSwap(*database);
+    for (const StateCase& row : {StateCase{"40P01", "ML910"},
+                                 {"55P03", "ML910"},
+                                 {"53300", "ML910"},
+                                 {"25006", "ML911"},
+                                 {"3D000", "ML915"},
+                                 {"08006", "ML916"},
+                                 {"57P04", "ML916"},
+                                 {"28P01", "ML917"},
+                                 {"53100", "ML923"},
+                                 {"42501", "ML924"},
+                                 {"23503", "ML925"},
+                                 {"2BP01", "ML929"},
+                                 {"22012", "ML930"},
+                                 {"P0001", "ML930"}}) {
+        const EDatabaseError error = failure([&] {
+            database->Execute(serverCall("MELVARKEDITORTestConflict", {{"a_CODE", AnsiString(row.SqlState)}}));
+        });
+        EXPECT_EQ(error.Code(), row.Code) << row.SqlState;
+        EXPECT_EQ(error.Cause(), TDatabaseCause::Failure) << row.SqlState;
+        EXPECT_NE(error.Details().find(row.SqlState), std::string::npos) << error.Details();
+    }
+}
+
 TEST(PostgreSQLConflict, AnotherUsersSaveIsNotWaitedForWithoutEnd) {
     const ServerCompany company;
     const auto database = company.open();
@@ -85,6 +119,54 @@ TEST(PostgreSQLConflict, AnotherUsersSaveIsNotWaitedForWithoutEnd) {
     EXPECT_EQ(failure([&] { database->Execute(swapCall(1, 2)); }).Code(), "ML910");
     holder.get();
     database->Execute(swapCall(1, 2));
+}
+
+/// Two sessions that write prices of the same item for the same days, neither of which sees the other's.
+class OverlappingPrices : public testing::Test {
+protected:
+    /// Writes a price in one session, and another one in a second session, which waits for the first; `decide` ends the
+    /// first one's work. Returns how the second one ended.
+    EDatabaseError secondPrice(const std::function<void()>& decide) {
+        std::future<EDatabaseError> second;
+        const auto one = company_.open();
+        const auto other = company_.open();
+        try {
+            one->inOneTransaction([&] {
+                one->runScript(priceFrom("2026-01-01"));
+                second = std::async(std::launch::async,
+                                    [&] { return failure([&] { other->runScript(priceFrom("2026-02-01")); }); });
+                EXPECT_TRUE(company_.waitFor("select count(*) from pg_stat_activity where wait_event_type = 'Lock' "
+                                             "and query like '%2026-02-01%' and datname = current_database()",
+                                             "1"))
+                    << "the second one does not wait";
+                decide();
+            });
+        } catch (const EDatabaseError&) {
+            EXPECT_EQ(rowsOf(*one, "select count(*) from DODCENIK where PLATIOD = '2026-01-01'"), "0");
+        }
+        return second.get();
+    }
+
+    std::string prices() { return rowsOf(*company_.open(), "select PLATIOD::text from DODCENIK"); }
+
+private:
+    static std::string priceFrom(const std::string& day) {
+        return "insert into DODCENIK (DODVID, SKLPID, PLATIOD, CENA) values (1, 1, '" + day + "', 7)";
+    }
+
+    ServerCompany company_;
+};
+
+TEST_F(OverlappingPrices, TheSecondOneWaitsAndIsRefusedWhenTheFirstIsThere) {
+    const EDatabaseError refusal = secondPrice([] {});
+    EXPECT_EQ(refusal.Code(), "ML901");
+    EXPECT_EQ(refusal.Message(), "Platnost ceníku se překrývá s jiným ceníkem téže položky a téhož dodavatele.");
+    EXPECT_EQ(prices(), "2026-01-01");
+}
+
+TEST_F(OverlappingPrices, TheSecondOneIsKeptWhenTheFirstIsTakenBack) {
+    EXPECT_EQ(secondPrice([] { throw EDatabaseError("taken back"); }).Code(), "");
+    EXPECT_EQ(prices(), "2026-02-01");
 }
 
 TEST(PostgreSQLConflict, TwoSavesIntoOneNoteFollowOneAnother) {

@@ -65,6 +65,25 @@ TEST(PostgreSQLLink, ASaveIsNotCarriedOnInANewSession) {
     EXPECT_EQ(rowsOf(*database, "select count(*) from DODAKPOL"), "1");
 }
 
+/// A minute of a real session is a moment here.
+TEST(PostgreSQLLink, WhoStopsInTheMiddleOfACallLosesHisLocksAndBeginsAnew) {
+    const ServerCompany company;
+    const auto stopped = company.open();
+    const auto waiting = company.open();
+    stopped->runScript("set idle_in_transaction_session_timeout = '300ms'");
+
+    const EDatabaseError error = failure([&] {
+        stopped->inOneTransaction([&] {
+            stopped->runScript("update DODAK set OTEVRENO = 0 where ID = 1");
+            waiting->runScript("update DODAK set CISLO = 'DL9' where ID = 1"); // waits for the lock, and not for ever
+        });
+    });
+
+    EXPECT_EQ(error.Code(), "ML916");
+    EXPECT_EQ(rowsOf(*waiting, "select CISLO, OTEVRENO from DODAK where ID = 1"), "DL9,1");
+    EXPECT_EQ(rowsOf(*stopped, "select current_setting('idle_in_transaction_session_timeout')"), "1min");
+}
+
 TEST(PostgreSQLLink, ANewSessionHasTheUsersFormats) {
     const ServerCompany company;
     const auto database = company.open();

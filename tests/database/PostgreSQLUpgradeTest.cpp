@@ -2,6 +2,7 @@
 
 #include "host/Exceptions.h"
 #include "refhost/database/Databases.h"
+#include "tests/database/CompanyPicture.h"
 #include "tests/database/PrivateServer.h"
 #include "tests/database/VersionOne.h"
 
@@ -12,40 +13,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-/// All that the schema consists of, with rights and comments, one line each.
-constexpr const char* c_Schema = R"(
-    select 'column ' || c.relname || '.' || a.attname || ' ' || format_type(a.atttypid, a.atttypmod)
-           || ' ' || a.attnotnull || ' ' || a.attidentity::text || ' ' || a.attcollation::regcollation
-           || ' ' || coalesce(pg_get_expr(d.adbin, d.adrelid), '-')
-    from pg_class c
-    join pg_attribute a on a.attrelid = c.oid and a.attnum > 0 and not a.attisdropped
-    left join pg_attrdef d on d.adrelid = c.oid and d.adnum = a.attnum
-    where c.relnamespace = 'melvark'::regnamespace and c.relkind in ('r', 'v', 'c')
-    union all
-    select 'relation ' || c.relname || ' ' || c.relkind::text || ' ' || c.relowner::regrole
-           || ' ' || coalesce(c.relacl::text, '-') || ' ' || coalesce(obj_description(c.oid, 'pg_class'), '-')
-           || ' ' || coalesce(obj_description(c.reltype, 'pg_type'), '-')
-           || case c.relkind when 'v' then pg_get_viewdef(c.oid) else '' end
-    from pg_class c where c.relnamespace = 'melvark'::regnamespace
-    union all
-    select 'constraint ' || conrelid::regclass || ' ' || conname || ' ' || pg_get_constraintdef(oid)
-    from pg_constraint where connamespace = 'melvark'::regnamespace
-    union all
-    select 'index ' || pg_get_indexdef(indexrelid)
-    from pg_index where indrelid in (select oid from pg_class where relnamespace = 'melvark'::regnamespace)
-    union all
-    select 'trigger ' || pg_get_triggerdef(oid)
-    from pg_trigger where not tgisinternal
-                          and tgrelid in (select oid from pg_class where relnamespace = 'melvark'::regnamespace)
-    union all
-    select 'function ' || proowner::regrole || ' ' || coalesce(proacl::text, '-')
-           || ' ' || coalesce(obj_description(oid, 'pg_proc'), '-') || pg_get_functiondef(oid)
-    from pg_proc where pronamespace = 'melvark'::regnamespace
-    union all
-    select 'schema ' || obj_description(oid, 'pg_namespace') || nspacl::text
-    from pg_namespace where nspname = 'melvark'
-    order by 1)";
 
 EDatabaseError failureOf(const std::string& url) {
     try {
@@ -68,11 +35,7 @@ constexpr const char* c_OwnInit =
 TEST(PostgreSQLUpgrade, TheSchemaIsThatOfANewCompanyWithItsRights) {
     const std::string url = versionOneUrl(Engine::PostgreSQL);
     upgraded(url);
-    BareConnection upgraded(url);
-    BareConnection fresh(newDatabaseUrl(Engine::PostgreSQL) + " user=postgres");
-    upgraded.run("set search_path = pg_catalog");
-    fresh.run("set search_path = pg_catalog");
-    EXPECT_EQ(upgraded.rows(c_Schema), fresh.rows(c_Schema));
+    EXPECT_EQ(schemaOf(url), schemaOf(newDatabaseUrl(Engine::PostgreSQL) + " user=postgres"));
 }
 
 TEST(PostgreSQLUpgrade, AReplacedProcedureIsNamedAndStays) {
@@ -152,6 +115,15 @@ TEST(PostgreSQLUpgrade, ACallUnderWayIsWaitedForAndNeverCutShort) {
     EXPECT_EQ(failureOf(url).Code(), "ML910");
     clerk.run("commit");
     EXPECT_EQ(upgraded(url).From, 1);
+}
+
+TEST(PostgreSQLUpgrade, ARoleThatMakesRolesAndOwnsTheDatabaseUpgradesIt) {
+    const std::string url = versionOneUrl(Engine::PostgreSQL);
+    BareConnection(url).run(
+        "create role spravce login createrole in role melvark_owner;"
+        "do $$ begin execute format('alter database %I owner to spravce', current_database()); end $$");
+    EXPECT_EQ(upgraded(url + " user=spravce").From, 1);
+    EXPECT_EQ(opened(url)->Execute({"MELVARKEDITORDodObjInit", {}, true}).Sets.size(), 1U);
 }
 
 TEST(PostgreSQLUpgrade, AClerkMayNotUpgrade) {

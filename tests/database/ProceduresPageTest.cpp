@@ -68,6 +68,8 @@ public:
 
     const std::map<std::string, PageRow>& procedures() const { return procedures_; }
     const std::map<std::string, Names>& views() const { return views_; }
+    /// Settings of the server itself and their values.
+    const std::map<std::string, std::string>& settings() const { return settings_; }
 
 private:
     void readPrices(std::string page) {
@@ -79,10 +81,14 @@ private:
 
     void readLine(const std::string& line) {
         static const std::regex name("`([A-Za-z_0-9]+)`");
+        static const std::regex setting("^\\| `([a-z_]+)` \\| `([^`]+)`");
         const Names cells = splitAt(line, " | ");
         std::smatch found;
         if (!line.starts_with("| `") || !std::regex_search(cells[0], found, name)) {
             return;
+        }
+        if (std::smatch pair; std::regex_search(line, pair, setting)) {
+            settings_[pair[1]] = pair[2];
         }
         if (cells.size() == 2 && found[1].str().ends_with("_V")) {
             views_[found[1]] = namesOf(cells[1], prices_, "");
@@ -107,6 +113,7 @@ private:
     Names prices_;
     std::map<std::string, PageRow> procedures_;
     std::map<std::string, Names> views_;
+    std::map<std::string, std::string> settings_;
 };
 
 std::string withoutType(const std::string& name) {
@@ -224,6 +231,20 @@ TEST(ProceduresPage, TellsEveryViewThatTheHostReadsWithItsColumnsOnBothEngines) 
     for (const auto& [name, columns] : page.views()) {
         EXPECT_EQ(columnsOf(session, "select * from melvark." + name), columns) << name;
         EXPECT_EQ(embedded->Query("select * from " + name).Columns, withoutTypes(columns)) << name;
+    }
+}
+
+TEST(ProceduresPage, TellsTheSettingsOfASession) {
+    const Page page;
+    PostgreSQLSession session = serverSession();
+    EXPECT_EQ(page.settings().size(), 5U);
+    for (const auto& [name, value] : page.settings()) {
+        const std::vector<TDbValue> parameters{AnsiString(name), AnsiString(value)};
+        const bool isTime = name.ends_with("_timeout"); // 60s and 1min are the same one
+        const PostgreSQLResult same = session.execute(isTime ? "select current_setting($1)::interval = $2::interval"
+                                                             : "select current_setting($1) = $2",
+                                                      parameters);
+        EXPECT_STREQ(PQgetvalue(same.get(), 0, 0), "t") << name;
     }
 }
 

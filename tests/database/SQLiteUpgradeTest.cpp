@@ -2,6 +2,7 @@
 
 #include "host/Exceptions.h"
 #include "refhost/database/Databases.h"
+#include "tests/database/CompanyPicture.h"
 #include "tests/database/VersionOne.h"
 
 #include <filesystem>
@@ -12,8 +13,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-constexpr const char* c_Schema = "select type, name, tbl_name, sql from sqlite_schema order by type, name";
 
 std::string pathOf(const std::string& url) {
     return url.substr(std::string("sqlite:").size());
@@ -31,7 +30,7 @@ EDatabaseError failureOf(const std::string& url) {
 TEST(SQLiteUpgrade, TheSchemaIsThatOfANewCompany) {
     const std::string url = versionOneUrl(Engine::SQLite);
     upgraded(url);
-    EXPECT_EQ(BareConnection(url).rows(c_Schema), BareConnection(newDatabaseUrl(Engine::SQLite)).rows(c_Schema));
+    EXPECT_EQ(schemaOf(url), schemaOf(newDatabaseUrl(Engine::SQLite)));
 }
 
 TEST(SQLiteUpgrade, TheCopyIsTheCompanyAsItWasAndItsOwnersAlone) {
@@ -91,13 +90,13 @@ TEST(SQLiteUpgrade, AColumnThatTheNewTableLacksIsNamedAndNothingChanges) {
     const std::string url = versionOneUrl(Engine::SQLite);
     BareConnection database(url);
     database.run("alter table SKLAD add column VEDOUCI text");
-    const std::vector<std::string> before = database.rows(c_Schema);
+    const std::vector<std::string> before = schemaOf(url);
 
     const EDatabaseError error = failureOf(url);
 
     EXPECT_EQ(error.Code(), "ML926");
     EXPECT_THAT(error.Message(), HasSubstr("„SKLAD“ má navíc sloupec „VEDOUCI“"));
-    EXPECT_EQ(database.rows(c_Schema), before);
+    EXPECT_EQ(schemaOf(url), before);
     EXPECT_THAT(database.rows("pragma user_version"), ElementsAre("1"));
     EXPECT_FALSE(std::filesystem::exists(pathOf(url) + ".version-1")) << "a copy that nobody needs was left";
 }

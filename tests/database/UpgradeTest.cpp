@@ -1,48 +1,15 @@
 #include "host/Exceptions.h"
 #include "refhost/database/Databases.h"
 #include "refhost/database/SchemaVersion.h"
+#include "tests/database/CompanyPicture.h"
 #include "tests/database/VersionOne.h"
 
 #include <gmock/gmock.h>
-#include <map>
 
 namespace refhost {
 namespace {
 
 using testing::HasSubstr;
-
-/// The columns that the first version's tables had, by which their rows are compared.
-const std::map<std::string, std::string> c_Tables{
-    {"UZIVATEL", "ID, JMENO"},
-    {"SKLAD", "ID, NAZEV"},
-    {"DODAVATEL", "ID, JMENO, MESTO"},
-    {"DPH", "ID, NAZEV, SAZBA, PLATIOD, PLATIDO"},
-    {"SKUPSPOL1", "ID, NAZEV"},
-    {"SKUPSPOL2", "ID, SSP1ID, NAZEV"},
-    {"SKUPSPOL3", "ID, SSP2ID, NAZEV"},
-    {"SKLADPOL", "ID, NAZEV, SSP3ID, DPHID, TRVANLIVOSTDNU, AKTIVNI"},
-    {"SKPL", "ID, SKLPID, PORADI, NAZEV, FAKTOR"},
-    {"DODCENIK", "ID, DODVID, SKLPID, PLATIOD, PLATIDO, CENA, SLEVA"},
-    {"DODOBJEDNAVKA", "ID, VZOR, CISLO, NAZEV, OBJEDNANIDC, DODVID, SKLDID, OTEVRENO"},
-    {"DODOBJPOL", "ID, DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, DODANO, KOMPLETNI, POPIS, KOMENTAR"},
-    {"DODAK", "ID, CISLO, DATUM, DODVID, SKLDID, OTEVRENO"},
-    {"DODAKPOL", "ID, DODKID, PORADI, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA, JEDNCENABBEZSLEVY, JEDNDPHABEZSLEVY, "
-                 "JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY, JEDNCENABSESLEVOU, CENASSESLEVOU, TRVANLIVOST, DOBSID"},
-    {"DODAKZDROJ", "ID, DODKID, DODKIDZDROJ, DDOBIDZDROJ"},
-    {"EDITORNASTAVENI", "ID, UZIVID, TYPEDITACE, NAZEV, KOMENTAR, SDILENE, DATA"},
-    {"EDITORNASTAVENIDEF", "UZIVID, TYPEDITACE, NASTAVENIID"},
-    {"EDITOROKNO", "UZIVID, TYPEDITACE, DATA"},
-};
-
-std::map<std::string, std::vector<std::string>> contents(const std::string& url) {
-    BareConnection database(url);
-    std::map<std::string, std::vector<std::string>> all;
-    for (const auto& [table, columns] : c_Tables) {
-        const std::string schema = url.starts_with("sqlite:") ? "" : "melvark.";
-        all[table] = database.rows("select " + columns + " from " + schema + table + " order by 1, 2");
-    }
-    return all;
-}
 
 std::string openingSentence(const std::string& url) {
     try {
@@ -84,7 +51,7 @@ TEST_P(Upgrade, ANewerDatabaseIsRefusedBothByOpeningAndByTheUpgrade) {
 
 TEST_P(Upgrade, EveryRowIsStillThereAsItWas) {
     const std::string url = versionOneUrl(GetParam());
-    const auto before = contents(url);
+    const auto before = contentsOf(url);
     ASSERT_EQ(before.at("DODAKPOL").size(), 13U);
     ASSERT_EQ(before.at("DODOBJPOL").size(), 32U);
 
@@ -92,7 +59,7 @@ TEST_P(Upgrade, EveryRowIsStillThereAsItWas) {
 
     EXPECT_EQ(report.From, 1);
     EXPECT_TRUE(report.Kept.empty()) << report.Kept.front();
-    EXPECT_EQ(contents(url), before);
+    EXPECT_EQ(contentsOf(url), before);
 }
 
 TEST_P(Upgrade, TheUpgradedCompanyOpensAndItsProceduresWork) {

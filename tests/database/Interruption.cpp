@@ -1,0 +1,53 @@
+#include "tests/database/Interruption.h"
+
+#include "tests/database/KilledAfterMessage.h"
+#include "tests/database/KilledBeforeWrite.h"
+#include "tests/database/VersionOne.h"
+
+#include <algorithm>
+#include <chrono>
+#include <stdexcept>
+#include <thread>
+
+namespace refhost {
+
+namespace {
+
+/// The server notices only when it has ended a statement that its client is gone.
+void waitUntilAlone(const std::string& url) {
+    BareConnection server(url);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+    const auto others = [&server] {
+        return server.rows("select count(*) from pg_stat_activity where datname = current_database() and "
+                           "backend_type = 'client backend' and pid <> pg_backend_pid()");
+    };
+    while (others() != std::vector<std::string>{"0"}) {
+        if (std::chrono::steady_clock::now() > deadline) {
+            throw std::runtime_error("the server does not notice that its client is gone");
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+}
+
+} // namespace
+
+Interruption interruptedAt(int point, const std::string& url, const std::function<void(const std::string& url)>& work) {
+    if (url.starts_with("sqlite:")) {
+        return killedBeforeWrite(point, [&] { work(url); });
+    }
+    const Interruption result = killedAfterMessage(point, url, work);
+    waitUntilAlone(url);
+    return result;
+}
+
+std::vector<int> pointsUpTo(int last) {
+    constexpr int c_Spread = 12;
+    constexpr int c_LastOnes = 6;
+    std::vector<int> points;
+    for (int point = 1; point <= last; point += point > last - c_LastOnes ? 1 : std::max(1, last / c_Spread)) {
+        points.push_back(point);
+    }
+    return points;
+}
+
+} // namespace refhost

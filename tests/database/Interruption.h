@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace refhost {
+
+/// How far a process came that may have been killed on its way.
+struct Interruption {
+    int Passed = 0; ///< How many of the counted points it reached.
+    bool IsKilled = false;
+};
+
+/// Never reached: the process comes to its end.
+inline constexpr int c_NoPoint = 0;
+
+/// Runs `work` on a database in a process that is killed, as by kill -9, at that point, counted from 1: right before a
+/// write to a file of the embedded engine (a page, a journal, a copy, a journal's removal), or right after a message to
+/// the private server, which has then ended what it was at. `work` gets the address by which it has to connect; on the
+/// server it does so once.
+Interruption interruptedAt(int point, const std::string& url, const std::function<void(const std::string& url)>& work);
+
+/// A dozen points of so many, and each of the last ones, where the work is taken over.
+std::vector<int> pointsUpTo(int last);
+
+} // namespace refhost
