@@ -26,6 +26,14 @@ void runFolder(PostgreSQLSession& session, std::string_view folder) {
     }
 }
 
+/// Names and notes may be in any language, and so are our own sentences.
+void refuseOtherEncodings(const PostgreSQLSession& session) {
+    const std::string encoding = PQparameterStatus(session.handle(), "server_encoding");
+    if (encoding != "UTF8") {
+        throw refusal("ML933", {session.database(), encoding});
+    }
+}
+
 } // namespace
 
 std::int64_t postgresqlSchemaVersion(PostgreSQLSession& session) {
@@ -74,6 +82,7 @@ void finishPostgreSQLSchema(PostgreSQLSession& session) {
 }
 
 void createPostgreSQLSchema(PostgreSQLSession& session) {
+    refuseOtherEncodings(session);
     PostgreSQLTransaction transaction(session, PostgreSQLTransaction::Kind::Writing);
     waitForOtherMakers(session);
     if (hasPostgreSQLSchema(session)) {

@@ -447,5 +447,9 @@
         <source>Složku procedur „%1“ nelze číst. Zkontrolujte její umístění a oprávnění.</source>
         <translation>The folder of procedures “%1” cannot be read. Check its location and permissions.</translation>
     </message>
+    <message id="MELVARKHOST\REFUSAL\ML933">
+        <source>Databáze „%1“ má kódování …, ale potřebuje UTF8. Založte ji znovu s tímto kódováním.</source>
+        <translation>The encoding of database “%1” is not UTF8. Create the database again with that encoding.</translation>
+    </message>
 </context>
 </TS>

@@ -1,7 +1,7 @@
 #include "tests/database/Interruption.h"
 
+#include "tests/database/CountedWrites.h"
 #include "tests/database/KilledAfterMessage.h"
-#include "tests/database/KilledBeforeWrite.h"
 #include "tests/database/VersionOne.h"
 
 #include <algorithm>

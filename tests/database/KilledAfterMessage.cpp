@@ -57,7 +57,7 @@ public:
         }
     }
 
-    /// Carries everything to and fro until the client ends or has sent its point-th message, and kills it then.
+    /// Carries everything both ways until the client ends or has sent its point-th message, and kills it then.
     Interruption serve(pid_t client, int point) const {
         pollfd comes{listener_.get(), POLLIN, 0};
         if (poll(&comes, 1, c_Patience) != 1) {

@@ -146,6 +146,15 @@ TEST_P(OpeningContract, OfAParameterThatIsNamedTwiceTheLastValueCounts) {
     EXPECT_EQ(outputFor({{"a_DODKID", id(c_OpenNote)}, {"A_dodkid", id(c_Missing)}}), "a_OBNOVDATA = 0");
 }
 
+TEST_P(OpeningContract, OfAParameterThatIsSetTwiceTheLastValueCounts) {
+    EXPECT_EQ(outcome(sharedCompany(), "MELVARKEDITORDodakCheckMaster",
+                      {{"a_DODKID", id(4711)}, {"A_dodkid", id(c_OpenNote)}}),
+              "accepted");
+    EXPECT_EQ(outcome(sharedCompany(), "MELVARKEDITORDodakCheckMaster",
+                      {{"a_DODKID", id(c_OpenNote)}, {"A_dodkid", id(4711)}}),
+              "ML010");
+}
+
 INSTANTIATE_TEST_SUITE_P(Engines, OpeningContract, testing::ValuesIn(c_BothEngines), engineOf);
 
 } // namespace

@@ -62,6 +62,15 @@ TEST(PostgreSQLOpening, AnEmptyDatabaseHasNoSchemaAndNoProcedures) {
     EXPECT_EQ(rowsOf(database, "select 1"), "1") << "what needs no table is answered";
 }
 
+TEST(PostgreSQLOpening, ADatabaseOfAnotherEncodingIsRefusedBeforeAnythingIsMade) {
+    PrivateServer& server = PrivateServer::instance();
+    server.administrator("postgres").execute("create database latin encoding 'LATIN2' locale 'C' template template0");
+    PostgreSQLConnection database(server.address("latin", "postgres"), TFormatSettings::Czech());
+    EXPECT_EQ(failure([&] { database.createSchema(); }).Message(),
+              "Databáze „latin“ má kódování LATIN2, ale potřebuje UTF8. Založte ji znovu s tímto kódováním.");
+    EXPECT_FALSE(database.hasSchema());
+}
+
 TEST(PostgreSQLOpening, TheSchemaIsMadeOnce) {
     PrivateServer& server = PrivateServer::instance();
     PostgreSQLConnection database(server.address(server.newEmptyDatabase(), "postgres"), TFormatSettings::Czech());

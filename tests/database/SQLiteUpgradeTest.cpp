@@ -2,7 +2,10 @@
 
 #include "host/Exceptions.h"
 #include "refhost/database/Databases.h"
+#include "refhost/database/SchemaVersion.h"
 #include "tests/database/CompanyPicture.h"
+#include "tests/database/CountedWrites.h"
+#include "tests/database/Interruption.h"
 #include "tests/database/VersionOne.h"
 
 #include <filesystem>
@@ -111,6 +114,30 @@ TEST(SQLiteUpgrade, ARowThatBreaksTheNewRulesNamesItsTableAndNothingChanges) {
     EXPECT_EQ(error.Code(), "ML927");
     EXPECT_THAT(error.Message(), HasSubstr("„DODAKPOL“"));
     EXPECT_THAT(database.rows("pragma user_version"), ElementsAre("1"));
+}
+
+TEST(SQLiteUpgrade, AFullDiskIsToldChangesNothingAndLeavesNoCopy) {
+    constexpr int c_ToldSo = 31;
+    const std::string url = versionOneUrl(Engine::SQLite);
+    const auto schema = schemaOf(url);
+    const auto rows = contentsOf(url);
+    const int writes = interruptedAt(c_NoPoint, versionOneUrl(Engine::SQLite), [](const std::string& other) {
+                           upgradeDatabase(other);
+                       }).Passed;
+    int told = 0;
+    for (const int point : pointsUpTo(writes)) {
+        const int status = statusOnFullDisk(point, [&] { return failureOf(url).Code() == "ML923" ? c_ToldSo : 0; });
+        if (schemaVersionOf(url) == c_SchemaVersion) {
+            break; // the last writes need no more room
+        }
+        EXPECT_EQ(status, c_ToldSo) << point;
+        EXPECT_EQ(schemaOf(url), schema) << point;
+        EXPECT_EQ(contentsOf(url), rows) << point;
+        EXPECT_FALSE(std::filesystem::exists(pathOf(url) + ".version-1")) << point;
+        ++told;
+    }
+    EXPECT_GT(told, 5);
+    EXPECT_EQ(contentsOf(url), rows);
 }
 
 TEST(SQLiteUpgrade, AnEmptyFileIsNoCompany) {

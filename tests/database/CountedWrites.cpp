@@ -1,4 +1,4 @@
-#include "tests/database/KilledBeforeWrite.h"
+#include "tests/database/CountedWrites.h"
 
 #include "tests/database/OtherProcess.h"
 
@@ -13,19 +13,27 @@ namespace refhost {
 
 namespace {
 
-/// What the killed process leaves to its parent: shared memory.
+enum class AtPoint { Killed, DiskFull };
+
+/// What the process leaves to its parent: shared memory.
 struct Counter {
     int Point = 0;
+    AtPoint What = AtPoint::Killed;
     int Passed = 0;
 };
 
 Counter* counter = nullptr;
 
 void pass() {
-    if (counter->Passed + 1 == counter->Point) {
+    if (counter->Passed + 1 == counter->Point && counter->What == AtPoint::Killed) {
         raise(SIGKILL);
     }
     ++counter->Passed;
+}
+
+/// From its point on; c_NoPoint is never.
+bool isDiskFull() {
+    return counter->What == AtPoint::DiskFull && counter->Point != c_NoPoint && counter->Passed >= counter->Point;
 }
 
 /// The engine's own layer over the system, whose writing functions are called behind the count.
@@ -43,6 +51,11 @@ Layer& layer() {
 
 int countedWrite(sqlite3_file* file, const void* bytes, int count, sqlite3_int64 offset) {
     pass();
+    sqlite3_int64 size = 0;
+    layer().SystemFile->xFileSize(file, &size);
+    if (isDiskFull() && offset + count > size) { // what is there already can still be written anew
+        return SQLITE_FULL;
+    }
     return layer().SystemFile->xWrite(file, bytes, count, offset);
 }
 
@@ -78,21 +91,39 @@ void countWrites() {
     sqlite3_vfs_register(&layer().Counting, 1);
 }
 
-} // namespace
+struct Watched {
+    int Passed = 0;
+    int Status = 0;
+};
 
-Interruption killedBeforeWrite(int point, const std::function<void()>& work) {
+Watched watch(int point, AtPoint what, const std::function<int()>& work) {
     void* shared = mmap(nullptr, sizeof(Counter), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    counter = new (shared) Counter{point, 0};
+    counter = new (shared) Counter{point, what, 0};
     const int status = statusOf(startProcess([&] {
         countWrites();
-        work();
-        return 0;
+        return work();
     }));
-    const Interruption result{counter->Passed, WIFSIGNALED(status)};
-    EXPECT_TRUE(result.IsKilled || (WIFEXITED(status) && WEXITSTATUS(status) == 0)) << status;
+    const Watched result{counter->Passed, status};
     munmap(shared, sizeof(Counter));
     counter = nullptr;
     return result;
+}
+
+} // namespace
+
+Interruption killedBeforeWrite(int point, const std::function<void()>& work) {
+    const Watched watched = watch(point, AtPoint::Killed, [&] {
+        work();
+        return 0;
+    });
+    EXPECT_TRUE(WIFSIGNALED(watched.Status) || (WIFEXITED(watched.Status) && WEXITSTATUS(watched.Status) == 0));
+    return {watched.Passed, WIFSIGNALED(watched.Status)};
+}
+
+int statusOnFullDisk(int point, const std::function<int()>& work) {
+    const Watched watched = watch(point, AtPoint::DiskFull, work);
+    EXPECT_TRUE(WIFEXITED(watched.Status));
+    return WEXITSTATUS(watched.Status);
 }
 
 } // namespace refhost
