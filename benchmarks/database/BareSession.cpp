@@ -18,7 +18,8 @@ class BareSQLite : public BareSession {
 public:
     explicit BareSQLite(const std::string& file)
         : session_(file, "novakova", TFormatSettings::Czech(), false, std::chrono::seconds(5)) {
-        refhost::registerCzech(session_); // the names' collation
+        refhost::registerValueFunctions(session_); // the tables' own checks
+        refhost::registerCzech(session_);          // the names' collation
     }
 
     TResultTable run(const std::string& sql, std::span<const TDbValue> parameters) override {

@@ -9,8 +9,6 @@ namespace benchmark {
 
 namespace {
 
-constexpr const char* c_User = "novakova";
-
 /// The first supplier lists what he did not list yet, so that every line of a fill has a price.
 constexpr const char* c_ListEveryItem =
     "insert into DODCENIK (DODVID, SKLPID, PLATIOD, CENA, SLEVA) "
@@ -30,11 +28,10 @@ TResultTable call(refhost::Database& database, const char* procedure, std::vecto
 }
 
 Company::Company(refhost::Engine engine, int lines, CostClock::Kind clock)
-    : clock_(clock), lines_(lines), engineName_(refhost::engineName(engine)) {
-    const std::string url = refhost::newDatabaseUrl(engine);
-    measured_ = refhost::openAs(url, c_User);
+    : clock_(clock), lines_(lines), engineName_(refhost::engineName(engine)), url_(refhost::newDatabaseUrl(engine)) {
+    measured_ = refhost::openAs(url_, c_User);
     refhost::createSampleCompany(*measured_, lines);
-    bare_ = openBare(url, c_User);
+    bare_ = openBare(url_, c_User);
     longOrder_ = number("select max(ID) - 1 from DODOBJEDNAVKA");
     longTemplate_ = longOrder_ + 1;
     longNote_ = number("select max(ID) from DODAK");

@@ -16,6 +16,9 @@ namespace benchmark {
 /// one. Its first supplier lists every item.
 class Company {
 public:
+    static constexpr const char* c_User = "novakova";
+    static constexpr int c_Supplier = 1; ///< Of the long documents and of new ones.
+
     /// `lines` of the long order, note and template; so many more orders of one line stand in the list of orders.
     Company(refhost::Engine engine, int lines, CostClock::Kind clock);
 
@@ -23,6 +26,9 @@ public:
     BareSession& bare() { return *bare_; }
     int lines() const { return lines_; }
     const std::string& engineName() const { return engineName_; }
+    /// The address at which further connections find the company.
+    const std::string& url() const { return url_; }
+    const CostClock& clock() const { return clock_; }
 
     std::int64_t longOrder() const { return longOrder_; }
     std::int64_t longTemplate() const { return longTemplate_; }
@@ -48,6 +54,7 @@ private:
     CostClock clock_;
     int lines_;
     std::string engineName_;
+    std::string url_;
     std::unique_ptr<refhost::Database> measured_;
     std::unique_ptr<BareSession> bare_;
     std::int64_t longOrder_ = 0;

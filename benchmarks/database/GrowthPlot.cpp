@@ -39,9 +39,11 @@ Decades decadesOf(const std::vector<double>& values) {
     return {first, std::max(first + 1, std::ceil(std::log10(most)))};
 }
 
-std::string shortNumber(double value) {
+std::string shortNumber(double value, Unit unit) {
     std::ostringstream text;
-    if (value >= 1e6) {
+    if (unit == Unit::Bytes) {
+        text << value << " B";
+    } else if (value >= 1e6) {
         text << value / 1e6 << " s";
     } else if (value >= 1e3) {
         text << value / 1e3 << " ms";
@@ -61,6 +63,7 @@ public:
         for (const Figure& figure : figures_) {
             sizes.push_back(figure.Size);
             if (figure.Work == work_) {
+                unit_ = figure.CountedIn;
                 costs.push_back(figure.Cost);
                 costs.push_back(figure.Floor);
             }
@@ -75,7 +78,7 @@ public:
             const double y = top(std::pow(10, decade));
             out_ << "<path d='M" << left(std::pow(10, sizes_.First)) << " " << y << "H" << x_ + c_PanelWidth - c_Right
                  << "' stroke='#dddddd'/><text x='" << x_ + c_Left - 5 << "' y='" << y + 4
-                 << "' text-anchor='end' fill='#666666'>" << shortNumber(std::pow(10, decade)) << "</text>\n";
+                 << "' text-anchor='end' fill='#666666'>" << shortNumber(std::pow(10, decade), unit_) << "</text>\n";
         }
         for (double decade = sizes_.First; decade <= sizes_.Last; ++decade) {
             out_ << "<text x='" << left(std::pow(10, decade)) << "' y='" << y_ + c_PanelHeight - 8
@@ -108,6 +111,7 @@ private:
     std::string work_;
     double x_;
     double y_;
+    Unit unit_ = Unit::Microseconds;
     Decades sizes_{};
     Decades costs_{};
 };

@@ -14,9 +14,13 @@ constexpr const char* c_Server = "PostgreSQL";
 
 } // namespace
 
+void Report::printHeadings() {
+    std::printf("%-11s %-34s %7s %12s    %12s %7s\n", "engine", "work", "size", "cost", "floor", "ratio");
+}
+
 void Report::add(Figure figure) {
-    std::printf("%-11s %-34s %7d %12.1f %12.1f %7.2f\n", figure.Engine.c_str(), figure.Work.c_str(), figure.Size,
-                figure.Cost, figure.Floor, figure.Cost / figure.Floor);
+    std::printf("%-11s %-34s %7d %12.1f %s %12.1f %7.2f\n", figure.Engine.c_str(), figure.Work.c_str(), figure.Size,
+                figure.Cost, figure.CountedIn == Unit::Bytes ? "B " : "µs", figure.Floor, figure.Cost / figure.Floor);
     std::fflush(stdout);
     figures_.push_back(std::move(figure));
 }

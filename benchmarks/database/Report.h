@@ -6,18 +6,24 @@
 
 namespace benchmark {
 
+/// In what a cost is counted.
+enum class Unit { Microseconds, Bytes };
+
 /// What one kind of work costs at one size of the document or list.
 struct Figure {
     std::string Engine;
     std::string Work;
     int Size;     ///< Lines of the document, or documents of the list.
-    double Cost;  ///< Microseconds for one line (a list, a call: for the whole), the median of the rounds.
-    double Floor; ///< What the floor costs, likewise.
+    double Cost;  ///< For one line or cell (a list, a call: for the whole), the median of the rounds.
+    double Floor; ///< What the floor costs, likewise; where there is none, what the cost should not be above.
+    Unit CountedIn = Unit::Microseconds;
 };
 
 /// Collects figures and shows them.
 class Report {
 public:
+    /// What stands above the lines that `add` prints.
+    static void printHeadings();
     void add(Figure figure);
 
     /// All figures, then how the engines compare and how the costs grow.
