@@ -45,11 +45,9 @@ void CellWriter::ShowAll() {
 }
 
 void CellWriter::ShowIn(int gridCol, int dataColumn) {
-    std::vector<AnsiString> texts;
-    for (int row = RowView::c_FixedRows; row < FEditing.Grid.RowCount(); ++row) {
-        texts.push_back(FEditing.Store.GetCells(dataColumn, FEditing.Rows.StoreRow(row)));
-    }
-    FEditing.Grid.SetColumnCells(gridCol, std::move(texts));
+    FEditing.Grid.SetColumnTexts(gridCol, [&editing = FEditing, dataColumn](int gridRow) -> const AnsiString& {
+        return editing.Store.GetCells(dataColumn, editing.Rows.StoreRow(gridRow));
+    });
 }
 
 } // namespace melvark

@@ -7,7 +7,8 @@ namespace melvark {
 
 /// The one door for cell values: it writes a value into the store and shows it in every grid column that is bound to
 /// its data column. A cell is named by data column and store row, whatever the grid shows of it; a cell that is not
-/// shown is only stored.
+/// shown is only stored. The grid's columns lie over the store's texts: only a text that differs from the stored one is
+/// kept in the grid.
 ///
 /// It checks nothing and calls nobody: checks and callbacks belong to whoever writes. The document's filling, which
 /// happens before anything is shown, writes to the store alone.

@@ -108,8 +108,8 @@ void TStringGrid::SetCells(int col, int row, AnsiString text) {
     FModel->SetCell(col, row, std::move(text));
 }
 
-void TStringGrid::SetColumnCells(int col, std::vector<AnsiString> texts) {
-    FModel->SetColumn(col, std::move(texts));
+void TStringGrid::SetColumnTexts(int col, TColumnTexts texts) {
+    FModel->SetColumnTexts(col, std::move(texts));
 }
 
 void TStringGrid::InsertColumn(int col) {

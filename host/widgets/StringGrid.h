@@ -1,12 +1,12 @@
 #pragma once
 
 #include "host/Types.h"
+#include "host/widgets/StringGridTexts.h"
 #include "host/widgets/Vocabulary.h"
 
 #include <QTableView>
 
 #include <functional>
-#include <vector>
 
 class TStringGridModel;
 
@@ -50,11 +50,13 @@ public:
     void SetColCount(int count);
     void SetRowCount(int count);
 
-    /// The text of a cell, header cells included; empty outside the counts, where writing has no effect.
+    /// The text of a cell, header cells included; empty outside the counts, where writing has no effect. The reference
+    /// holds until the cell's text changes.
     const AnsiString& Cells(int col, int row) const;
     void SetCells(int col, int row, AnsiString text);
-    /// All texts of a column from row 1 on, at once.
-    void SetColumnCells(int col, std::vector<AnsiString> texts);
+    /// The column's cells show these texts, which stay where they are and may change there, each until another text is
+    /// written into its cell. What was written before is gone.
+    void SetColumnTexts(int col, TColumnTexts texts);
 
     /// Whole-column shifts with texts and widths; none of them tells the owner. `col` counts from 1.
     void InsertColumn(int col);

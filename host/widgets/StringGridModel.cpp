@@ -4,17 +4,15 @@
 
 #include <algorithm>
 
-using melvark::ToQString;
+using namespace melvark;
 
-TStringGridModel::TStringGridModel(QObject* parent) : QAbstractTableModel(parent), FColumns(1) {
-    FColumns.front().resize(1);
-}
+TStringGridModel::TStringGridModel(QObject* parent) : QAbstractTableModel(parent), FColumns(1) {}
 
 void TStringGridModel::SetColCount(int count) {
     const int wanted = std::max(count, 1);
     if (wanted > ColCount()) {
         beginInsertColumns({}, ColCount() - 1, wanted - 2);
-        FColumns.resize(static_cast<std::size_t>(wanted), std::vector<AnsiString>(static_cast<std::size_t>(FRowCount)));
+        FColumns.resize(static_cast<std::size_t>(wanted));
         endInsertColumns();
     } else if (wanted < ColCount()) {
         beginRemoveColumns({}, wanted - 1, ColCount() - 2);
@@ -35,7 +33,7 @@ void TStringGridModel::SetRowCount(int count) {
         beginRemoveRows({}, wanted - 1, FRowCount - 2);
     }
     for (auto& column : FColumns) {
-        column.resize(static_cast<std::size_t>(wanted));
+        column.ForgetFrom(wanted);
     }
     FRowCount = wanted;
     if (grows) {
@@ -47,14 +45,14 @@ void TStringGridModel::SetRowCount(int count) {
 
 const AnsiString& TStringGridModel::Cell(int col, int row) const {
     static const AnsiString empty;
-    return Holds(col, row) ? FColumns[static_cast<std::size_t>(col)][static_cast<std::size_t>(row)] : empty;
+    return Holds(col, row) ? FColumns[static_cast<std::size_t>(col)].Text(row) : empty;
 }
 
 void TStringGridModel::SetCell(int col, int row, AnsiString text) {
     if (!Holds(col, row)) {
         return;
     }
-    FColumns[static_cast<std::size_t>(col)][static_cast<std::size_t>(row)] = std::move(text);
+    FColumns[static_cast<std::size_t>(col)].SetText(row, std::move(text));
     if (col == 0) {
         return;
     }
@@ -66,13 +64,11 @@ void TStringGridModel::SetCell(int col, int row, AnsiString text) {
     }
 }
 
-void TStringGridModel::SetColumn(int col, std::vector<AnsiString> texts) {
+void TStringGridModel::SetColumnTexts(int col, TColumnTexts texts) {
     if (!Holds(col, 0)) {
         return;
     }
-    auto& column = FColumns[static_cast<std::size_t>(col)];
-    texts.resize(static_cast<std::size_t>(FRowCount - 1));
-    std::move(texts.begin(), texts.end(), column.begin() + 1);
+    FColumns[static_cast<std::size_t>(col)].SetUnderneath(std::move(texts));
     if (col > 0 && FRowCount > 1) {
         Q_EMIT dataChanged(index(0, col - 1), index(FRowCount - 2, col - 1));
     }
@@ -83,7 +79,7 @@ void TStringGridModel::InsertColumn(int col) {
         return;
     }
     beginInsertColumns({}, col - 1, col - 1);
-    FColumns.insert(FColumns.begin() + col, std::vector<AnsiString>(static_cast<std::size_t>(FRowCount)));
+    FColumns.insert(FColumns.begin() + col, StringGridTexts());
     endInsertColumns();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Types.h"
+#include "host/widgets/StringGridTexts.h"
 
 #include <QAbstractTableModel>
 
@@ -10,7 +11,7 @@
 /// the others. Methods with "Grid" coordinates count the header row and the indicator column as 0; to Qt's
 /// views the model shows the cells without them, the header row as horizontal header.
 ///
-/// It knows nothing of editing, presentation or where the values come from.
+/// It knows nothing of editing or presentation.
 class TStringGridModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -28,8 +29,8 @@ public:
     const AnsiString& Cell(int col, int row) const;
     /// Outside the counts nothing happens.
     void SetCell(int col, int row, AnsiString text);
-    /// All texts below the header, from grid row 1 on; missing ones are empty, ones too many are dropped.
-    void SetColumn(int col, std::vector<AnsiString> texts);
+    /// The cells below the header show what lies underneath; texts that were written there are gone.
+    void SetColumnTexts(int col, TColumnTexts texts);
 
     /// An empty column comes to stand at grid column `col` (1 to ColCount()).
     void InsertColumn(int col);
@@ -47,6 +48,6 @@ public:
 private:
     bool Holds(int col, int row) const;
 
-    std::vector<std::vector<AnsiString>> FColumns; ///< By grid column, then grid row.
+    std::vector<melvark::StringGridTexts> FColumns; ///< By grid column.
     int FRowCount = 1;
 };

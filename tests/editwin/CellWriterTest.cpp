@@ -6,6 +6,8 @@
 #include <QAction>
 #include <QMenu>
 
+#include <utility>
+
 namespace {
 
 constexpr int c_NameData = 8;
@@ -47,6 +49,26 @@ TEST_F(CellWriter, AShownTextIsNotStored) {
     EXPECT_FALSE(isMarked(c_PriceData, 1));
 }
 
+TEST_F(CellWriter, TheGridShowsTheStoresTextsWithoutACopy) {
+    open();
+    cells().WriteTyped(c_PriceData, 1, "2,50");
+    cells().WriteDerived(c_CodeData, 1, "C3");
+    const auto& store = std::as_const(form->DataGrid());
+    EXPECT_EQ(&grid().Cells(c_PriceCol, 2), &store.GetCells(c_PriceData, 1));
+    EXPECT_EQ(&grid().Cells(c_CodeCol, 2), &store.GetCells(c_CodeData, 1));
+    EXPECT_EQ(&grid().Cells(c_NameCol, 3), &store.GetCells(c_NameData, 2));
+}
+
+TEST_F(CellWriter, AShownTextGivesWayToTheNextStoredOne) {
+    open();
+    cells().Show(c_PriceData, 1, "2,00");
+    cells().WriteDerived(c_PriceData, 1, "2");
+    EXPECT_EQ(grid().Cells(c_PriceCol, 2), "2");
+    cells().Show(c_PriceData, 1, "2,00");
+    cells().ShowColumn(c_PriceData);
+    EXPECT_EQ(grid().Cells(c_PriceCol, 2), "2");
+}
+
 TEST_F(CellWriter, AValueFollowsItsColumnToWhereverItWasMoved) {
     open();
     grid().MoveColumn(c_PriceCol, c_NameCol);
@@ -71,6 +93,8 @@ TEST_F(CellWriter, EveryColumnOfTheSameDataShowsTheValue) {
     form->show();
     cells().WriteTyped(c_NameData, 1, "Nýt");
     EXPECT_EQ(rowText(2), "Nýt|6|2||vedlejší|B2||y|Nýt");
+    cells().Show(c_NameData, 1, "nýt");
+    EXPECT_EQ(rowText(2), "nýt|6|2||vedlejší|B2||y|nýt");
 }
 
 TEST_F(CellWriter, TheGridGetsTheStoresRowsWhenAllIsShown) {

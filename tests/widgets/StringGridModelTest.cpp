@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 #include <string>
+#include <vector>
 
 using testing::ElementsAre;
 
@@ -98,7 +99,8 @@ TEST_F(StringGridModelTest, OutsideTheCountsCellsAreEmptyAndWritingHasNoEffect) 
     model.SetCell(2, 1, "x");
     model.SetCell(1, 2, "x");
     model.SetCell(-1, 0, "x");
-    model.SetColumn(2, {"x"});
+    const AnsiString underneath = "x";
+    model.SetColumnTexts(2, [&](int) -> const AnsiString& { return underneath; });
     EXPECT_EQ(model.Cell(2, 1), "");
     EXPECT_EQ(model.Cell(1, 2), "");
     EXPECT_EQ(model.Cell(-1, -1), "");
@@ -125,18 +127,33 @@ TEST_F(StringGridModelTest, AChangedCellAndAChangedHeaderAreTold) {
     EXPECT_EQ(headers.at(0).at(1).toInt(), 1);
 }
 
-TEST_F(StringGridModelTest, AWholeColumnIsSetAtOnce) {
+TEST_F(StringGridModelTest, AWholeColumnShowsTheTextsUnderneath) {
     fill(2, 3);
     QSignalSpy changes(&model, &QAbstractItemModel::dataChanged);
-    model.SetColumn(2, {"x", "y"});
+    const std::vector<AnsiString> underneath{"x", "y", "z"};
+    model.SetColumnTexts(
+        2, [&](int row) -> const AnsiString& { return underneath.at(static_cast<std::size_t>(row) - 1); });
     EXPECT_EQ(changes.count(), 1);
-    EXPECT_EQ(model.Cell(2, 0), "B");
-    EXPECT_EQ(model.Cell(2, 1), "x");
-    EXPECT_EQ(model.Cell(2, 2), "y");
-    EXPECT_EQ(model.Cell(2, 3), ""); // a text that is missing empties its cell
-    model.SetColumn(2, {"1", "2", "3", "4"});
-    EXPECT_EQ(model.Cell(2, 3), "3");
-    EXPECT_EQ(model.RowCount(), 4);
+    EXPECT_EQ(changes.at(0).at(0).toModelIndex(), model.index(0, 1));
+    EXPECT_EQ(changes.at(0).at(1).toModelIndex(), model.index(2, 1));
+    EXPECT_EQ(rowText(0), "A|B");
+    EXPECT_EQ(rowText(1), "A1|x");
+    EXPECT_EQ(rowText(3), "A3|z");
+    model.SetRowCount(2);
+    model.SetRowCount(4);
+    EXPECT_EQ(rowText(2), "|y") << "what lies underneath is not forgotten with its row";
+}
+
+TEST_F(StringGridModelTest, TextsUnderneathFollowTheirColumn) {
+    fill(3, 1);
+    const AnsiString underneath = "x";
+    model.SetColumnTexts(1, [&](int) -> const AnsiString& { return underneath; });
+    model.MoveColumn(1, 3);
+    EXPECT_EQ(rowText(1), "B1|C1|x");
+    model.InsertColumn(1);
+    EXPECT_EQ(rowText(1), "|B1|C1|x");
+    model.DeleteColumn(4);
+    EXPECT_EQ(rowText(1), "|B1|C1");
 }
 
 TEST_F(StringGridModelTest, AnInsertedColumnIsEmptyAndShiftsTheOthers) {
