@@ -62,14 +62,25 @@ void SendCell(TLiveParam& param, std::string_view key, const AnsiString& text, c
 }
 
 /// A key that the result or the editor lacks is left alone.
-std::vector<RecalculatedCell> ReadCells(const TLiveResult& result, std::span<const int> priceColumns) {
+std::vector<RecalculatedCell> TakeCells(TLiveResult& result, std::span<const int> priceColumns) {
     std::vector<RecalculatedCell> cells;
     for (std::size_t place = 0; place < c_PriceKeys.size(); ++place) {
-        if (priceColumns[place] >= 0 && result.HasField(c_PriceKeys[place])) {
-            cells.push_back({priceColumns[place], result.FieldByName(c_PriceKeys[place]).AsString()});
+        const std::optional<std::size_t> field = result.FindField(c_PriceKeys[place]);
+        if (field && priceColumns[place] >= 0) {
+            cells.push_back({priceColumns[place], result.TakeString(*field)});
         }
     }
     return cells;
+}
+
+AnsiString ChangedKeys(std::span<const int> priceColumns, const TDataGrid& store, int row) {
+    AnsiString list;
+    for (std::size_t place = 0; place < c_PriceKeys.size(); ++place) {
+        if (store.GetModified(priceColumns[place], row)) {
+            list.append(c_PriceKeys[place]).append(";");
+        }
+    }
+    return list;
 }
 
 } // namespace
@@ -79,14 +90,7 @@ std::span<const std::string_view> DodakPriceKeys() {
 }
 
 AnsiString ChangedCells(const DocumentColumns& columns, const TDataGrid& store, int row) {
-    const auto priceColumns = PriceColumns(columns);
-    AnsiString list;
-    for (std::size_t place = 0; place < c_PriceKeys.size(); ++place) {
-        if (store.GetModified(priceColumns[place], row)) {
-            list.append(c_PriceKeys[place]).append(";");
-        }
-    }
-    return list;
+    return ChangedKeys(PriceColumns(columns), store, row);
 }
 
 std::optional<double> CellNumber(std::string_view text, const TFormatSettings& settings) {
@@ -106,7 +110,7 @@ std::vector<RecalculatedCell> Recalculate(const TDataGrid& store, const Document
                                           const RecalculationRequest& request, const TFormatSettings& settings) {
     const auto priceColumns = PriceColumns(columns);
     TLiveStoredProc prices("MELVARKEDITORDodakVypocetCen");
-    prices.ParamByName("a_ZMENENEBUNKY").SetAsString(ChangedCells(columns, store, request.Row));
+    prices.ParamByName("a_ZMENENEBUNKY").SetAsString(ChangedKeys(priceColumns, store, request.Row));
     prices.ParamByName("a_PREPOCETCEN").SetAsBoolean(request.RecalculatesAll);
     prices.ParamByName("a_FOCUS").SetAsString(request.FocusKey);
     for (std::size_t place = 0; place < c_PriceKeys.size(); ++place) {
@@ -119,7 +123,7 @@ std::vector<RecalculatedCell> Recalculate(const TDataGrid& store, const Document
     if (!prices.Exec(true) || prices.Eof()) {
         return {};
     }
-    return ReadCells(prices, priceColumns);
+    return TakeCells(prices, priceColumns);
 }
 
 bool IsDiscount(std::string_view text, const TFormatSettings& settings) {

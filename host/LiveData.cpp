@@ -9,30 +9,9 @@
 
 namespace {
 
-bool ContainsName(const std::vector<AnsiString>& names, std::string_view name) {
-    return std::any_of(names.begin(), names.end(), [&](const AnsiString& other) { return SameDbName(other, name); });
-}
-
-using TParams = std::vector<std::unique_ptr<TLiveParam>>;
-
-/// The parameter of that name among those touched so far, or null.
-TLiveParam* FindParam(const TParams& params, std::string_view name) {
-    const auto found =
-        std::find_if(params.begin(), params.end(), [&](const auto& param) { return SameDbName(param->Name(), name); });
-    return found == params.end() ? nullptr : found->get();
-}
-
-TLiveParam& FindOrAppendParam(TParams& params, std::string_view name) {
-    if (TLiveParam* known = FindParam(params, name)) {
-        return *known;
-    }
-    return *params.emplace_back(std::make_unique<TLiveParam>(AnsiString(name)));
-}
-
-std::size_t FindColumn(const TResultTable& table, std::string_view column) {
-    const auto found = std::find_if(table.Columns.begin(), table.Columns.end(),
-                                    [&](const AnsiString& name) { return SameDbName(name, column); });
-    return static_cast<std::size_t>(found - table.Columns.begin());
+/// The name of the parameter at a place among the declared ones: inputs first, then outputs.
+const AnsiString& DeclaredName(const TProcedureInfo& info, std::size_t place) {
+    return place < info.Inputs.size() ? info.Inputs[place] : info.Outputs[place - info.Inputs.size()];
 }
 
 } // namespace
@@ -90,12 +69,23 @@ TField TLiveResult::FieldByName(std::string_view column) const {
 }
 
 std::size_t TLiveResult::FieldNumber(std::string_view column) const {
-    const TResultTable* table = Table();
-    const std::size_t number = table != nullptr ? FindColumn(*table, column) : 0;
-    if (table == nullptr || number == table->Columns.size()) {
-        throw EDatabaseError(Sentence(melvark::c_NoFieldInResult, {column}));
+    if (const std::optional<std::size_t> number = FindField(column)) {
+        return *number;
     }
-    return number;
+    throw EDatabaseError(Sentence(melvark::c_NoFieldInResult, {column}));
+}
+
+std::optional<std::size_t> TLiveResult::FindField(std::string_view column) const {
+    const TResultTable* table = Table();
+    if (table == nullptr) {
+        return std::nullopt;
+    }
+    const auto found =
+        std::ranges::find_if(table->Columns, [&](const AnsiString& name) { return SameDbName(name, column); });
+    if (found == table->Columns.end()) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(found - table->Columns.begin());
 }
 
 TField TLiveResult::Fields(std::size_t number) const {
@@ -103,9 +93,17 @@ TField TLiveResult::Fields(std::size_t number) const {
                   CurrentHost().FormatSettings());
 }
 
+AnsiString TLiveResult::TakeString(std::size_t number) {
+    auto* const text = Eof() ? nullptr : std::get_if<AnsiString>(&FTables[FTable].Rows[FRow].at(number));
+    return text != nullptr ? std::move(*text) : Fields(number).AsString();
+}
+
+std::size_t TLiveResult::RowsLeft() const {
+    return Eof() ? 0 : Table()->Rows.size() - FRow;
+}
+
 bool TLiveResult::HasField(std::string_view column) const {
-    const TResultTable* table = Table();
-    return table != nullptr && FindColumn(*table, column) < table->Columns.size();
+    return FindField(column).has_value();
 }
 
 void TLiveResult::SetTables(std::vector<TResultTable> tables) {
@@ -134,21 +132,46 @@ TLiveStoredProc::TLiveStoredProc(AnsiString name) : FName(std::move(name)) {
 TLiveStoredProc::~TLiveStoredProc() = default;
 
 TLiveParam& TLiveStoredProc::ParamByName(std::string_view name) {
-    if (!HasParam(name)) {
+    const std::optional<std::size_t> place = FindDeclared(name);
+    if (!place) {
         throw EDatabaseError(Sentence(melvark::c_NoParameter, {FName, name}));
     }
-    return FindOrAppendParam(FParams, name);
+    return ParamAt(*place, name);
 }
 
 bool TLiveStoredProc::HasParam(std::string_view name) {
-    return ContainsName(Info().Inputs, name) || ContainsName(Info().Outputs, name);
+    return FindDeclared(name).has_value();
+}
+
+std::optional<std::size_t> TLiveStoredProc::FindDeclared(std::string_view name) {
+    const TProcedureInfo& info = Info();
+    if (FExpectedInput < info.Inputs.size() && SameDbName(info.Inputs[FExpectedInput], name)) {
+        return FExpectedInput++;
+    }
+    for (std::size_t place = 0; place < info.Inputs.size() + info.Outputs.size(); ++place) {
+        if (SameDbName(DeclaredName(info, place), name)) {
+            FExpectedInput = place + 1;
+            return place;
+        }
+    }
+    return std::nullopt;
+}
+
+/// The parameter named before, or a new one under this name.
+TLiveParam& TLiveStoredProc::ParamAt(std::size_t place, std::string_view name) {
+    const auto known = std::ranges::find(FParams, place, &TNamedParam::Place);
+    if (known != FParams.end()) {
+        return *known->Param;
+    }
+    FParams.push_back({std::make_unique<TLiveParam>(AnsiString(name)), place});
+    return *FParams.back().Param;
 }
 
 bool TLiveStoredProc::Exec(bool open) {
     TProcedureCall call{.Name = FName, .Params = {}, .Open = open};
-    for (const auto& param : FParams) {
-        if (ContainsName(Info().Inputs, param->Name())) {
-            call.Params.push_back({param->Name(), param->Value()});
+    for (const TNamedParam& named : FParams) {
+        if (named.Place < Info().Inputs.size()) {
+            call.Params.push_back({named.Param->Name(), named.Param->Value()});
         }
     }
     SetTables({});
@@ -157,7 +180,9 @@ bool TLiveStoredProc::Exec(bool open) {
         return false;
     }
     for (TDbParam& output : result.Outputs) {
-        FindOrAppendParam(FParams, output.Name).FValue = std::move(output.Value);
+        if (const std::optional<std::size_t> place = FindDeclared(output.Name)) {
+            ParamAt(*place, output.Name).FValue = std::move(output.Value);
+        }
     }
     if (open) {
         SetTables(std::move(result.Sets));

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <variant>
 #include <vector>
@@ -51,8 +52,14 @@ public:
     /// The number under which Fields gives that column in every row of this result set: found once, read often. Throws
     /// EDatabaseError naming the column when the result has none of that name.
     std::size_t FieldNumber(std::string_view column) const;
+    /// As FieldNumber; nothing when the result has no such column.
+    std::optional<std::size_t> FindField(std::string_view column) const;
     /// As FieldByName, by a number that FieldNumber gave for this result set.
     TField Fields(std::size_t number) const;
+    /// As Fields(number).AsString(), moved out of the result where it holds a text: each field is taken once.
+    AnsiString TakeString(std::size_t number);
+    /// The rows of this result set from the current one on.
+    std::size_t RowsLeft() const;
     bool HasField(std::string_view column) const;
 
 protected:
@@ -97,11 +104,21 @@ public:
     bool Resume();
 
 private:
+    /// A parameter that was named, and its place among the declared ones: inputs first, then outputs.
+    struct TNamedParam {
+        std::unique_ptr<TLiveParam> Param;
+        std::size_t Place;
+    };
+
     const TProcedureInfo& Info();
+    std::optional<std::size_t> FindDeclared(std::string_view name);
+    TLiveParam& ParamAt(std::size_t place, std::string_view name);
 
     AnsiString FName;
     std::unique_ptr<TProcedureInfo> FInfo;
-    std::vector<std::unique_ptr<TLiveParam>> FParams;
+    std::vector<TNamedParam> FParams; ///< In the order in which they were named first.
+    /// Behind the place that was found last: callers mostly name parameters in the order in which they are declared.
+    std::size_t FExpectedInput = 0;
 };
 
 /// A query of a fixed text on the current host's connection.

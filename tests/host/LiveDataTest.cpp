@@ -208,6 +208,44 @@ TEST_F(LiveStoredProcTest, AColumnIsFoundOnceAndReadInEveryRow) {
     EXPECT_EQ(messageOf<EDatabaseError>([&] { proc.FieldNumber("DATA"); }), "Výsledek nemá pole DATA.");
 }
 
+TEST_F(LiveStoredProcTest, ATakenTextLeavesTheResult) {
+    const AnsiString longText = "Šroub se šestihrannou hlavou";
+    connection().answer.Sets = {Table{{"ID", "NAZEV"}, {{integer(1), longText}, {integer(2), text("Matice")}}}};
+    TLiveStoredProc proc("Uloz");
+    proc.Exec(true);
+    proc.Next();
+    const std::size_t name = proc.FieldNumber("NAZEV");
+    EXPECT_EQ(proc.TakeString(name), "Matice");
+    EXPECT_EQ(proc.Fields(name).AsString(), "");
+    EXPECT_EQ(proc.FieldByName("ID").AsInteger(), 2) << "the row's other fields stay";
+}
+
+TEST_F(LiveStoredProcTest, TakenValuesAreTheTextsOfTheirFields) {
+    connection().answer.Sets = {Table{{"A", "B", "C", "D"}, {{integer(-7), 12.5, true, {}}}}};
+    TLiveStoredProc proc("Uloz");
+    proc.Exec(true);
+    AnsiString taken;
+    for (std::size_t number = 0; number < 4; ++number) {
+        taken += proc.TakeString(number) + "|";
+    }
+    EXPECT_EQ(taken, "-7|12,5|1||");
+    proc.Next();
+    EXPECT_EQ(proc.TakeString(0), "") << "behind the last row";
+}
+
+TEST_F(LiveStoredProcTest, CountsTheRowsThatAreLeft) {
+    connection().answer.Sets = {Table{{"A"}, {{integer(1)}, {integer(2)}}}};
+    TLiveStoredProc proc("Uloz");
+    EXPECT_EQ(proc.RowsLeft(), 0U);
+    proc.Exec(true);
+    EXPECT_EQ(proc.RowsLeft(), 2U);
+    proc.Next();
+    EXPECT_EQ(proc.RowsLeft(), 1U);
+    proc.Next();
+    proc.Next();
+    EXPECT_EQ(proc.RowsLeft(), 0U);
+}
+
 TEST_F(LiveStoredProcTest, FieldsReadNumbersInTheHostsFormat) {
     connection().answer.Sets = {Table{{"CENA"}, {{text("12,5")}}}};
     TLiveStoredProc proc("Uloz");
