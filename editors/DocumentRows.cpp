@@ -71,12 +71,10 @@ void FillStore(TDataGrid& store, const DocumentColumns& columns, TLiveResult& re
         return;
     }
     const std::vector<FilledColumn> filled = FilledColumns(columns, result, skippedKey);
+    store.SetRowCount(static_cast<int>(result.RowsLeft()));
     for (int row = 0; !result.Eof(); result.Next(), ++row) {
-        if (row > 0) {
-            store.SetRowCount(row + 1);
-        }
         for (const FilledColumn& column : filled) {
-            store.SetCells(column.DataColumn, row, result.Fields(column.FieldNumber).AsString());
+            store.SetCells(column.DataColumn, row, result.TakeString(column.FieldNumber));
         }
     }
 }

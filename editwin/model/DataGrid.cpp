@@ -98,9 +98,10 @@ TDataGridCell TDataGrid::TakeCell(int col, int row) {
     }
     TColumn& column = FColumns[AsSize(col)];
     if (AsSize(row) >= column.Values.size()) {
-        column.Values.resize(AsSize(row) + 1);
-        column.Present.resize(AsSize(row) + 1);
-        column.Modified.resize(AsSize(row) + 1);
+        const std::size_t size = std::max(AsSize(row) + 1, AsSize(FRowCount)); // counted rows come without any to spare
+        column.Values.resize(size);
+        column.Present.resize(size);
+        column.Modified.resize(size);
     }
     TDataGridCell cell(std::move(column.Values[AsSize(row)]));
     cell.Modified = column.Modified[AsSize(row)];

@@ -60,8 +60,8 @@ public:
     bool HasCell(int col, int row) const;
 
 private:
-    /// One column, as long as its last written row. Texts lie side by side, presence and marks beside them as bits, so
-    /// that a cell takes the 32 bytes of a short text.
+    /// One column, nothing before its first cell, then as long as the counted rows or its last written row. Texts lie
+    /// side by side, presence and marks beside them as bits, so that a cell takes the 32 bytes of a short text.
     struct TColumn {
         std::vector<AnsiString> Values;
         std::vector<bool> Present;

@@ -51,8 +51,10 @@ TResultTable resultTable(const PGresult* result) {
     }
     table.Rows.resize(static_cast<std::size_t>(rows));
     for (int row = 0; row < rows; ++row) {
+        std::vector<TDbValue>& values = table.Rows[static_cast<std::size_t>(row)];
+        values.reserve(static_cast<std::size_t>(columns));
         for (int column = 0; column < columns; ++column) {
-            table.Rows[static_cast<std::size_t>(row)].push_back(cellValue(result, row, column));
+            values.push_back(cellValue(result, row, column));
         }
     }
     return table;

@@ -39,6 +39,18 @@ TEST_F(DocumentRows, EachResultRowBecomesOneStoreRowByColumnKey) {
     EXPECT_THAT(rowTexts(1), ElementsAre("SKLADPOL=Máslo", "MNOZSTVI=1,5"));
 }
 
+TEST_F(DocumentRows, OnlyTheRestOfTheRowsIsFilledIn) {
+    host_.connection.procedure("SOURCE").returns(
+        {dodakLines({{{"SKLADPOL", "Mléko"}}, {{"SKLADPOL", "Máslo"}}, {{"SKLADPOL", "Sýr"}}})});
+    TLiveStoredProc source("SOURCE");
+    source.Exec(true);
+    source.Next();
+    melvark::FillStore(store_, columns(), source);
+    ASSERT_EQ(store_.GetRowCount(), 2);
+    EXPECT_THAT(rowTexts(0), ElementsAre("SKLADPOL=Máslo"));
+    EXPECT_THAT(rowTexts(1), ElementsAre("SKLADPOL=Sýr"));
+}
+
 TEST_F(DocumentRows, ASkippedKeyLeavesItsCellsEmpty) {
     fillFrom(dodakLines({{{"DOBSID", "7"}, {"SKLADPOL", "Mléko"}}}), "DOBSID");
     EXPECT_THAT(rowTexts(0), ElementsAre("SKLADPOL=Mléko"));

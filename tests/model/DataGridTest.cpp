@@ -231,6 +231,18 @@ TEST(DataGrid, WhatLiesOutsideTheCountsReadsEmptyUntilTheyHaveGrown) {
     EXPECT_EQ(rowText(store, 6, 2), "|below!");
 }
 
+TEST(DataGrid, AFirstCellAmongCountedRowsLeavesTheOthersWithoutOne) {
+    TDataGrid store = sizedStore(1, 4);
+
+    store.SetCells(0, 1, "only");
+
+    EXPECT_FALSE(store.HasCell(0, 3));
+    store.SetRowCount(3);
+    store.SetRowCount(4);
+    EXPECT_EQ(rowText(store, 1, 1), "only!");
+    EXPECT_FALSE(store.HasCell(0, 2));
+}
+
 TEST(DataGrid, DerivedValueOutsideTheCountsLeavesTheMarkAsItWas) {
     TDataGrid store = filledStore(1, 1);
     store.SetCells(0, 1, "typed");
