@@ -46,7 +46,9 @@ SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSe
         makePrivateFile(file_); // one that cannot be made is the engine's to refuse
     }
     sqlite3* opened = nullptr;
-    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | (create ? SQLITE_OPEN_CREATE : 0);
+    // One thread uses it: nothing has to be locked at every value.
+    const int flags =
+        SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX | (create ? SQLITE_OPEN_CREATE : 0);
     const int status = sqlite3_open_v2(file_.c_str(), &opened, flags, nullptr);
     handle_.reset(opened);
     if (status != SQLITE_OK) {
