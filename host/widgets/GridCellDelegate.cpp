@@ -53,7 +53,9 @@ void GridCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     const TCellLook look = FGrid->Look(index.column() + 1, index.row() + 1);
     const QString text = OneLine(ToQString(look.Text));
     QFont font = option.font;
-    font.setBold(look.Bold);
+    if (look.Bold != font.bold()) { // a font that was only touched would be looked up anew for each cell
+        font.setBold(look.Bold);
+    }
     const QFontMetrics metrics(font);
 
     painter->save();
@@ -61,7 +63,8 @@ void GridCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
     painter->fillRect(option.rect, option.palette.color(QPalette::Base));
     painter->setFont(font);
     painter->setPen(option.palette.color(QPalette::Text));
-    const QPoint origin = CellTextOrigin(option.rect, metrics.horizontalAdvance(text), look.Align);
+    const int width = look.Align == Qt::AlignLeft ? 0 : metrics.horizontalAdvance(text);
+    const QPoint origin = CellTextOrigin(option.rect, width, look.Align);
     painter->drawText(origin + QPoint(0, metrics.ascent()), text);
     if (option.state.testFlag(QStyle::State_HasFocus)) {
         DrawFocusFrame(*painter, option.rect);
