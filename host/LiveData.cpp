@@ -94,8 +94,12 @@ TField TLiveResult::Fields(std::size_t number) const {
 }
 
 AnsiString TLiveResult::TakeString(std::size_t number) {
-    auto* const text = Eof() ? nullptr : std::get_if<AnsiString>(&FTables[FTable].Rows[FRow].at(number));
-    return text != nullptr ? std::move(*text) : Fields(number).AsString();
+    if (Eof()) {
+        return {};
+    }
+    TDbValue& value = FTables[FTable].Rows[FRow].at(number);
+    auto* const text = std::get_if<AnsiString>(&value);
+    return text != nullptr ? std::move(*text) : TField({}, value, CurrentHost().FormatSettings()).AsString();
 }
 
 std::size_t TLiveResult::RowsLeft() const {

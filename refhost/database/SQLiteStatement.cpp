@@ -88,7 +88,8 @@ TDbValue SQLiteStatement::value(int column) const {
         return sqlite3_column_double(statement, column);
     default: {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-        return AnsiString(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+        const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
+        return TDbValue(std::in_place_type<AnsiString>, text, size); // made where it stays
     }
     }
 }
