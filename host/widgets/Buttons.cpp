@@ -105,7 +105,7 @@ void TMenuButton::SetCaption(const AnsiString& caption) {
 }
 
 void TMenuButton::LimitWidth() {
-    FWidest = sizeHint().width();
+    FWidest = 2 * sizeHint().width();
 }
 
 int TMenuButton::ArrowRoom() const {

@@ -68,8 +68,8 @@ public:
     TPopupMenu* PopupMenu() const;
     /// The menu is not owned.
     void SetPopupMenu(TPopupMenu* menu);
-    /// No later caption asks for more width than the present one needs: a longer one is cut with an ellipsis, and the
-    /// tooltip has all of it.
+    /// No later caption asks for more than twice the width that the present one needs: a longer one is cut with an
+    /// ellipsis, and the tooltip has all of it.
     void LimitWidth();
 
     /// With room for the arrow beside the caption.
