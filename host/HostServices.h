@@ -38,6 +38,11 @@ public:
     /// Shows it and returns; never throws.
     virtual void ShowError(std::exception_ptr error) noexcept = 0;
 
+    /// A digest of the database's address, in letters and digits: the same for each program that reaches the same
+    /// database under the same address, whoever its user is. What is kept on this machine for one database only is
+    /// filed under it; an empty one means that the host has one database and no other.
+    virtual AnsiString DatabaseDigest() const = 0;
+
     TClassRegistry& Classes() { return FClasses; }
 
 private:

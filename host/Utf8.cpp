@@ -14,6 +14,10 @@ TUtf8Step FirstStep(std::string_view text) {
     }
 }
 
+bool IsUtf8(std::string_view text) {
+    return utf8::is_valid(text.begin(), text.end());
+}
+
 std::size_t CharacterCount(std::string_view text) {
     std::size_t count = 0;
     while (!text.empty()) {

@@ -18,6 +18,9 @@ struct TUtf8Step {
 /// last plane are no characters.
 TUtf8Step FirstStep(std::string_view text);
 
+/// Whether the text is UTF-8 throughout.
+bool IsUtf8(std::string_view text);
+
 std::size_t CharacterCount(std::string_view text);
 /// The first `count` characters of the text; all of it when there are no more.
 std::string_view FirstCharacters(std::string_view text, std::size_t count);

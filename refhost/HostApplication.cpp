@@ -4,6 +4,7 @@
 #include "refhost/Languages.h"
 #include "refhost/Trace.h"
 
+#include <QCryptographicHash>
 #include <QDateTime>
 
 #include <cstdio>
@@ -35,6 +36,13 @@ void HostApplication::ShowError(std::exception_ptr error) noexcept {
         // Without memory or a display there is only one place left to say it.
         std::fputs("An error could not be shown.\n", stderr);
     }
+}
+
+// Half of the digest's characters are enough that no two addresses meet.
+AnsiString HostApplication::DatabaseDigest() const {
+    constexpr qsizetype c_Characters = 32;
+    const QByteArray address = QByteArray::fromStdString(parts_.databaseAddress);
+    return QCryptographicHash::hash(address, QCryptographicHash::Sha256).toHex().first(c_Characters).toStdString();
 }
 
 } // namespace refhost

@@ -5,6 +5,7 @@
 #include "refhost/TracingConnection.h"
 
 #include <functional>
+#include <string>
 
 namespace refhost {
 
@@ -22,6 +23,7 @@ class HostApplication : public THostServices {
 public:
     struct Parts {
         TConnection& connection;
+        std::string databaseAddress;
         TFormatSettings settings;
         const Languages& languages;
         Trace& trace;
@@ -38,6 +40,7 @@ public:
     std::string_view ImageData(std::string_view image, std::string_view group) const override;
     TDateTime Now() const override { return parts_.clock(); }
     void ShowError(std::exception_ptr error) noexcept override;
+    AnsiString DatabaseDigest() const override;
 
 private:
     Parts parts_;

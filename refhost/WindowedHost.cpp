@@ -27,6 +27,7 @@ WindowedHost::WindowedHost(const CommandLine& commandLine, Database& database, c
       languages_(languages),
       errors_(languages),
       services_({.connection = database,
+                 .databaseAddress = database.address(),
                  .settings = settings,
                  .languages = languages,
                  .trace = trace,

@@ -48,6 +48,11 @@ public:
 
     /// The name of the user whose settings and placements the procedures use.
     virtual const std::string& user() const = 0;
+
+    /// Which database this is, in one spelling: the same for every way in which a command line may name it, without
+    /// user and password. A server's is that of the words, so that a company that moves between servers of one list
+    /// keeps it.
+    virtual std::string address() const = 0;
 };
 
 /// Refuses a query that is not one reading statement.

@@ -33,6 +33,7 @@ public:
     void runScript(std::string_view sql) override;
     void runBuiltInScript(std::string_view path) override;
     const std::string& user() const override { return session_.user(); }
+    std::string address() const override { return "postgresql:" + session_.place(); }
 
 private:
     const PostgreSQLProcedure& procedure(const AnsiString& name);

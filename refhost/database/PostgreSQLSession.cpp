@@ -111,6 +111,18 @@ PostgreSQLSession::PostgreSQLSession(std::string address, const TFormatSettings&
     user_ = PQuser(handle());
 }
 
+std::string PostgreSQLSession::place() const {
+    const std::unique_ptr<PQconninfoOption, PostgreSQLDeleter> options(PQconninfo(handle()));
+    if (!options) {
+        throw std::bad_alloc();
+    }
+    std::string place;
+    for (const char* word : {"host", "hostaddr", "port"}) {
+        place += addressWord(options.get(), word) + '/';
+    }
+    return place + database_;
+}
+
 void PostgreSQLSession::open() {
     // Words of the address come after ours and win. An idle link that is cut is noticed within a minute or two.
     constexpr std::array<const char*, 6> c_Words{"application_name", "keepalives_idle", "keepalives_interval",

@@ -26,6 +26,8 @@ public:
     PGconn* handle() const { return handle_.get(); }
     const std::string& database() const { return database_; }
     const std::string& user() const { return user_; }
+    /// The server, its port and the database, as the words of the address or their defaults have them.
+    std::string place() const;
 
     /// Whether another program has said on the channel of upgrades that it upgraded the database since this session was
     /// opened. Asks nothing of the server.

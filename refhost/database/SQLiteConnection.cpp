@@ -10,6 +10,7 @@
 #include "refhost/database/SchemaVersion.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <stdexcept>
 
 namespace refhost {
@@ -159,6 +160,12 @@ void SQLiteConnection::runScript(std::string_view sql) {
 
 void SQLiteConnection::runBuiltInScript(std::string_view path) {
     runScript(builtInScript(path, sqliteFiles()).Text);
+}
+
+std::string SQLiteConnection::address() const {
+    std::error_code unresolved; // then the path as it was given
+    const std::filesystem::path file = std::filesystem::weakly_canonical(session_.file(), unresolved);
+    return "sqlite:" + (unresolved ? session_.file() : file.string());
 }
 
 SQLiteProcedure& SQLiteConnection::procedure(const AnsiString& name) {

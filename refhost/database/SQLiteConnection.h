@@ -41,6 +41,7 @@ public:
     void runScript(std::string_view sql) override;
     void runBuiltInScript(std::string_view path) override;
     const std::string& user() const override { return session_.user(); }
+    std::string address() const override;
 
 private:
     void checkOwner();

@@ -53,6 +53,22 @@ TEST(PostgreSQLOpening, AWrongPasswordIsRefused) {
     EXPECT_EQ(openingFailure(address + " password=správné").Message(), "no failure");
 }
 
+TEST(PostgreSQLOpening, ADatabaseHasOneAddressWhoeverConnectsInWhicheverWords) {
+    PrivateServer& server = PrivateServer::instance();
+    server.addRole("dvorak", "melvark_clerk");
+    const ServerCompany company;
+    const ServerCompany other;
+    const auto address = [](const std::string& words) {
+        return openDatabase("postgresql:" + words, "", TFormatSettings::Czech(), OpenMode::Existing)->address();
+    };
+    const std::string place = server.folder().string();
+    const std::string own = address(server.address(company.name(), "postgres"));
+    EXPECT_EQ(own, "postgresql:" + place + "//5432/" + company.name());
+    EXPECT_EQ(address(server.address(company.name(), "dvorak") + " password=tajné"), own);
+    EXPECT_EQ(address("dbname=" + company.name() + " port=5432 user=dvorak host=" + place), own);
+    EXPECT_NE(address(server.address(other.name(), "postgres")), own);
+}
+
 TEST(PostgreSQLOpening, AnEmptyDatabaseHasNoSchemaAndNoProcedures) {
     PrivateServer& server = PrivateServer::instance();
     PostgreSQLConnection database(server.address(server.newEmptyDatabase(), "postgres"), TFormatSettings::Czech());

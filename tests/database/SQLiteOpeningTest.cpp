@@ -142,6 +142,20 @@ TEST(SQLiteOpening, ADatabaseWithoutTablesSaysSo) {
     EXPECT_EQ(database->Query("select 1 as A").Rows.size(), 1U) << "what needs no table is answered";
 }
 
+TEST(SQLiteOpening, AFileHasOneAddressWhateverItsPathIsCalled) {
+    const SQLiteFile file;
+    file.createCompany();
+    const std::filesystem::path link = file.folder() / "link";
+    std::filesystem::create_directory_symlink(file.folder(), link);
+    const auto address = [](const std::filesystem::path& path) {
+        return openDatabase("sqlite:" + path.string(), "novakova", TFormatSettings::Czech(), OpenMode::Existing)
+            ->address();
+    };
+    EXPECT_EQ(address(file.path()), "sqlite:" + file.path().string());
+    EXPECT_EQ(address(link / file.path().filename()), address(file.path()));
+    EXPECT_EQ(address(std::filesystem::relative(file.path())), address(file.path()));
+}
+
 TEST(SQLiteOpening, TablesAreMadeOnce) {
     const SQLiteFile file;
     const auto database = file.createCompany();

@@ -60,6 +60,7 @@ public:
     std::string_view ImageData(std::string_view, std::string_view) const override { return {}; }
     TDateTime Now() const override { return TDateTime{}; }
     void ShowError(std::exception_ptr) noexcept override {}
+    AnsiString DatabaseDigest() const override { return {}; }
 
     FakeConnection connection;
     TFormatSettings settings = TFormatSettings::Czech();

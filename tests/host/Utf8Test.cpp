@@ -1,6 +1,7 @@
 #include "host/Utf8.h"
 
 #include <gtest/gtest.h>
+#include <string>
 
 namespace {
 
@@ -33,7 +34,11 @@ TEST(Utf8, TakesWhatIsNoCharacterByteByByte) {
         const TUtf8Step step = FirstStep(row.text);
         EXPECT_FALSE(step.IsValid) << row.remark;
         EXPECT_EQ(step.Length, 1U) << row.remark;
+        EXPECT_FALSE(IsUtf8(row.text)) << row.remark;
+        EXPECT_FALSE(IsUtf8(std::string("dobré ") + row.text)) << row.remark;
     }
+    EXPECT_TRUE(IsUtf8("žluť € 😀"));
+    EXPECT_TRUE(IsUtf8(""));
 }
 
 TEST(Utf8, CountsCharactersAndNoDamage) {

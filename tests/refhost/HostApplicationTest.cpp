@@ -40,6 +40,7 @@ protected:
     KeptErrors errors_;
     TDateTime now_ = std::chrono::local_days(std::chrono::year(2027) / 2 / 1) + std::chrono::hours(13);
     HostApplication host_{{.connection = database_,
+                           .databaseAddress = "sqlite:/data/company.sqlite",
                            .settings = TFormatSettings::Czech(),
                            .languages = languages_,
                            .trace = trace_,
@@ -71,6 +72,11 @@ TEST_F(HostApplicationTest, GivesFormatsClockAndImages) {
     EXPECT_EQ(host_.Now(), now_);
     EXPECT_FALSE(host_.ImageData("RUKA", "ENGINE").empty());
     EXPECT_EQ(host_.Translation(R"(KORDAN30\MESSAGEBOX\YES)", "&Ano"), std::nullopt);
+}
+
+// The figures are those of sha256sum.
+TEST_F(HostApplicationTest, HandsOverADigestOfTheDatabasesAddress) {
+    EXPECT_EQ(host_.DatabaseDigest(), "7cd5e820193b0d0b547452b0890a4ffb");
 }
 
 TEST(SystemClock, TellsTheLocalTime) {

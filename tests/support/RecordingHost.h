@@ -101,6 +101,7 @@ public:
     TDateTime now;
     /// False makes the host lack all images.
     bool hasImages = true;
+    AnsiString databaseDigest = "0123456789abcdef";
 
     /// Messages of the exceptions that reached the error display, in order.
     const std::vector<AnsiString>& errors() const { return errors_; }
@@ -113,6 +114,7 @@ public:
     std::string_view ImageData(std::string_view image, std::string_view group) const override;
     TDateTime Now() const override { return now; }
     void ShowError(std::exception_ptr error) noexcept override;
+    AnsiString DatabaseDigest() const override { return databaseDigest; }
 
 private:
     std::vector<AnsiString> errors_;
