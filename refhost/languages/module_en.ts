@@ -118,6 +118,35 @@
         <source>Nepodporovaný typ editace dokladu</source>
         <translation>This kind of document cannot be edited here</translation>
     </message>
+    <!-- The file of unsaved work -->
+    <message id="KORDAN30\MELVARKEDITOR\AUTOSAVEFAILED">
+        <source>Rozepsaná práce se průběžně neukládá (%s): „%s“. Uložte ji raději hned.</source>
+        <translation>Unsaved work is not being kept (%s): “%s”. Save it as soon as you can.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\AUTOSAVEDISKFULL">
+        <source>disk je plný nebo je vyčerpána kvóta</source>
+        <translation>the disk is full or a quota is used up</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\AUTOSAVENOTALLOWED">
+        <source>do složky nelze zapisovat</source>
+        <translation>the folder cannot be written to</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\AUTOSAVENOFOLDER">
+        <source>složka neexistuje</source>
+        <translation>the folder does not exist</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\AUTOSAVESYSTEM">
+        <source>systém hlásí: %s</source>
+        <translation>the system says: %s</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\AUTOSAVEFOREIGN">
+        <source>místo souboru je tam odkaz, složka nebo něco cizího</source>
+        <translation>in place of the file there is a link, a folder or somebody else’s file</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\AUTOSAVETOOLARGE">
+        <source>Rozepsaná práce se průběžně neukládá, je příliš velká. Uložte ji raději hned.</source>
+        <translation>Unsaved work is not being kept, it is too large. Save it as soon as you can.</translation>
+    </message>
     <!-- The line editor -->
     <message id="KORDAN30\MelvarkEditorEditWin\Form\Caption">
         <source>Melvark - editor</source>

@@ -2,6 +2,7 @@
 #include "dialogs/MelvarkEditorSettingsWin.h"
 #include "editors/MelvarkEditorDodObjEditWin.h"
 #include "editors/MelvarkEditorDodakEditWin.h"
+#include "editwin/model/AutosaveErrors.h"
 #include "editwin/model/EditExceptions.h"
 #include "host/DecimalDigits.h"
 #include "host/Format.h"
@@ -23,6 +24,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
@@ -82,6 +84,15 @@ void useOrderEditor(TranslatingHost& host, TLibraryManager& manager) {
     for (const bool isTemplate : {false, true}) {
         TDodObjEditBox editor(qApp, &manager, isTemplate, "SABLONA", 7, 3, 5, "Praha", "Lípa", {});
     }
+}
+
+/// Has the file of unsaved work refused for each of its reasons.
+void useAutosave() {
+    for (const int error : {ENOSPC, EACCES, ENOENT, EIO}) {
+        melvark::AutosaveRefused(error, "x");
+    }
+    melvark::AutosaveForeign("x");
+    melvark::AutosaveTooLarge();
 }
 
 /// Makes both property dialogs refuse an empty text.
@@ -146,6 +157,7 @@ const std::set<AskedText>& askedTexts() {
         useSourceMenus();
         useEditor(host, manager);
         useOrderEditor(host, manager);
+        useAutosave();
         usePropertyDialogs(manager);
         useBoxes(host);
         useContract(host);

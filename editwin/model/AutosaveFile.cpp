@@ -1,0 +1,142 @@
+#include "editwin/model/AutosaveFile.h"
+
+#include "editwin/model/AutosaveCell.h"
+#include "editwin/model/AutosaveErrors.h"
+#include "editwin/model/LineReader.h"
+
+#include <algorithm>
+#include <charconv>
+#include <istream>
+#include <ostream>
+
+namespace melvark {
+
+namespace {
+
+/// Gathers lines and hands them to a stream in blocks.
+class LineWriter {
+public:
+    explicit LineWriter(std::ostream& out) : FOut(out) { FText.reserve(2 * c_Block); }
+
+    void Write(std::string_view line) {
+        FText += line;
+        EndLine(line.size());
+    }
+    void WriteCell(std::string_view cell) {
+        const std::size_t before = FText.size();
+        AppendAutosaveCell(FText, cell);
+        EndLine(FText.size() - before);
+    }
+    void Flush() {
+        FOut.write(FText.data(), static_cast<std::streamsize>(FText.size()));
+        FText.clear();
+    }
+
+private:
+    static constexpr std::size_t c_Block = 64 * 1024;
+
+    void EndLine(std::size_t length) {
+        if (length > c_LongestAutosaveLine) {
+            throw AutosaveTooLarge();
+        }
+        FText += '\n';
+        if (FText.size() >= c_Block) {
+            Flush();
+        }
+    }
+
+    std::ostream& FOut;
+    AnsiString FText;
+};
+
+/// A line that is a decimal integer and nothing else.
+std::optional<std::int32_t> Integer(std::optional<std::string_view> line) {
+    std::int32_t value = 0;
+    if (!line || std::from_chars(line->data(), line->data() + line->size(), value).ec != std::errc() ||
+        std::to_string(value) != *line) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+/// The data column of each block of cells, by the key lines; nothing when they are not just these keys.
+std::optional<std::vector<int>> ReadColumns(LineReader& reader, std::span<const AnsiString> keys) {
+    std::vector<int> columns;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        const auto line = reader.Next();
+        const auto found = line ? std::ranges::find(keys, *line) : keys.end();
+        const int column = static_cast<int>(found - keys.begin());
+        if (found == keys.end() || std::ranges::find(columns, column) != columns.end()) {
+            return std::nullopt;
+        }
+        columns.push_back(column);
+    }
+    return columns;
+}
+
+/// False when a line is missing or is no cell's.
+bool ReadCells(LineReader& reader, std::span<const int> columns, int rowCount, TDataGrid& lines) {
+    for (const int column : columns) {
+        for (int row = 0; row < rowCount; ++row) {
+            const auto line = reader.Next();
+            auto cell = line ? AutosaveCell(*line) : std::nullopt;
+            if (!cell) {
+                return false;
+            }
+            // An empty cell needs none in the store: what claims a million empty rows takes no memory.
+            if (!cell->empty()) {
+                lines.SetCells(column, row, std::move(*cell));
+            }
+        }
+    }
+    return reader.IsAtEnd();
+}
+
+} // namespace
+
+std::vector<AnsiString> AutosaveKeys(std::span<const RColumn> defaultColumns) {
+    std::vector<AnsiString> keys(defaultColumns.size());
+    for (const RColumn& column : defaultColumns) {
+        keys.at(static_cast<std::size_t>(column.DataColumn)) = column.Name;
+    }
+    return keys;
+}
+
+void WriteAutosave(std::ostream& out, std::int32_t documentId, std::span<const AnsiString> keys,
+                   const TDataGrid& lines) {
+    if (lines.GetRowCount() > c_MostAutosaveRows) {
+        throw AutosaveTooLarge();
+    }
+    LineWriter writer(out);
+    writer.Write(std::to_string(documentId));
+    writer.Write(std::to_string(lines.GetRowCount()));
+    for (const AnsiString& key : keys) {
+        writer.Write(key);
+    }
+    for (int column = 0; column < static_cast<int>(keys.size()); ++column) {
+        for (int row = 0; row < lines.GetRowCount(); ++row) {
+            writer.WriteCell(lines.GetCells(column, row));
+        }
+    }
+    writer.Flush();
+}
+
+std::optional<AutosaveContent> ReadAutosave(std::istream& in, std::span<const AnsiString> keys) {
+    LineReader reader(*in.rdbuf(), c_LongestAutosaveLine);
+    const auto documentId = Integer(reader.Next());
+    const auto rowCount = documentId ? Integer(reader.Next()) : std::nullopt;
+    if (!rowCount || *rowCount < 0 || *rowCount > c_MostAutosaveRows) {
+        return std::nullopt;
+    }
+    const auto columns = ReadColumns(reader, keys);
+    AutosaveContent content{.DocumentID = *documentId, .Lines = {}};
+    content.Lines.SetColCount(static_cast<int>(keys.size()));
+    content.Lines.SetRowCount(*rowCount);
+    if (!columns || !ReadCells(reader, *columns, *rowCount, content.Lines)) {
+        return std::nullopt;
+    }
+    content.Lines.ResetModified();
+    return content;
+}
+
+} // namespace melvark

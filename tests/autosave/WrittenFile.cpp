@@ -1,0 +1,82 @@
+#include "tests/autosave/WrittenFile.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using melvark::KeptFile;
+
+WrittenFileTest::WrittenFileTest() {
+    AnsiString name = std::filesystem::temp_directory_path() / "melvark-autosave-XXXXXX";
+    folder_ = mkdtemp(name.data());
+    // Tests that give up the administrator's rights go on in it.
+    EXPECT_EQ(chmod(folder_.c_str(), 01777), 0);
+}
+
+WrittenFileTest::~WrittenFileTest() {
+    std::filesystem::remove_all(folder_);
+}
+
+std::filesystem::path WrittenFileTest::path(std::string_view suffix) const {
+    return directory() / ("x.dat" + AnsiString(suffix));
+}
+
+void WrittenFileTest::leave(std::string_view suffix, const AnsiString& text) const {
+    std::filesystem::create_directory(directory());
+    std::ofstream(path(suffix)) << text;
+}
+
+AnsiString WrittenFileTest::listing() const {
+    std::vector<AnsiString> names;
+    for (const auto& entry : std::filesystem::directory_iterator(directory())) {
+        names.push_back(entry.path().filename());
+    }
+    std::ranges::sort(names);
+    AnsiString all;
+    for (const AnsiString& name : names) {
+        all += (all.empty() ? "" : " ") + name;
+    }
+    return all;
+}
+
+AnsiString WrittenFileTest::textOf(const std::filesystem::path& file) {
+    std::ifstream in(file);
+    return in ? AnsiString(std::istreambuf_iterator<char>(in), {}) : "none";
+}
+
+void WrittenFileTest::write(KeptFile& file, const AnsiString& text) {
+    file.Write([&](std::ostream& out) { out << text; });
+}
+
+AnsiString WrittenFileTest::restored(KeptFile& file) {
+    if (!file.HasContent()) {
+        return "nothing";
+    }
+    AnsiString text;
+    const bool isRead = file.Read([&](std::istream& in) {
+        // The buffer alone: a stream would keep the buffer's error to itself.
+        for (int c = in.rdbuf()->sbumpc(); c != EOF; c = in.rdbuf()->sbumpc()) {
+            text += static_cast<char>(c);
+        }
+    });
+    return isRead ? text : "unreadable";
+}
+
+AnsiString WrittenFileTest::restoredNext() const {
+    KeptFile file(path());
+    return restored(file);
+}
+
+OrdinaryUser::OrdinaryUser() {
+    if (geteuid() == 0) {
+        EXPECT_EQ(seteuid(c_Id), 0);
+    }
+}
+
+OrdinaryUser::~OrdinaryUser() {
+    if (getuid() == 0) {
+        EXPECT_EQ(seteuid(0), 0);
+    }
+}
