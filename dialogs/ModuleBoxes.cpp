@@ -18,4 +18,12 @@ int ConfirmBox(TLibraryManager* manager, const AnsiString& text) {
                                            c_MessageBoxQuestion);
 }
 
+void NoteBox(TLibraryManager* manager, const AnsiString& text) {
+    if (manager) {
+        manager->Message(text, "O#");
+    } else {
+        ErrorBox(nullptr, text);
+    }
+}
+
 } // namespace melvark

@@ -5,13 +5,14 @@
 #include <QTimer>
 
 #include <chrono>
+#include <utility>
 
 namespace melvark {
 
-Autosave::Autosave(QObject& form, std::function<void()> save) : FTimer(new QTimer(&form)) {
+Autosave::Autosave(QObject& form, std::function<void()> tick) : FTimer(new QTimer(&form)) {
     FTimer->setObjectName(QStringLiteral("AutosaveTimer"));
     FTimer->setInterval(std::chrono::minutes(1));
-    ConnectGuarded(FTimer, &QTimer::timeout, FTimer, std::move(save));
+    ConnectGuarded(FTimer, &QTimer::timeout, FTimer, std::move(tick));
 }
 
 void Autosave::Enable() {
@@ -22,6 +23,17 @@ void Autosave::Enable() {
 
 void Autosave::Disable() {
     FTimer->stop();
+}
+
+void Autosave::Run(const std::function<void()>& save) {
+    try {
+        save();
+        FHasFailed = false;
+    } catch (...) {
+        if (!std::exchange(FHasFailed, true)) {
+            throw;
+        }
+    }
 }
 
 } // namespace melvark

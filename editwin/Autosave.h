@@ -11,15 +11,20 @@ namespace melvark {
 /// written. What is written, and where, is the document editor's.
 class Autosave {
 public:
-    /// The clock belongs to `form` and does not tick yet. `save` runs guarded at each tick.
-    Autosave(QObject& form, std::function<void()> save);
+    /// The clock belongs to `form` and does not tick yet. `tick` runs guarded at each tick.
+    Autosave(QObject& form, std::function<void()> tick);
 
     /// Starts the clock; one that runs goes on as it is.
     void Enable();
     void Disable();
 
+    /// Runs the save. What it throws passes through the first time; later ones are kept from the user, who knows, until
+    /// a save has succeeded.
+    void Run(const std::function<void()>& save);
+
 private:
     QTimer* FTimer;
+    bool FHasFailed = false;
 };
 
 } // namespace melvark

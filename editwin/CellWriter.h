@@ -3,6 +3,8 @@
 #include "editwin/GridEditing.h"
 #include "host/Types.h"
 
+#include <utility>
+
 namespace melvark {
 
 /// The one door for cell values: it writes a value into the store and shows it in every grid column that is bound to
@@ -24,6 +26,9 @@ public:
     void WriteDerived(int dataColumn, int storeRow, const AnsiString& text);
     /// Shows a text that is not stored: the tidy spelling of a value that the clerk left as it was.
     void Show(int dataColumn, int storeRow, const AnsiString& text);
+
+    /// Puts other lines in the place of all that the store holds, with their marks; ShowAll shows them.
+    void Refill(TDataGrid lines) { FEditing.Store = std::move(lines); }
 
     /// Shows what the store holds of one data column.
     void ShowColumn(int dataColumn);

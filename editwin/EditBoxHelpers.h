@@ -10,7 +10,9 @@
 #include "editwin/MelvarkEditorEditWin.h"
 #include "editwin/SettingsMenu.h"
 #include "editwin/WindowPlacement.h"
+#include "editwin/model/KeptFile.h"
 
+#include <memory>
 #include <span>
 
 /// The helpers of the base editor form, each with the form's controls that it works on, in the order in which they need
@@ -27,6 +29,7 @@ struct TEditBox::Helpers {
     melvark::SettingsMenu Settings;
     melvark::WindowPlacementKeeper Placement;
     melvark::Autosave Autosave;
+    std::unique_ptr<melvark::KeptFile> TempFile; ///< Named by the form.
     melvark::EditorEvents EditorEvents;
     melvark::EditorEvents ButtonEvents;
     melvark::EditorEvents FurtherButtonEvents;

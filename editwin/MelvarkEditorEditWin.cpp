@@ -2,11 +2,15 @@
 
 #include "dialogs/ModuleBoxes.h"
 #include "editwin/AskingCheckBox.h"
+#include "editwin/AutosavePlace.h"
 #include "editwin/EditBoxHelpers.h"
 #include "editwin/EditorKeys.h"
 #include "editwin/model/CellRules.h"
 #include "editwin/model/ColumnList.h"
+#include "editwin/model/KeptFile.h"
+#include "editwin/model/TempFileName.h"
 #include "host/Exceptions.h"
+#include "host/HostServices.h"
 #include "host/LibraryManager.h"
 #include "host/LiveData.h"
 #include "host/widgets/ButtonGlyphs.h"
@@ -38,6 +42,7 @@ TEditBox::TEditBox(TComponent* owner, TLibraryManager* libraryManager, std::int3
     ConnectEditors();
     ConnectGrid();
     ConnectMenus();
+    SetTempFileName();
     LoadColumnsSettingsList();
     InitGrid();
 }
@@ -59,6 +64,9 @@ void TEditBox::FormShow() {
     ApplyColumnsSettingsToGrid();
     GoNextEditable();
     LoadWindowSettings();
+    // A note has an event loop of its own, which a show event must not wait for.
+    QMetaObject::invokeMethod(
+        this, [this] { Guarded([this] { TellNotes(); }); }, Qt::QueuedConnection);
 }
 
 void TEditBox::FormClose() {
@@ -69,6 +77,7 @@ void TEditBox::FormClose() {
 
 void TEditBox::FormDestroy() {
     FHelpers->Autosave.Disable();
+    TempFile().Remove();
 }
 
 void TEditBox::ConnectEditors() {
@@ -151,6 +160,30 @@ void TEditBox::SaveDataToTempFile() {
     }
 }
 
+void TEditBox::SetTempFileName() {
+    const AnsiString directory = AutosaveDirectory(CurrentHost().DatabaseDigest());
+    FHelpers->TempFile = std::make_unique<KeptFile>(
+        melvark::TempFileName(directory, FileNamePart(FKind.UserName), FKind.FirstNamePart, FKind.SecondNamePart));
+}
+
+const AnsiString& TEditBox::TempFileName() const {
+    return FHelpers->TempFile->Path();
+}
+
+void TEditBox::RestoreDataFromDataGrid() {
+    ApplyColumnsSettingsToGrid();
+}
+
+KeptFile& TEditBox::TempFile() {
+    return *FHelpers->TempFile;
+}
+
+void TEditBox::TellNotes() {
+    for (const AnsiString& text : std::exchange(FNotes, {})) {
+        NoteBox(FLibraryManager, text);
+    }
+}
+
 void TEditBox::SetOnIsEditable(TIsEditable hook) {
     FHelpers->Editing.Rule = std::move(hook);
 }
@@ -229,6 +262,7 @@ void TEditBox::ApplyColumnsSettingsToGrid() {
     FHelpers->Editing.TakeAwaited();
     FHelpers->ColumnMenu.RebuildHiddenItems();
     FHelpers->Presentation.ApplyColumns();
+    TempFile().SetAside();
     FHelpers->Autosave.Enable();
 }
 
@@ -454,5 +488,5 @@ void TEditBox::ShowGridColumn(TObject* Sender) {
 }
 
 void TEditBox::AutoSave(TObject*) {
-    SaveDataToTempFile();
+    FHelpers->Autosave.Run([this] { SaveDataToTempFile(); });
 }

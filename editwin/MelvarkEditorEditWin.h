@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 class QKeyEvent;
@@ -20,6 +21,7 @@ struct TCellLook;
 
 namespace melvark {
 class CellWriter;
+class KeptFile;
 class RowView;
 enum class EditorCommand;
 } // namespace melvark
@@ -69,6 +71,12 @@ public:
     bool SaveData();
     /// Runs the hook that writes the temporary file, if there is one.
     void SaveDataToTempFile();
+    /// Names the file of unsaved work: in the user's directory for the host's database, by user, kind of editor and
+    /// source of the lines, whichever document is edited.
+    void SetTempFileName();
+    const AnsiString& TempFileName() const;
+    /// Lays the columns out over a store that was filled with restored lines.
+    void RestoreDataFromDataGrid();
     /// The document editor's rule for a grid cell; true without one.
     bool IsEditable(int aCol, int aRow) const;
 
@@ -159,6 +167,9 @@ protected:
     void SetOnIsEditable(TIsEditable hook);
     TLibraryManager* LibraryManager() const { return FLibraryManager; }
     const TEditBoxKind& Kind() const { return FKind; }
+    melvark::KeptFile& TempFile();
+    /// Has the host tell it when the form is shown for the first time.
+    void TellWhenShown(AnsiString text) { FNotes.push_back(std::move(text)); }
 
     void FormShow() override;
     void FormClose() override;
@@ -175,11 +186,13 @@ private:
     /// A refusal that names its line makes that line the current one before it goes on to the error display.
     bool SaveOrShowRefusedLine();
     bool RunCommand(melvark::EditorCommand command);
+    void TellNotes();
 
     TLibraryManager* FLibraryManager;
     TEditBoxKind FKind;
     std::function<bool()> FOnSaveData;
     std::function<void()> FOnSaveDataToTempFile;
+    std::vector<AnsiString> FNotes; ///< What is to be told once the form is shown.
 
     std::unique_ptr<Helpers> FHelpers;
 };

@@ -21,20 +21,29 @@ constexpr std::array c_Escapes{Escape{'n', '\n'}, Escape{'r', '\r'}, Escape{'0',
 constexpr char c_ByteLetter = 'x';
 constexpr std::size_t c_ByteDigits = 2;
 
-bool IsPlainByte(char byte) {
-    return static_cast<unsigned char>(byte) >= ' ' && static_cast<unsigned char>(byte) < 0x80;
-}
+enum ByteKind : unsigned char { c_Plain = 0, c_Break = 1, c_BeyondAscii = 2 };
 
-bool IsBreak(char byte) {
-    return byte == '\n' || byte == '\r' || byte == '\0';
-}
-
-/// Most cells are a few plain letters or digits, which is seen without a look at each character.
-bool StandsAsItIs(std::string_view cell) {
-    if (cell.starts_with(c_Marker)) {
-        return false;
+constexpr std::array<unsigned char, 256> c_Kinds = [] {
+    std::array<unsigned char, 256> kinds{};
+    std::fill(kinds.begin() + 128, kinds.end(), c_BeyondAscii);
+    for (const char byte : {'\n', '\r', '\0'}) {
+        kinds[static_cast<unsigned char>(byte)] = c_Break;
     }
-    return std::ranges::all_of(cell, IsPlainByte) || (std::ranges::none_of(cell, IsBreak) && IsUtf8(cell));
+    return kinds;
+}();
+
+/// The kinds of all bytes together, without a branch for each: most cells are a few plain letters or digits.
+unsigned KindsIn(std::string_view text) {
+    unsigned kinds = c_Plain;
+    for (const char byte : text) {
+        kinds |= c_Kinds[static_cast<unsigned char>(byte)];
+    }
+    return kinds;
+}
+
+bool StandsAsItIs(std::string_view cell) {
+    const unsigned kinds = KindsIn(cell);
+    return (kinds & c_Break) == 0 && !cell.starts_with(c_Marker) && ((kinds & c_BeyondAscii) == 0 || IsUtf8(cell));
 }
 
 void AppendByte(AnsiString& text, char byte) {

@@ -25,6 +25,12 @@ TEST_F(ModuleBoxes, AreTheManagersOwn) {
     EXPECT_THAT(manager.boxes(), ElementsAre("16: Chybí název", "36: Smazat?"));
 }
 
+TEST_F(ModuleBoxes, TellANoteAsTheManagersMessage) {
+    melvark::NoteBox(&manager, "Jiné okno");
+    EXPECT_THAT(manager.messages(), ElementsAre("O#: Jiné okno"));
+    EXPECT_THAT(manager.boxes(), testing::IsEmpty());
+}
+
 TEST_F(ModuleBoxes, HaveATitleWithoutAManager) {
     QString title;
     const auto press = [&title](const char* name) {

@@ -1,9 +1,14 @@
+#include "editwin/model/KeptFile.h"
 #include "host/Exceptions.h"
+#include "host/widgets/Guard.h"
 #include "tests/editwin/TestEditBox.h"
 
+#include <QTest>
 #include <QTimer>
 
+#include <filesystem>
 #include <gmock/gmock.h>
+#include <ostream>
 
 using testing::ElementsAre;
 
@@ -40,6 +45,63 @@ TEST_F(Autosave, ATickWithoutAHookDoesNothing) {
     tick();
     EXPECT_TRUE(host.errors().empty());
     EXPECT_TRUE(form->isVisible());
+}
+
+TEST_F(Autosave, OnlyTheFirstErrorIsShownUntilASaveHasSucceeded) {
+    open();
+    bool isDiskFull = true;
+    form->SetOnSaveDataToTempFile([&] {
+        if (isDiskFull) {
+            throw EInOutError("disk je plný");
+        }
+    });
+    const auto tickOnce = [&] { melvark::Guarded([&] { form->AutoSave(&timer()); }); };
+    tickOnce();
+    tickOnce();
+    EXPECT_THAT(host.errors(), ElementsAre("disk je plný"));
+    isDiskFull = false;
+    tickOnce();
+    isDiskFull = true;
+    tickOnce();
+    tickOnce();
+    EXPECT_THAT(host.errors(), ElementsAre("disk je plný", "disk je plný"));
+}
+
+TEST_F(Autosave, TheFileIsNamedByUserEditorAndSourceInADirectoryOfTheDatabase) {
+    make();
+    const std::filesystem::path file = form->TempFileName();
+    EXPECT_EQ(file.filename(), "melvarkeditor_novak_ZKOUSKA_SABLONA.dat");
+    const std::filesystem::path directory = file.parent_path();
+    host.databaseDigest = "another";
+    make();
+    EXPECT_EQ(std::filesystem::path(form->TempFileName()).filename(), file.filename());
+    EXPECT_NE(std::filesystem::path(form->TempFileName()).parent_path(), directory);
+}
+
+TEST_F(Autosave, LayingOutSetsTheFileAsideAndClosingRemovesIt) {
+    open();
+    const std::filesystem::path file = form->TempFileName();
+    form->SetOnSaveDataToTempFile([&] { form->TempFile().Write([](std::ostream& out) { out << "lines"; }); });
+    form->AutoSave(nullptr);
+    EXPECT_TRUE(std::filesystem::exists(file));
+    form->ApplyColumnsSettingsToGrid();
+    EXPECT_FALSE(std::filesystem::exists(file));
+    EXPECT_TRUE(form->TempFile().HasContent());
+    form.reset();
+    EXPECT_TRUE(std::filesystem::is_empty(file.parent_path()));
+}
+
+TEST_F(Autosave, WhatIsToBeToldWaitsForTheFirstShow) {
+    make();
+    form->TellWhenShown("Jiné okno");
+    settle();
+    EXPECT_THAT(manager.messages(), testing::IsEmpty());
+    form->show();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !manager.messages().empty(); }));
+    form->hide();
+    form->show();
+    settle();
+    EXPECT_THAT(manager.messages(), ElementsAre("O#: Jiné okno"));
 }
 
 TEST_F(Autosave, AnErrorOfATickIsShownAndTheEditingGoesOn) {

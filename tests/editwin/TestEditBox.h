@@ -48,6 +48,8 @@ public:
     using TEditBox::SetOnIsEditable;
     using TEditBox::SetOnSaveData;
     using TEditBox::SetOnSaveDataToTempFile;
+    using TEditBox::TellWhenShown;
+    using TEditBox::TempFile;
 };
 
 /// A test with a host, a library manager and a form over the test table.

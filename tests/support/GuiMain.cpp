@@ -1,10 +1,17 @@
 #include "tests/support/ExpectedWarning.h"
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include <gmock/gmock.h>
 
 int main(int argc, char** argv) {
+    // Editors keep unsaved work where the desktop keeps the state of programs: here, and not where the developer's own
+    // work lies. Programs that a test starts take it over.
+    const QTemporaryDir state;
+    qputenv("XDG_STATE_HOME", state.path().toUtf8());
+    qunsetenv("TMPDIR");
+
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     testing::InitGoogleMock(&argc, argv);
