@@ -1,10 +1,18 @@
 #include "editors/DocumentEditBox.h"
 
 #include "editors/DocumentOpening.h"
+#include "editors/UnsavedWork.h"
+#include "editwin/CellWriter.h"
+#include "editwin/model/AutosaveFile.h"
 #include "editwin/model/DataGrid.h"
+#include "editwin/model/KeptFile.h"
 #include "host/LangStr.h"
 #include "host/LibraryManager.h"
 #include "select/MelvarkEditorSelectWin.h"
+
+#include <optional>
+#include <utility>
+#include <vector>
 
 using namespace melvark;
 
@@ -48,6 +56,64 @@ EEditBoxCanceled TDocumentEditBox::Canceled() {
 void TDocumentEditBox::FillLines(const AnsiString& procedure, std::initializer_list<LinesParam> params,
                                  std::string_view skippedKey) {
     melvark::FillLines(DataGrid(), Columns(), procedure, params, skippedKey);
+}
+
+void TDocumentEditBox::SaveDataToTempFile() {
+    const std::vector<AnsiString> keys = AutosaveKeys(DefaultColumns());
+    TempFile().Write([&](std::ostream& out) { WriteAutosave(out, FDocumentID, keys, DataGrid()); });
+}
+
+bool TDocumentEditBox::LoadDataFromTempFile(int& aDocumentID) {
+    const std::vector<AnsiString> keys = AutosaveKeys(DefaultColumns());
+    std::optional<AutosaveContent> content;
+    TempFile().Read([&](std::istream& in) { content = ReadAutosave(in, keys); });
+    if (!content) {
+        return false;
+    }
+    aDocumentID = content->DocumentID;
+    Cells().Refill(std::move(content->Lines));
+    return true;
+}
+
+bool TDocumentEditBox::RestoreData() {
+    if (!TempFile().HasContent()) {
+        if (TempFile().IsHeldElsewhere()) {
+            TellWhenShown(UnsavedWorkIsHeld());
+        }
+        return false;
+    }
+    int id = c_NullValue;
+    if (!LoadDataFromTempFile(id)) {
+        ShowErrorBox(UnsavedWorkIsUnreadable());
+        TempFile().Remove();
+        return false;
+    }
+    if (!MayBeRestored(id)) {
+        return false;
+    }
+    if (id != FDocumentID) {
+        TellWhenShown(UnsavedWorkIsOfAnotherDocument());
+    }
+    FDocumentID = id;
+    RestoreDataFromDataGrid(); // sets the file aside, too
+    return true;
+}
+
+// Without an answer the work is neither taken up nor declined: it is kept for the next time.
+bool TDocumentEditBox::MayBeRestored(int id) {
+    std::optional<bool> answer;
+    try {
+        answer = AskToRestore(FDocumentKind.RestoreProcedure, FDocumentKind.IdParam, id);
+    } catch (...) {
+        TempFile().SetAside();
+        throw;
+    }
+    if (!answer) {
+        TempFile().SetAside();
+    } else if (!*answer) {
+        TempFile().Remove();
+    }
+    return answer.value_or(false);
 }
 
 void TDocumentEditBox::Filled() {

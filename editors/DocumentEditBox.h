@@ -20,6 +20,15 @@ class TDocumentEditBox : public TEditBox {
 public:
     ~TDocumentEditBox() override;
 
+    /// Writes all lines to the file of unsaved work. Throws EInOutError.
+    void SaveDataToTempFile();
+    /// Fills the cell store from the file of unsaved work, and tells whose document the lines are. False, with nothing
+    /// changed, when the file does not hold lines of this kind of document.
+    bool LoadDataFromTempFile(int& aDocumentID);
+    /// Takes unsaved work up again when there is some and the database agrees: true when the lines came from it. The
+    /// document that is edited is then the one that the work belongs to. Throws EDatabaseError.
+    bool RestoreData();
+
 protected:
     /// `kind` outlives the editor.
     TDocumentEditBox(TComponent* owner, TLibraryManager* libraryManager, const melvark::DocumentKind& kind,
@@ -48,6 +57,9 @@ protected:
     melvark::DocumentColumns Columns() const;
 
 private:
+    /// Asks the database; what it declines is gone for good.
+    bool MayBeRestored(int id);
+
     const melvark::DocumentKind& FDocumentKind;
     int FDocumentID;
 };

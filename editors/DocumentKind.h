@@ -22,7 +22,8 @@ struct DocumentKind {
     bool HasPrices;           ///< Whether the panel with the switch of the recalculation is shown.
     std::string_view IdParam; ///< How the procedures below name the document.
     const char* CheckProcedure;
-    const char* InsertProcedure; ///< Stages one row.
+    const char* RestoreProcedure; ///< Says whether unsaved work on the document may go on.
+    const char* InsertProcedure;  ///< Stages one row.
     std::span<const RowParam> RowParams;
     const char* TakeOverProcedure; ///< The closing call.
 };

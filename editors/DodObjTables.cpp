@@ -97,6 +97,7 @@ constexpr DocumentKind KindOf(int editTypeNumber, const char* firstNamePart, con
             .HasPrices = false,
             .IdParam = "a_DDOBID",
             .CheckProcedure = "MELVARKEDITORDodObjCheckMaster",
+            .RestoreProcedure = "MELVARKEDITORDodObjObnovData",
             .InsertProcedure = "MELVARKEDITORDodObjInsertToTemp",
             .RowParams = c_RowParams,
             .TakeOverProcedure = "MELVARKEDITORDodObjTempUloz"};

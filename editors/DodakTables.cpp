@@ -136,6 +136,7 @@ constinit const DocumentKind c_DodakKind{.EditTypeNumber = 0,
                                          .HasPrices = true,
                                          .IdParam = "a_DODKID",
                                          .CheckProcedure = "MELVARKEDITORDodakCheckMaster",
+                                         .RestoreProcedure = "MELVARKEDITORDodakObnovData",
                                          .InsertProcedure = "MELVARKEDITORDodakInsertToTemp",
                                          .RowParams = c_RowParams,
                                          .TakeOverProcedure = "MELVARKEDITORDodakTempUloz"};

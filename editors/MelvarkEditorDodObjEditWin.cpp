@@ -28,6 +28,7 @@ TDodObjEditBox::TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryMana
                        LoadDefaultColumnsSettings(opening)),
       FOpening(std::move(opening)) {
     RequireMaster(CheckMaster());
+    SetOnSaveDataToTempFile([this] { SaveDataToTempFile(); });
     SetOnSaveData([this] { return SaveData(); });
     SetOnIsEditable([this](int col, int row) { return IsEditable(col, row); });
     FillGrid(FOpening.SourceNumber, Document().DodvID);

@@ -23,6 +23,7 @@ TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManage
     : TDocumentEditBox(aOwner, aLibraryManager, c_DodakKind, opening, LoadDefaultColumnsSettings(opening, this)),
       FOpening(std::move(opening)) {
     RequireMaster(CheckMasterDodak(DocumentID()));
+    SetOnSaveDataToTempFile([this] { SaveDataToTempFile(); });
     SetOnSaveData([this] { return SaveData(); });
     FillGrid(FOpening.SourceNumber);
     Filled();

@@ -14,10 +14,14 @@ struct SourceStep {
     void (Editor::*Fill)();
 };
 
-/// Takes the way of that number, counted from 1. A number that the table lacks asks nothing and fills nothing.
+/// Takes the way of that number, counted from 1, unless the editor gets its lines from unsaved work. A number that the
+/// table lacks asks nothing and fills nothing.
 template <class Editor>
 void FillFromSource(Editor& editor, std::type_identity_t<std::span<const SourceStep<Editor>>> ways, int number) {
     if (number < 1 || static_cast<std::size_t>(number) > ways.size()) {
+        return;
+    }
+    if (editor.RestoreData()) {
         return;
     }
     const SourceStep<Editor>& way = ways[static_cast<std::size_t>(number) - 1];

@@ -147,6 +147,18 @@
         <source>Rozepsaná práce se průběžně neukládá, je příliš velká. Uložte ji raději hned.</source>
         <translation>Unsaved work is not being kept, it is too large. Save it as soon as you can.</translation>
     </message>
+    <message id="KORDAN30\MELVARKEDITOR\CANNOTRESTOREBADFORMAT">
+        <source>Bylo zjištěno, že poslední úpravy nebyly uloženy, k editace se však nelze vrátit, protože soubor má špatný formát</source>
+        <translation>The last changes were not saved, but the editing cannot be resumed, because the file has a wrong format</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\UNSAVEDWORKHELD">
+        <source>Rozepsanou práci z tohoto zdroje průběžně ukládá jiné okno. Práce v tomto okně se průběžně neukládá.</source>
+        <translation>Unsaved work from this source is being kept by another window. Work in this window is not kept.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\UNSAVEDWORKOFANOTHER">
+        <source>Obnovená rozepsaná práce patří k jinému dokladu, než který jste otevřeli. Uloží se do onoho dokladu.</source>
+        <translation>The unsaved work that was taken up belongs to another document than the one you opened. It will be saved into that document.</translation>
+    </message>
     <!-- The line editor -->
     <message id="KORDAN30\MelvarkEditorEditWin\Form\Caption">
         <source>Melvark - editor</source>

@@ -11,11 +11,13 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct Editor {
+    bool RestoreData() { return hasUnsavedWork; }
     void AskForOrder() { done.emplace_back("ask for an order"); }
     void AskAndCancel() { throw std::runtime_error("Canceled"); }
     void FillFromOrder() { done.emplace_back("fill from the order"); }
     void FillFromTemplate() { done.emplace_back("fill from the template"); }
 
+    bool hasUnsavedWork = false;
     std::vector<std::string> done;
 };
 
@@ -41,6 +43,14 @@ TEST(SourceSteps, FillNothingOnceTheClerkHasCancelled) {
     Editor editor;
     EXPECT_THROW(melvark::FillFromSource(editor, c_Ways, 3), std::runtime_error);
     EXPECT_THAT(editor.done, IsEmpty());
+}
+
+TEST(SourceSteps, AskAndFillNothingWhereUnsavedWorkIsTakenUp) {
+    for (const int number : {1, 2, 3}) {
+        Editor editor{.hasUnsavedWork = true, .done = {}};
+        melvark::FillFromSource(editor, c_Ways, number);
+        EXPECT_THAT(editor.done, IsEmpty()) << number;
+    }
 }
 
 TEST(SourceSteps, DoNothingForANumberThatTheTableLacks) {

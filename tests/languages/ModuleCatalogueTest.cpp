@@ -2,6 +2,7 @@
 #include "dialogs/MelvarkEditorSettingsWin.h"
 #include "editors/MelvarkEditorDodObjEditWin.h"
 #include "editors/MelvarkEditorDodakEditWin.h"
+#include "editors/UnsavedWork.h"
 #include "editwin/model/AutosaveErrors.h"
 #include "editwin/model/EditExceptions.h"
 #include "host/DecimalDigits.h"
@@ -93,6 +94,9 @@ void useAutosave() {
     }
     melvark::AutosaveForeign("x");
     melvark::AutosaveTooLarge();
+    melvark::UnsavedWorkIsUnreadable();
+    melvark::UnsavedWorkIsHeld();
+    melvark::UnsavedWorkIsOfAnotherDocument();
 }
 
 /// Makes both property dialogs refuse an empty text.

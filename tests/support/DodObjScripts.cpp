@@ -84,6 +84,7 @@ void scriptDodObjEditor(RecordingConnection& connection, const std::vector<LineC
     connection.answerQuery("select JMENO from DODAVATEL_V order by JMENO",
                            resultTable({"JMENO"}, {{"Lípa"}, {"Vrba"}}));
     connection.procedure("MELVARKEDITORDodObjCheckMaster").inputs({"a_DDOBID"});
+    scriptRestoring(connection, "MELVARKEDITORDodObjObnovData", "a_DDOBID");
     scriptChecks(connection);
     scriptFills(connection, lines);
     scriptSettings(connection);

@@ -92,6 +92,10 @@ void scriptSettings(RecordingConnection& connection) {
     connection.procedure("MELVARKEDITORNASTAVENIUlozNastaveniOkna").inputs({"a_TYPEDITACE", "a_DATA"});
 }
 
+void scriptRestoring(RecordingConnection& connection, const AnsiString& procedure, const AnsiString& idParam) {
+    connection.procedure(procedure).inputs({idParam}).outputs({"a_OBNOVDATA"}).setsOutputs({{"a_OBNOVDATA", true}});
+}
+
 std::vector<LineCells> sampleLines() {
     return {{{"DOBSID", "501"},
              {"SKUPSPOL1", "Potraviny"},
@@ -121,6 +125,7 @@ void scriptDodakEditor(RecordingConnection& connection, const std::vector<LineCe
     scriptInit(connection, "0");
     connection.answerQuery("select NAZEV from SKLAD_V order by NAZEV", resultTable({"NAZEV"}, {{"Brno"}, {"Praha"}}));
     connection.procedure("MELVARKEDITORDodakCheckMaster").inputs({"a_DODKID"});
+    scriptRestoring(connection, "MELVARKEDITORDodakObnovData", "a_DODKID");
     connection.procedure("MELVARKEDITORDodakVypocetCen").inputs(priceParams()).returns({resultTable({"MNOZSTVI"}, {})});
     scriptSources(connection, lines);
     scriptSettings(connection);

@@ -20,6 +20,9 @@ TResultTable lineTable(const std::vector<AnsiString>& keys, const std::vector<Li
 /// Makes the procedures of settings and placement known, without anything stored.
 void scriptSettings(RecordingConnection& connection);
 
+/// Makes the question known whether unsaved work may be taken up; the answer is yes.
+void scriptRestoring(RecordingConnection& connection, const AnsiString& procedure, const AnsiString& idParam);
+
 /// Two lines that a source could bring: milk and rye bread.
 std::vector<LineCells> sampleLines();
 
