@@ -6,6 +6,7 @@
 namespace {
 
 constexpr FuzzTarget c_Targets[] = {
+    {"autosave", judgeAutosave},
     {"xml", judgeXMLTree},
     {"settings", judgeColumnSettings},
     {"placement", judgeWindowPlacement},

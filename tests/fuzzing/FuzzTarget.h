@@ -19,6 +19,7 @@ std::span<const FuzzTarget> fuzzTargets();
 /// Null for a name that no target has.
 const FuzzTarget* findFuzzTarget(std::string_view name);
 
+std::string judgeAutosave(std::string_view input);
 std::string judgeXMLTree(std::string_view input);
 std::string judgeColumnSettings(std::string_view input);
 std::string judgeWindowPlacement(std::string_view input);
