@@ -47,6 +47,7 @@ public:
     std::string_view ImageData(std::string_view, std::string_view) const override { return {}; }
     TDateTime Now() const override;
     void ShowError(std::exception_ptr error) noexcept override;
+    AnsiString DatabaseDigest() const override { return "benchmark"; }
 
 private:
     TConnection& connection_;
