@@ -151,9 +151,11 @@ TEST_F(RestoringANote, ASourceWithFewerLinesLeavesNothingOfDeclinedWork) {
 
 TEST_F(RestoringANote, AnUnreadableFileIsToldOnceAndGone) {
     leave(file_, "7\n1\nSKLADPOL\n");
-    EXPECT_EQ(names(*open()), c_Filled);
+    auto editor = open();
+    EXPECT_EQ(names(*editor), c_Filled);
     EXPECT_THAT(manager_.boxes(), ElementsAre(c_Unreadable));
-    EXPECT_THAT(content(), IsEmpty());
+    EXPECT_EQ(listing(), "") << "before the editor is closed";
+    editor.reset();
     EXPECT_THAT(host_.connection.callsOf(c_Question), IsEmpty());
     open();
     EXPECT_THAT(manager_.boxes(), SizeIs(1));
