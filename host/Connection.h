@@ -33,11 +33,13 @@ struct TResultTable {
     std::vector<std::vector<TDbValue>> Rows;
 };
 
-/// What a call brought. `Success` is false for a failure that the host chose to report without an error.
+/// What a call brought. `Success` is false for a failure that the host chose to report without an error. `Answered` is
+/// false for a row of a save that was only sent: if it fails, a later row or the closing call throws that failure.
 struct TCallResult {
     bool Success = true;
     std::vector<TResultTable> Sets;
     std::vector<TDbParam> Outputs;
+    bool Answered = true;
 };
 
 /// The parameters that a procedure declares, in its own spelling ("a_DODKID").
@@ -60,7 +62,8 @@ public:
     virtual TProcedureInfo Describe(const AnsiString& procedure) = 0;
 
     /// Runs the call in a transaction of its own and fetches all its result sets before it returns.
-    /// Throws EDatabaseError for a refusal (Code() is set), an unknown procedure or parameter, or a lost link.
+    /// Throws EDatabaseError for a refusal (Code() is set), an unknown procedure or parameter, or a lost link. A row of
+    /// a save may be sent without waiting for its answer; a refusal that comes later names its row (Row()).
     virtual TCallResult Execute(const TProcedureCall& call) = 0;
 
     /// Runs one reading statement. Throws EDatabaseError.

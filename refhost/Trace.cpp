@@ -17,14 +17,19 @@ double toMicroseconds(double milliseconds) {
 }
 
 std::string callLine(const std::string& name, bool open, const std::string& params, const TracedOutcome& outcome) {
-    return JsonObject()
-        .add("call", name)
+    JsonObject line;
+    line.add("call", name)
         .add("open", open)
         .addJson("params", params)
         .add("rows", static_cast<std::int64_t>(outcome.rows))
-        .add("error", outcome.error ? TDbValue(*outcome.error) : TDbValue())
-        .add("ms", toMicroseconds(outcome.milliseconds))
-        .text();
+        .add("error", outcome.error ? TDbValue(*outcome.error) : TDbValue());
+    if (outcome.row) {
+        line.add("row", std::int64_t{*outcome.row});
+    }
+    if (!outcome.isAnswered) {
+        line.add("answered", false);
+    }
+    return line.add("ms", toMicroseconds(outcome.milliseconds)).text();
 }
 
 } // namespace

@@ -16,6 +16,8 @@ namespace refhost {
 struct TracedOutcome {
     std::size_t rows = 0;                            ///< Rows of all its result sets together.
     std::optional<std::string> error = std::nullopt; ///< The sentence of the refusal or failure.
+    std::optional<int> row = std::nullopt;           ///< The line of the save that the error names.
+    bool isAnswered = true;                          ///< Else it was only sent, and a later call tells its error.
     double milliseconds = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "refhost/TracingConnection.h"
 
+#include "host/Exceptions.h"
 #include "refhost/Trace.h"
 
 #include <chrono>
@@ -13,6 +14,14 @@ using Clock = std::chrono::steady_clock;
 
 double millisecondsSince(Clock::time_point start) {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+/// How a call that threw ended.
+TracedOutcome outcomeOf(const std::exception& error, Clock::time_point start) {
+    const auto* refusal = dynamic_cast<const EDatabaseError*>(&error);
+    return {.error = error.what(),
+            .row = refusal == nullptr ? std::nullopt : refusal->Row(),
+            .milliseconds = millisecondsSince(start)};
 }
 
 std::size_t countRows(const TCallResult& result) {
@@ -35,10 +44,11 @@ TCallResult TracingConnection::Execute(const TProcedureCall& call) {
     const Clock::time_point start = Clock::now();
     try {
         TCallResult result = connection_.Execute(call);
-        trace_.procedure(call, {.rows = countRows(result), .milliseconds = millisecondsSince(start)});
+        trace_.procedure(
+            call, {.rows = countRows(result), .isAnswered = result.Answered, .milliseconds = millisecondsSince(start)});
         return result;
     } catch (const std::exception& error) {
-        trace_.procedure(call, {.error = error.what(), .milliseconds = millisecondsSince(start)});
+        trace_.procedure(call, outcomeOf(error, start));
         throw;
     }
 }
@@ -50,7 +60,7 @@ TResultTable TracingConnection::Query(const AnsiString& sql) {
         trace_.query(sql, {.rows = result.Rows.size(), .milliseconds = millisecondsSince(start)});
         return result;
     } catch (const std::exception& error) {
-        trace_.query(sql, {.error = error.what(), .milliseconds = millisecondsSince(start)});
+        trace_.query(sql, outcomeOf(error, start));
         throw;
     }
 }

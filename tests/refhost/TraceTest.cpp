@@ -116,6 +116,35 @@ TEST_F(TraceTest, RecordsARefusalAndPassesItOn) {
                     R"({"call":"select 1","open":true,"params":[],"rows":0,"error":"Spojení se ztratilo.","ms":0})"));
 }
 
+/// Sends rows without waiting, and hears at the next call that the first one was refused.
+class SendingConnection : public TConnection {
+public:
+    TProcedureInfo Describe(const AnsiString&) override { return {}; }
+    TCallResult Execute(const TProcedureCall& call) override {
+        if (call.Name == "CLOSE") {
+            throw EDatabaseError("Položka neexistuje.", "ML043").AboutRow(0);
+        }
+        TCallResult result;
+        result.Answered = false;
+        return result;
+    }
+    TResultTable Query(const AnsiString&) override { return {}; }
+};
+
+TEST_F(TraceTest, ARowThatWasOnlySentIsRecordedAsThatAndItsErrorWhereItIsHeardOf) {
+    SendingConnection database;
+    TracingConnection traced(database, trace_);
+
+    traced.Execute({.Name = "ROW", .Params = {}, .Open = false});
+    EXPECT_THROW(traced.Execute({.Name = "CLOSE", .Params = {}, .Open = false}), EDatabaseError);
+
+    EXPECT_THAT(
+        linesWithoutTime(),
+        ElementsAre(
+            R"({"call":"ROW","open":false,"params":[],"rows":0,"error":null,"answered":false,"ms":0})",
+            R"({"call":"CLOSE","open":false,"params":[],"rows":0,"error":"Položka neexistuje.","row":0,"ms":0})"));
+}
+
 TEST_F(TraceTest, DoesNotRecordTheQuestionWhichParametersAProcedureHas) {
     RecordingConnection database;
     database.procedure("X").inputs({"a_ID"});

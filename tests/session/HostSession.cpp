@@ -230,7 +230,8 @@ std::vector<std::string> HostSession::trace() const {
     if (!file.open(QIODevice::ReadOnly)) {
         return {};
     }
-    static const std::regex time(",\"ms\":[0-9.e+-]+");
+    // Whether a row of a save is waited for is the engine's affair.
+    static const std::regex time("(,\"answered\":false)?,\"ms\":[0-9.e+-]+");
     std::vector<std::string> lines = linesOf(file.readAll());
     for (std::string& line : lines) {
         line = std::regex_replace(line, time, "");
