@@ -29,6 +29,10 @@ public:
     /// all last, or none when it throws.
     virtual void inOneTransaction(const std::function<void()>& work) = 0;
 
+    /// Waits for the answers to rows of a save that were sent without waiting (TCallResult::Answered). Throws
+    /// EDatabaseError as a later row would.
+    virtual void awaitAnswers() = 0;
+
     /// Replaces procedures by scripts of a folder, "NAME.sql" each, for this connection. Throws EDatabaseError when a
     /// script is no procedure's, has a mistake in its header, or the engine keeps its procedures itself.
     virtual void useProcedures(const std::string& folder) = 0;

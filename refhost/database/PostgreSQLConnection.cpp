@@ -11,7 +11,6 @@
 #include "refhost/database/SqlScript.h"
 
 #include <algorithm>
-#include <set>
 
 namespace refhost {
 
@@ -20,19 +19,20 @@ namespace {
 /// How often a call is begun before the user hears that the others are in the way.
 constexpr int c_MostAttempts = 5;
 
-/// Whether the procedure is a step of a save: a failure of it closes the save until its rows are emptied.
-bool belongsToSave(std::string_view name) {
+/// What the procedure is in a save; nothing particular for one that we do not have.
+SqlScript::SaveRole saveRole(std::string_view name) {
     // Read once: a save asks for every row.
-    static const std::set<std::string> steps = [] {
-        std::set<std::string> names;
+    static const std::map<std::string, SqlScript::SaveRole> roles = [] {
+        std::map<std::string, SqlScript::SaveRole> read;
         for (const SqlFile& file : postgresqlFiles()) {
-            if (file.Path.starts_with("procedures/") && readSqlScript(file, postgresqlFiles()).FailureRefusesStaging) {
-                names.insert(melvark::LowerAscii(sqlObjectName(file)));
+            if (file.Path.starts_with("procedures/")) {
+                read[melvark::LowerAscii(sqlObjectName(file))] = readSqlScript(file, postgresqlFiles()).Save;
             }
         }
-        return names;
+        return read;
     }();
-    return steps.contains(melvark::LowerAscii(name));
+    const auto found = roles.find(melvark::LowerAscii(name));
+    return found == roles.end() ? SqlScript::SaveRole() : found->second;
 }
 
 std::string joined(std::span<const std::string> names) {
@@ -65,6 +65,7 @@ void PostgreSQLConnection::refuseAfterUpgrade() {
 }
 
 void PostgreSQLConnection::restoreLink() {
+    endRows();
     refuseAfterUpgrade();
     if (!session_.isLost()) {
         return;
@@ -123,6 +124,7 @@ const PostgreSQLProcedure& PostgreSQLConnection::procedure(const AnsiString& nam
     if (const auto known = procedures_.find(key); known != procedures_.end()) {
         return known->second;
     }
+    endRows();
     parameterValue(ParameterKind::Text, "procedure", name);
     auto found = PostgreSQLProcedure::find(session_, name);
     if (!found && !hasSchema()) {
@@ -135,7 +137,9 @@ const PostgreSQLProcedure& PostgreSQLConnection::procedure(const AnsiString& nam
 }
 
 TProcedureInfo PostgreSQLConnection::Describe(const AnsiString& name) {
-    restoreLink();
+    if (!rows_.isOpen()) { // else the caller is about to send a row or to close the save
+        restoreLink();
+    }
     return procedure(name).info();
 }
 
@@ -152,8 +156,21 @@ TCallResult PostgreSQLConnection::executeAgainstConflicts(const TProcedureCall& 
 }
 
 TCallResult PostgreSQLConnection::Execute(const TProcedureCall& call) {
-    const bool isStep = belongsToSave(call.Name);
-    if (isStep) {
+    const SqlScript::SaveRole role = saveRole(call.Name);
+    if (role.AnswerMayComeLater) {
+        refuseAfterUpgrade();
+        const int row = rowsOfSave_++;
+        if (!call.Open && procedure(call.Name).bringsNothing()) {
+            return sendRow(call, row);
+        }
+    }
+    endRows();
+    if (role.Begins) {
+        rows_.forgetFailure(); // of a save that was given up
+        rowsOfSave_ = 0;
+    }
+    if (role.FailureRefusesStaging) {
+        throwRowFailure();
         refuseAfterUpgrade();
     } else {
         restoreLink();
@@ -162,10 +179,53 @@ TCallResult PostgreSQLConnection::Execute(const TProcedureCall& call) {
         return executeAgainstConflicts(call);
     } catch (const EDatabaseError&) {
         // The rollback took back what the call itself could have noted.
-        if (isStep) {
+        if (role.FailureRefusesStaging) {
             refuseStaging();
         }
         throw;
+    }
+}
+
+TCallResult PostgreSQLConnection::sendRow(const TProcedureCall& call, int row) {
+    try {
+        if (!rows_.failure()) {
+            const PostgreSQLProcedure::Statement statement = procedure(call.Name).statement(call);
+            rows_.send(statement.Sql, statement.Values, row);
+        }
+    } catch (const EDatabaseError&) {
+        endRows();
+        throwRowFailure(); // that of an earlier row came first
+        refuseStaging();
+        throw;
+    }
+    if (rows_.failure()) {
+        endRows();
+        throwRowFailure();
+    }
+    TCallResult result;
+    result.Answered = false;
+    return result;
+}
+
+void PostgreSQLConnection::endRows() {
+    if (!rows_.isOpen()) {
+        return;
+    }
+    rows_.finish();
+    if (rows_.failure()) {
+        refuseStaging();
+    }
+}
+
+void PostgreSQLConnection::awaitAnswers() {
+    endRows();
+    throwRowFailure();
+}
+
+void PostgreSQLConnection::throwRowFailure() {
+    if (const std::optional<EDatabaseError> failure = rows_.failure()) {
+        rows_.forgetFailure();
+        throw EDatabaseError(*failure);
     }
 }
 

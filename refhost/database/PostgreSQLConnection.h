@@ -1,6 +1,7 @@
 #pragma once
 
 #include "refhost/database/Database.h"
+#include "refhost/database/PostgreSQLPipeline.h"
 #include "refhost/database/PostgreSQLProcedure.h"
 #include "refhost/database/PostgreSQLSession.h"
 
@@ -13,8 +14,10 @@ namespace refhost {
 /// createSchema from the files of refhost/database/postgresql; the user is the role that connects.
 ///
 /// Each procedure is looked up and prepared at its first call in a session. A call is a transaction of its own; one
-/// that the server gives up for another user's is tried again a few times. A lost session is opened anew by the next
-/// call, save by one that belongs to a save under way: its rows went with the session.
+/// that the server gives up for another user's is tried again a few times. A procedure that says so in its header and
+/// brings nothing is only sent: the rows of a save. Their failure is thrown by a later row or by the closing call. A
+/// lost session is opened anew by the next call, save by one that belongs to a save under way: its rows went with the
+/// session.
 class PostgreSQLConnection : public Database {
 public:
     /// `address` are words as the server's client library takes them. Throws EDatabaseError.
@@ -27,6 +30,7 @@ public:
     bool hasSchema() override;
     void createSchema() override;
     void inOneTransaction(const std::function<void()>& work) override;
+    void awaitAnswers() override;
     void useProcedures(const std::string& folder) override;
     void insertRows(std::string_view table, std::span<const std::string> columns,
                     std::span<const std::vector<TDbValue>> rows) override;
@@ -38,6 +42,10 @@ public:
 private:
     const PostgreSQLProcedure& procedure(const AnsiString& name);
     TCallResult executeAgainstConflicts(const TProcedureCall& call);
+    TCallResult sendRow(const TProcedureCall& call, int row);
+    /// Waits for the rows under way, so that the session can be used for something else. Throws nothing about them.
+    void endRows();
+    void throwRowFailure();
     void refuseStaging();
     /// Opens a lost link anew, and refuses to go on with a database that was upgraded meanwhile.
     void restoreLink();
@@ -45,6 +53,8 @@ private:
 
     PostgreSQLSession session_;
     std::map<std::string, PostgreSQLProcedure> procedures_; ///< By lower-case name.
+    PostgreSQLPipeline rows_{session_};
+    int rowsOfSave_ = 0; ///< Sent since the save began.
 };
 
 } // namespace refhost

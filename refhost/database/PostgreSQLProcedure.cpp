@@ -91,34 +91,34 @@ const PostgreSQLProcedure::Parameter& PostgreSQLProcedure::input(const TProcedur
     return *found;
 }
 
-PostgreSQLProcedure::Arguments PostgreSQLProcedure::arguments(const TProcedureCall& call) const {
-    Arguments passed;
+PostgreSQLProcedure::Statement PostgreSQLProcedure::statement(const TProcedureCall& call) const {
+    // A function that brings nothing costs less where it need not be a table.
+    Statement statement{(bringsNothing_ ? "select melvark." : "select * from melvark.") + sqlName_ + "(", {}};
     std::vector<const Parameter*> named;
     for (const TDbParam& parameter : call.Params) {
         const Parameter& declared = input(call, parameter.Name);
         TDbValue value = parameterValue(declared.Kind, declared.Name, parameter.Value);
         if (const auto earlier = std::ranges::find(named, &declared); earlier != named.end()) {
-            passed.Values[static_cast<std::size_t>(earlier - named.begin())] = std::move(value);
+            statement.Values[static_cast<std::size_t>(earlier - named.begin())] =
+                std::move(value); // the last one counts
             continue;
         }
         named.push_back(&declared);
-        passed.Values.push_back(std::move(value));
-        passed.Sql += (passed.Sql.empty() ? "" : ", ") + declared.SqlName + " => $" + std::to_string(named.size());
+        statement.Values.push_back(std::move(value));
+        statement.Sql += (named.size() == 1 ? "" : ", ") + declared.SqlName + " => $" + std::to_string(named.size());
     }
-    return passed;
+    statement.Sql += ")";
+    return statement;
 }
 
 TCallResult PostgreSQLProcedure::run(PostgreSQLSession& session, const TProcedureCall& call) const {
-    const auto [named, values] = arguments(call);
-    // A function that brings nothing costs less where it need not be a table.
-    const std::string sql =
-        (bringsNothing_ ? "select melvark." : "select * from melvark.") + sqlName_ + "(" + named + ")";
+    const Statement statement = this->statement(call);
     if (bringsCursors_) {
-        return runForCursors(session, sql, values, call.Open);
+        return runForCursors(session, statement, call.Open);
     }
 
     TCallResult result;
-    const PostgreSQLResult rows = session.execute(sql, values);
+    const PostgreSQLResult rows = session.execute(statement.Sql, statement.Values);
     if (isVoid(rows.get())) {
         return result;
     }
@@ -133,11 +133,11 @@ TCallResult PostgreSQLProcedure::run(PostgreSQLSession& session, const TProcedur
     return result;
 }
 
-TCallResult PostgreSQLProcedure::runForCursors(PostgreSQLSession& session, const std::string& sql,
-                                               std::span<const TDbValue> values, bool open) const {
+TCallResult PostgreSQLProcedure::runForCursors(PostgreSQLSession& session, const Statement& statement,
+                                               bool open) const {
     TCallResult result;
     PostgreSQLTransaction transaction(session, PostgreSQLTransaction::Kind::Writing);
-    const PostgreSQLResult cursors = session.execute(sql, values);
+    const PostgreSQLResult cursors = session.execute(statement.Sql, statement.Values);
     for (int row = 0; row < PQntuples(cursors.get()); ++row) {
         const std::string cursor = session.quoted(PQgetvalue(cursors.get(), row, 0));
         const PostgreSQLResult rows = session.execute("fetch all from " + cursor);

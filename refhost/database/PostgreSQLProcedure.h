@@ -19,8 +19,20 @@ public:
 
     TProcedureInfo info() const;
 
+    /// One SQL statement with its parameters.
+    struct Statement {
+        std::string Sql;
+        std::vector<TDbValue> Values;
+    };
+
+    /// What the call comes to, only the parameters that it names being passed. Throws EDatabaseError for a parameter
+    /// that there is not or a value that does not fit.
+    Statement statement(const TProcedureCall& call) const;
+
+    bool bringsNothing() const { return bringsNothing_; }
+
     /// Runs the call as a transaction of its own and fetches what it brings; result sets are dropped unless the call is
-    /// to open them. Only the parameters of the call are passed. Throws EDatabaseError.
+    /// to open them. Throws EDatabaseError.
     TCallResult run(PostgreSQLSession& session, const TProcedureCall& call) const;
 
 private:
@@ -30,17 +42,8 @@ private:
         ParameterKind Kind = ParameterKind::Text;
     };
 
-    /// What a call passes, in named notation: the parameters that it names, each once.
-    struct Arguments {
-        std::string Sql;
-        std::vector<TDbValue> Values;
-    };
-
     const Parameter& input(const TProcedureCall& call, std::string_view name) const;
-    /// Of a parameter that the call names twice the last value counts.
-    Arguments arguments(const TProcedureCall& call) const;
-    TCallResult runForCursors(PostgreSQLSession& session, const std::string& sql, std::span<const TDbValue> values,
-                              bool open) const;
+    TCallResult runForCursors(PostgreSQLSession& session, const Statement& statement, bool open) const;
 
     std::string sqlName_;
     std::vector<Parameter> inputs_;

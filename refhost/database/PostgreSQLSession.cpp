@@ -60,6 +60,26 @@ bool waitForLink(PGconn* connection, PostgresPollingStatusType wanted, steady_cl
     return left.count() > 0 && poll(&link, 1, static_cast<int>(left.count())) > 0;
 }
 
+/// Parameters as the client library takes them: texts or null.
+class ParameterTexts {
+public:
+    explicit ParameterTexts(std::span<const TDbValue> parameters) {
+        texts_.reserve(parameters.size()); // the pointers have to stay
+        for (const TDbValue& parameter : parameters) {
+            const TDbValue& text = texts_.emplace_back(parameterValue(ParameterKind::Text, "sql", parameter));
+            const auto* characters = std::get_if<AnsiString>(&text);
+            values_.push_back(characters == nullptr ? nullptr : characters->c_str());
+        }
+    }
+
+    int count() const { return static_cast<int>(values_.size()); }
+    const char* const* values() const { return values_.data(); }
+
+private:
+    std::vector<TDbValue> texts_;
+    std::vector<const char*> values_;
+};
+
 void appendCopyText(std::string& line, std::string_view text) {
     for (const char c : text) {
         switch (c) {
@@ -193,23 +213,26 @@ PostgreSQLResult PostgreSQLSession::execute(const std::string& sql) {
     return checked(PQexec(handle(), sql.c_str()), sql);
 }
 
+void PostgreSQLSession::prepare(const std::string& sql) {
+    if (isPrepared(sql)) {
+        return;
+    }
+    const std::string name = "melvark_" + std::to_string(prepared_.size());
+    checked(PQprepare(handle(), name.c_str(), sql.c_str(), 0, nullptr), sql);
+    prepared_.emplace(sql, name);
+}
+
 PostgreSQLResult PostgreSQLSession::execute(const std::string& sql, std::span<const TDbValue> parameters) {
-    auto statement = prepared_.find(sql);
-    if (statement == prepared_.end()) {
-        const std::string name = "melvark_" + std::to_string(prepared_.size());
-        checked(PQprepare(handle(), name.c_str(), sql.c_str(), 0, nullptr), sql);
-        statement = prepared_.emplace(sql, name).first;
-    }
-    std::vector<TDbValue> texts;
-    std::vector<const char*> values;
-    texts.reserve(parameters.size()); // the pointers below have to stay
-    for (const TDbValue& parameter : parameters) {
-        const TDbValue& text = texts.emplace_back(parameterValue(ParameterKind::Text, "sql", parameter));
-        values.push_back(std::holds_alternative<AnsiString>(text) ? std::get<AnsiString>(text).c_str() : nullptr);
-    }
-    return checked(PQexecPrepared(handle(), statement->second.c_str(), static_cast<int>(values.size()), values.data(),
-                                  nullptr, nullptr, 0),
-                   sql);
+    prepare(sql);
+    const ParameterTexts texts(parameters);
+    return checked(
+        PQexecPrepared(handle(), prepared_.at(sql).c_str(), texts.count(), texts.values(), nullptr, nullptr, 0), sql);
+}
+
+bool PostgreSQLSession::send(const std::string& sql, std::span<const TDbValue> parameters) {
+    const ParameterTexts texts(parameters);
+    return PQsendQueryPrepared(handle(), prepared_.at(sql).c_str(), texts.count(), texts.values(), nullptr, nullptr,
+                               0) == 1;
 }
 
 PostgreSQLResult PostgreSQLSession::describe(const std::string& sql) {

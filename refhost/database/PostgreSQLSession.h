@@ -41,6 +41,14 @@ public:
     PostgreSQLResult execute(const std::string& sql);
     /// Runs one statement with its parameters ($1 …) as texts or null; it is prepared at its first use in the session.
     PostgreSQLResult execute(const std::string& sql, std::span<const TDbValue> parameters);
+    /// Whether the statement was prepared in this session.
+    bool isPrepared(const std::string& sql) const { return prepared_.contains(sql); }
+    /// Prepares the statement unless it was prepared before.
+    void prepare(const std::string& sql);
+    /// Hands a prepared statement to the client library without waiting for its answer; false when the link is lost.
+    bool send(const std::string& sql, std::span<const TDbValue> parameters);
+    /// The result of a statement, owned. Throws EDatabaseError when it failed or the link is lost.
+    PostgreSQLResult checked(PGresult* result, std::string_view statement) const;
     /// Prepares a statement for this one time, so that its columns are known before it runs.
     PostgreSQLResult describe(const std::string& sql);
     /// Runs the statement that was described last.
@@ -54,7 +62,6 @@ public:
 private:
     void open();
     void setUp();
-    PostgreSQLResult checked(PGresult* result, std::string_view statement) const;
     void sendCopyData(std::string_view text, std::string_view statement) const;
 
     std::string address_;

@@ -205,7 +205,7 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
         return result;
     } catch (const EDatabaseError&) {
         // The rollback took back what the call itself could have noted.
-        if (called.script().FailureRefusesStaging) {
+        if (called.script().Save.FailureRefusesStaging) {
             session_.execute(c_RefuseStaging);
         }
         throw;

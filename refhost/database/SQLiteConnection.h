@@ -35,6 +35,7 @@ public:
     bool hasSchema() override;
     void createSchema() override;
     void inOneTransaction(const std::function<void()>& work) override;
+    void awaitAnswers() override {} // this engine answers at once
     void useProcedures(const std::string& folder) override;
     void insertRows(std::string_view table, std::span<const std::string> columns,
                     std::span<const std::vector<TDbValue>> rows) override;

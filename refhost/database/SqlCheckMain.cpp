@@ -1,6 +1,6 @@
 // Reads the head of every shipped script once, so that a mistake in it fails the build and not the first call: a
-// declaration that there is none of, a step of a save that does not close the save when it fails, and a procedure that
-// declares this for one engine only.
+// declaration that there is none of, a step of a save that does not close the save when it fails, an answer that may
+// come later although it brings something or does not close the save, and a role in a save on one engine only.
 
 #include "refhost/database/SqlScript.h"
 
@@ -19,9 +19,9 @@ void require(bool holds, const SqlFile& file, const char* mistake) {
     }
 }
 
-/// Whether a failure closes the save, by the names of the procedures.
-std::map<std::string, bool> readAll(std::span<const SqlFile> files, bool isEmbedded) {
-    std::map<std::string, bool> closing;
+/// The roles in a save by the names of the procedures.
+std::map<std::string, SqlScript::SaveRole> readAll(std::span<const SqlFile> files, bool isEmbedded) {
+    std::map<std::string, SqlScript::SaveRole> roles;
     for (const SqlFile& file : files) {
         const bool isProcedure = file.Path.starts_with("procedures/");
         if (!isProcedure && !(isEmbedded && file.Path.starts_with("functions/"))) {
@@ -32,11 +32,13 @@ std::map<std::string, bool> readAll(std::span<const SqlFile> files, bool isEmbed
                 "the server's own declaration says what it takes and brings");
         if (isProcedure) {
             const bool isStep = script.Text.find("refuse_closed_staging(") != std::string::npos;
-            require(isStep == script.FailureRefusesStaging, file, "a step of a save says what its failure does");
-            closing[script.Name] = script.FailureRefusesStaging;
+            require(isStep == script.Save.FailureRefusesStaging, file, "a step of a save says what its failure does");
+            require(!script.Save.AnswerMayComeLater || (isStep && script.Outputs.empty() && script.Results.empty()),
+                    file, "an answer may come later only when it brings nothing and its failure closes the save");
+            roles[script.Name] = script.Save;
         }
     }
-    return closing;
+    return roles;
 }
 
 } // namespace

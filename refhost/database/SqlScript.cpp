@@ -63,8 +63,12 @@ bool takeDeclaration(SqlScript& script, std::string_view line, std::string_view 
         script.Outputs.emplace_back(output);
     } else if (const auto columns = after(line, "-- returns:"); !columns.empty()) {
         script.Results.push_back(readNames(columns));
+    } else if (after(line, "-- begins:") == "a save") {
+        script.Save.Begins = true;
+    } else if (after(line, "-- answer:") == "may come later") {
+        script.Save.AnswerMayComeLater = true;
     } else if (after(line, "-- after failure:") == "staging refused") {
-        script.FailureRefusesStaging = true;
+        script.Save.FailureRefusesStaging = true;
     } else {
         return false;
     }

@@ -16,14 +16,28 @@ namespace refhost {
 ///     -- in: a_DODKID integer            one a line, in order; integer, boolean or text (text when not said)
 ///     -- out: a_OBNOVDATA                a select of just these columns sets the output parameters
 ///     -- returns: NAZEV, ID              the columns of a result set, one line a set, in order
+///     -- begins: a save                  the rows of a save are counted from here
+///     -- answer: may come later          the caller may go on before it is known whether this succeeded: if it did
+///                                        not, a later row or the closing call of the save says so
 ///     -- after failure: staging refused  a failure closes the save that is under way until its rows are emptied
 ///     -- include: recalculation          (anywhere) the text of parts/recalculation.sql stands here
 ///
 /// A run of comment lines of the header that has one declaration, or nothing but lines of that form, has to declare
 /// something in every line: a misspelt declaration is an error and no comment. The build reads all of them once.
 ///
+/// The server's procedures have headers too, with those lines that are about a save.
+///
 /// This class reads the text only; SQLiteProcedure runs it.
 struct SqlScript {
+    /// What the procedure is in a save.
+    struct SaveRole {
+        bool Begins = false;
+        bool AnswerMayComeLater = false;
+        bool FailureRefusesStaging = false;
+
+        bool operator==(const SaveRole&) const = default;
+    };
+
     struct Parameter {
         std::string Name;
         ParameterKind Kind = ParameterKind::Text;
@@ -33,7 +47,7 @@ struct SqlScript {
     std::vector<Parameter> Inputs;
     std::vector<std::string> Outputs;
     std::vector<std::vector<std::string>> Results;
-    bool FailureRefusesStaging = false;
+    SaveRole Save;
     std::string Text;
 };
 

@@ -27,6 +27,7 @@ struct Answer {
 Answer ask(Database& database, const TProcedureCall& call) {
     try {
         TCallResult result = database.Execute(call);
+        database.awaitAnswers();
         std::string text = answerText(result);
         return {std::move(text), std::move(result)};
     } catch (const EDatabaseError& error) {

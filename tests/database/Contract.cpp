@@ -24,6 +24,7 @@ constexpr std::string_view c_Tables[] = {
 std::string outcome(Database& database, const std::string& procedure, const Parameters& parameters) {
     try {
         database.Execute({procedure, parameters, false});
+        database.awaitAnswers();
         return "accepted";
     } catch (const EDatabaseError& error) {
         return error.Code();

@@ -11,8 +11,8 @@ using testing::ElementsAre;
 constexpr SqlFile c_Files[] = {
     {"procedures/CALL.sql",
      "-- Does something.\n--\n-- in: a_ID integer\n-- in: a_FLAG boolean\n-- in: a_TEXT\n-- out: "
-     "a_OUT\n-- returns: ID, NAZEV\n-- after failure: staging refused\n\nselect 1;\n-- include: "
-     "tail\n"},
+     "a_OUT\n-- returns: ID, NAZEV\n-- begins: a save\n-- answer: may come later\n"
+     "-- after failure: staging refused\n\nselect 1;\n-- include: tail\n"},
     {"parts/tail.sql", "-- returns: SUM\nselect 2;\n"},
     {"procedures/LOST.sql", "-- include: nowhere\n"},
     {"procedures/ODD.sql", "-- in: a_ID money\n"},
@@ -27,7 +27,9 @@ TEST(SqlScript, TheHeaderDeclaresParametersAndResults) {
     EXPECT_EQ(script.Inputs[1].Kind, ParameterKind::Boolean);
     EXPECT_EQ(script.Inputs[2].Kind, ParameterKind::Text); // the kind that needs no word
     EXPECT_THAT(script.Outputs, ElementsAre("a_OUT"));
-    EXPECT_TRUE(script.FailureRefusesStaging);
+    EXPECT_TRUE(script.Save.FailureRefusesStaging);
+    EXPECT_TRUE(script.Save.AnswerMayComeLater);
+    EXPECT_TRUE(script.Save.Begins);
 }
 
 TEST(SqlScript, APartStandsWhereItIsIncludedWithWhatItReturns) {
@@ -53,6 +55,9 @@ TEST(SqlScript, AMisspeltDeclarationIsOurMistake) {
              "-- Does something.\n--\n-- After failure: staging refused\n\nselect 1;\n",
              "-- Does something.\n--\n-- after failure: staging is refused\n\nselect 1;\n",
              "-- Does something.\n--\n-- after failure:\n\nselect 1;\n",
+             "-- Does something.\n--\n-- answer: may come later.\n\nselect 1;\n",
+             "-- Does something.\n--\n-- answers: may come later\n\nselect 1;\n",
+             "-- Does something.\n--\n-- begins: the save\n\nselect 1;\n",
              "-- Does something.\n--\n-- in: a_ID integer\n-- return: ID\n\nselect 1;\n",
              "-- Does something.\n--\n--in: a_ID integer\n\nselect 1;\n",
              "-- Does something.\n-- in: a_ID integer\n\nselect 1;\n",

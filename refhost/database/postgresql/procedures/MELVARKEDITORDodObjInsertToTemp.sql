@@ -4,6 +4,7 @@
 -- Refusals: ML040, ML041 no save is under way; ML042, ML043 item; ML044 warehouse; ML045 supplier; ML001, ML005, ML006
 -- quantities; ML048 a quantity without a unit, ML047 a unit that is not the item's.
 --
+-- answer: may come later
 -- after failure: staging refused
 
 create function MELVARKEDITORDodObjInsertToTemp(

@@ -6,6 +6,7 @@
 -- line; ML001, ML005, ML006 numbers; ML111 discount; ML002 shelf life; ML052 a total that its quantity and unit price
 -- do not give.
 --
+-- answer: may come later
 -- after failure: staging refused
 
 create function MELVARKEDITORDodakInsertToTemp(

@@ -1,4 +1,7 @@
 -- Begins a save, for which it empties this session's rows and opens them for new ones. Refuses nothing.
+--
+-- begins: a save
+
 create function MELVARKEDITORResetTemp() returns void
 language plpgsql as $$
 begin

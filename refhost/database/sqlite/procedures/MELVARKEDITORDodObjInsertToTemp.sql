@@ -18,6 +18,7 @@
 -- in: a_JEDNOTKYV2
 -- in: a_POPIS
 -- in: a_KOMENTAR
+-- answer: may come later
 -- after failure: staging refused
 
 select refuse_closed_staging() as refusal;

@@ -28,6 +28,7 @@
 -- in: a_DPHB
 -- in: a_CENAS
 -- in: a_TRVANLIVOST
+-- answer: may come later
 -- after failure: staging refused
 
 select refuse_closed_staging() as refusal;

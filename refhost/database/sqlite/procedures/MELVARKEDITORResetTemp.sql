@@ -1,4 +1,6 @@
 -- Begins a save, for which it empties this session's rows and opens them for new ones. Refuses nothing.
+--
+-- begins: a save
 
 delete from NOTE_STAGED;
 delete from ORDER_STAGED;

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "host/Exceptions.h"
+#include "refhost/database/PostgreSQLSession.h"
+
+#include <deque>
+#include <optional>
+#include <span>
+#include <string>
+
+namespace refhost {
+
+/// The rows of a save on their way to the server: each is sent without waiting for the answers of those before it. All
+/// that are sent without a break are one transaction, which costs the server a fraction of one for each; it ends with
+/// finish(), when every answer is there. The server counts a session that waits inside it as idle in a transaction.
+///
+/// The first failure is kept, those after it are its consequences. It knows no save and no procedure, and never opens a
+/// lost link anew. While it is open the session may be used for nothing else: call finish() first.
+class PostgreSQLPipeline {
+public:
+    explicit PostgreSQLPipeline(PostgreSQLSession& session) : session_(session) {}
+
+    bool isOpen() const { return isOpen_; }
+
+    /// Sends one statement and takes the answers that have come meanwhile. Waits only while very many are missing, or
+    /// while the server takes nothing more. `row` is the row that a refusal of it is about. Throws EDatabaseError only
+    /// when the statement cannot be prepared: then it was not sent.
+    void send(const std::string& sql, std::span<const TDbValue> parameters, int row);
+
+    /// Waits for all answers and ends the transaction: what was sent has lasted, or, after a failure, nothing of it.
+    void finish();
+
+    /// The first failure of which an answer has told, about its row when the row is at fault.
+    const std::optional<EDatabaseError>& failure() const { return failure_; }
+    /// Forgets it.
+    void forgetFailure() { failure_.reset(); }
+
+private:
+    /// A statement without its answer; those that begin and end the transaction have no row.
+    struct Sent {
+        std::string Statement;
+        std::optional<int> Row;
+    };
+
+    void open();
+    void sendControl(const char* statement);
+    /// Ends the statement, so that the server answers it whatever becomes of the next ones, and hands it over.
+    void sent(bool accepted, Sent statement);
+    void handOver();
+    void takeArrived();
+    void takeAnswer();
+    void keep(const EDatabaseError& error, const Sent& statement);
+    void keepLostLink(const Sent& statement);
+
+    PostgreSQLSession& session_;
+    bool isOpen_ = false;
+    std::deque<Sent> unanswered_;
+    std::optional<EDatabaseError> failure_;
+};
+
+} // namespace refhost

@@ -1,0 +1,129 @@
+#include "tests/database/LongLink.h"
+
+#include <cstring>
+#include <poll.h>
+#include <stdexcept>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+#include <vector>
+
+namespace refhost {
+
+namespace {
+
+constexpr const char* c_SocketName = ".s.PGSQL.5432";
+/// Much longer than a client that does not wait needs between two calls.
+constexpr int c_Silence = 20;
+
+std::filesystem::path newFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "melvark-link-XXXXXX").string();
+    if (mkdtemp(pattern.data()) == nullptr) {
+        throw std::runtime_error("no temporary folder could be made");
+    }
+    return pattern;
+}
+
+sockaddr_un addressOf(const std::filesystem::path& path) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::strncpy(address.sun_path, path.c_str(), sizeof(address.sun_path) - 1);
+    return address;
+}
+
+int newSocket() {
+    return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+}
+
+int listenAt(const std::filesystem::path& path) {
+    const sockaddr_un address = addressOf(path);
+    const int socket = newSocket();
+    if (bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0 || listen(socket, 1) != 0) {
+        throw std::runtime_error("cannot listen at " + path.string());
+    }
+    return socket;
+}
+
+bool isReadable(const pollfd& side) {
+    return (side.revents & (POLLIN | POLLHUP | POLLERR)) != 0;
+}
+
+/// Appends what has come; false at the end of the link.
+bool take(int socket, std::vector<char>& bytes) {
+    std::vector<char> portion(1U << 16U);
+    const ssize_t count = read(socket, portion.data(), portion.size());
+    bytes.insert(bytes.end(), portion.begin(), portion.begin() + std::max<ssize_t>(count, 0));
+    return count > 0;
+}
+
+bool hand(int socket, std::vector<char>& bytes) {
+    for (std::size_t done = 0; done < bytes.size();) {
+        const ssize_t count = send(socket, bytes.data() + done, bytes.size() - done, MSG_NOSIGNAL);
+        if (count <= 0) {
+            return false;
+        }
+        done += static_cast<std::size_t>(count);
+    }
+    bytes.clear();
+    return true;
+}
+
+} // namespace
+
+LongLink::LongLink(const std::filesystem::path& serverFolder)
+    : folder_(newFolder()),
+      listening_(listenAt(folder_ / c_SocketName)),
+      thread_([this, socket = serverFolder / c_SocketName] { serve(socket); }) {}
+
+LongLink::~LongLink() {
+    isEnding_ = true;
+    thread_.join();
+    close(listening_);
+    std::error_code ignored; // the system cleans its temporary folder too
+    std::filesystem::remove_all(folder_, ignored);
+}
+
+void LongLink::serve(const std::filesystem::path& serverSocket) {
+    while (!isEnding_) {
+        pollfd waiting{listening_, POLLIN, 0};
+        if (poll(&waiting, 1, c_Silence) <= 0) {
+            continue;
+        }
+        const int client = accept(listening_, nullptr, nullptr);
+        const int server = newSocket();
+        const sockaddr_un address = addressOf(serverSocket);
+        if (connect(server, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) == 0) {
+            carry(client, server);
+        }
+        close(server);
+        close(client);
+    }
+}
+
+void LongLink::carry(int client, int server) {
+    std::vector<char> asked;
+    std::vector<char> answered;
+    while (!isEnding_) {
+        pollfd sides[] = {{client, POLLIN, 0}, {server, POLLIN, 0}};
+        poll(sides, 2, c_Silence);
+        if (isReadable(sides[1]) && !take(server, answered)) {
+            return;
+        }
+        if (isReadable(sides[0])) {
+            if (!take(client, asked) || !hand(server, asked)) {
+                return;
+            }
+            continue;
+        }
+        // The server may still be at work on what the client sent last: it is the client that has to be silent.
+        pollfd asking{client, POLLIN, 0};
+        if (!answered.empty() && poll(&asking, 1, c_Silence) == 0) {
+            ++turns_;
+            if (!hand(client, answered)) {
+                return;
+            }
+        }
+    }
+}
+
+} // namespace refhost
