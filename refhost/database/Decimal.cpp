@@ -67,13 +67,15 @@ void readDigits(std::string_view digits, LongInteger& number) {
     }
 }
 
+/// In portions that the processor divides by itself.
 std::string digitsOf(ShortInteger number) {
-    std::string digits;
-    do {
-        digits += static_cast<char>('0' + static_cast<int>(number % 10));
-        number /= 10;
-    } while (number != 0);
-    std::ranges::reverse(digits);
+    constexpr std::size_t c_Portion = 18;
+    constexpr ShortInteger c_PortionPower = 1'000'000'000'000'000'000;
+    std::string digits = std::to_string(static_cast<std::uint64_t>(number % c_PortionPower));
+    for (number /= c_PortionPower; number != 0; number /= c_PortionPower) {
+        digits.insert(0, (c_Portion - digits.size() % c_Portion) % c_Portion, '0');
+        digits.insert(0, std::to_string(static_cast<std::uint64_t>(number % c_PortionPower)));
+    }
     return digits;
 }
 

@@ -107,5 +107,5 @@ from NOTE_PAIR
 join SKLADPOL i on i.ID = SKLPID
 where MNOZSTVI <> '0'
   and dec_cmp(dec_abs(dec_sub(dec_mul(MNOZSTVI, JEDNCENA), CENA)),
-              dec_add('0.02', dec_mul(dec_abs(MNOZSTVI), '0.000002'))) > 0
+              (select dec_add('0.02', dec_mul(dec_abs(MNOZSTVI), '0.000002')) from NOTE_LAST)) > 0
 order by ORDINAL;
