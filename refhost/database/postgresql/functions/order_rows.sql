@@ -1,8 +1,9 @@
--- The rows with which the editor of orders and templates opens.
-
--- The rows in the order of the array: the quantity stands in the column of its unit.
+-- The rows with which the editor of orders and templates opens, in the order of the array: the quantity stands in the
+-- column of its unit. Planned for each array: how long it is decides how the rest is best found.
 create function order_rows(fills order_fill[]) returns setof order_row
-language sql stable as $$
+language plpgsql stable set search_path = melvark, pg_temp set plan_cache_mode = force_custom_plan as $$
+begin
+    return query
     select i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, s.NAZEV, v.JMENO,
            case f.UNITID when i.SKPLIDHL then number_text(f.MNOZSTVI) end, i.JEDNOTKYHL, i.SKPLIDHL,
            case f.UNITID when i.SKPLIDV1 then number_text(f.MNOZSTVI) end, i.JEDNOTKYV1, i.SKPLIDV1,
@@ -12,5 +13,6 @@ language sql stable as $$
     join ITEM_V i on i.SKLPID = f.ITEMID
     join SKLAD s on s.ID = f.SKLDID
     left join DODAVATEL v on v.ID = f.DODVID
-    order by f.LINE
+    order by f.LINE;
+end
 $$;

@@ -68,17 +68,15 @@ begin
     join DODAK d on d.ID = a_DODKID
     order by s.PLACE;
 
-    update DODOBJPOL p
-    set DODANO = p.DODANO + s.MNOZSTVI
-    from (select DOBSID, sum(NUMBERS[1]) as MNOZSTVI from pg_temp.NOTE_STAGED group by DOBSID) s
-    where p.ID = s.DOBSID;
-
     -- An order of a negative quantity is one to take goods back: it is complete when that much went back.
     update DODOBJPOL p
-    set KOMPLETNI = 1
-    from SKPL j
-    where j.ID = p.SKPLID and p.ID in (select DOBSID from pg_temp.NOTE_STAGED)
-      and sign(p.DODANO - in_main_unit(p.MNOZSTVI, j.FAKTOR)) * sign(p.MNOZSTVI) >= 0;
+    set DODANO = p.DODANO + s.MNOZSTVI,
+        KOMPLETNI = case
+            when sign(p.DODANO + s.MNOZSTVI - in_main_unit(p.MNOZSTVI, j.FAKTOR)) * sign(p.MNOZSTVI) >= 0 then 1
+            else p.KOMPLETNI
+        end
+    from (select DOBSID, sum(NUMBERS[1]) as MNOZSTVI from pg_temp.NOTE_STAGED group by DOBSID) s, SKPL j
+    where p.ID = s.DOBSID and j.ID = p.SKPLID;
 
     insert into DODAKZDROJ (DODKID, DODKIDZDROJ, DDOBIDZDROJ)
     select a_DODKID, s.DODKID, s.DDOBID

@@ -55,16 +55,13 @@ from NOTE_LINE l
 join DODAK d on d.ID = :a_DODKID
 order by l.PLACE;
 
-update DODOBJPOL
-set DODANO = dec_add(DODANO, (select dec_sum(MNOZSTVI) from NOTE_LINE where DOBSID = DODOBJPOL.ID))
-where ID in (select DOBSID from NOTE_LINE);
-
 -- An order of a negative quantity is one to take goods back: it is complete when that much went back.
-update DODOBJPOL
-set KOMPLETNI = 1
-where ID in (select DOBSID from NOTE_LINE)
-  and dec_cmp(DODANO, in_main_unit(MNOZSTVI, (select j.FAKTOR from SKPL j where j.ID = DODOBJPOL.SKPLID)))
-      * dec_cmp(MNOZSTVI, 0) >= 0;
+update DODOBJPOL as p
+set DODANO = dec_add(p.DODANO, s.MNOZSTVI),
+    KOMPLETNI = iif(dec_cmp(dec_add(p.DODANO, s.MNOZSTVI), in_main_unit(p.MNOZSTVI, j.FAKTOR)) * dec_cmp(p.MNOZSTVI, 0)
+                    >= 0, 1, p.KOMPLETNI)
+from (select DOBSID, dec_sum(MNOZSTVI) as MNOZSTVI from NOTE_LINE group by DOBSID) s, SKPL j
+where p.ID = s.DOBSID and j.ID = p.SKPLID;
 
 insert into DODAKZDROJ (DODKID, DODKIDZDROJ, DDOBIDZDROJ)
 select :a_DODKID, s.DODKID, s.DDOBID
