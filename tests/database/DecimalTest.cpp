@@ -52,6 +52,15 @@ TEST(Decimal, SumsDifferencesAndProductsAreExact) {
     EXPECT_EQ(compareDecimals("99999999999999999999999999999999999999999", "0.1"), 1);
 }
 
+TEST(Decimal, NoZeroIsLostInALongNumber) {
+    for (const std::size_t zeros : {16U, 17U, 18U, 19U, 20U, 33U, 34U}) {
+        const std::string number = "1" + std::string(zeros, '0');
+        EXPECT_EQ(canonicalDecimal(number), number);
+        EXPECT_EQ(canonicalDecimal("-" + number + "7"), "-" + number + "7");
+    }
+    EXPECT_EQ(canonicalDecimal("20000000000000000030000000000000000"), "20000000000000000030000000000000000");
+}
+
 TEST(Decimal, RoundingGoesHalfAwayFromZero) {
     struct Row {
         const char* Text;
