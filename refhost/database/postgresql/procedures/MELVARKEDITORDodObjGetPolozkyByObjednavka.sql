@@ -28,25 +28,24 @@ begin
         limit 3
     ),
     TEMPLATE as (
-        select p.ID,
+        select p as LINE,
                row_number() over (partition by p.SKLPID order by l.OBJEDNANIDC desc, l.ID desc, p.PORADI desc) as AGE,
                row_number() over (order by l.OBJEDNANIDC desc, l.ID desc, p.PORADI) as PLACE
         from LATEST l
         join DODOBJPOL p on p.DDOBID = l.ID
     ),
     SOURCE as (
-        select ID, PORADI as PLACE from DODOBJPOL where DDOBID = a_DDOBID
+        select p.*, p.PORADI as PLACE from DODOBJPOL p where p.DDOBID = a_DDOBID
         union all
-        select ID, PLACE from TEMPLATE where AGE = 1
+        select (t.LINE).*, t.PLACE from TEMPLATE t where t.AGE = 1
     )
     select r.*
     from order_rows(array(
         select row(p.SKLPID, p.SKLDID, coalesce(p.DODVID, o.DODVID, master.DODVID), p.SKPLID, p.MNOZSTVI, p.POPIS,
                    p.KOMENTAR)::order_fill
-        from SOURCE s
-        join DODOBJPOL p on p.ID = s.ID
+        from SOURCE p
         join DODOBJEDNAVKA o on o.ID = p.DDOBID
         join DODOBJEDNAVKA master on master.ID = a_DDOBIDMASTER
-        order by s.PLACE)) r;
+        order by p.PLACE)) r;
 end
 $$;

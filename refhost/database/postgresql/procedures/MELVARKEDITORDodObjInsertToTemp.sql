@@ -26,7 +26,9 @@ returns void
 language plpgsql as $$
 declare
     unit_ids constant text[] := array[typed_id(a_SKPLID), typed_id(a_SKPLIDV1), typed_id(a_SKPLIDV2)];
+    unit_names constant text[] := array[typed(a_JEDNOTKY), typed(a_JEDNOTKYV1), typed(a_JEDNOTKYV2)];
     quantities numeric[];
+    fitting_units integer;
     item integer;
     warehouse integer;
     supplier integer;
@@ -55,8 +57,16 @@ begin
     quantities := array[parse_number(typed(a_MNOZSTVI), 'Množství', 6),
                         parse_number(typed(a_MNOZSTVIV1), 'Množství ve vedlejší jednotce 1', 6),
                         parse_number(typed(a_MNOZSTVIV2), 'Množství ve vedlejší jednotce 2', 6)];
-    perform refuse_wrong_unit(item, typed(a_SKLADPOL), quantities, unit_ids,
-                              array[typed(a_JEDNOTKY), typed(a_JEDNOTKYV1), typed(a_JEDNOTKYV2)]);
+    -- Mostly each slot that has something names a unit of the item in full; only the others need the closer look.
+    select count(*) into fitting_units
+    from SKPL u
+    where u.SKLPID = item and (u.ID::text, u.NAZEV) in ((unit_ids[1], unit_names[1]), (unit_ids[2], unit_names[2]),
+                                                        (unit_ids[3], unit_names[3]));
+    if fitting_units <> num_nonnulls(coalesce(unit_ids[1], unit_names[1], quantities[1]::text),
+                                     coalesce(unit_ids[2], unit_names[2], quantities[2]::text),
+                                     coalesce(unit_ids[3], unit_names[3], quantities[3]::text)) then
+        perform refuse_wrong_unit(item, typed(a_SKLADPOL), quantities, unit_ids, unit_names);
+    end if;
 
     insert into pg_temp.ORDER_STAGED (SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)
     select item, as_integer(q.UNIT_ID), warehouse, supplier, q.QUANTITY, typed(a_POPIS), typed(a_KOMENTAR)

@@ -31,29 +31,28 @@ begin
         limit 3
     ),
     TEMPLATE as (
-        select p.ID,
+        select p as LINE,
                row_number() over (partition by p.SKLPID order by l.DATUM desc, l.ID desc, p.PORADI desc) as AGE,
                row_number() over (order by l.DATUM desc, l.ID desc, p.PORADI) as PLACE
         from LATEST l
         join DODAKPOL p on p.DODKID = l.ID
     ),
     SOURCE as (
-        select ID, PORADI as PLACE from DODAKPOL where DODKID = a_DODKIDMASTER
+        select p.*, p.PORADI as PLACE from DODAKPOL p where p.DODKID = a_DODKIDMASTER
         union all
-        select ID, PLACE from TEMPLATE where AGE = 1
+        select (t.LINE).*, t.PLACE from TEMPLATE t where t.AGE = 1
     )
     select r.*
     from note_rows(a_DODKID, array(
         select row(null, p.SKLPID, p.SKLDID, case when a_PRENESCENY then p.DPHID else i.DPHID end,
                    case when a_PRENESMNOZSTVI then p.MNOZSTVI end, case when a_PRENESCENY then p.ID end, c.CENA,
                    case when a_PRENESCENY then p.SLEVA else c.SLEVA end)::note_fill
-        from SOURCE s
-        join DODAKPOL p on p.ID = s.ID
+        from SOURCE p
         join SKLADPOL i on i.ID = p.SKLPID
         join DODAK d on d.ID = a_DODKID
         left join PRICE_V c
             on a_PRENESCENY is not true and c.DODVID = d.DODVID and c.SKLPID = p.SKLPID
            and d.DATUM between c.FIRSTDAY and c.LASTDAY
-        order by s.PLACE)) r;
+        order by p.PLACE)) r;
 end
 $$;
