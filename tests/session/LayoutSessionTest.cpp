@@ -174,9 +174,10 @@ void shape(HostSession& session) {
     session.drag(header(550), header(345));
     session.drag(header(479), header(439)); // the right edge of the item, which begins at 378 now
     const QStringList hide = {QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")};
-    session.pickFromMenu(header(70), c_Right, hide);
+    // Each at another place of the same header: a second click at once would be taken for a double one.
+    session.pickFromMenu(header(40), c_Right, hide);
     session.pickFromMenu(header(70), c_Right, hide); // the second group has come to its place
-    session.pickFromMenu(header(70), c_Right,
+    session.pickFromMenu(header(100), c_Right,
                          {QStringLiteral("Up"), QStringLiteral("Right"), QStringLiteral("Down"),
                           QStringLiteral("Return")}); // and is shown again
     session.pickFromMenu(
