@@ -54,11 +54,30 @@ bool IsSameFile(const struct stat& left, const struct stat& right) {
     return left.st_dev == right.st_dev && left.st_ino == right.st_ino;
 }
 
-void MakeDirectory(const std::filesystem::path& path) {
-    if (path.has_parent_path() && !std::filesystem::exists(path.parent_path())) {
-        MakeDirectory(path.parent_path());
+void SyncDirectory(const Descriptor& directory) {
+    if (Retried([&] { return fsync(directory.Number()); }) != 0 && errno != EINVAL) { // some file systems have no need
+        Refused();
     }
-    if (mkdir(path.c_str(), c_OwnersDirectory) != 0 && errno != EEXIST) {
+}
+
+/// Has the directory's names on the disk. One that may be written but not listed cannot be synced.
+void SyncNames(const std::filesystem::path& path) {
+    const Descriptor directory(Retried([&] { return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+    if (directory.IsOpen()) {
+        SyncDirectory(directory);
+    } else if (errno != EACCES) {
+        Refused();
+    }
+}
+
+void MakeDirectory(const std::filesystem::path& path) {
+    const std::filesystem::path parent = path.has_parent_path() ? path.parent_path() : ".";
+    if (!std::filesystem::exists(parent)) {
+        MakeDirectory(parent);
+    }
+    if (mkdir(path.c_str(), c_OwnersDirectory) == 0) {
+        SyncNames(parent); // a file in a directory that a power failure takes away is lost, synced or not
+    } else if (errno != EEXIST) {
         Refused();
     }
 }
@@ -145,9 +164,7 @@ bool PrivateDirectory::Remove(const AnsiString& name) const noexcept {
 }
 
 void PrivateDirectory::Sync() const {
-    if (Retried([&] { return fsync(FDirectory.Number()); }) != 0 && errno != EINVAL) { // some file systems have no need
-        Refused();
-    }
+    SyncDirectory(FDirectory);
 }
 
 void SyncFile(const Descriptor& file) {
