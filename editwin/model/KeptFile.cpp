@@ -96,7 +96,8 @@ void KeptFile::Remove() noexcept {
         return;
     }
     try {
-        for (const AnsiString* name : {&FName, &FCopyName, &FNewName}) {
+        // The copy goes first: alone, it would be offered in place of the newer content.
+        for (const AnsiString* name : {&FCopyName, &FName, &FNewName}) {
             RemoveOwn(*name);
         }
         // Work that was saved must not come back after a power failure.

@@ -109,4 +109,20 @@ TEST_F(KilledWrite, SetAsideLeavesTheContentUnderOneOfItsNames) {
     }
 }
 
+TEST_F(KilledWrite, RemovedNeverLeavesTheOlderCopyAlone) {
+    bool isDone = false;
+    for (int stop = 1; !isDone; ++stop) {
+        std::filesystem::remove_all(directory());
+        leave("", "newer");
+        leave(".kept", "older");
+        isDone = runAndKillAt(stop, [&] {
+            KeptFile file(path());
+            file.HasContent();
+            file.Remove();
+        });
+        const AnsiString found = restoredNext();
+        EXPECT_TRUE(found == "nothing" || (!isDone && found == "newer")) << "stop " << stop << ": " << found;
+    }
+}
+
 } // namespace
