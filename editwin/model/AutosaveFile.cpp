@@ -8,6 +8,8 @@
 #include <charconv>
 #include <istream>
 #include <ostream>
+#include <utility>
+#include <vector>
 
 namespace melvark {
 
@@ -75,7 +77,11 @@ std::optional<std::vector<int>> ReadColumns(LineReader& reader, std::span<const 
 }
 
 /// False when a line is missing or is no cell's.
+///
+/// The store makes a column as long as the claimed rows at its first cell. So it gets none before the lines of the
+/// whole column are there, and none for an empty cell: what only claims a million rows takes no memory.
 bool ReadCells(LineReader& reader, std::span<const int> columns, int rowCount, TDataGrid& lines) {
+    std::vector<std::pair<int, AnsiString>> cells;
     for (const int column : columns) {
         for (int row = 0; row < rowCount; ++row) {
             const auto line = reader.Next();
@@ -83,11 +89,14 @@ bool ReadCells(LineReader& reader, std::span<const int> columns, int rowCount, T
             if (!cell) {
                 return false;
             }
-            // An empty cell needs none in the store: what claims a million empty rows takes no memory.
             if (!cell->empty()) {
-                lines.SetCells(column, row, std::move(*cell));
+                cells.emplace_back(row, std::move(*cell));
             }
         }
+        for (auto& [row, text] : cells) {
+            lines.SetCells(column, row, std::move(text));
+        }
+        cells.clear();
     }
     return reader.IsAtEnd();
 }

@@ -5,6 +5,9 @@
 
 #include <gmock/gmock.h>
 #include <sstream>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -173,6 +176,36 @@ TEST_F(AutosaveFile, EmptyRowsWithoutEndAreRefusedBehindTheClaimedCount) {
     std::istream in(&bytes);
     EXPECT_FALSE(ReadAutosave(in, c_Keys));
     EXPECT_LE(bytes.taken, 4 << 20);
+}
+
+/// By how much reading the text raises the most memory that a process of its own ever held, in kilobytes.
+long memoryToRead(const AnsiString& text) {
+    int result[2];
+    EXPECT_EQ(pipe(result), 0);
+    const pid_t process = fork();
+    if (process == 0) {
+        const auto most = [] {
+            rusage usage{};
+            getrusage(RUSAGE_SELF, &usage);
+            return usage.ru_maxrss;
+        };
+        const long before = most();
+        read(text);
+        const long grown = most() - before;
+        _exit(::write(result[1], &grown, sizeof(grown)) == sizeof(grown) ? 0 : 1);
+    }
+    long grown = -1;
+    EXPECT_EQ(::read(result[0], &grown, sizeof(grown)), sizeof(grown));
+    EXPECT_EQ(waitpid(process, nullptr, 0), process);
+    close(result[0]);
+    close(result[1]);
+    return grown;
+}
+
+TEST_F(AutosaveFile, AShortFileThatClaimsAMillionRowsTakesLittleMemory) {
+    const long grown = memoryToRead("7\n1000000\n" KEYS "a\nb\n");
+    EXPECT_GE(grown, 0);
+    EXPECT_LT(grown, 8 * 1024);
 }
 
 TEST_F(AutosaveFile, ACellThatCouldNotBeReadAgainIsNotWritten) {
