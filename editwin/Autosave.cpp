@@ -12,6 +12,7 @@ namespace melvark {
 Autosave::Autosave(QObject& form, std::function<void()> tick) : FTimer(new QTimer(&form)) {
     FTimer->setObjectName(QStringLiteral("AutosaveTimer"));
     FTimer->setInterval(std::chrono::minutes(1));
+    FTimer->setTimerType(Qt::PreciseTimer); // others may be three seconds late
     ConnectGuarded(FTimer, &QTimer::timeout, FTimer, std::move(tick));
 }
 

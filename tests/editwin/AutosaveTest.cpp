@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 #include <ostream>
+#include <utility>
 
 using testing::ElementsAre;
 
@@ -28,6 +29,7 @@ TEST_F(Autosave, TheTimerWaitsForTheFirstLayingOutOfTheGrid) {
     make();
     EXPECT_FALSE(timer().isActive());
     EXPECT_EQ(timer().interval(), 60000);
+    EXPECT_EQ(timer().timerType(), Qt::PreciseTimer);
     form->ApplyColumnsSettingsToGrid();
     EXPECT_TRUE(timer().isActive());
 }
@@ -76,6 +78,19 @@ TEST_F(Autosave, TheFileIsNamedByUserEditorAndSourceInADirectoryOfTheDatabase) {
     make();
     EXPECT_EQ(std::filesystem::path(form->TempFileName()).filename(), file.filename());
     EXPECT_NE(std::filesystem::path(form->TempFileName()).parent_path(), directory);
+}
+
+TEST_F(Autosave, TheFileStaysInItsDirectoryWhateverTheUserIsCalled) {
+    make();
+    const std::filesystem::path directory = std::filesystem::path(form->TempFileName()).parent_path();
+    const std::pair<AnsiString, AnsiString> users[] = {
+        {"../x", "..%2Fx"}, {"/etc/x", "%2Fetc%2Fx"}, {"..", ".."}, {"novak/../../x", "novak%2F..%2F..%2Fx"}};
+    for (const auto& [user, part] : users) {
+        const TEditBox editor(nullptr, &manager, 30, "ZKOUSKA", 2, "SABLONA", user, testColumns(log));
+        const std::filesystem::path file = editor.TempFileName();
+        EXPECT_EQ(file.parent_path(), directory) << user;
+        EXPECT_EQ(file.filename(), "melvarkeditor_" + part + "_ZKOUSKA_SABLONA.dat");
+    }
 }
 
 TEST_F(Autosave, LayingOutSetsTheFileAsideAndClosingRemovesIt) {
