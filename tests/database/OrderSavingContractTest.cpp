@@ -226,6 +226,30 @@ TEST_P(OrderSavingContract, ANumberThatSomebodyGaveOutElsewhereIsPassedOverForTh
     }
 }
 
+TEST_P(OrderSavingContract, AnIdThatSomebodyChoseElsewhereIsPassedOverForTheNextOne) {
+    struct {
+        const char* chosen;
+        const char* given;
+    } const cases[] = {
+        {"11", "12 | OV2026-000012\n13 | OV2026-000013"}, // the very next one
+        {"12", "13 | OV2026-000013\n14 | OV2026-000014"}, // one of those that the save needs
+        {"40", "41 | OV2026-000041\n42 | OV2026-000042"},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.chosen);
+        const auto database = ownCompany();
+        database->runScript(std::string("insert into DODOBJEDNAVKA (ID, VZOR, CISLO, OBJEDNANIDC, SKLDID) values (") +
+                            row.chosen + ", 0, 'RUČNÍ', '2026-04-11 10:00:00', 1)");
+        beginSave(*database);
+        EXPECT_EQ(stageOrderRow(*database, flour("2", "Čajovna Říp")), "");
+        EXPECT_EQ(stageOrderRow(*database, flour("3", "Nápoje Švec")), "");
+        EXPECT_EQ(saveOrder(*database, id(c_OrderOfBranch)), "");
+        EXPECT_EQ(rows(*database, std::string("select _ID, CISLO from SCREEN_DODOBJ_V where _ID > 10 and _ID <> ") +
+                                      row.chosen + " order by _ID"),
+                  row.given);
+    }
+}
+
 TEST_P(OrderSavingContract, ATemplatesNumberIsNotAnOrders) {
     const auto database = ownCompany();
     database->runScript("update DODOBJEDNAVKA set CISLO = 'OV2026-000011' where ID = " + std::to_string(c_Template));

@@ -65,6 +65,24 @@ TEST_P(SupplierChecksContract, NamesThatDifferInCaseOnlyAreTwo) {
     EXPECT_EQ(listOf(*database, id(c_Order), text("mlýn lípa"), id(4)), "4");
 }
 
+// The dialog of an order's own supplier offers no list and no other text: the name has to be enough.
+TEST_P(SupplierChecksContract, OfNamesThatDifferInCaseOnlyTheOneWrittenJustSoIsMeant) {
+    const auto database = ownCompany();
+    database->runScript("insert into DODAVATEL (ID, JMENO) values (4, 'MLÝN LÍPA'), (5, 'mlýn lípa')");
+    EXPECT_EQ(deliveriesOf(*database, id(c_Order), text("MLÝN LÍPA"), c_None), // never somebody else's in their place
+              "ML029 Dodavatel „MLÝN LÍPA“ v posledních měsících nic nedodal. Vyberte jiného dodavatele.");
+
+    database->runScript("update DODAK set DODVID = 4 where ID = 7;"
+                        "insert into DODCENIK (DODVID, SKLPID, PLATIOD, CENA) values (4, 1, '2020-01-01', '1')");
+    for (const auto& check : {deliveriesOf, listOf}) {
+        EXPECT_EQ(check(*database, id(c_Order), text("Mlýn Lípa"), c_None), "1");
+        EXPECT_EQ(check(*database, id(c_Order), text(" MLÝN LÍPA "), c_None), "4");
+        EXPECT_EQ(check(*database, id(c_Order), text("Mlýn LÍPA"), c_None),
+                  "ML023 Označení „Mlýn LÍPA“ má více záznamů. Vyberte ten správný ze seznamu.");
+        EXPECT_EQ(check(*database, id(c_Order), text("MLÝN LÍPA"), id(c_Mill)), "1"); // the pick decides
+    }
+}
+
 TEST_P(SupplierChecksContract, APriceListCountsOnTheDayOfTheOrder) {
     const auto database = ownCompany();
     EXPECT_EQ(listOf(*database, id(c_Order), text("Čajovna Říp"), c_None),

@@ -1,16 +1,20 @@
 -- A source that the clerk names while his choice is checked.
 
 -- The identifier of the one admissible candidate, or a refusal: ML020 nothing is given, ML021 no such record, ML022 the
--- text is not that of the picked record, ML023 several would do, else the record's own fault. `entry` is the clerk's text,
--- null for none; `picked` the record that he picked, null for none; `day` the day whose price lists count, where they do.
+-- text is not that of the picked record, ML023 several would do, else the record's own fault. Of records that differ in the
+-- case of letters only, those written just as the clerk wrote are meant. `entry` is his text, null for none; `picked` the
+-- record that he picked, null for none; `day` the day whose price lists count, where they do.
 create function source_choice(kind text, entry text, picked integer, day date, candidates source_candidate[])
 returns integer
 language plpgsql stable as $$
 declare
+    verbatim constant source_candidate[] := array(
+        select c from unnest(candidates) c where c.LABEL = entry collate "C");
+    meant constant source_candidate[] := case cardinality(verbatim) when 0 then candidates else verbatim end;
+    admissible constant integer[] := array(select c.ID from unnest(meant) c where c.FAULT is null);
     first source_candidate;
-    admissible constant integer[] := array(select c.ID from unnest(candidates) c where c.FAULT is null);
 begin
-    select c.* into first from unnest(candidates) c order by c.ID limit 1;
+    select c.* into first from unnest(meant) c order by c.ID limit 1;
     if picked is null and entry is null then
         perform refuse('ML020');
     elsif first.ID is null then

@@ -47,7 +47,7 @@ begin
     where o.VZOR = 1 or s.DODVID is null or s.DODVID = o.DODVID;
 
     insert into pg_temp.ORDER_TARGET (DODVID, DDOBID)
-    select other.DODVID, nextval(pg_get_serial_sequence('melvark.dodobjednavka', 'id'))
+    select other.DODVID, next_order_id()
     from (select s.DODVID
           from pg_temp.ORDER_STAGED s
           where s.DODVID is not null

@@ -1,7 +1,12 @@
 -- Gives the one admissible record of SOURCE_CANDIDATE that SOURCE_SOUGHT names, or refuses: ML020 nothing is given, ML021
--- no such record, ML022 the text is not that of the picked record, ML023 several would do, else the record's own fault.
+-- no such record, ML022 the text is not that of the picked record, ML023 several would do, else the record's own fault. Of
+-- records that differ in the case of letters only, those written just as the clerk wrote are meant.
 --
 -- returns: ID
+
+delete from SOURCE_CANDIDATE
+where LABEL <> (select TYPED from SOURCE_SOUGHT)
+  and exists (select 1 from SOURCE_CANDIDATE c join SOURCE_SOUGHT s on c.LABEL = s.TYPED);
 
 select refuse('ML020') as refusal
 from SOURCE_SOUGHT
