@@ -120,7 +120,8 @@ AnsiString TSelectForm::EditorText(const char* key, const char* fallback) {
 
 TSelectLine* TSelectForm::LineOf(const TObject* sender) {
     const int tag = sender ? sender->property(c_TagProperty).toInt() : 0;
-    return tag > 0 ? &FLines.at(static_cast<std::size_t>(tag) - 1) : nullptr;
+    const auto at = static_cast<std::size_t>(tag) - 1;
+    return tag > 0 && at < FLines.size() ? &FLines[at] : nullptr;
 }
 
 void TSelectForm::Run(const std::function<void()>& operation) {

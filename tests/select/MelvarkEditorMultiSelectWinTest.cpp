@@ -1,11 +1,13 @@
 #include "select/MelvarkEditorMultiSelectWin.h"
 
+#include "tests/select/AskedScale.h"
 #include "tests/support/DodObjScripts.h"
 
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -18,6 +20,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 constexpr const char* c_AllLevels = "MELVARKEDITORDodObjCheckSkupSkladPol(";
 
@@ -170,6 +173,22 @@ TEST_F(MultiSelectBox, APickedKeyThatIsNoNumberLeavesNoId) {
     });
 }
 
+TEST_F(MultiSelectBox, APickedGroupThatTheDatabaseAnswersWithANullStaysPicked) {
+    host.connection.procedure("MELVARKEDITORDodObjCheckSkupSkladPol2").answers([](const TProcedureCall&) {
+        return TCallResult{true, {TResultTable{{"ID"}, {{TDbValue()}}}}, {}};
+    });
+    manager.lookupAnswers = {TLookupPick{"Sypké", "12"}};
+    EXPECT_EQ(showAnd([&] {
+                  QTest::keyClick(edit(2), Qt::Key_F5);
+                  clickOk();
+              }),
+              c_ResultOk);
+    EXPECT_THAT(ids(), ElementsAre(-1, 12, -1));
+    EXPECT_THAT(host.connection.callsOf(c_AllLevels),
+                ElementsAre("MELVARKEDITORDodObjCheckSkupSkladPol(a_DDOBIDMASTER=7, a_SSP1ID=null, a_SSP2ID=12, "
+                            "a_SSP3ID=null)"));
+}
+
 TEST_F(MultiSelectBox, TheFocusStaysOnTheLineWhoseCheckFailed) {
     for (int level = 1; level <= 3; ++level) {
         SCOPED_TRACE(level);
@@ -277,7 +296,26 @@ TEST_F(MultiSelectBox, AnotherSenderThanALineOfItsOwnChangesNothing) {
     box.editSelectChange(&box);
     box.editSelectChange(nullptr);
     box.SelectSpeedButtonClick(nullptr);
+    QLineEdit stranger;
+    for (const int tag : {-1, 0, 4}) { // no line's
+        stranger.setProperty("Tag", tag);
+        box.editSelectChange(&stranger);
+        box.SelectSpeedButtonClick(&stranger);
+    }
     EXPECT_THAT(ids(), ElementsAre(1, -1, -1));
+    EXPECT_THAT(manager.lookups(), SizeIs(1));
+}
+
+TEST_F(MultiSelectBox, ItStandsInTheMiddleOfTheScreenInBoldLetters) {
+    box.move(3, 4);
+    showAnd([&] {
+        const QRect screen = box.screen()->geometry();
+        EXPECT_EQ(box.geometry().topLeft(),
+                  screen.topLeft() + QPoint((screen.width() - box.width()) / 2, (screen.height() - 170) / 2));
+        for (const QWidget* const one : box.findChildren<QWidget*>()) {
+            EXPECT_TRUE(one->font().bold()) << one->objectName().toStdString();
+        }
+    });
 }
 
 TEST_F(MultiSelectBox, ImagesAreLoadedWhenItIsShown) {
@@ -293,6 +331,7 @@ TEST_F(MultiSelectBox, ImagesAreLoadedWhenItIsShown) {
 
 TEST_F(MultiSelectBox, ItsLinesStandBelowOneAnotherInAFixedHeightAndGrowInWidth) {
     showAnd([&] {
+        ASSERT_EQ(box.devicePixelRatioF(), askedScale());
         EXPECT_EQ(box.minimumWidth(), 400);
         EXPECT_EQ(box.minimumHeight(), 170);
         EXPECT_EQ(box.maximumHeight(), 170);
@@ -316,6 +355,7 @@ TEST_F(MultiSelectBox, ItsLinesStandBelowOneAnotherInAFixedHeightAndGrowInWidth)
 // Runs at 100 % and, as a test of its own, at 200 %.
 TEST_F(MultiSelectBox, EveryControlHasTheRoomThatItsTextNeedsAndNoneLiesOverAnother) {
     showAnd([&] {
+        ASSERT_EQ(box.devicePixelRatioF(), askedScale());
         ASSERT_EQ(box.height(), 170);
         std::vector<QWidget*> controls{box.findChild<QPushButton*>(QStringLiteral("OkBtn")),
                                        box.findChild<QPushButton*>(QStringLiteral("CancelBtn"))};

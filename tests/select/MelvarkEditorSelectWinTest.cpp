@@ -1,11 +1,13 @@
 #include "select/MelvarkEditorSelectWin.h"
 
+#include "tests/select/AskedScale.h"
 #include "tests/support/RecordingHost.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -453,6 +455,7 @@ TEST_F(SelectBox, ItsHeightIsFixedAndItsWidthGrows) {
     TSelectBox box(nullptr, &manager);
     box.DodakSelectFromDodak(7, 5);
     showAnd(box, [&] {
+        ASSERT_EQ(box.devicePixelRatioF(), askedScale());
         ASSERT_EQ(box.size(), QSize(400, 150));
         const int room = box.width() - edit(box)->width();
         box.resize(600, 300);
@@ -463,6 +466,30 @@ TEST_F(SelectBox, ItsHeightIsFixedAndItsWidthGrows) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return box.size() == QSize(400, 150); }))
             << box.width() << "x" << box.height();
     });
+}
+
+TEST_F(SelectBox, ItStandsInTheMiddleOfTheScreenInBoldLetters) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromDodak(7, 5);
+    box.move(3, 4);
+    showAnd(box, [&] {
+        const QRect screen = box.screen()->geometry();
+        EXPECT_EQ(box.geometry().topLeft(),
+                  screen.topLeft() + QPoint((screen.width() - 400) / 2, (screen.height() - 150) / 2));
+        for (const QWidget* const one : box.findChildren<QWidget*>()) {
+            EXPECT_TRUE(one->font().bold()) << one->objectName().toStdString();
+        }
+    });
+}
+
+TEST_F(SelectBox, ASenderWithTheTagOfNoLineOpensNoList) {
+    TSelectBox box(nullptr, &manager);
+    box.DodakSelectFromObjednavka(7, 5);
+    QLineEdit stranger;
+    stranger.setProperty("Tag", 2);
+    box.editSelectChange(&stranger);
+    box.SelectSpeedButtonClick(&stranger);
+    EXPECT_THAT(manager.lookups(), IsEmpty());
 }
 
 TEST_F(SelectBox, TheListButtonSaysWhatItDoes) {
