@@ -157,6 +157,22 @@ const std::vector<SourceCase>& sourceCases() {
 
 class DodObjEditorSource : public DodObjEditorFixture {
 protected:
+    /// Opens the editor where the source asks nothing.
+    std::unique_ptr<TDodObjEditBox> openUnasked(const char* code) {
+        const NoModal guard;
+        return open(code);
+    }
+    /// Opens the editor and chooses in the source's dialog, where it has one.
+    std::unique_ptr<TDodObjEditBox> openAndChoose(const SourceCase& source) {
+        if (!source.choose) {
+            return openUnasked(source.code);
+        }
+        const ModalDriver dialog({}, [&](QWidget& box) {
+            EXPECT_EQ(box.windowTitle(), QString::fromUtf8(source.title));
+            source.choose(box);
+        });
+        return open(source.code);
+    }
     /// The calls after the master check.
     std::vector<AnsiString> fillCalls() {
         const auto& calls = host_.connection.calls();
@@ -173,20 +189,44 @@ TEST_F(DodObjEditorSource, EachAsksFillsAndIsNamedInTheSaveAsItsOwn) {
             SCOPED_TRACE(source.code);
             isTemplate_ = isTemplate;
             host_.connection.takeCalls();
-            std::unique_ptr<ModalDriver> dialog;
-            if (source.choose) {
-                dialog = std::make_unique<ModalDriver>(QString(), [&](QWidget& box) {
-                    EXPECT_EQ(box.windowTitle(), QString::fromUtf8(source.title));
-                    source.choose(box);
-                });
-            }
-            const auto editor = open(source.code);
+            const auto editor = openAndChoose(source);
             EXPECT_EQ(fillCalls(), source.calls);
             EXPECT_EQ(editor->DataGrid().GetRowCount(), 3);
             EXPECT_EQ(showAnd(*editor, [&] { type(*editor, "", Qt::Key_Return, Qt::ControlModifier); }), c_ResultOk);
             EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjTempUloz"),
                         ElementsAre("MELVARKEDITORDodObjTempUloz(a_DDOBID=7, " + AnsiString(source.sources)));
         }
+    }
+}
+
+TEST_F(DodObjEditorSource, TheTemplateOfTheLatestOrdersOpensNoDialogAndLoadsThroughTheOrdersProcedure) {
+    openUnasked("SABLONA");
+    EXPECT_THAT(fillCalls(),
+                ElementsAre("MELVARKEDITORDodObjGetPolozkyByObjednavka(a_DDOBIDMASTER=7, a_DDOBID=null) open"));
+}
+
+TEST_F(DodObjEditorSource, ThePriceListOfTheDocumentsOwnSupplierOpensNoDialog) {
+    for (const int supplier : {1, 5, 2147483647}) {
+        supplier_ = supplier;
+        host_.connection.takeCalls();
+        openUnasked("DODAVATEL");
+        EXPECT_THAT(fillCalls(), ElementsAre("MELVARKEDITORDodObjGetPolozkyByDodCenik(a_DDOBIDMASTER=7, a_DODVID=" +
+                                             std::to_string(supplier) + ") open"));
+    }
+}
+
+TEST_F(DodObjEditorSource, ASaveThatCameOfNoDocumentNamesNoneByNullsAndNeverByMinusOne) {
+    for (const SourceCase& source : sourceCases()) {
+        if (AnsiString(source.sources) != c_NoSource) {
+            continue;
+        }
+        SCOPED_TRACE(source.code);
+        const auto editor = openAndChoose(source);
+        host_.connection.takeCalls();
+        EXPECT_TRUE(editor->SaveData());
+        const auto closing = host_.connection.callsOf("MELVARKEDITORDodObjTempUloz");
+        EXPECT_THAT(closing, ElementsAre("MELVARKEDITORDodObjTempUloz(a_DDOBID=7, a_DDOBID_ZDROJ=null, "
+                                         "a_DDOBIDVZOR_ZDROJ=null, a_DODKID_ZDROJ=null)"));
     }
 }
 
@@ -198,11 +238,7 @@ TEST_F(DodObjEditorSource, SettingsAreFiledBySourceAndKindOfDocument) {
         for (std::size_t at = 0; at < sourceCases().size(); ++at) {
             const SourceCase& source = sourceCases()[at];
             host_.connection.takeCalls();
-            std::unique_ptr<ModalDriver> dialog;
-            if (source.choose) {
-                dialog = std::make_unique<ModalDriver>(QString(), source.choose);
-            }
-            open(source.code);
+            openAndChoose(source);
             const int type = number + static_cast<int>(at) + 1;
             EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORNASTAVENINactiDef"),
                         ElementsAre("MELVARKEDITORNASTAVENINactiDef(a_TYPEDITACE=" + std::to_string(type) + ") open"));

@@ -190,7 +190,7 @@ TEST_P(OrderSessionOn, ASupplierWithoutAPriceListGivesOneEmptyRowAndSavingItChan
     EXPECT_THAT(storedOrderLines(session), IsEmpty());
 }
 
-TEST_P(OrderSessionOn, AUnitDeletedMeanwhileIsRefusedInWordsAndTheEditorStays) {
+TEST_P(OrderSessionOn, AUnitDeletedMeanwhileIsRefusedInWordsAtItsLineAndTheWorkIsStillThere) {
     HostSession session(companyOn(GetParam()));
     session.startEditor(QStringLiteral("DODOBJ,DODAVATEL"), 1);
     session.waitForWindow(c_OrderTitle);
@@ -198,16 +198,21 @@ TEST_P(OrderSessionOn, AUnitDeletedMeanwhileIsRefusedInWordsAndTheEditorStays) {
                    QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return"),
                    QStringLiteral("Return")}); // to the flakes in the last row
     session.type(QStringLiteral("3"));
+    session.press({QStringLiteral("shift+Return"), QStringLiteral("shift+Return")}); // to a line above
     session.changeDatabase("delete from SKPL where ID = 81");
     session.press({QStringLiteral("ctrl+Return")});
     session.waitForWindow(c_ErrorTitle);
     session.press({QStringLiteral("Return")});
     session.waitForWindow(c_OrderTitle);
-    session.press({QStringLiteral("alt+F4")});
-    EXPECT_EQ(session.finish(), 1);
     EXPECT_THAT(session.trace(),
                 Contains(HasSubstr("Jednotka „kg“ nepatří k položce „Ovesné vločky“. Načtěte řádek znovu.")));
     EXPECT_THAT(storedOrderLines(session), IsEmpty());
+    session.changeDatabase("insert into SKPL (ID, SKLPID, PORADI, NAZEV, FAKTOR) values (81, 8, 0, 'kg', '1')");
+    session.press({QStringLiteral("End")});
+    session.type(QStringLiteral("5")); // behind the 3 that is still there, in the line that was refused
+    session.press({QStringLiteral("ctrl+Return")});
+    EXPECT_EQ(session.finish(), 0);
+    EXPECT_THAT(storedOrderLines(session), ElementsAre(stored(1, 4, "Ovesné vločky", "35", "kg")));
 }
 
 /// A source that brings nothing: what makes it so, and how it is chosen for OBJ-1.

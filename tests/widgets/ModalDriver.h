@@ -52,3 +52,20 @@ private:
     QElapsedTimer waited_;
     bool hasActed_ = false;
 };
+
+/// Where no modal window may come: one that does is a failure in words and is closed, so that the test ends.
+class NoModal : public QObject {
+public:
+    NoModal() {
+        QObject::connect(&timer_, &QTimer::timeout, this, [] {
+            if (QWidget* const modal = QApplication::activeModalWidget(); modal && modal->isVisible()) {
+                ADD_FAILURE() << "the modal window '" << modal->windowTitle().toStdString() << "' opened";
+                modal->close();
+            }
+        });
+        timer_.start(5);
+    }
+
+private:
+    QTimer timer_;
+};
