@@ -13,7 +13,7 @@ namespace refhost {
 namespace {
 
 constexpr const char* c_SocketName = ".s.PGSQL.5432";
-/// Much longer than a client that does not wait needs between two calls.
+/// Much longer than either side needs between two calls.
 constexpr int c_Silence = 20;
 
 std::filesystem::path newFolder() {
@@ -105,23 +105,20 @@ void LongLink::carry(int client, int server) {
     std::vector<char> answered;
     while (!isEnding_) {
         pollfd sides[] = {{client, POLLIN, 0}, {server, POLLIN, 0}};
-        poll(sides, 2, c_Silence);
-        if (isReadable(sides[1]) && !take(server, answered)) {
-            return;
-        }
-        if (isReadable(sides[0])) {
-            if (!take(client, asked) || !hand(server, asked)) {
-                return;
+        if (poll(sides, 2, c_Silence) == 0) { // the server has answered all, and the client waits
+            if (!answered.empty()) {
+                ++turns_;
+                if (!hand(client, answered)) {
+                    return;
+                }
             }
             continue;
         }
-        // The server may still be at work on what the client sent last: it is the client that has to be silent.
-        pollfd asking{client, POLLIN, 0};
-        if (!answered.empty() && poll(&asking, 1, c_Silence) == 0) {
-            ++turns_;
-            if (!hand(client, answered)) {
-                return;
-            }
+        if (isReadable(sides[1]) && !take(server, answered)) {
+            return;
+        }
+        if (isReadable(sides[0]) && (!take(client, asked) || !hand(server, asked))) {
+            return;
         }
     }
 }

@@ -7,8 +7,8 @@
 
 namespace refhost {
 
-/// A link to a server on a unix socket that is as long as can be: what the server answers arrives only when the client
-/// has sent nothing for a while, so it counts how often the client waited for answers. Serves one client at a time, in
+/// A link to a server on a unix socket that is as long as can be: what the server answers arrives only when both sides
+/// have been silent for a while, so it counts how often the client waited for answers. Serves one client at a time, in
 /// a thread of its own that ends with the object.
 class LongLink {
 public:
