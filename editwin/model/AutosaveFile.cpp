@@ -35,7 +35,7 @@ public:
     }
 
 private:
-    static constexpr std::size_t c_Block = 64 * 1024;
+    static constexpr std::size_t c_Block = std::size_t{64} * 1024;
 
     void EndLine(std::size_t length) {
         if (length > c_LongestAutosaveLine) {

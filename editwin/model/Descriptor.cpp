@@ -8,7 +8,7 @@ namespace melvark {
 
 namespace {
 
-constexpr std::size_t c_BlockSize = 64 * 1024;
+constexpr std::size_t c_BlockSize = std::size_t{64} * 1024;
 
 /// The system's answer, asked again when a signal came between.
 template <class Call>
