@@ -96,12 +96,12 @@ TMenuButton::TMenuButton(QWidget* parent) : QPushButton(parent) {
 }
 
 AnsiString TMenuButton::Caption() const {
-    return ToAnsi(text().replace(QStringLiteral("&&"), QStringLiteral("&")));
+    return TextOfCaption(text());
 }
 
 void TMenuButton::SetCaption(const AnsiString& caption) {
     setText(PlainCaption(caption));
-    setToolTip(FWidest < QWIDGETSIZE_MAX ? ToQString(caption) : QString());
+    setToolTip(FWidest < QWIDGETSIZE_MAX ? PlainHint(caption) : QString());
 }
 
 void TMenuButton::LimitWidth() {

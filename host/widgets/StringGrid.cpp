@@ -356,11 +356,10 @@ void TStringGrid::WantEditor() {
 }
 
 void TStringGrid::ShowHint(const QPoint& globalPos) {
-    const QString text = ToQString(FHint);
-    if (text.isEmpty()) {
+    if (FHint.empty()) {
         QToolTip::hideText();
     } else {
-        QToolTip::showText(globalPos, Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text, this);
+        QToolTip::showText(globalPos, PlainHint(FHint), this);
     }
 }
 

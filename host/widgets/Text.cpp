@@ -1,5 +1,7 @@
 #include "host/widgets/Text.h"
 
+#include <QTextDocument>
+
 namespace melvark {
 
 QString ToQString(std::string_view text) {
@@ -12,6 +14,15 @@ AnsiString ToAnsi(const QString& text) {
 
 QString PlainCaption(std::string_view text) {
     return ToQString(text).replace(u'&', QStringLiteral("&&"));
+}
+
+AnsiString TextOfCaption(QString caption) {
+    return ToAnsi(caption.replace(QStringLiteral("&&"), QStringLiteral("&")));
+}
+
+QString PlainHint(std::string_view text) {
+    const QString hint = ToQString(text);
+    return Qt::mightBeRichText(hint) ? Qt::convertFromPlainText(hint) : hint;
 }
 
 } // namespace melvark

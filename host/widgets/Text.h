@@ -17,5 +17,10 @@ AnsiString ToAnsi(const QString& text);
 /// boxes and menu items, so each one of `text` is doubled. For captions that are data (column titles, names of
 /// settings); built-in captions carry their marks on purpose and go through ToQString.
 QString PlainCaption(std::string_view text);
+/// The text of a caption that PlainCaption made.
+AnsiString TextOfCaption(QString caption);
+
+/// A hint that shows `text` letter for letter: Qt takes what looks like markup for markup. For hints that are data.
+QString PlainHint(std::string_view text);
 
 } // namespace melvark

@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QTextDocument>
 
 #include <gmock/gmock.h>
 
@@ -123,6 +124,31 @@ TEST_F(SettingsCommands, AChosenSettingIsLaidOutAndNamed) {
     choose(item(3));
     EXPECT_FALSE(item(7)->isChecked()) << "one of the group at a time";
     EXPECT_EQ(form->MenuBtn->Caption(), "Moje");
+}
+
+TEST_F(SettingsCommands, AnotherLayoutLeavesTheClerkInHisRow) {
+    start();
+    openCell(c_CountCol, 2);
+    choose(item(7));
+    EXPECT_EQ(grid().Row(), 2);
+    openCell(4, 3);
+    manager.boxAnswers = {c_ResultYes};
+    choose(form->ObnovVychoziNastaveni);
+    EXPECT_EQ(grid().Row(), 3);
+    form->GoNextEditable();
+    EXPECT_EQ(openCellText(), "2,3") << "on in his row";
+}
+
+TEST_F(SettingsCommands, ANameThatLooksLikeMarkupIsShownLetterForLetter) {
+    const AnsiString name = "<b>Sklad</b> & prodej";
+    list({{AnsiString("Moje"), std::int64_t{3}}, {name, std::int64_t{7}}});
+    start();
+    choose(item(7));
+    EXPECT_EQ(form->MenuBtn->Caption(), name);
+    EXPECT_EQ(item(7)->text(), QStringLiteral("<b>Sklad</b> && prodej"));
+    QTextDocument hint;
+    hint.setHtml(form->MenuBtn->toolTip());
+    EXPECT_EQ(hint.toPlainText().toStdString(), name);
 }
 
 TEST_F(SettingsCommands, ASettingWithoutADocumentIsInForceAndLeavesThePicture) {

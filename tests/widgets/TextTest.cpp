@@ -1,5 +1,7 @@
 #include "host/widgets/Text.h"
 
+#include <QTextDocument>
+
 #include <gtest/gtest.h>
 
 using namespace melvark;
@@ -19,4 +21,19 @@ TEST(Text, BytesThatAreNoTextBecomeTheReplacementCharacter) {
 TEST(Text, APlainCaptionDoublesTheShortcutMark) {
     EXPECT_EQ(PlainCaption("R&D & co"), QStringLiteral("R&&D && co"));
     EXPECT_EQ(PlainCaption("Žádný vzor"), QStringLiteral("Žádný vzor"));
+}
+
+TEST(Text, ACaptionGivesItsTextBack) {
+    for (const char* const text : {"R&D & co", "&&", "Žádný vzor"}) {
+        EXPECT_EQ(TextOfCaption(PlainCaption(text)), text);
+    }
+}
+
+TEST(Text, AHintThatLooksLikeMarkupIsShownLetterForLetter) {
+    EXPECT_EQ(PlainHint("Příjem & <výdej"), QStringLiteral("Příjem & <výdej"));
+    const QString hint = PlainHint("<b>tučně</b> & <img src='x'>");
+    QTextDocument shown;
+    shown.setHtml(hint);
+    EXPECT_TRUE(Qt::mightBeRichText(hint));
+    EXPECT_EQ(shown.toPlainText(), QStringLiteral("<b>tučně</b> & <img src='x'>"));
 }
