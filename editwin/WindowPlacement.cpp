@@ -10,6 +10,7 @@
 #include <QStyle>
 #include <QWindowStateChangeEvent>
 
+#include <algorithm>
 #include <vector>
 
 namespace melvark {
@@ -35,11 +36,16 @@ std::optional<WindowPlacement> StoredPlace(std::int32_t editType, const TForm& f
         return std::nullopt;
     }
     const QRect current = form.geometry();
-    const auto wanted = ReadWindowPlacement(
+    auto wanted = ReadWindowPlacement(
         document.AsString(),
         {.Left = current.x(), .Top = current.y(), .Width = current.width(), .Height = current.height()});
-    const int titleHeight = form.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &form);
-    return wanted ? std::optional(ReachablePlace(*wanted, Screens(), titleHeight)) : std::nullopt;
+    if (!wanted) {
+        return std::nullopt;
+    }
+    // What can be reached is the window that will stand there.
+    wanted->Width = std::clamp(wanted->Width, form.minimumWidth(), form.maximumWidth());
+    wanted->Height = std::clamp(wanted->Height, form.minimumHeight(), form.maximumHeight());
+    return ReachablePlace(*wanted, Screens(), form.style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, &form));
 }
 
 } // namespace

@@ -76,6 +76,16 @@ TEST_F(WindowPlacement, ATitleBarThatLiesOnNoScreenMovesToTheNearestOne) {
     EXPECT_LT(form->y(), screen.top() + 60);
 }
 
+TEST_F(WindowPlacement, WhetherItsTitleBarCanBeReachedIsJudgedByTheSizeThatItGets) {
+    make();
+    const int left = 50 - std::max(790, form->minimumWidth());
+    storedIs("<window><left>" + std::to_string(left) + "</left><top>44</top><width>10</width><height>500</height>" +
+             "</window>");
+    open();
+    EXPECT_EQ(form->x(), left) << "fifty pixels of the least width show";
+    EXPECT_EQ(form->width(), centred().width());
+}
+
 TEST_F(WindowPlacement, SenselessNumbersLeaveAWindowThatCanBeUsed) {
     for (const char* const number : {"99999999999", "2147483647", "-2147483648", "12px", "-5"}) {
         const AnsiString text = number;
