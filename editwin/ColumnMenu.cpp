@@ -10,8 +10,10 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QScopeGuard>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace melvark {
@@ -20,8 +22,9 @@ ColumnMenu::ColumnMenu(GridEditing& editing, CellWriter& writer, InPlaceEditing&
     : FEditing(editing), FWriter(writer), FKeeper(keeper), FItems(items) {}
 
 void ColumnMenu::OpenAt(int col, int row, const QPoint& globalPos) {
-    FPopupColumn = row == 0 ? std::max(col, 0) : 0;
-    if (row == 0 && FKeeper.LayOutAwaited()) {
+    const std::optional<int> column = row == 0 ? FKeeper.LaidOut(std::max(col, 0)) : std::nullopt;
+    FPopupColumn = column.value_or(0);
+    if (column) {
         FItems.Menu.popup(globalPos);
     }
 }

@@ -58,10 +58,11 @@ std::vector<QWidget*> InPlaceEditing::Editors() const {
     return editors;
 }
 
-void InPlaceEditing::ShowEditor(int col, int row, Reach reach) {
-    if (!HideEditor() || !LayOutAwaited()) {
+void InPlaceEditing::ShowEditor(int pictured, int row, Reach reach) {
+    if (!HideEditor()) {
         return;
     }
+    const int col = LaidOut(pictured).value_or(0);
     TStringGrid& grid = FEditing.Grid;
     const RColumn* const column = FEditing.ColumnAt(col);
     if (!column || row < 1 || row >= grid.RowCount() || !MayOpen(*column, reach, FEditing.Rule, col, row)) {
@@ -179,9 +180,8 @@ void InPlaceEditing::DropEditor() {
 /// The columns may have been moved, hidden or replaced under the open editor. Two columns can show the same data: the
 /// edited one is then the one that still stands in its place.
 void InPlaceEditing::FollowOpenedCell() {
-    const std::vector<int> shownAt = GridColumnsOfData(FEditing.Active, FOpened.DataColumn);
-    if (std::ranges::find(shownAt, FEditCol) == shownAt.end()) {
-        FEditCol = shownAt.empty() ? 0 : shownAt.front();
+    if (DataColumnAt(FEditCol) != FOpened.DataColumn) {
+        FEditCol = FirstGridColumnOf(FOpened.DataColumn);
     }
     FEditRow = FEditing.Rows.GridRow(FOpened.StoreRow);
 }
@@ -203,23 +203,31 @@ void InPlaceEditing::ReturnToEditCell() {
     FOpened.Editor->setFocus(Qt::OtherFocusReason);
 }
 
-bool InPlaceEditing::LayOutAwaited() {
+std::optional<int> InPlaceEditing::LaidOut(int pictured) {
     if (!FEditing.Awaited) {
-        return true;
+        return pictured;
     }
     if (!HideEditor()) {
-        return false;
+        return std::nullopt;
     }
     TStringGrid& grid = FEditing.Grid;
-    const RColumn* const current = FEditing.ColumnAt(grid.Col());
-    const int dataColumn = (current ? *current : BlankColumn()).DataColumn;
+    const int wanted = DataColumnAt(pictured);
+    const int current = DataColumnAt(grid.Col());
     const int row = grid.Row();
     FEditing.LayOut();
+    grid.SetCurrentCell(FirstGridColumnOf(current), row);
+    return FirstGridColumnOf(wanted);
+}
+
+int InPlaceEditing::DataColumnAt(int gridCol) const {
+    const RColumn* const column = FEditing.ColumnAt(gridCol);
+    return (column ? *column : BlankColumn()).DataColumn;
+}
+
+/// 0 when none shows these data.
+int InPlaceEditing::FirstGridColumnOf(int dataColumn) const {
     const std::vector<int> shownAt = GridColumnsOfData(FEditing.Active, dataColumn);
-    if (!shownAt.empty()) {
-        grid.SetCurrentCell(shownAt.front(), row);
-    }
-    return true;
+    return shownAt.empty() ? 0 : shownAt.front();
 }
 
 void InPlaceEditing::GoNextEditable() {

@@ -47,9 +47,9 @@ public:
     /// The shared edit box and every list editor.
     std::vector<QWidget*> Editors() const;
 
-    /// Opens the editor on a grid cell, when the cell may be edited, once the open one is committed. An exception of
-    /// the open column's callback passes through, here and in HideEditor.
-    void ShowEditor(int col, int row, Reach reach);
+    /// Opens the editor on a grid cell as it is pictured, when the cell may be edited, once the open one is committed.
+    /// An exception of the open column's callback passes through, here and in HideEditor.
+    void ShowEditor(int pictured, int row, Reach reach);
     /// Commits and closes the open editor. What is committed is the cell as it was opened, whatever became of the
     /// column list meanwhile. An exception of the callback passes through and leaves the editor open as a refusal does.
     CommitAnswer CommitEditor();
@@ -58,9 +58,12 @@ public:
     /// Closes the open editor without a check; its text is lost.
     void DropEditor();
     /// Lays out the columns that are awaited, if any, once the open cell is committed as it is pictured; the cursor
-    /// goes along with its column. False when the value was refused: the picture stays. Asked before a grid column is
-    /// sought or changed.
-    bool LayOutAwaited();
+    /// goes along with its column. Gives the place of the column that was pictured at a grid column: 0 when it is no
+    /// longer shown. Nothing when the value was refused: the picture stays. Asked before a grid column is opened or
+    /// changed.
+    std::optional<int> LaidOut(int pictured);
+    /// The same when no column is meant.
+    bool LayOutAwaited() { return LaidOut(0).has_value(); }
     void GoNextEditable();
     void GoPrevEditable();
 
@@ -107,6 +110,8 @@ private:
     bool CommitText(const AnsiString& text, bool isChanged);
     void CloseEditor();
     void FollowOpenedCell();
+    int DataColumnAt(int gridCol) const;
+    int FirstGridColumnOf(int dataColumn) const;
     void ReturnToEditCell();
     void OpenFirst(std::optional<GridPosition> cell);
     bool MayStop(int col, int row) const;

@@ -402,10 +402,22 @@ TEST_F(DeletedPicture, IsReplacedBeforeAnEditorOpens) {
     start();
     choose(item(3));
     deleteSetting();
-    click(4, 2);
+    click(4, 2); // POCET
     settle();
     EXPECT_EQ(rowText(0), c_BuiltInTitles);
     EXPECT_EQ(rowText(2), "Matice|6|2||vedlejší|B2||y");
+    EXPECT_EQ(openCellText(), "2,2") << "the column that was clicked";
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("6"));
+}
+
+TEST_F(DeletedPicture, NoEditorOpensForAClickedColumnThatTheBuiltInLayoutHides) {
+    start();
+    choose(item(3));
+    deleteSetting();
+    click(2, 2); // SLEVA
+    settle();
+    EXPECT_EQ(rowText(0), c_BuiltInTitles);
+    EXPECT_EQ(openCellText(), "none");
 }
 
 TEST_F(DeletedPicture, IsReplacedBeforeTheNextCellIsSought) {
@@ -440,7 +452,32 @@ TEST_F(DeletedPicture, IsReplacedBeforeTheColumnMenuOpens) {
     openColumnMenu(1);
     EXPECT_EQ(rowText(0), c_BuiltInTitles);
     pick(form->SkrytSloupec);
-    EXPECT_EQ(columnOrder(), "[ID] [NAZEV] POCET CENA DATUM SKLAD KOD POZN TYP [SLEVA]");
+    EXPECT_EQ(columnOrder(), "[ID] NAZEV POCET [CENA] DATUM SKLAD KOD POZN TYP [SLEVA]") << "\"Kč\" was clicked";
+}
+
+TEST_F(DeletedPicture, TheMenuOfAColumnThatTheBuiltInLayoutHidesIsThatOfNone) {
+    start();
+    choose(item(3));
+    deleteSetting();
+    openColumnMenu(2); // SLEVA
+    ASSERT_TRUE(form->ColumnsPopupMenu->isVisible());
+    EXPECT_FALSE(form->SkrytSloupec->isEnabled());
+    EXPECT_FALSE(form->NadpisVlastnostiSloupce->isEnabled());
+    EXPECT_TRUE(form->SkryteSloupce->menuAction()->isEnabled());
+    form->ColumnsPopupMenu->close();
+}
+
+TEST_F(DeletedPicture, ARefusedValueKeepsTheColumnMenuShut) {
+    start();
+    choose(item(3));
+    openCell(1, 2);
+    type(QStringLiteral("x"));
+    deleteSetting();
+    openColumnMenu(4);
+    settle();
+    EXPECT_FALSE(form->ColumnsPopupMenu->isVisible());
+    EXPECT_EQ(rowText(0), "Kč|Sleva|Název|Počet|Datum|Sklad|Kód|Poznámka|Typ");
+    EXPECT_EQ(openCellText(), "1,2");
 }
 
 TEST_F(DeletedPicture, ADragMovesTheColumnThatWasDragged) {
