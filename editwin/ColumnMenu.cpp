@@ -66,6 +66,8 @@ void ColumnMenu::EditProperties(TLibraryManager* manager) {
 }
 
 void ColumnMenu::SetEditability(TEditable editable) {
+    // The click has moved the check mark by itself, also when nothing is changed.
+    const auto showMark = qScopeGuard([this] { PrepareItems(); });
     const bool isEdited = FKeeper.ActiveEditor() && FKeeper.EditCol() == FPopupColumn;
     const bool closes = editable == eNone && isEdited;
     // The column is sought after the commit, whose callback may have replaced the list.
@@ -77,8 +79,6 @@ void ColumnMenu::SetEditability(TEditable editable) {
             FEditing.Grid.SetCurrentCell(FKeeper.EditCol(), FKeeper.EditRow());
         }
     }
-    // The click has moved the check mark by itself, also when nothing was changed.
-    PrepareItems();
 }
 
 void ColumnMenu::HidePopupColumn() {

@@ -15,8 +15,10 @@
 #include <QActionGroup>
 #include <QCheckBox>
 #include <QMenu>
+#include <QScopeGuard>
 
 #include <utility>
+#include <vector>
 
 namespace melvark {
 
@@ -117,14 +119,17 @@ void SettingsMenu::Choose(QAction* item) {
     if (!item) {
         return;
     }
-    if (!FKeeper.HideEditor()) {
-        // The click has moved the check mark by itself.
+    // The click has moved the check mark by itself.
+    auto giveMarkBack = qScopeGuard([this, item] {
         item->setChecked(false);
         if (FSettingsItem) {
             FSettingsItem->setChecked(true);
         }
+    });
+    if (!FKeeper.HideEditor()) {
         return;
     }
+    giveMarkBack.dismiss();
     FSettings.PutInForce(Tag(item));
     ShowInForce(*item);
     const AnsiString document = FSettings.Load();

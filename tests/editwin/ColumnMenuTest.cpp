@@ -1,4 +1,5 @@
 #include "dialogs/MelvarkEditorColumnPropWin.h"
+#include "host/Exceptions.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/StringGrid.h"
 #include "tests/editwin/TestEditBox.h"
@@ -231,6 +232,18 @@ TEST_F(ColumnMenu, ARefusedValueLeavesItsColumnEditable) {
     EXPECT_EQ(openCellText(), "2,2");
     EXPECT_EQ(columnAt(c_CountCol).Editable, eAuto);
     EXPECT_EQ(editabilityItems(), "(A)MN") << "the mark is taken back, too";
+}
+
+TEST_F(ColumnMenu, AValueWhoseCallbackFailsLeavesItsColumnEditableAndTheMarkWhereItWas) {
+    open();
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("42"));
+    log.answer = []() -> bool { throw EDatabaseError("spojení ztraceno"); };
+    openColumnMenu(c_CountCol);
+    pick(form->NeeditovatelnySloupec);
+    EXPECT_THAT(host.errors(), ElementsAre("spojení ztraceno"));
+    EXPECT_EQ(columnAt(c_CountCol).Editable, eAuto);
+    EXPECT_EQ(editabilityItems(), "(A)MN");
 }
 
 TEST_F(ColumnMenu, AnEditedColumnThatStaysEditableKeepsItsOpenEditor) {

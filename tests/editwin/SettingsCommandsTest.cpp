@@ -1,5 +1,6 @@
 #include "dialogs/MelvarkEditorSettingsWin.h"
 #include "editwin/AskingCheckBox.h"
+#include "host/Exceptions.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/StringGrid.h"
 #include "tests/editwin/TestEditBox.h"
@@ -197,6 +198,36 @@ TEST_F(SettingsCommands, ARefusedValueLeavesNoMarkWhenNoSettingWasInForce) {
     choose(item(7));
     EXPECT_EQ(form->SettingsId(), -1);
     EXPECT_FALSE(item(7)->isChecked());
+}
+
+TEST_F(SettingsCommands, AValueWhoseCallbackFailsKeepsTheFormerSettingAndItsMark) {
+    start();
+    choose(item(3));
+    openCell(form->GetColumnByName("POCET"), 2);
+    type(QStringLiteral("42"));
+    log.answer = []() -> bool { throw EDatabaseError("spojení ztraceno"); };
+    choose(item(7));
+    EXPECT_THAT(host.errors(), ElementsAre("spojení ztraceno"));
+    EXPECT_EQ(form->SettingsId(), 3);
+    EXPECT_TRUE(item(3)->isChecked()) << "the mark is taken back";
+    EXPECT_FALSE(item(7)->isChecked());
+    EXPECT_EQ(form->MenuBtn->Caption(), "Moje");
+    EXPECT_EQ(columnOrder(), c_PriceFirstOrder);
+}
+
+TEST_F(SettingsCommands, OnlyAMenuItemChoosesASetting) {
+    start();
+    openCell(c_CountCol, 2);
+    type(QStringLiteral("42"));
+    for (QObject* const sender : std::initializer_list<QObject*>{nullptr, form.get(), form->MenuBtn}) {
+        form->LoadColumnsSettings(sender);
+        EXPECT_EQ(openCellText(), "2,2") << "nothing is left";
+        EXPECT_EQ(form->SettingsId(), -1);
+    }
+    EXPECT_THAT(host.connection.takeCalls(), IsEmpty());
+    form->LoadColumnsSettings(item(7));
+    EXPECT_EQ(stored(7, 1), "42");
+    EXPECT_EQ(form->SettingsId(), 7);
 }
 
 TEST_F(SettingsCommands, AnOpenValueIsKeptBeforeTheColumnsChange) {
