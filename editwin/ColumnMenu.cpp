@@ -134,7 +134,7 @@ void ColumnMenu::RebuildHiddenItems() {
 QAction* ColumnMenu::MakeHiddenItem(const RColumn& column) {
     auto* const item = new QAction(PlainCaption(column.Caption), &FItems.HiddenColumns);
     item->setObjectName(QStringLiteral("HiddenColumn") + ToQString(column.Name));
-    ConnectGuarded(item, &QAction::triggered, this, [this, item] { ShowColumnOf(item); });
+    ConnectGuarded(item, &QAction::triggered, this, [this, item] { FItems.OnShow(item); });
     return item;
 }
 

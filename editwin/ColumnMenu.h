@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editwin/GridEditing.h"
+#include "host/widgets/Vocabulary.h"
 
 #include <QObject>
 
@@ -22,7 +23,7 @@ class ColumnMenu : public QObject {
     Q_OBJECT
 
 public:
-    /// The menus and items are the form's.
+    /// The menus, items and handlers are the form's.
     struct Items {
         QMenu& Menu;
         QAction& Properties;
@@ -31,6 +32,7 @@ public:
         QAction& Manual;
         QAction& None;
         QMenu& HiddenColumns;
+        TNotifyEvent OnShow; ///< The click of each item in the submenu.
     };
 
     ColumnMenu(GridEditing& editing, CellWriter& writer, InPlaceEditing& keeper, const Items& items);

@@ -9,6 +9,7 @@
 #include "host/LibraryManager.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/Guard.h"
+#include "host/widgets/StringGrid.h"
 #include "host/widgets/Text.h"
 
 #include <QAction>
@@ -51,12 +52,12 @@ void SettingsMenu::LoadList() {
             delete item;
         }
     }
-    FSettings.LoadList();
+    const std::vector<SavedSetting> saved = FSettings.List();
     QAction* const firstFixed = FControls.Menu.actions().value(0);
-    for (const SavedSetting& setting : FSettings.Listed()) {
+    for (const SavedSetting& setting : saved) {
         QAction* const item = MakeItem(setting);
         FControls.Menu.insertAction(firstFixed, item);
-        if (FSettings.HasInForce() && setting.Id == FSettings.InForce()) {
+        if (FSettings.HasInForce() && setting.Id == FSettings.SettingsId()) {
             ShowInForce(*item);
         }
     }
@@ -68,7 +69,7 @@ QAction* SettingsMenu::MakeItem(const SavedSetting& setting) {
     item->setData(setting.Id);
     item->setCheckable(true);
     FGroup->addAction(item);
-    ConnectGuarded(item, &QAction::triggered, this, [this, item] { Choose(item); });
+    ConnectGuarded(item, &QAction::triggered, this, [this, item] { FControls.OnChoose(item); });
     return item;
 }
 
@@ -80,7 +81,7 @@ void SettingsMenu::LoadLast() {
     }
     ApplyDocument(*document);
     for (QAction* const item : FGroup->actions()) {
-        if (Tag(item) == FSettings.InForce()) {
+        if (Tag(item) == FSettings.SettingsId()) {
             ShowInForce(*item);
             return;
         }
@@ -90,9 +91,7 @@ void SettingsMenu::LoadLast() {
 void SettingsMenu::ShowInForce(QAction& item) {
     FSettingsItem = &item;
     item.setChecked(true);
-    if (const SavedSetting* const setting = FSettings.Find(Tag(&item))) {
-        FControls.Button.SetCaption(setting->Name);
-    }
+    FControls.Button.SetCaption(TextOfCaption(item.text()));
 }
 
 void SettingsMenu::ApplyDocument(std::string_view document) {
@@ -135,7 +134,17 @@ void SettingsMenu::Choose(QAction* item) {
     const AnsiString document = FSettings.Load();
     if (!document.empty()) {
         ApplyDocument(document);
-        FEditing.LayOut();
+        LayOut();
+    }
+}
+
+/// The clerk stays in his row.
+void SettingsMenu::LayOut() {
+    TStringGrid& grid = FEditing.Grid;
+    const std::optional<int> row = grid.Col() > 0 ? std::optional(grid.Row()) : std::nullopt;
+    FEditing.LayOut();
+    if (row) {
+        grid.SetRow(*row);
     }
 }
 
@@ -151,7 +160,6 @@ void SettingsMenu::SaveAsNew() {
         return;
     }
     LoadList();
-    FSettings.ShowAs(box.GetNazev());
     NameItemInForce(box.GetNazev());
 }
 
@@ -200,7 +208,7 @@ void SettingsMenu::RestoreBuiltIn() {
     }
     LeaveSetting();
     FEditing.SetActive(DefaultsWithDataOf(FEditing.InForce(), FEditing.Defaults));
-    FEditing.LayOut();
+    LayOut();
     if (Visible(FControls.RecalculationPanel)) {
         FControls.Recalculation.setChecked(true);
     }

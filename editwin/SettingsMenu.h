@@ -3,6 +3,7 @@
 #include "editwin/GridEditing.h"
 #include "editwin/model/NamedSettings.h"
 #include "host/Types.h"
+#include "host/widgets/Vocabulary.h"
 
 #include <QAction>
 #include <QObject>
@@ -40,6 +41,7 @@ public:
         QAction& Delete;
         QWidget& RecalculationPanel; ///< While it is hidden, a setting says nothing of the switch.
         QCheckBox& Recalculation;
+        TNotifyEvent OnChoose; ///< The click of each saved setting's item.
     };
 
     /// A null manager leaves the dialogs untranslated.
@@ -70,7 +72,7 @@ public:
     void RestoreBuiltIn();
 
     /// The setting in force; c_NullValue for none.
-    std::int32_t SettingsId() const { return FSettings.InForce(); }
+    std::int32_t SettingsId() const { return FSettings.SettingsId(); }
     /// Its item; null for none, and for a setting that the list does not hold.
     QAction* SettingsItem() const { return FSettingsItem; }
 
@@ -79,6 +81,7 @@ private:
     void ShowInForce(QAction& item);
     void LeaveSetting();
     void NameItemInForce(const AnsiString& name);
+    void LayOut();
     bool AskAndStore(TSettingsBox& box, const std::function<void(const SettingInfo&)>& store) const;
 
     GridEditing& FEditing;

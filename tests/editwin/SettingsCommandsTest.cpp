@@ -639,4 +639,7 @@ TEST_F(SettingsCommands, ARecordWithTheNumberZeroCountsAsFixed) {
     form->LoadColumnsSettingsList();
     EXPECT_THAT(items(),
                 ElementsAre("Moje", "Nula", "-", testing::_, testing::_, testing::_, testing::_, "-", testing::_));
+    choose(item(0));
+    EXPECT_EQ(form->SettingsId(), 0);
+    EXPECT_EQ(form->MenuBtn->Caption(), "Nula") << "the caption of an item that the list no longer holds";
 }
