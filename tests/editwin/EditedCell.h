@@ -32,15 +32,17 @@ protected:
     /// The editor still lies on its cell with the focus and what was typed.
     void expectTextStillInOpenEditor();
     void expectNothingCommitted();
-    /// One callback, stored and marked, no report.
-    void expectCommitted();
+    /// One callback, stored and marked, no report. The grid may want an editor on its current cell at once.
+    void expectCommitted(bool isOpenedAgain = false);
     /// Exactly one report, nothing saved, the editor as it was.
     void expectRefusedOnce();
-    void expectOutcome();
+    void expectOutcome(bool isOpenedAgain = false);
 
     bool isAccepted() const { return cell_.Outcome == CommitOutcome::Accepted; }
 
 private:
+    /// Without the questions that a command asks before it acts.
+    std::vector<AnsiString> errorBoxes() const;
     bool isList() const { return cell_.Editor == CellEditor::List; }
 
     EditedCellCase cell_{CellEditor::EditBox, CommitOutcome::Accepted};

@@ -31,13 +31,17 @@ enum class Way {
     ClickMenuButton,
     HideColumn,
     HideOtherColumn,
-    MakeNotEditable
+    MakeNotEditable,
+    ShowHiddenColumn,
+    ChooseLayout,
+    RestoreLayout
 };
 
 const char* const c_Ways[] = {
-    "Enter",      "ShiftEnter",      "CtrlEnter",      "ClickOtherCell", "ClickCellWithoutEditor",
-    "TabAway",    "ClickOk",         "ClickOkNext",    "ClickSwitch",    "ClickMenuButton",
-    "HideColumn", "HideOtherColumn", "MakeNotEditable"};
+    "Enter",        "ShiftEnter",      "CtrlEnter",       "ClickOtherCell",   "ClickCellWithoutEditor",
+    "TabAway",      "ClickOk",         "ClickOkNext",     "ClickSwitch",      "ClickMenuButton",
+    "HideColumn",   "HideOtherColumn", "MakeNotEditable", "ShowHiddenColumn", "ChooseLayout",
+    "RestoreLayout"};
 
 bool confirms(Way way) {
     return way == Way::CtrlEnter || way == Way::ClickOk;
@@ -47,6 +51,15 @@ bool confirms(Way way) {
 
 class LeavingACell : public EditedCellTest, public testing::WithParamInterface<std::tuple<Way, EditedCellCase>> {
 protected:
+    LeavingACell() {
+        const auto script = [this](const AnsiString& name, std::vector<AnsiString> inputs) -> ProcedureScript& {
+            return host.connection.procedure("MELVARKEDITORNASTAVENI" + name).inputs(std::move(inputs));
+        };
+        script("GetList", {"a_TYPEDITACE"}).returns({{{"NAZEV", "ID"}, {{AnsiString("Moje"), std::int64_t{3}}}}});
+        script("Nacti", {"a_ID"}).returns({resultTable({"DATA"}, {{"<settings/>"}})});
+        script("SmazDef", {"a_TYPEDITACE"});
+    }
+
     Way way() const { return std::get<0>(GetParam()); }
 
     void leave() {
@@ -95,6 +108,17 @@ protected:
             openColumnMenu(col());
             pick(form->NeeditovatelnySloupec);
             break;
+        case Way::ShowHiddenColumn:
+            openColumnMenu(c_NameCol);
+            pick(form->findChild<QAction*>(QStringLiteral("HiddenColumnSLEVA")));
+            break;
+        case Way::ChooseLayout:
+            pick(form->findChild<QAction*>(QStringLiteral("SavedSetting3")));
+            break;
+        case Way::RestoreLayout:
+            manager.boxAnswers = {c_ResultYes};
+            pick(form->ObnovVychoziNastaveni);
+            break;
         }
         settle();
     }
@@ -114,7 +138,22 @@ protected:
         EXPECT_EQ(form->isVisible(), !confirms(way()));
         EXPECT_EQ(form->ModalResult(), confirms(way()) ? c_ResultOk : 0);
         EXPECT_EQ(form->GetPrepocetCen(), way() != Way::ClickSwitch);
-        EXPECT_EQ(grid().ColCount(), way() == Way::HideColumn || way() == Way::HideOtherColumn ? 8 : 9);
+        EXPECT_EQ(grid().ColCount(), columnsAfter());
+        EXPECT_EQ(form->SettingsId(), way() == Way::ChooseLayout ? 3 : -1);
+        EXPECT_EQ(host.connection.callsOf("MELVARKEDITORNASTAVENISmazDef").size(),
+                  way() == Way::RestoreLayout ? 1U : 0U);
+    }
+
+    int columnsAfter() const {
+        switch (way()) {
+        case Way::HideColumn:
+        case Way::HideOtherColumn:
+            return 8;
+        case Way::ShowHiddenColumn:
+            return 10;
+        default:
+            return 9;
+        }
     }
 
     void expectCommandStopped() {
@@ -123,6 +162,8 @@ protected:
         EXPECT_TRUE(form->GetPrepocetCen());
         EXPECT_EQ(grid().ColCount(), 9);
         EXPECT_EQ(columnAt(col()).Editable, eAuto);
+        EXPECT_EQ(form->SettingsId(), -1);
+        EXPECT_THAT(host.connection.callsOf("MELVARKEDITORNASTAVENISmazDef"), IsEmpty());
     }
 };
 
@@ -134,14 +175,14 @@ TEST_P(LeavingACell, EndsAsItsOutcomeSays) {
     } else {
         expectCommandStopped();
     }
-    expectOutcome();
+    expectOutcome(way() == Way::ShowHiddenColumn); // which leaves the grid's cursor where it was
 }
 
 namespace {
 
 std::vector<std::tuple<Way, EditedCellCase>> allLeavings() {
     std::vector<std::tuple<Way, EditedCellCase>> all;
-    for (int way = 0; way <= static_cast<int>(Way::MakeNotEditable); ++way) {
+    for (int way = 0; way <= static_cast<int>(Way::RestoreLayout); ++way) {
         for (const EditedCellCase& cell : allEditedCells()) {
             all.emplace_back(static_cast<Way>(way), cell);
         }
