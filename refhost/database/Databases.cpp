@@ -2,10 +2,12 @@
 
 #include "refhost/database/ParameterValues.h"
 #include "refhost/database/PostgreSQLConnection.h"
+#include "refhost/database/PostgreSQLInspector.h"
 #include "refhost/database/PostgreSQLSchema.h"
 #include "refhost/database/PostgreSQLUpgrade.h"
 #include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteConnection.h"
+#include "refhost/database/SQLiteInspector.h"
 #include "refhost/database/SQLiteSchema.h"
 #include "refhost/database/SQLiteUpgrade.h"
 
@@ -29,9 +31,8 @@ constexpr std::chrono::seconds c_MakingTime{60};
 std::unique_ptr<Database> openDatabase(const std::string& url, const std::string& user, const TFormatSettings& settings,
                                        OpenMode mode) {
     if (url.starts_with(c_SQLite)) {
-        const bool create = mode == OpenMode::Create;
-        return std::make_unique<SQLiteConnection>(url.substr(c_SQLite.size()), user, settings, create,
-                                                  create ? c_MakingTime : c_Patience);
+        return std::make_unique<SQLiteConnection>(url.substr(c_SQLite.size()), user, settings, mode,
+                                                  mode == OpenMode::Create ? c_MakingTime : c_Patience);
     }
     if (url.starts_with(c_PostgreSQL)) {
         return std::make_unique<PostgreSQLConnection>(url.substr(c_PostgreSQL.size()), settings);
@@ -39,9 +40,20 @@ std::unique_ptr<Database> openDatabase(const std::string& url, const std::string
     refuseAddress(url);
 }
 
+std::unique_ptr<DatabaseInspector> inspectDatabase(const std::string& url, const std::string& user,
+                                                   const TFormatSettings& settings, const std::string& procedures) {
+    if (url.starts_with(c_SQLite)) {
+        return std::make_unique<SQLiteInspector>(url.substr(c_SQLite.size()), user, settings, procedures);
+    }
+    if (url.starts_with(c_PostgreSQL)) {
+        return std::make_unique<PostgreSQLInspector>(url.substr(c_PostgreSQL.size()), settings, procedures);
+    }
+    refuseAddress(url);
+}
+
 std::int64_t schemaVersionOf(const std::string& url) {
     if (url.starts_with(c_SQLite)) {
-        SQLiteSession session(url.substr(c_SQLite.size()), {}, TFormatSettings{}, false, c_MakingTime);
+        SQLiteSession session(url.substr(c_SQLite.size()), {}, TFormatSettings{}, OpenMode::Existing, c_MakingTime);
         return sqliteSchemaVersion(session);
     }
     if (url.starts_with(c_PostgreSQL)) {

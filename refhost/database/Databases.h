@@ -2,16 +2,14 @@
 
 #include "host/FormatSettings.h"
 #include "refhost/database/Database.h"
+#include "refhost/database/DatabaseInspector.h"
+#include "refhost/database/OpenMode.h"
 #include "refhost/database/UpgradeReport.h"
 
 #include <memory>
 #include <string>
 
 namespace refhost {
-
-/// Whether a database file that is not there yet is made (empty, without a schema) or refused. A server's database is
-/// always expected to be there.
-enum class OpenMode { Existing, Create };
 
 /// Connects to the database that the address names: "sqlite:FILE" or "postgresql:CONNINFO" (key=value words).
 ///
@@ -22,6 +20,11 @@ enum class OpenMode { Existing, Create };
 /// refused.
 std::unique_ptr<Database> openDatabase(const std::string& url, const std::string& user, const TFormatSettings& settings,
                                        OpenMode mode);
+
+/// Opens the database for looking at it only (DatabaseInspector.h), `procedures` being a folder of scripts for SQLite
+/// or empty. Throws EDatabaseError like openDatabase.
+std::unique_ptr<DatabaseInspector> inspectDatabase(const std::string& url, const std::string& user,
+                                                   const TFormatSettings& settings, const std::string& procedures);
 
 /// The version of the database's schema, whichever it is; 0 when it has none. Throws EDatabaseError.
 std::int64_t schemaVersionOf(const std::string& url);

@@ -119,8 +119,8 @@ std::string copyLine(std::span<const TDbValue> row) {
 
 } // namespace
 
-PostgreSQLSession::PostgreSQLSession(std::string address, const TFormatSettings& settings)
-    : address_(std::move(address)), settings_(settings) {
+PostgreSQLSession::PostgreSQLSession(std::string address, const TFormatSettings& settings, OpenMode mode)
+    : address_(std::move(address)), settings_(settings), mode_(mode) {
     const std::unique_ptr<PQconninfoOption, PostgreSQLDeleter> options(PQconninfoParse(address_.c_str(), nullptr));
     if (!options) {
         throw refusal("ML915/words");
@@ -180,6 +180,9 @@ void PostgreSQLSession::setUp() {
     execute("select set_config('melvark.decimal_separator', $1, false), set_config('melvark.date_order', $2, false), "
             "set_config('melvark.date_separator', $3, false)",
             formats);
+    if (mode_ == OpenMode::ReadingOnly) {
+        execute("set default_transaction_read_only = on");
+    }
 }
 
 void PostgreSQLSession::reconnect() {

@@ -2,6 +2,7 @@
 
 #include "host/Connection.h"
 #include "host/FormatSettings.h"
+#include "refhost/database/OpenMode.h"
 #include "refhost/database/PostgreSQLHandle.h"
 
 #include <map>
@@ -21,7 +22,7 @@ inline constexpr std::string_view c_UpgradeChannel = "melvark_upgraded";
 class PostgreSQLSession {
 public:
     /// `address` are words as the client library takes them ("host=… dbname=…"). Throws EDatabaseError.
-    PostgreSQLSession(std::string address, const TFormatSettings& settings);
+    PostgreSQLSession(std::string address, const TFormatSettings& settings, OpenMode mode = OpenMode::Existing);
 
     PGconn* handle() const { return handle_.get(); }
     const std::string& database() const { return database_; }
@@ -66,6 +67,7 @@ private:
 
     std::string address_;
     TFormatSettings settings_;
+    OpenMode mode_;
     std::string database_;
     std::string user_;
     PostgreSQLHandle handle_;

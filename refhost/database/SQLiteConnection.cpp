@@ -56,12 +56,12 @@ private:
 } // namespace
 
 SQLiteConnection::SQLiteConnection(const std::string& file, const std::string& user, const TFormatSettings& settings,
-                                   bool create, std::chrono::milliseconds patience)
-    : session_(file, user, settings, create, patience) {
-    checkOwner();
+                                   OpenMode mode, std::chrono::milliseconds patience)
+    : session_(file, user, settings, mode, patience) {
+    checkOwner(mode);
     registerFunctions();
     createSessionTables();
-    if (hasSchema()) {
+    if (mode != OpenMode::ReadingOnly && hasSchema()) {
         useWriteAheadLog();
         refreshCollation(session_);
     }
@@ -69,9 +69,9 @@ SQLiteConnection::SQLiteConnection(const std::string& file, const std::string& u
 
 SQLiteConnection::~SQLiteConnection() = default;
 
-void SQLiteConnection::checkOwner() {
+void SQLiteConnection::checkOwner(OpenMode mode) {
     const std::int64_t version = sqliteSchemaVersion(session_);
-    if (sqlite3_db_readonly(session_.handle(), "main") == 1) {
+    if (mode != OpenMode::ReadingOnly && sqlite3_db_readonly(session_.handle(), "main") == 1) {
         session_.fail(SQLITE_READONLY, "open");
     }
     if (version != 0 && version != c_SchemaVersion) {
@@ -212,7 +212,7 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
     }
 }
 
-TResultTable SQLiteConnection::Query(const AnsiString& sql) {
+SQLiteStatement SQLiteConnection::readingStatement(const AnsiString& sql) {
     parameterValue(ParameterKind::Text, "sql", sql);
     std::string_view text = sql;
     const bool isCompany = hasSchema();
@@ -225,12 +225,7 @@ TResultTable SQLiteConnection::Query(const AnsiString& sql) {
         if (statements.size() != 1 || statements.front().columnCount() == 0) {
             refuseQuery(sql);
         }
-        SQLiteStatement& statement = statements.front();
-        TResultTable table{statement.columns(), {}};
-        while (statement.step()) {
-            table.Rows.push_back(statement.row());
-        }
-        return table;
+        return std::move(statements.front());
     } catch (const EDatabaseError& error) {
         if (error.Details().starts_with("SQLite " + std::to_string(SQLITE_AUTH))) {
             refuseQuery(sql);
@@ -240,6 +235,19 @@ TResultTable SQLiteConnection::Query(const AnsiString& sql) {
         }
         throw;
     }
+}
+
+TResultTable SQLiteConnection::Query(const AnsiString& sql) {
+    SQLiteStatement statement = readingStatement(sql);
+    TResultTable table{statement.columns(), {}};
+    while (statement.step()) {
+        table.Rows.push_back(statement.row());
+    }
+    return table;
+}
+
+std::vector<AnsiString> SQLiteConnection::columns(const AnsiString& sql) {
+    return readingStatement(sql).columns();
 }
 
 } // namespace refhost

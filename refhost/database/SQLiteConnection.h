@@ -22,9 +22,9 @@ namespace refhost {
 /// then gives up with a sentence.
 class SQLiteConnection : public Database {
 public:
-    /// Opens the file and checks whose it is; with `create` it may be missing. `patience` is how long a call waits for
-    /// another user's save. Throws EDatabaseError.
-    SQLiteConnection(const std::string& file, const std::string& user, const TFormatSettings& settings, bool create,
+    /// Opens the file and checks whose it is. `patience` is how long a call waits for another user's save. Throws
+    /// EDatabaseError.
+    SQLiteConnection(const std::string& file, const std::string& user, const TFormatSettings& settings, OpenMode mode,
                      std::chrono::milliseconds patience = std::chrono::seconds(5));
     ~SQLiteConnection() override;
 
@@ -44,14 +44,20 @@ public:
     const std::string& user() const override { return session_.user(); }
     std::string address() const override;
 
+    /// The script of a procedure, prepared on this file. Throws EDatabaseError like Describe.
+    const SqlScript& script(const AnsiString& name) { return procedure(name).script(); }
+    /// The names of the columns that a reading statement brings, which is not run. Throws EDatabaseError like Query.
+    std::vector<AnsiString> columns(const AnsiString& sql);
+
 private:
-    void checkOwner();
+    void checkOwner(OpenMode mode);
     /// Within a transaction: refuses to go on with a file that was upgraded since it was opened.
     void refuseAfterUpgrade();
     void registerFunctions();
     void createSessionTables();
     void useWriteAheadLog();
     SQLiteProcedure& procedure(const AnsiString& name);
+    SQLiteStatement readingStatement(const AnsiString& sql);
 
     std::optional<ProcedureFolder> ownProcedures_;
     SQLiteSession session_; // First: statements of functions and procedures are gone before it closes.

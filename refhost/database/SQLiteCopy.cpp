@@ -25,8 +25,8 @@ std::string makeEmptyFile(const std::string& wanted) {
 
 void copyPages(const std::string& file, const std::string& copy) {
     constexpr std::chrono::seconds c_Patience{30};
-    const SQLiteSession source(file, {}, TFormatSettings{}, false, c_Patience);
-    SQLiteSession target(copy, {}, TFormatSettings{}, false, c_Patience);
+    const SQLiteSession source(file, {}, TFormatSettings{}, OpenMode::Existing, c_Patience);
+    SQLiteSession target(copy, {}, TFormatSettings{}, OpenMode::Existing, c_Patience);
     constexpr int c_AllPages = -1;
     sqlite3_backup* backup = sqlite3_backup_init(target.handle(), "main", source.handle(), "main");
     if (backup == nullptr) {

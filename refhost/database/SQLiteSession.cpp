@@ -38,17 +38,19 @@ bool isWriting(int action) {
 
 } // namespace
 
-SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, bool create,
+SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, OpenMode mode,
                              std::chrono::milliseconds patience)
     : file_(std::move(file)), user_(std::move(user)), settings_(settings) {
+    const bool create = mode == OpenMode::Create;
     checkPlace(file_, create);
     if (create && file_ != c_InMemory) {
         makePrivateFile(file_); // one that cannot be made is the engine's to refuse
     }
     sqlite3* opened = nullptr;
     // One thread uses it: nothing has to be locked at every value.
-    const int flags =
-        SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX | (create ? SQLITE_OPEN_CREATE : 0);
+    const int flags = SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX |
+                      (mode == OpenMode::ReadingOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) |
+                      (create ? SQLITE_OPEN_CREATE : 0);
     const int status = sqlite3_open_v2(file_.c_str(), &opened, flags, nullptr);
     handle_.reset(opened);
     if (status != SQLITE_OK) {

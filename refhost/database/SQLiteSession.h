@@ -2,6 +2,7 @@
 
 #include "host/Exceptions.h"
 #include "host/FormatSettings.h"
+#include "refhost/database/OpenMode.h"
 #include "refhost/database/SQLiteHandle.h"
 
 #include <chrono>
@@ -21,9 +22,9 @@ public:
     /// What a statement may do when it is prepared.
     enum class Access { Everything, ReadingOnly };
 
-    /// Opens the file; with `create` it may be missing, and a new one is its owner's alone. `patience` is how long a
-    /// statement waits for another user's save before it gives up. Throws EDatabaseError.
-    SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, bool create,
+    /// Opens the file; a new one is its owner's alone. `patience` is how long a statement waits for another user's save
+    /// before it gives up. Throws EDatabaseError.
+    SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, OpenMode mode,
                   std::chrono::milliseconds patience);
     SQLiteSession(const SQLiteSession&) = delete;
     SQLiteSession& operator=(const SQLiteSession&) = delete;

@@ -62,7 +62,8 @@ bool hasRows(SQLiteSession& session, const std::string& sql) {
 
 /// What a file of this version holds.
 SchemaObjects shippedObjects() {
-    SQLiteSession empty(SQLiteSession::c_InMemory, {}, TFormatSettings{}, true, std::chrono::milliseconds(0));
+    SQLiteSession empty(SQLiteSession::c_InMemory, {}, TFormatSettings{}, OpenMode::Create,
+                        std::chrono::milliseconds(0));
     registerValueFunctions(empty);
     registerCzech(empty);
     createSQLiteTables(empty);

@@ -31,7 +31,7 @@ bool isOlder(SQLiteSession& session, std::int64_t version) {
 } // namespace
 
 UpgradeReport upgradeSQLiteFile(const std::string& file) {
-    SQLiteSession session(file, {}, TFormatSettings{}, false, c_Patience);
+    SQLiteSession session(file, {}, TFormatSettings{}, OpenMode::Existing, c_Patience);
     UpgradeReport report;
     report.From = sqliteSchemaVersion(session);
     if (!isOlder(session, report.From)) {

@@ -19,7 +19,7 @@ int backwards(void* /*context*/, int leftSize, const void* left, int rightSize, 
 TEST(CollationVersion, AFileThatAnotherLibrarySortedIsSortedAnewBeforeItIsUsed) {
     const std::string url = newDatabaseUrl(Engine::SQLite);
     {
-        SQLiteSession other(url.substr(std::string("sqlite:").size()), "", TFormatSettings{}, false,
+        SQLiteSession other(url.substr(std::string("sqlite:").size()), "", TFormatSettings{}, OpenMode::Existing,
                             std::chrono::seconds(5));
         ASSERT_EQ(sqlite3_create_collation_v2(other.handle(), "CZECH", SQLITE_UTF8, nullptr, backwards, nullptr),
                   SQLITE_OK);

@@ -46,7 +46,8 @@ SQLiteFile::~SQLiteFile() {
 }
 
 std::unique_ptr<SQLiteConnection> SQLiteFile::open(const std::string& user, bool create) const {
-    return std::make_unique<SQLiteConnection>(path_.string(), user, TFormatSettings::Czech(), create,
+    return std::make_unique<SQLiteConnection>(path_.string(), user, TFormatSettings::Czech(),
+                                              create ? OpenMode::Create : OpenMode::Existing,
                                               std::chrono::milliseconds(0));
 }
 

@@ -102,7 +102,7 @@ TEST(SQLiteSession, WhileAnotherSavesReadingGoesOnAndSavingSaysWhy) {
     const auto second = file.open("dvorak");
     reset(*second);
     insert(*second, "1");
-    SQLiteSession blocker(file.path().string(), "svoboda", TFormatSettings::Czech(), false,
+    SQLiteSession blocker(file.path().string(), "svoboda", TFormatSettings::Czech(), OpenMode::Existing,
                           std::chrono::milliseconds(0));
     {
         const SQLiteTransaction writing(blocker, SQLiteTransaction::Kind::Writing);

@@ -68,7 +68,7 @@ BareConnection::BareConnection(const std::string& url) : link_(std::make_unique<
         link_->Server.emplace(url.substr(c_PostgreSQL.size()), TFormatSettings{});
         return;
     }
-    link_->File.emplace(url.substr(c_SQLite.size()), "", TFormatSettings{}, true, std::chrono::seconds(5));
+    link_->File.emplace(url.substr(c_SQLite.size()), "", TFormatSettings{}, OpenMode::Create, std::chrono::seconds(5));
     registerValueFunctions(*link_->File);
     registerCzech(*link_->File);
     registerDecimalFunctions(link_->File->handle());

@@ -15,7 +15,7 @@ void makeVersionOne(const std::string& path) {
     if (!(sql << fixture.rdbuf())) {
         throw std::runtime_error("the company of the first version cannot be read");
     }
-    SQLiteSession session(path, {}, TFormatSettings{}, true, std::chrono::seconds(5));
+    SQLiteSession session(path, {}, TFormatSettings{}, OpenMode::Create, std::chrono::seconds(5));
     registerCzech(session);
     session.execute(sql.str());
 }

@@ -1,0 +1,7 @@
+#include "refhost/database/DatabaseInspector.h"
+
+namespace refhost {
+
+DatabaseInspector::~DatabaseInspector() = default;
+
+} // namespace refhost
