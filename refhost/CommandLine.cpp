@@ -311,6 +311,10 @@ private:
 
 } // namespace
 
+TFormatSettings formatSettingsOf(std::string_view locale) {
+    return locale == "en_GB" ? TFormatSettings::English() : TFormatSettings::Czech();
+}
+
 CommandLine parseCommandLine(const std::vector<std::string>& words) {
     return Reader().read(words);
 }

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "host/FormatSettings.h"
+
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -26,6 +29,9 @@ struct CommandLine {
     std::int32_t lines = 0;
     bool empty = false; ///< A new company without the sample.
 };
+
+/// How the locale that an option names writes numbers and dates.
+TFormatSettings formatSettingsOf(std::string_view locale);
 
 /// The command line makes no sense; the message says which word and why, in the language of the options.
 class CommandLineError : public std::runtime_error {

@@ -17,11 +17,6 @@ namespace {
 
 constexpr std::string_view c_fileScheme = "sqlite:";
 
-std::string systemUser() {
-    const passwd* entry = getpwuid(geteuid());
-    return entry ? entry->pw_name : std::to_string(geteuid());
-}
-
 std::string userOf(const CommandLine& commandLine) {
     return commandLine.user.empty() ? systemUser() : commandLine.user;
 }
@@ -72,6 +67,11 @@ std::unique_ptr<Database> openOwnDatabase(const CommandLine& commandLine, const 
 }
 
 } // namespace
+
+std::string systemUser() {
+    const passwd* entry = getpwuid(geteuid());
+    return entry ? entry->pw_name : std::to_string(geteuid());
+}
 
 std::string defaultDatabaseFile() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);

@@ -14,6 +14,9 @@ namespace refhost {
 /// The file of the user's own database, used when the command line names no other: in the user's data directory.
 std::string defaultDatabaseFile();
 
+/// Who works when nobody is named: the system's user.
+std::string systemUser();
+
 /// Hears of an upgrade that opening a database brought about.
 using UpgradeListener = std::function<void(const UpgradeReport&)>;
 

@@ -22,10 +22,6 @@ namespace {
 
 constexpr int c_failed = 2;
 
-TFormatSettings formatSettings(const CommandLine& commandLine) {
-    return commandLine.locale == "en_GB" ? TFormatSettings::English() : TFormatSettings::Czech();
-}
-
 bool hasWindows(Command command) {
     return command == Command::OpenHost || command == Command::Execute;
 }
@@ -36,7 +32,7 @@ std::string upgradeNote(const UpgradeReport& report, const Languages& languages)
 }
 
 int runInWindows(const CommandLine& commandLine, const Languages& languages, Trace& trace) {
-    const TFormatSettings settings = formatSettings(commandLine);
+    const TFormatSettings settings = formatSettingsOf(commandLine.locale);
     std::string note;
     const auto database = openCompanyDatabase(
         commandLine, settings, [&](const UpgradeReport& report) { note = upgradeNote(report, languages); });
@@ -63,7 +59,7 @@ std::string upgradeJson(const UpgradeReport& report) {
 }
 
 void runWithoutWindows(const CommandLine& commandLine, const Languages& languages) {
-    const TFormatSettings settings = formatSettings(commandLine);
+    const TFormatSettings settings = formatSettingsOf(commandLine.locale);
     if (commandLine.command == Command::CreateDatabase) {
         createCompanyDatabase(commandLine, settings);
         return;

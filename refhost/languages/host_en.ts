@@ -391,5 +391,105 @@
         <source>uzavřený</source>
         <translation>closed</translation>
     </message>
+    <message id="MELVARKHOST\DBCHECK\COMPANYMISSING">
+        <source>%4</source>
+        <translation>%4</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\PROCEDUREMISSING">
+        <source>Procedura %1 chybí. Vytvořte ji.</source>
+        <translation>The procedure %1 is missing. Create it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\PROCEDUREUNUSABLE">
+        <source>Procedura %1 nemůže běžet. Opravte ji. (%4)</source>
+        <translation>The procedure %1 cannot run. Mend it. (%4)</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\PROCEDUREAMBIGUOUS">
+        <source>Jméno %1 nese víc procedur (%4). Ponechte jen jednu.</source>
+        <translation>Several procedures bear the name %1 (%4). Keep one of them.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\PARAMETERMISSING">
+        <source>Procedura %1 nemá parametr %2 (%3). Přidejte jej.</source>
+        <translation>The procedure %1 has no parameter %2 (%3). Add it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\PARAMETERTYPE">
+        <source>Parametr %2 procedury %1 má typ %4. Změňte jej na %3.</source>
+        <translation>The parameter %2 of the procedure %1 has the type %4. Make it %3.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\PARAMETERNEEDED">
+        <source>Parametr %2 procedury %1 nejde vynechat. Přidejte mu %3.</source>
+        <translation>The parameter %2 of the procedure %1 cannot be left out. Give it a %3.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\OUTPUTMISSING">
+        <source>Procedura %1 nemá výstupní parametr %2 (%3). Přidejte jej.</source>
+        <translation>The procedure %1 has no output parameter %2 (%3). Add it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\OUTPUTTYPE">
+        <source>Výstupní parametr %2 procedury %1 má typ %4. Změňte jej na %3.</source>
+        <translation>The output parameter %2 of the procedure %1 has the type %4. Make it %3.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\SETMISSING">
+        <source>Procedura %1 vrací málo výsledků: %4, čeká se %3. Doplňte chybějící.</source>
+        <translation>The procedure %1 brings too few result sets: %4, where %3 are expected. Add what is missing.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\COLUMNMISSING">
+        <source>Výsledek procedury %1 nemá sloupec %2 (%3). Přidejte jej.</source>
+        <translation>The result of the procedure %1 has no column %2 (%3). Add it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\COLUMNTYPE">
+        <source>Sloupec %2 ve výsledku procedury %1 má typ %4. Vracejte %3.</source>
+        <translation>The column %2 in the result of the procedure %1 has the type %4. Return %3.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\VIEWUNUSABLE">
+        <source>Pohled %1 nejde číst. Vytvořte jej, nebo opravte. (%4)</source>
+        <translation>The view %1 cannot be read. Create or mend it. (%4)</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\VIEWCOLUMNMISSING">
+        <source>Pohled %1 nemá sloupec %2 (%3). Přidejte jej.</source>
+        <translation>The view %1 has no column %2 (%3). Add it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\VIEWCOLUMNTYPE">
+        <source>Sloupec %2 pohledu %1 má typ %4. Vracejte %3.</source>
+        <translation>The column %2 of the view %1 has the type %4. Return %3.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\QUERYUNUSABLE">
+        <source>Dotaz „%1“ nejde položit. Opravte pohled, který čte. (%4)</source>
+        <translation>The query “%1” cannot be asked. Mend the view that it reads. (%4)</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\QUERYORDER">
+        <source>Dotaz „%1“ neřadí česky: místo %3 dává %4. Dejte sloupci %2 české řazení.</source>
+        <translation>The query “%1” does not sort by Czech rules: it gives %4 in place of %3. Give the column %2 a Czech collation.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\FUNCTIONUNUSABLE">
+        <source>Funkci %1 nejde zavolat tak, jak stojí v podmínce „%2“. Vytvořte ji, nebo opravte. (%4)</source>
+        <translation>The function %1 cannot be called as it stands in the condition “%2”. Create or mend it. (%4)</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\ROLEMISSING">
+        <source>Role %1 chybí. Založte ji.</source>
+        <translation>The role %1 is missing. Create it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\ROLEOUTSIDE">
+        <source>Role %1 nesmí do schématu melvark. Dejte jí na ně právo usage.</source>
+        <translation>The role %1 may not enter the schema melvark. Grant it usage there.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\ROLEMAYNOTCALL">
+        <source>Role %1 nesmí volat %2. Dejte jí právo execute.</source>
+        <translation>The role %1 may not call %2. Grant it execute.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\ROLEMAYNOTREAD">
+        <source>Role %1 nesmí číst %2. Dejte jí právo select.</source>
+        <translation>The role %1 may not read %2. Grant it select.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\ROLEMAYWRITE">
+        <source>Role %1 smí přímo měnit %2, mimo procedury. Odeberte jí to právo.</source>
+        <translation>The role %1 may change %2 itself, past the procedures. Revoke that right.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\FITS">
+        <source>Databáze vyhovuje.</source>
+        <translation>The database fits.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\COUNT">
+        <source>Nevyhovuje, nálezů: %1</source>
+        <translation>It does not fit, findings: %1</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace refhost {
+
+/// The command line of the program that checks a database, read. Texts are UTF-8 as they came.
+struct CheckCommandLine {
+    std::string database; ///< "sqlite:FILE" or "postgresql:CONNINFO".
+    std::string user;     ///< Empty for the system's user.
+    std::string locale = "cs_CZ";
+    std::string language = "cs";
+    std::string procedures; ///< A folder whose scripts replace procedures of the embedded engine; empty for none.
+    bool json = false;
+    bool help = false;
+};
+
+/// Reads the words behind the program's name. Throws CommandLineError.
+CheckCommandLine parseCheckCommandLine(const std::vector<std::string>& words);
+
+/// How the program is used, ready to be printed.
+std::string checkUsageText();
+
+} // namespace refhost

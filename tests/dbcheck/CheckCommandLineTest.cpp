@@ -1,0 +1,56 @@
+#include "refhost/dbcheck/CheckCommandLine.h"
+
+#include "refhost/CommandLine.h"
+
+#include <gmock/gmock.h>
+
+namespace refhost {
+namespace {
+
+using testing::HasSubstr;
+
+std::string refused(const std::vector<std::string>& words) {
+    try {
+        parseCheckCommandLine(words);
+        return "accepted";
+    } catch (const CommandLineError& error) {
+        return error.what();
+    }
+}
+
+TEST(CheckCommandLine, TakesItsOptionsInAnyOrder) {
+    const CheckCommandLine line =
+        parseCheckCommandLine({"--json", "--language", "en", "--database", "sqlite:a b.db", "--user", "nováková",
+                               "--locale", "en_GB", "--procedures", "vlastní"});
+    EXPECT_EQ(line.database, "sqlite:a b.db");
+    EXPECT_EQ(line.user, "nováková");
+    EXPECT_EQ(line.locale, "en_GB");
+    EXPECT_EQ(line.language, "en");
+    EXPECT_EQ(line.procedures, "vlastní");
+    EXPECT_TRUE(line.json);
+}
+
+TEST(CheckCommandLine, IsCzechAndForPeopleWhenNothingElseIsSaid) {
+    const CheckCommandLine line = parseCheckCommandLine({"--database", "sqlite:a.db"});
+    EXPECT_EQ(line.locale, "cs_CZ");
+    EXPECT_EQ(line.language, "cs");
+    EXPECT_FALSE(line.json);
+}
+
+TEST(CheckCommandLine, NeedsADatabaseAndRefusesWhatItDoesNotKnow) {
+    EXPECT_THAT(refused({}), HasSubstr("--database"));
+    EXPECT_THAT(refused({"--database"}), HasSubstr("--database"));
+    EXPECT_THAT(refused({"--database", "sqlite:a.db", "--language", "de"}), HasSubstr("--language"));
+    EXPECT_THAT(refused({"--database", "sqlite:a.db", "word"}), HasSubstr("word"));
+    EXPECT_EQ(refused({"--help"}), "accepted");
+}
+
+TEST(CheckCommandLine, TellsEveryOptionAndTheExitStatus) {
+    for (const char* told :
+         {"--database", "--user", "--procedures", "--locale", "--language", "--json", "Exit status"}) {
+        EXPECT_THAT(checkUsageText(), HasSubstr(told));
+    }
+}
+
+} // namespace
+} // namespace refhost
