@@ -1,6 +1,7 @@
 #include "tests/session/HostSession.h"
 
 #include "refhost/database/Databases.h"
+#include "tests/session/ContractTrace.h"
 #include "tests/session/TinyCompany.h"
 
 #include <QCoreApplication>
@@ -9,6 +10,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <gmock/gmock.h>
 #include <regex>
 #include <stdexcept>
 
@@ -77,6 +79,7 @@ int HostSession::finish() {
         fail(QStringLiteral("the host did not end"));
     }
     standardError_ = host_.readAllStandardError().toStdString();
+    EXPECT_THAT(callsOutsideContract(trace()), testing::IsEmpty());
     return host_.exitStatus() == QProcess::NormalExit ? host_.exitCode() : -1;
 }
 
