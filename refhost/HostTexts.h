@@ -75,6 +75,9 @@ inline constexpr HostText errorKind{"MELVARKHOST\\ERROR\\KIND", "Druh: %1"};
 
 inline constexpr HostText pluginNotFound{"MELVARKHOST\\PLUGIN\\NOTFOUND",
                                          "Modul „%1“ nebyl nalezen. Nainstalujte jej znovu vedle programu."};
+inline constexpr HostText pluginUnsafe{"MELVARKHOST\\PLUGIN\\UNSAFE",
+                                       "Modul „%1“ nebyl načten, protože „%2“ mohou měnit i jiní uživatelé. "
+                                       "Nainstalujte jej znovu, nebo jim to právo odeberte."};
 inline constexpr HostText pluginUnloadable{"MELVARKHOST\\PLUGIN\\UNLOADABLE",
                                            "Modul „%1“ nelze načíst. Nainstalujte jej znovu. (%2)"};
 inline constexpr HostText pluginNoEntry{"MELVARKHOST\\PLUGIN\\NOENTRY",

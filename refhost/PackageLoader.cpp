@@ -4,6 +4,7 @@
 #include "host/Exceptions.h"
 #include "host/LibraryItem.h"
 #include "refhost/Languages.h"
+#include "refhost/TrustedFile.h"
 
 #include <QFileInfo>
 #include <QLibrary>
@@ -26,6 +27,10 @@ template <typename... Values>
 void load(QLibrary& library, const std::string& name, const Languages& languages) {
     if (!QFileInfo::exists(library.fileName())) {
         refuse(languages, texts::pluginNotFound, name);
+    }
+    // Its code would run with the user's rights.
+    if (const std::string place = openToOthers(library.fileName().toStdString()); !place.empty()) {
+        refuse(languages, texts::pluginUnsafe, name, place);
     }
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     if (!library.load()) {

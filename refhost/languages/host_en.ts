@@ -191,6 +191,10 @@
         <source>Modul „%1“ nebyl nalezen. Nainstalujte jej znovu vedle programu.</source>
         <translation>The module “%1” was not found. Install it again beside the program.</translation>
     </message>
+    <message id="MELVARKHOST\PLUGIN\UNSAFE">
+        <source>Modul „%1“ nebyl načten, protože „%2“ mohou měnit i jiní uživatelé. Nainstalujte jej znovu, nebo jim to právo odeberte.</source>
+        <translation>The module “%1” was not loaded, because other users can change “%2”. Install it again, or take that right from them.</translation>
+    </message>
     <message id="MELVARKHOST\PLUGIN\UNLOADABLE">
         <source>Modul „%1“ nelze načíst. Nainstalujte jej znovu. (%2)</source>
         <translation>The module “%1” cannot be loaded. Install it again. (%2)</translation>

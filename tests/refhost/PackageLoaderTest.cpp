@@ -5,6 +5,8 @@
 #include "refhost/Languages.h"
 #include "tests/support/RecordingHost.h"
 
+#include <QTemporaryDir>
+
 #include <filesystem>
 #include <fstream>
 #include <gmock/gmock.h>
@@ -30,6 +32,7 @@ protected:
         }
     }
 
+    QTemporaryDir folder_; // its user's alone
     RecordingHost host_;
     TScopedHost scope_{host_};
     Languages languages_{"cs"};
@@ -66,11 +69,24 @@ TEST_F(PackageLoaderTest, AMissingFileIsNamedWithoutItsFolder) {
 }
 
 TEST_F(PackageLoaderTest, AFileThatIsNoLibraryIsRefused) {
-    const std::string file = testing::TempDir() + "NoLibrary.so";
+    const std::string file = folder_.filePath(QStringLiteral("NoLibrary.so")).toStdString();
     std::ofstream(file) << "text";
 
     EXPECT_THAT(refusal(file), StartsWith("Modul „NoLibrary.so“ nelze načíst. Nainstalujte jej znovu. ("));
-    std::filesystem::remove(file);
+}
+
+TEST_F(PackageLoaderTest, AFileThatOthersCanReplaceIsNotLoaded) {
+    namespace fs = std::filesystem;
+    const fs::path open = folder_.filePath(QStringLiteral("open")).toStdString();
+    const fs::path file = open / "GoodPlugin.so";
+    fs::create_directory(open);
+    fs::copy(plugin("GoodPlugin"), file);
+    EXPECT_EQ(refusal(file.string()), "loaded");
+
+    fs::permissions(open, fs::perms::all);
+    EXPECT_EQ(refusal(file.string()), "Modul „GoodPlugin.so“ nebyl načten, protože „" + fs::canonical(open).string() +
+                                          "“ mohou měnit i jiní uživatelé. Nainstalujte jej znovu, nebo jim to právo "
+                                          "odeberte.");
 }
 
 TEST_F(PackageLoaderTest, ALibraryThatFitsNoProgramIsRefusedBeforeItRuns) {
