@@ -1,6 +1,8 @@
 #include "refhost/CommandLine.h"
 
+#include "host/Package.h"
 #include "host/ValueText.h"
+#include "refhost/database/SchemaVersion.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -44,6 +46,8 @@ constexpr std::array c_commands{
     CommandRow{Command::UpgradeDatabase, "--upgrade-database", Value::None, "", false,
                "brings a database of an older version to this program's, after a copy\nof the file, "
                "and prints what it did as a JSON line"},
+    CommandRow{Command::Version, "--version", Value::None, "", false,
+               "prints the versions of the program, its contract and its databases"},
     CommandRow{Command::Help, "--help", Value::None, "", false, "prints this text"},
 };
 
@@ -321,6 +325,11 @@ CommandLine parseCommandLine(const std::vector<std::string>& words) {
 
 std::string usageText() {
     return Reader().usage();
+}
+
+std::string versionText() {
+    return "melvark-host " MELVARK_VERSION "\ncontract " + std::to_string(c_ContractVersion) + "\ndatabase " +
+           std::to_string(c_SchemaVersion) + "\n";
 }
 
 } // namespace refhost

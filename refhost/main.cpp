@@ -15,5 +15,9 @@ int main(int argc, char** argv) {
         std::cout << refhost::usageText();
         return 0;
     }
+    if (commandLine.command == refhost::Command::Version) {
+        std::cout << refhost::versionText();
+        return 0;
+    }
     return refhost::runProgram(commandLine, argc, argv);
 }

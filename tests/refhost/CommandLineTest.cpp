@@ -57,6 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
         GoodCase{"Create", {"--create-database"}, Command::CreateDatabase, "", 0, 0},
         GoodCase{"CreateWithLines", {"--create-database", "--lines", "5000"}, Command::CreateDatabase, "", 0, 5000},
         GoodCase{"Upgrade", {"--upgrade-database"}, Command::UpgradeDatabase, "", 0, 0},
+        GoodCase{"Version", {"--version"}, Command::Version, "", 0, 0},
         GoodCase{"Help", {"--help"}, Command::Help, "", 0, 0}),
     [](const auto& row) { return row.param.name; });
 
@@ -151,7 +152,7 @@ TEST(CommandLine, KeepsTheValuesOfACallInOrderAndPartsThemAtTheFirstEqualsSign) 
 TEST(CommandLine, UsageNamesEveryCommand) {
     for (const char* option : {"--execute", "--document", "--call", "--batch", "--query", "--documents", "--show",
                                "--create-database", "--upgrade-database", "--lines", "--empty", "--procedures",
-                               "--database", "--user", "--locale", "--language", "--trace"}) {
+                               "--database", "--user", "--locale", "--language", "--trace", "--version"}) {
         EXPECT_THAT(usageText(), HasSubstr(option));
     }
     EXPECT_THAT(usageText(), Not(HasSubstr("Excludes")));

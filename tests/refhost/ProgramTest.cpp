@@ -77,6 +77,16 @@ TEST_F(ProgramTest, HelpIsPrinted) {
     EXPECT_EQ(outcome.errors, "");
 }
 
+TEST_F(ProgramTest, TheVersionsOfProgramContractAndDatabasesArePrintedWithoutOpeningOne) {
+    const Outcome outcome = runIn(file(QStringLiteral("untouched")), {QStringLiteral("--version")});
+
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.output, testing::MatchesRegex("melvark-host [0-9]+\\.[0-9]+\\.[0-9]+[^\n]*\n"
+                                                      "contract [0-9]+\ndatabase [0-9]+\n"));
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_FALSE(QFileInfo::exists(file(QStringLiteral("untouched"))));
+}
+
 TEST_F(ProgramTest, TheFirstUseMakesTheSampleCompanyInTheDataDirectory) {
     const Outcome outcome = run({QStringLiteral("--documents"), QStringLiteral("DODAK")});
 
