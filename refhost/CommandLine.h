@@ -12,7 +12,19 @@
 namespace refhost {
 
 /// What the program was started for.
-enum class Command { OpenHost, Execute, Call, Batch, Query, Documents, Show, CreateDatabase, UpgradeDatabase, Version, Help };
+enum class Command {
+    OpenHost,
+    Execute,
+    Call,
+    Batch,
+    Query,
+    Documents,
+    Show,
+    CreateDatabase,
+    UpgradeDatabase,
+    Version,
+    Help
+};
 
 /// The command line, read and checked. Texts are UTF-8 as they came.
 struct CommandLine {
@@ -46,7 +58,8 @@ CommandLine parseCommandLine(const std::vector<std::string>& words);
 /// themselves: they are for scripts and administrators, not for clerks.
 std::string usageText();
 
-/// The program's name and version, those of the contract that its modules must have, and of the databases that it opens.
+/// The program's name and version, those of the contract that its modules must have, and of the databases that it
+/// opens.
 std::string versionText();
 
 } // namespace refhost

@@ -18,8 +18,8 @@ class Languages;
 class Package {
 public:
     /// Loads the library, checks its description and initialises it, so that it registers its classes with the current
-    /// host. Throws EHostError with a sentence for the user: no such file, in a place where others can write, no library,
-    /// not a package, of another version, or failed to start.
+    /// host. Throws EHostError with a sentence for the user: no such file, in a place where others can write, no
+    /// library, not a package, of another version, or failed to start.
     Package(const std::string& file, const Languages& languages);
     Package(const Package&) = delete;
     Package& operator=(const Package&) = delete;

@@ -12,8 +12,8 @@ namespace refhost {
 
 namespace {
 
-/// Whether the group bears this process's user's name and lists nobody else: the private group that a user gets with his
-/// account, in which his files stand on systems whose habit is to let a group write.
+/// Whether the group bears this process's user's name and lists nobody else: the private group that a user gets with
+/// his account, in which his files stand on systems whose habit is to let a group write.
 bool isOwnGroup(gid_t group) {
     const passwd* user = getpwuid(geteuid());
     const struct group* found = user ? getgrgid(group) : nullptr;
