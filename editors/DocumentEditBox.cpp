@@ -61,6 +61,7 @@ void TDocumentEditBox::FillLines(const AnsiString& procedure, std::initializer_l
 void TDocumentEditBox::SaveDataToTempFile() {
     const std::vector<AnsiString> keys = AutosaveKeys(DefaultColumns());
     TempFile().Write([&](std::ostream& out) { WriteAutosave(out, FDocumentID, keys, DataGrid()); });
+    TellOnceIfHeld();
 }
 
 bool TDocumentEditBox::LoadDataFromTempFile(int& aDocumentID) {
@@ -76,19 +77,8 @@ bool TDocumentEditBox::LoadDataFromTempFile(int& aDocumentID) {
 }
 
 bool TDocumentEditBox::RestoreData() {
-    if (!TempFile().HasContent()) {
-        if (TempFile().IsHeldElsewhere()) {
-            TellWhenShown(UnsavedWorkIsHeld());
-        }
-        return false;
-    }
     int id = c_NullValue;
-    if (!LoadDataFromTempFile(id)) {
-        ShowErrorBox(UnsavedWorkIsUnreadable());
-        TempFile().Remove();
-        return false;
-    }
-    if (!MayBeRestored(id)) {
+    if (!FindUnsavedWork(id) || !MayBeRestored(id)) {
         return false;
     }
     if (id != FDocumentID) {
@@ -97,6 +87,29 @@ bool TDocumentEditBox::RestoreData() {
     FDocumentID = id;
     RestoreDataFromDataGrid(); // sets the file aside, too
     return true;
+}
+
+bool TDocumentEditBox::FindUnsavedWork(int& id) {
+    try {
+        if (!TempFile().HasContent()) {
+            TellOnceIfHeld();
+            return false;
+        }
+        if (LoadDataFromTempFile(id)) {
+            return true;
+        }
+        ShowErrorBox(UnsavedWorkIsUnreadable());
+        TempFile().Remove();
+    } catch (const EInOutError& failure) {
+        TellAutosaveFailure(failure);
+    }
+    return false;
+}
+
+void TDocumentEditBox::TellOnceIfHeld() {
+    if (TempFile().IsHeldElsewhere() && !std::exchange(FIsHeldTold, true)) {
+        TellWhenShown(UnsavedWorkIsHeld());
+    }
 }
 
 // Without an answer the work is neither taken up nor declined: it is kept for the next time.

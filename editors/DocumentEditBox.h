@@ -23,7 +23,8 @@ public:
     /// Writes all lines to the file of unsaved work. Throws EInOutError.
     void SaveDataToTempFile();
     /// Fills the cell store from the file of unsaved work, and tells whose document the lines are. False, with nothing
-    /// changed, when the file does not hold lines of this kind of document.
+    /// changed, when the file does not hold lines of this kind of document. Throws EInOutError when the system does not
+    /// give it.
     bool LoadDataFromTempFile(int& aDocumentID);
     /// Takes unsaved work up again when there is some and the database agrees: true when the lines came from it. The
     /// document that is edited is then the one that the work belongs to. Throws EDatabaseError.
@@ -57,9 +58,14 @@ protected:
     melvark::DocumentColumns Columns() const;
 
 private:
+    /// Whether there was unsaved work and it is in the cell store; `id` is then its document. What is no such work is
+    /// told and removed; what cannot be read is told and stays.
+    bool FindUnsavedWork(int& id);
+    void TellOnceIfHeld();
     /// Asks the database; what it declines is gone for good.
     bool MayBeRestored(int id);
 
     const melvark::DocumentKind& FDocumentKind;
     int FDocumentID;
+    bool FIsHeldTold = false;
 };

@@ -18,6 +18,8 @@ public:
     void Enable();
     void Disable();
 
+    /// The user was told of a failure before any save.
+    void FailureIsKnown() { FHasFailed = true; }
     /// Runs the save. What it throws passes through the first time; later ones are kept from the user, who knows, until
     /// a save has succeeded.
     void Run(const std::function<void()>& save);

@@ -64,9 +64,7 @@ void TEditBox::FormShow() {
     ApplyColumnsSettingsToGrid();
     GoNextEditable();
     LoadWindowSettings();
-    // A note has an event loop of its own, which a show event must not wait for.
-    QMetaObject::invokeMethod(
-        this, [this] { Guarded([this] { TellNotes(); }); }, Qt::QueuedConnection);
+    TellNotesSoon();
 }
 
 void TEditBox::FormClose() {
@@ -176,6 +174,24 @@ void TEditBox::RestoreDataFromDataGrid() {
 
 KeptFile& TEditBox::TempFile() {
     return *FHelpers->TempFile;
+}
+
+void TEditBox::TellWhenShown(AnsiString text) {
+    FNotes.push_back(std::move(text));
+    if (isVisible()) {
+        TellNotesSoon();
+    }
+}
+
+void TEditBox::TellAutosaveFailure(const EInOutError& failure) {
+    FHelpers->Autosave.FailureIsKnown();
+    TellWhenShown(failure.Message());
+}
+
+// A note has an event loop of its own, which a show event or a tick must not wait for.
+void TEditBox::TellNotesSoon() {
+    QMetaObject::invokeMethod(
+        this, [this] { Guarded([this] { TellNotes(); }); }, Qt::QueuedConnection);
 }
 
 void TEditBox::TellNotes() {

@@ -2,6 +2,7 @@
 
 #include "editwin/EditBoxControls.h"
 #include "editwin/model/Column.h"
+#include "host/Exceptions.h"
 #include "host/Types.h"
 #include "host/widgets/Form.h"
 
@@ -168,8 +169,10 @@ protected:
     TLibraryManager* LibraryManager() const { return FLibraryManager; }
     const TEditBoxKind& Kind() const { return FKind; }
     melvark::KeptFile& TempFile();
-    /// Has the host tell it when the form is shown for the first time.
-    void TellWhenShown(AnsiString text) { FNotes.push_back(std::move(text)); }
+    /// Has the host tell it, outside the running event; not before the form is shown for the first time.
+    void TellWhenShown(AnsiString text);
+    /// Tells why unsaved work is not being kept; the autosave then keeps its own failures until a save has succeeded.
+    void TellAutosaveFailure(const EInOutError& failure);
 
     void FormShow() override;
     void FormClose() override;
@@ -186,6 +189,7 @@ private:
     /// A refusal that names its line makes that line the current one before it goes on to the error display.
     bool SaveOrShowRefusedLine();
     bool RunCommand(melvark::EditorCommand command);
+    void TellNotesSoon();
     void TellNotes();
 
     TLibraryManager* FLibraryManager;

@@ -20,7 +20,7 @@ struct Reason {
 };
 constexpr Reason c_Reasons[] = {
     {R"(KORDAN30\MELVARKEDITOR\AUTOSAVEDISKFULL)", "disk je plný nebo je vyčerpána kvóta", {ENOSPC, EDQUOT, EFBIG}},
-    {R"(KORDAN30\MELVARKEDITOR\AUTOSAVENOTALLOWED)", "do složky nelze zapisovat", {EACCES, EPERM, EROFS}},
+    {R"(KORDAN30\MELVARKEDITOR\AUTOSAVENOTALLOWED)", "chybí práva nebo je disk jen ke čtení", {EACCES, EPERM, EROFS}},
     {R"(KORDAN30\MELVARKEDITOR\AUTOSAVENOFOLDER)", "složka neexistuje", {ENOENT, ENOTDIR, ENOTDIR}},
 };
 
@@ -43,6 +43,18 @@ EInOutError Failure(const AnsiString& reason, const AnsiString& path) {
 
 EInOutError AutosaveRefused(int error, const AnsiString& path) {
     return Failure(ReasonText(error), path);
+}
+
+EInOutError AutosaveUnread(int error, const AnsiString& path) {
+    return EInOutError(LangStr(R"(KORDAN30\MELVARKEDITOR\UNSAVEDWORKNOTREAD)", {ReasonText(error), path},
+                               "Nelze přečíst, co tu zbylo z rozepsané práce (%s): „%s“. Co tam je, zůstane, a práce v "
+                               "tomto okně se zatím průběžně neukládá."));
+}
+
+EInOutError AutosaveOverUnread(const AnsiString& path) {
+    return Failure(LangStr(R"(KORDAN30\MELVARKEDITOR\AUTOSAVEOVERUNREAD)", {},
+                           "je tam starší rozepsaná práce, kterou nebylo možné přečíst"),
+                   path);
 }
 
 EInOutError AutosaveForeign(const AnsiString& path) {

@@ -43,25 +43,23 @@ KeptFile::~KeptFile() {
 bool KeptFile::HasContent() {
     try {
         return Hold() && !ContentName().empty();
-    } catch (const std::system_error&) {
-        return false;
-    } catch (const EInOutError&) {
-        return false;
+    } catch (const std::system_error& refusal) {
+        throw AutosaveUnread(refusal.code().value(), FPath);
     }
 }
 
-bool KeptFile::Read(const std::function<void(std::istream&)>& read) {
+void KeptFile::Read(const std::function<void(std::istream&)>& read) {
     try {
         const Descriptor file = FDirectory->OpenToRead(ContentName());
         if (!file.IsOpen()) {
-            return false;
+            throw AutosaveForeign(FPath);
         }
         DescriptorInput buffer(file);
         std::istream stream(&buffer);
         read(stream);
-        return true;
-    } catch (const std::system_error&) {
-        return false;
+        FIsKnown = true;
+    } catch (const std::system_error& refusal) {
+        throw AutosaveUnread(refusal.code().value(), FPath);
     }
 }
 
@@ -73,7 +71,11 @@ void KeptFile::Write(const std::function<void(std::ostream&)>& write) {
         if (FDirectory->Look(FName) == Entry::Foreign) {
             throw AutosaveForeign(FPath);
         }
+        if (!MayReplace()) {
+            throw AutosaveOverUnread(FPath);
+        }
         PutInPlace(write);
+        FIsKnown = true;
         FDirectory->Sync();
         RemoveOwn(FCopyName);
     } catch (const std::system_error& refusal) {
@@ -83,7 +85,8 @@ void KeptFile::Write(const std::function<void(std::ostream&)>& write) {
 
 void KeptFile::SetAside() noexcept {
     try {
-        if (IsHeld() && FDirectory->Look(FName) == Entry::Own && FDirectory->Look(FCopyName) != Entry::Foreign) {
+        if (IsHeld() && FIsKnown && FDirectory->Look(FName) == Entry::Own &&
+            FDirectory->Look(FCopyName) != Entry::Foreign) {
             FDirectory->Rename(FName, FCopyName);
         }
     } catch (const std::system_error&) {
@@ -92,10 +95,10 @@ void KeptFile::SetAside() noexcept {
 }
 
 void KeptFile::Remove() noexcept {
-    if (!IsHeld()) {
-        return;
-    }
     try {
+        if (!IsHeld() || !MayReplace()) {
+            return;
+        }
         // The copy goes first: alone, it would be offered in place of the newer content.
         for (const AnsiString* name : {&FCopyName, &FName, &FNewName}) {
             RemoveOwn(*name);
@@ -110,6 +113,7 @@ void KeptFile::Remove() noexcept {
 bool KeptFile::Hold() {
     if (IsHeld() && FDirectory->IsGone()) {
         FState = State::Untouched; // A directory that was removed took the lock with it.
+        FIsKnown = false;
     }
     if (FState == State::Untouched) {
         auto directory = PrivateDirectory::Open(std::filesystem::path(FPath).parent_path());

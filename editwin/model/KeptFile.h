@@ -15,9 +15,12 @@ namespace melvark {
 /// Content that is no longer to be offered as the current one, but is not saved either, is set aside under a second
 /// name. It goes with the next content that is written. An editor that finds only that copy takes it as its file.
 ///
-/// Whoever holds the file has it alone, in this process and in others, until the object or the process ends. The first
-/// Open or Write takes hold of it; where another one holds it, nothing is read, written or removed. A link, a pipe, a
+/// Whoever holds the file has it alone, in this process and in others, until the object or the process ends. HasContent
+/// and Write take hold of it; where another one holds it, nothing is read, written or removed. A link, a pipe, a
 /// directory or another user's file under one of the names is left as it is.
+///
+/// Content that the object finds is replaced, set aside and removed only after it was read to the end: what the system
+/// would not give now may be all that is left of a day's work.
 class KeptFile {
 public:
     /// `path` is absolute. Nothing is touched yet.
@@ -28,19 +31,19 @@ public:
     ~KeptFile();
 
     const AnsiString& Path() const { return FPath; }
-    /// Another editor has it, as the first Open or Write found out; so it stays.
+    /// Another editor has it, as HasContent or Write found out; so it stays.
     bool IsHeldElsewhere() const { return FState == State::Elsewhere; }
 
-    /// Whether there is content to be read: the file's, or else that of the copy. False also when it cannot be reached;
-    /// the next Write says why.
+    /// Whether there is content to be read: the file's, or else that of the copy. False also when the file is held
+    /// elsewhere. Throws EInOutError when that cannot be found out.
     bool HasContent();
-    /// Hands the content to `read`, which HasContent said is there. False when it cannot be read; other errors of
-    /// `read` pass through.
-    bool Read(const std::function<void(std::istream&)>& read);
+    /// Hands the content to `read`, which HasContent said is there. Throws EInOutError when the system does not give
+    /// it; other errors of `read` pass through.
+    void Read(const std::function<void(std::istream&)>& read);
 
     /// Puts what `write` writes in the place of the content and waits until it is on the disk. Throws EInOutError when
-    /// that cannot be done; the content is then the one before or the new one. Does nothing when the file is held
-    /// elsewhere.
+    /// that cannot be done, or when there is content that was not read; the content is then the one before or the
+    /// new one. Does nothing when the file is held elsewhere.
     void Write(const std::function<void(std::ostream&)>& write);
     /// Keeps the content under the second name.
     void SetAside() noexcept;
@@ -53,6 +56,8 @@ private:
     /// False when another editor holds the file; throws what Write throws.
     bool Hold();
     bool IsHeld() const { return FState == State::Held; }
+    /// Whether what stands there, if anything, is this object's to replace.
+    bool MayReplace() const { return FIsKnown || ContentName().empty(); }
     void PutInPlace(const std::function<void(std::ostream&)>& write);
     void RemoveOwn(const AnsiString& name);
     /// The name of what is to be read, empty when there is nothing.
@@ -64,6 +69,7 @@ private:
     AnsiString FCopyName;
     AnsiString FLockName;
     State FState = State::Untouched;
+    bool FIsKnown = false; ///< The content was read, or written here.
     std::optional<PrivateDirectory> FDirectory;
     Descriptor FLock;
 };

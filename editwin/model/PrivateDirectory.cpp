@@ -75,7 +75,7 @@ void MakeDirectory(const std::filesystem::path& path) {
     if (!std::filesystem::exists(parent)) {
         MakeDirectory(parent);
     }
-    if (mkdir(path.c_str(), c_OwnersDirectory) == 0) {
+    if (Retried([&] { return mkdir(path.c_str(), c_OwnersDirectory); }) == 0) {
         SyncNames(parent); // a file in a directory that a power failure takes away is lost, synced or not
     } else if (errno != EEXIST) {
         Refused();

@@ -128,8 +128,8 @@
         <translation>the disk is full or a quota is used up</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\AUTOSAVENOTALLOWED">
-        <source>do složky nelze zapisovat</source>
-        <translation>the folder cannot be written to</translation>
+        <source>chybí práva nebo je disk jen ke čtení</source>
+        <translation>rights are missing, or the disk is read-only</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\AUTOSAVENOFOLDER">
         <source>složka neexistuje</source>
@@ -146,6 +146,14 @@
     <message id="KORDAN30\MELVARKEDITOR\AUTOSAVETOOLARGE">
         <source>Rozepsaná práce se průběžně neukládá, je příliš velká. Uložte ji raději hned.</source>
         <translation>Unsaved work is not being kept, it is too large. Save it as soon as you can.</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\AUTOSAVEOVERUNREAD">
+        <source>je tam starší rozepsaná práce, kterou nebylo možné přečíst</source>
+        <translation>older unsaved work is there, which could not be read</translation>
+    </message>
+    <message id="KORDAN30\MELVARKEDITOR\UNSAVEDWORKNOTREAD">
+        <source>Nelze přečíst, co tu zbylo z rozepsané práce (%s): „%s“. Co tam je, zůstane, a práce v tomto okně se zatím průběžně neukládá.</source>
+        <translation>What is left here of unsaved work cannot be read (%s): “%s”. Whatever is there stays, and work in this window is not being kept for the time being.</translation>
     </message>
     <message id="KORDAN30\MELVARKEDITOR\CANNOTRESTOREBADFORMAT">
         <source>Bylo zjištěno, že poslední úpravy nebyly uloženy, k editace se však nelze vrátit, protože soubor má špatný formát</source>

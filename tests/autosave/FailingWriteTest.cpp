@@ -15,8 +15,8 @@ using failingsystem::stopFailing;
 using melvark::KeptFile;
 using testing::AnyOf;
 
-constexpr int c_Errors[] = {ENOSPC, EIO, EACCES, EROFS};
-/// More than one block of the writer's, so that a write can fail behind the first.
+constexpr int c_Errors[] = {ENOSPC, EIO, EACCES, EROFS, ENOMEM};
+/// Several pieces, so that a write can fail behind the first.
 const AnsiString c_Old(150'000, 'o');
 const AnsiString c_New(200'000, 'n');
 
@@ -49,6 +49,12 @@ protected:
         }
     }
 
+    /// As an editor does that finds unsaved work.
+    static bool readAndWrite(KeptFile& file) {
+        restored(file);
+        return tryToWrite(file);
+    }
+
     std::function<void()> prepare = [] {};
 
 private:
@@ -70,7 +76,7 @@ private:
 TEST_F(FailingWrite, LeavesOldOrNewAndTheNextOneSucceeds) {
     prepare = [this] { leave("", c_Old); };
     bool isWritten = false;
-    const int failures = failEverywhere([&](KeptFile& file) { isWritten = tryToWrite(file); },
+    const int failures = failEverywhere([&](KeptFile& file) { isWritten = readAndWrite(file); },
                                         [&](KeptFile& file) {
                                             const AnsiString found = restored(file);
                                             EXPECT_TRUE(found == c_New || (!isWritten && found == c_Old))
@@ -80,49 +86,72 @@ TEST_F(FailingWrite, LeavesOldOrNewAndTheNextOneSucceeds) {
                                             EXPECT_EQ(listing(), "x.dat x.dat.lock");
                                         });
     std::printf("failed at %d points\n", failures);
-    EXPECT_GE(failures, 4 * 2 * 15);
+    EXPECT_GE(failures, 5 * 2 * 20);
 }
 
 TEST_F(FailingWrite, OverACopyLeavesOneOfTheTwo) {
     prepare = [this] { leave(".kept", c_Old); };
-    failEverywhere([&](KeptFile& file) { tryToWrite(file); },
+    failEverywhere([&](KeptFile& file) { readAndWrite(file); },
                    [&](KeptFile& file) { EXPECT_THAT(restored(file), AnyOf(c_Old, c_New)); });
 }
 
 TEST_F(FailingWrite, LeavesNoHalfBehind) {
     prepare = [this] { leave("", c_Old); };
-    failEverywhere(
-        [&](KeptFile& file) {
-            file.HasContent();
-            tryToWrite(file);
-        },
-        [&](KeptFile&) {
-            // Only a system that also refuses to remove anything leaves the new file, for the next write to remove.
-            EXPECT_THAT(listing(), AnyOf("x.dat", "x.dat x.dat.lock", "x.dat x.dat.lock x.dat.new"));
-        });
+    failEverywhere([&](KeptFile& file) { readAndWrite(file); },
+                   [&](KeptFile&) {
+                       // Only a system that also refuses to remove anything leaves the new file, for the next write to
+                       // remove.
+                       EXPECT_THAT(listing(), AnyOf("x.dat", "x.dat x.dat.lock", "x.dat x.dat.lock x.dat.new"));
+                   });
     KeptFile file(path());
-    ASSERT_TRUE(file.HasContent());
-    failAt(5, ENOSPC, Lasting::Once);
+    ASSERT_EQ(restored(file), c_New) << "of the last run, which met no failure";
+    failAt(7, ENOSPC, Lasting::Once);
     EXPECT_FALSE(tryToWrite(file));
     ASSERT_TRUE(stopFailing());
     EXPECT_EQ(listing(), "x.dat x.dat.lock");
 }
 
-TEST_F(FailingWrite, ReadingEndsWithAWholeContentOrNone) {
-    prepare = [this] { leave("", c_Old); };
-    AnsiString found;
-    failEverywhere([&](KeptFile& file) { found = restored(file); },
-                   [&](KeptFile& file) {
-                       EXPECT_THAT(found, AnyOf("nothing", "unreadable", c_Old));
-                       EXPECT_EQ(restored(file), c_Old);
-                   });
+// What could not be read may be all that is left: nothing replaces it, sets it aside or removes it.
+TEST_F(FailingWrite, WhatCouldNotBeReadStaysAsItIs) {
+    for (const char* const name : {"", ".kept"}) {
+        prepare = [this, name] { leave(name, c_Old); };
+        AnsiString found;
+        failEverywhere([&](KeptFile& file) { found = restored(file); },
+                       [&](KeptFile& file) {
+                           EXPECT_THAT(found, AnyOf("unread", c_Old));
+                           if (found != c_Old) {
+                               EXPECT_FALSE(tryToWrite(file));
+                               file.SetAside();
+                               file.Remove();
+                               EXPECT_EQ(textOf(path(name)), c_Old);
+                           }
+                           EXPECT_EQ(restored(file), c_Old);
+                       });
+    }
+}
+
+TEST_F(FailingWrite, ACallThatASignalInterruptsIsMadeAgain) {
+    bool isInterrupted = true;
+    int interruptions = 0;
+    for (int call = 1; isInterrupted; ++call) {
+        SCOPED_TRACE(call);
+        std::filesystem::remove_all(directory());
+        leave("", c_Old);
+        KeptFile file(path());
+        failAt(call, EINTR, Lasting::Once);
+        EXPECT_TRUE(readAndWrite(file));
+        isInterrupted = stopFailing();
+        interruptions += isInterrupted ? 1 : 0;
+        EXPECT_EQ(restored(file), c_New);
+    }
+    EXPECT_GE(interruptions, 20);
 }
 
 TEST_F(FailingWrite, SettingAsideLosesNothing) {
     prepare = [this] { leave("", c_Old); };
     failEverywhere(
         [&](KeptFile& file) {
-            file.HasContent();
+            restored(file);
             file.SetAside();
         },
         [&](KeptFile& file) { EXPECT_EQ(restored(file), c_Old); });
@@ -132,7 +161,7 @@ TEST_F(FailingWrite, RemovingEndsWithoutAnError) {
     prepare = [this] { leave("", c_Old); };
     failEverywhere(
         [&](KeptFile& file) {
-            file.HasContent();
+            restored(file);
             file.Remove();
         },
         [&](KeptFile& file) {

@@ -6,6 +6,8 @@
 #include <csignal>
 #include <fstream>
 #include <functional>
+#include <istream>
+#include <new>
 #include <optional>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -125,7 +127,7 @@ TEST_F(KeptFiles, AreRemovedWithTheirCopyAndWhatAnInterruptedWriteLeft) {
     leave(".new", "half of the new");
     {
         KeptFile file(path());
-        EXPECT_TRUE(file.HasContent());
+        EXPECT_EQ(restored(file), "newer");
         file.Remove();
         EXPECT_EQ(listing(), "x.dat.lock");
         EXPECT_EQ(restored(file), "nothing");
@@ -226,12 +228,55 @@ TEST_F(KeptFiles, ComeBackWhenTheirDirectoryWasRemoved) {
 TEST_F(KeptFiles, AreNotWrittenWhereAFileIsInTheWay) {
     { std::ofstream(directory()) << "no directory"; }
     KeptFile file(path());
-    EXPECT_FALSE(file.HasContent());
-    EXPECT_EQ(messageOf<EInOutError>([&] { write(file, "one"); }),
-              "Rozepsaná práce se průběžně neukládá (místo souboru je tam odkaz, složka nebo něco cizího): „" +
-                  path().string() + "“. Uložte ji raději hned.");
+    const AnsiString foreign =
+        "Rozepsaná práce se průběžně neukládá (místo souboru je tam odkaz, složka nebo něco cizího): „" +
+        path().string() + "“. Uložte ji raději hned.";
+    EXPECT_EQ(messageOf<EInOutError>([&] { file.HasContent(); }), foreign);
+    EXPECT_EQ(messageOf<EInOutError>([&] { write(file, "one"); }), foreign);
     KeptFile below(path() / "y.dat");
     EXPECT_THAT(messageOf<EInOutError>([&] { write(below, "one"); }), HasSubstr("(složka neexistuje)"));
+}
+
+TEST_F(KeptFiles, ThatWereNotReadAreNeitherReplacedNorSetAsideNorRemoved) {
+    leave("", "newer");
+    leave(".kept", "older");
+    KeptFile file(path());
+    ASSERT_TRUE(file.HasContent());
+    EXPECT_EQ(messageOf<EInOutError>([&] { write(file, "of today"); }),
+              "Rozepsaná práce se průběžně neukládá (je tam starší rozepsaná práce, kterou nebylo možné přečíst): „" +
+                  path().string() + "“. Uložte ji raději hned.");
+    file.SetAside();
+    file.Remove();
+    EXPECT_EQ(textOf(path()) + ", " + textOf(path(".kept")), "newer, older");
+    EXPECT_EQ(restored(file), "newer");
+    write(file, "of today");
+    EXPECT_EQ(listing(), "x.dat x.dat.lock");
+}
+
+TEST_F(KeptFiles, WhoseReadingWasBrokenOffStay) {
+    leave(".kept", "one");
+    {
+        KeptFile file(path());
+        ASSERT_TRUE(file.HasContent());
+        EXPECT_THROW(file.Read([](std::istream&) { throw std::bad_alloc(); }), std::bad_alloc);
+        file.Remove();
+    }
+    EXPECT_EQ(restoredNext(), "one");
+}
+
+TEST_F(KeptFiles, ThatTheSystemDoesNotGiveAreToldAndStay) {
+    const OrdinaryUser user;
+    leave("", "one");
+    std::filesystem::permissions(path(), perms::none);
+    KeptFile file(path());
+    ASSERT_TRUE(file.HasContent());
+    EXPECT_EQ(messageOf<EInOutError>([&] { file.Read([](std::istream&) {}); }),
+              "Nelze přečíst, co tu zbylo z rozepsané práce (chybí práva nebo je disk jen ke čtení): „" +
+                  path().string() + "“. Co tam je, zůstane, a práce v tomto okně se zatím průběžně neukládá.");
+    EXPECT_THROW(write(file, "two"), EInOutError);
+    file.Remove();
+    std::filesystem::permissions(path(), perms(0600));
+    EXPECT_EQ(restored(file), "one");
 }
 
 TEST_F(KeptFiles, StayInADirectoryThatBecameReadOnly) {
@@ -239,7 +284,8 @@ TEST_F(KeptFiles, StayInADirectoryThatBecameReadOnly) {
     KeptFile file(path());
     write(file, "one");
     std::filesystem::permissions(directory(), perms(0500));
-    EXPECT_THAT(messageOf<EInOutError>([&] { write(file, "two"); }), HasSubstr("(do složky nelze zapisovat)"));
+    EXPECT_THAT(messageOf<EInOutError>([&] { write(file, "two"); }),
+                HasSubstr("(chybí práva nebo je disk jen ke čtení)"));
     EXPECT_EQ(restored(file), "one");
     file.SetAside();
     file.Remove();

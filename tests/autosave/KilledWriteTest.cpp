@@ -2,6 +2,7 @@
 #include "tests/autosave/KilledWriter.h"
 #include "tests/autosave/WrittenFile.h"
 
+#include <functional>
 #include <sstream>
 
 namespace {
@@ -11,6 +12,7 @@ using namespace melvark;
 constexpr int c_Columns = 26;
 
 /// The file of a document with so many lines; every cell tells the document, so that two contents never mix unseen.
+/// 1,000 lines are written in several pieces.
 AnsiString content(int documentId, int rows) {
     std::vector<AnsiString> keys;
     TDataGrid lines;
@@ -45,84 +47,93 @@ const Before c_States[] = {
 
 class KilledWrite : public WrittenFileTest {
 protected:
-    /// Kills a write of so many lines at each of its system calls, from this state; the number of points.
-    int killEverywhere(const Before& before, int rows) {
-        const AnsiString oldText = before.hasContent ? content(1, rows) : "nothing";
-        const AnsiString newText = content(2, rows);
+    /// Kills `work` at each stop at a system call, each time on a directory that `prepare` laid out, and has `check`
+    /// look at what the run left; `isDone` is true once it ended by itself. The number of points.
+    int killEverywhere(const std::function<void()>& prepare, const std::function<void(KeptFile&)>& work,
+                       const std::function<void(bool isDone)>& check) {
         for (int stop = 1;; ++stop) {
+            SCOPED_TRACE("stop " + std::to_string(stop));
             std::filesystem::remove_all(directory());
-            for (const std::string_view suffix : before.left) {
-                leave(suffix, suffix == ".new" ? newText.substr(0, newText.size() / 2) : oldText);
-            }
+            prepare();
             const bool isDone = runAndKillAt(stop, [&] {
                 KeptFile file(path());
-                write(file, newText);
+                restored(file); // an editor looks for unsaved work first
+                work(file);
             });
-            const AnsiString found = restoredNext();
-            EXPECT_TRUE(found == newText || (!isDone && found == oldText))
-                << before.name << ", " << rows << " rows, stop " << stop << ": torn, or " << found.substr(0, 40);
+            check(isDone);
             if (isDone || HasFailure()) {
                 return stop;
             }
         }
     }
+
+    /// Kills a write of so many lines, from this state.
+    int killWrites(const Before& before, int rows) {
+        const AnsiString oldText = before.hasContent ? content(1, rows) : "nothing";
+        const AnsiString newText = content(2, rows);
+        SCOPED_TRACE(before.name + (", " + std::to_string(rows)) + " rows");
+        return killEverywhere(
+            [&] {
+                for (const std::string_view suffix : before.left) {
+                    leave(suffix, suffix == ".new" ? newText.substr(0, newText.size() / 2) : oldText);
+                }
+            },
+            [&](KeptFile& file) { write(file, newText); },
+            [&](bool isDone) {
+                const AnsiString found = restoredNext();
+                EXPECT_TRUE(found == newText || (!isDone && found == oldText)) << "torn, or " << found.substr(0, 40);
+            });
+    }
+
+    const std::function<void()> nothing = [] {};
+    const std::function<void()> fileAndOlderCopy = [this] {
+        leave("", "newer");
+        leave(".kept", "older");
+    };
 };
 
 TEST_F(KilledWrite, LeavesTheOldContentOrTheNewOneAtEachSystemCall) {
     int points = 0;
     for (const int rows : {0, 1, 50, 1000}) {
         for (const Before& before : c_States) {
-            points += killEverywhere(before, rows);
+            points += killWrites(before, rows);
         }
     }
     std::printf("killed at %d points\n", points);
     EXPECT_GE(points, 500);
 }
 
+TEST_F(KilledWrite, OfAThousandLinesIsKilledBetweenItsPiecesToo) {
+    const int few = killWrites(c_States[0], 50);
+    const int many = killWrites(c_States[0], 1000);
+    EXPECT_GE(many - few, 3 * 2) << "at least three more writes, each with a stop before and one after it";
+}
+
 TEST_F(KilledWrite, IsFollowedByAWholeOne) {
-    bool isDone = false;
-    for (int stop = 1; !isDone; ++stop) {
-        std::filesystem::remove_all(directory());
-        isDone = runAndKillAt(stop, [&] {
-            KeptFile file(path());
-            write(file, "one");
+    killEverywhere(
+        nothing, [](KeptFile& file) { write(file, "one"); },
+        [this](bool) {
+            KeptFile next(path());
+            restored(next);
+            write(next, "two");
+            EXPECT_EQ(restored(next), "two");
+            EXPECT_EQ(listing(), "x.dat x.dat.lock");
         });
-        KeptFile next(path());
-        write(next, "two");
-        EXPECT_EQ(restored(next), "two") << "stop " << stop;
-        EXPECT_EQ(listing(), "x.dat x.dat.lock") << "stop " << stop;
-    }
 }
 
 TEST_F(KilledWrite, SetAsideLeavesTheContentUnderOneOfItsNames) {
-    bool isDone = false;
-    for (int stop = 1; !isDone; ++stop) {
-        std::filesystem::remove_all(directory());
-        leave("", "newer");
-        leave(".kept", "older");
-        isDone = runAndKillAt(stop, [&] {
-            KeptFile file(path());
-            file.HasContent();
-            file.SetAside();
-        });
-        EXPECT_EQ(restoredNext(), "newer") << "stop " << stop;
-    }
+    killEverywhere(
+        fileAndOlderCopy, [](KeptFile& file) { file.SetAside(); },
+        [this](bool) { EXPECT_EQ(restoredNext(), "newer"); });
 }
 
 TEST_F(KilledWrite, RemovedNeverLeavesTheOlderCopyAlone) {
-    bool isDone = false;
-    for (int stop = 1; !isDone; ++stop) {
-        std::filesystem::remove_all(directory());
-        leave("", "newer");
-        leave(".kept", "older");
-        isDone = runAndKillAt(stop, [&] {
-            KeptFile file(path());
-            file.HasContent();
-            file.Remove();
+    killEverywhere(
+        fileAndOlderCopy, [](KeptFile& file) { file.Remove(); },
+        [this](bool isDone) {
+            const AnsiString found = restoredNext();
+            EXPECT_TRUE(found == "nothing" || (!isDone && found == "newer")) << found;
         });
-        const AnsiString found = restoredNext();
-        EXPECT_TRUE(found == "nothing" || (!isDone && found == "newer")) << "stop " << stop << ": " << found;
-    }
 }
 
 } // namespace

@@ -152,7 +152,7 @@ TEST_F(PlantedTrap, UnderTheNameOfTheLockStopsTheEditorFromWriting) {
     withEachTrap(
         path(".lock"), [this](KeptFile&) { std::filesystem::create_directory(directory()); },
         [&](KeptFile& file) {
-            EXPECT_EQ(restored(file), "nothing");
+            EXPECT_EQ(restored(file), "unread");
             EXPECT_FALSE(file.IsHeldElsewhere());
             expectRefusal(file);
         });
@@ -180,7 +180,7 @@ TEST_F(PlantedTrap, InPlaceOfTheDirectoryStopsTheEditorFromWriting) {
         {
             const OrdinaryUser user;
             KeptFile file(path());
-            EXPECT_EQ(restored(file), "nothing");
+            EXPECT_EQ(restored(file), "unread");
             expectRefusal(file);
         }
         EXPECT_EQ(look(directory()), laid);

@@ -8,6 +8,13 @@
 
 using melvark::KeptFile;
 
+namespace {
+
+/// As much as the editor writes at once, so that there is a moment between two writes of one content.
+constexpr std::size_t c_Piece = std::size_t{64} * 1024;
+
+} // namespace
+
 WrittenFileTest::WrittenFileTest() {
     AnsiString name = std::filesystem::temp_directory_path() / "melvark-autosave-XXXXXX";
     folder_ = mkdtemp(name.data());
@@ -47,21 +54,32 @@ AnsiString WrittenFileTest::textOf(const std::filesystem::path& file) {
 }
 
 void WrittenFileTest::write(KeptFile& file, const AnsiString& text) {
-    file.Write([&](std::ostream& out) { out << text; });
+    file.Write([&](std::ostream& out) {
+        for (std::size_t at = 0; at < text.size(); at += c_Piece) {
+            out << std::string_view(text).substr(at, c_Piece);
+        }
+    });
 }
 
 AnsiString WrittenFileTest::restored(KeptFile& file) {
-    if (!file.HasContent()) {
-        return "nothing";
-    }
     AnsiString text;
-    const bool isRead = file.Read([&](std::istream& in) {
-        // The buffer alone: a stream would keep the buffer's error to itself.
-        for (int c = in.rdbuf()->sbumpc(); c != EOF; c = in.rdbuf()->sbumpc()) {
-            text += static_cast<char>(c);
+    try {
+        if (!file.HasContent()) {
+            return "nothing";
         }
-    });
-    return isRead ? text : "unreadable";
+        file.Read([&](std::istream& in) {
+            // The buffer alone: a stream would keep the buffer's error to itself.
+            std::vector<char> piece(c_Piece);
+            std::streamsize count = 1;
+            while (count > 0) {
+                count = in.rdbuf()->sgetn(piece.data(), std::ssize(piece));
+                text.append(piece.data(), static_cast<std::size_t>(count));
+            }
+        });
+    } catch (const EInOutError&) {
+        return "unread";
+    }
+    return text;
 }
 
 AnsiString WrittenFileTest::restoredNext() const {

@@ -25,7 +25,7 @@ protected:
     static AnsiString textOf(const std::filesystem::path& file);
 
     static void write(melvark::KeptFile& file, const AnsiString& text);
-    /// What an editor would restore; "nothing" when there is none.
+    /// What an editor would restore; "nothing" when there is none, "unread" when the system does not give it.
     static AnsiString restored(melvark::KeptFile& file);
     AnsiString restoredNext() const;
 
