@@ -34,6 +34,13 @@ std::string difference(const AutosaveContent& left, const AutosaveContent& right
     return {};
 }
 
+/// The header says that there are rows, none being read as an empty one, and names the columns in our order.
+bool hasOurHeader(std::string_view input) {
+    const std::size_t count = input.find('\n') + 1;
+    const std::size_t keys = input.find('\n', count) + 1;
+    return input.substr(count, keys - count) != "0\n" && input.substr(keys).starts_with("SKLADPOL\nMNOZSTVI\nPOPIS\n");
+}
+
 } // namespace
 
 // What is taken is what a writer wrote: it comes back from being written again, letter for letter where the columns
@@ -47,9 +54,7 @@ std::string judgeAutosave(std::string_view input) {
         return "not as wide as the columns";
     }
     const std::string again = written(*content);
-    const bool isInOrder = input.find("SKLADPOL\nMNOZSTVI\nPOPIS\n") != input.npos;
-    const bool hasRows = input.find("\n0\n") != input.find('\n'); // no rows are read as an empty one
-    if (isInOrder && hasRows && again != input) {
+    if (hasOurHeader(input) && again != input) {
         return "written again it reads “" + again + "”";
     }
     const auto twice = read(again);

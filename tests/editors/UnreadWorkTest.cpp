@@ -1,0 +1,180 @@
+#include "host/widgets/Guard.h"
+#include "tests/editors/DodakEditorFixture.h"
+#include "tests/editors/FewDescriptors.h"
+#include "tests/editors/UnsavedWorkFixture.h"
+
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+constexpr const char* c_Unread = "O#: Nelze přečíst, co tu zbylo z rozepsané práce (systém hlásí: ";
+constexpr const char* c_Held = "O#: Rozepsanou práci z tohoto zdroje průběžně ukládá jiné okno. Práce v tomto okně se "
+                               "průběžně neukládá.";
+
+/// What stands in the way of the file of unsaved work, on the real form.
+class WorkInTheWay : public UnsavedWorkFixture {
+protected:
+    WorkInTheWay() { scriptDodakEditor(host_.connection); }
+
+    std::unique_ptr<TDodakEditBox> open() { return std::make_unique<TDodakEditBox>(qApp, &manager_, "SABLONA", 7, 40); }
+    std::unique_ptr<TDodakEditBox> openWithDescriptors(std::size_t free) {
+        const FewDescriptors few(free);
+        return open();
+    }
+    static void tick(TEditBox& editor) {
+        melvark::Guarded([&] { editor.AutoSave(nullptr); });
+    }
+    /// Types into the second line and has columns laid out between ticks, as in any session.
+    static void work(TEditBox& editor) {
+        type(editor, "");
+        type(editor, "");
+        type(editor, "");
+        ASSERT_EQ(openAt(editor), "MNOZSTVI in row 2");
+        type(editor, "7");
+        tick(editor);
+        editor.ApplyColumnsSettingsToGrid();
+        tick(editor);
+        tick(editor);
+    }
+    bool isTold(std::size_t count) {
+        return QTest::qWaitFor([&] { return manager_.messages().size() == count; });
+    }
+    static AnsiString textOf(const std::filesystem::path& file) {
+        std::ostringstream text;
+        text << std::ifstream(file).rdbuf();
+        return text.str();
+    }
+
+    const std::filesystem::path file_ = fileOf("DODAK", "SABLONA");
+    const AnsiString unsaved_ = fileText(7, dodakKeys(), {{{"SKLADPOL", "Máslo"}, {"MNOZSTVI", "1,5"}}});
+};
+
+// The system gives none, one or two of the three files that an editor opens: directory, lock, content.
+class UnreadWork : public WorkInTheWay, public testing::WithParamInterface<std::size_t> {};
+
+TEST_P(UnreadWork, StaysWhateverTheClerkDoesAndIsToldOnce) {
+    leave(file_, unsaved_);
+    auto editor = openWithDescriptors(GetParam());
+    EXPECT_EQ(stored(*editor, 1, "SKLADPOL"), "Mléko") << "the source's first line";
+    showAnd(*editor, [&] {
+        ASSERT_TRUE(isTold(1));
+        work(*editor);
+        QTest::qWait(0);
+    });
+    EXPECT_THAT(manager_.messages(), ElementsAre(StartsWith(c_Unread)));
+    EXPECT_THAT(manager_.boxes(), IsEmpty());
+    editor.reset();
+    EXPECT_EQ(textOf(file_), unsaved_);
+    EXPECT_EQ(listing(), file_.filename());
+    EXPECT_EQ(stored(*open(), 1, "SKLADPOL"), "Máslo") << "the next opening";
+}
+
+INSTANTIATE_TEST_SUITE_P(Descriptors, UnreadWork, testing::Values(0U, 1U, 2U));
+
+TEST_F(WorkInTheWay, ThreeDescriptorsAreEnoughToTakeItUp) {
+    leave(file_, unsaved_);
+    EXPECT_EQ(stored(*openWithDescriptors(3), 1, "SKLADPOL"), "Máslo");
+}
+
+TEST_F(WorkInTheWay, WithoutAnyTheEditorKeepsItsOwnAsSoonAsItCan) {
+    const auto editor = openWithDescriptors(0);
+    showAnd(*editor, [&] {
+        ASSERT_TRUE(isTold(1));
+        work(*editor);
+        EXPECT_EQ(listing(), file_.filename());
+    });
+}
+
+TEST_F(WorkInTheWay, AFileThatIsFoundHeldAtALaterTickIsToldOnce) {
+    const auto late = openWithDescriptors(0);
+    const auto holder = open();
+    tick(*holder);
+    const AnsiString before = textOf(file_);
+    showAnd(*late, [&] {
+        ASSERT_TRUE(isTold(1));
+        work(*late);
+        ASSERT_TRUE(isTold(2));
+        tick(*late);
+        QTest::qWait(0);
+    });
+    EXPECT_THAT(manager_.messages(), ElementsAre(StartsWith(c_Unread), c_Held));
+    EXPECT_EQ(textOf(file_), before);
+}
+
+TEST_F(WorkInTheWay, AFileThatWasTakenWithItsDirectoryIsToldOnce) {
+    const auto first = open();
+    tick(*first);
+    std::filesystem::remove_all(file_.parent_path());
+    const auto second = open();
+    tick(*second);
+    const AnsiString before = textOf(file_);
+    showAnd(*first, [&] {
+        work(*first);
+        ASSERT_TRUE(isTold(1));
+        tick(*first);
+        QTest::qWait(0);
+    });
+    EXPECT_THAT(manager_.messages(), ElementsAre(c_Held));
+    EXPECT_EQ(textOf(file_), before);
+}
+
+/// A link to a file of the clerk's, under one of the names.
+struct Link {
+    const char* suffix;
+    std::size_t errors; ///< How many are shown.
+    const char* what;
+};
+
+class PlantedLink : public WorkInTheWay, public testing::WithParamInterface<Link> {
+protected:
+    PlantedLink() { leave(target_, "the clerk's own"); }
+    ~PlantedLink() override { std::filesystem::remove(target_); }
+
+    const std::filesystem::path target_ = file_.parent_path().string() + "-target";
+    const std::filesystem::path link_ = file_.string() + GetParam().suffix;
+};
+
+TEST_P(PlantedLink, IsNeitherFollowedNorReplacedAndIsToldOnce) {
+    auto editor = open();
+    tick(*editor);
+    std::filesystem::remove(link_);
+    std::filesystem::create_symlink(target_, link_);
+    showAnd(*editor, [&] { work(*editor); });
+    editor.reset();
+    EXPECT_EQ(std::filesystem::read_symlink(link_), target_);
+    EXPECT_EQ(textOf(target_), "the clerk's own");
+    EXPECT_THAT(host_.errors(), SizeIs(GetParam().errors));
+    for (const AnsiString& error : host_.errors()) {
+        EXPECT_THAT(error, HasSubstr("místo souboru je tam odkaz, složka nebo něco cizího"));
+    }
+    expectedErrors_ = host_.errors();
+}
+
+// With a foreign copy the content cannot be set aside: it stays under its own name, and nothing fails.
+INSTANTIATE_TEST_SUITE_P(Names, PlantedLink,
+                         testing::Values(Link{"", 1, "File"}, Link{".new", 1, "NewFile"}, Link{".kept", 0, "Copy"}),
+                         [](const auto& row) { return row.param.what; });
+
+TEST_F(WorkInTheWay, ALinkInPlaceOfTheLockIsToldOnceWhenTheEditorOpens) {
+    const std::filesystem::path target = file_.parent_path().string() + "-target";
+    leave(file_, unsaved_);
+    std::filesystem::create_symlink(target, file_.string() + ".lock");
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        ASSERT_TRUE(isTold(1));
+        work(*editor);
+        QTest::qWait(0);
+    });
+    EXPECT_THAT(manager_.messages(), ElementsAre(HasSubstr("místo souboru je tam odkaz")));
+    EXPECT_FALSE(std::filesystem::exists(target));
+    EXPECT_EQ(textOf(file_), unsaved_);
+}
+
+} // namespace
