@@ -10,46 +10,54 @@ namespace melvark {
 
 namespace {
 
-constexpr char c_Marker = '\\';
-
 /// What a letter behind the marker stands for.
 struct Escape {
     char Letter;
     char Character;
 };
-constexpr std::array c_Escapes{Escape{'n', '\n'}, Escape{'r', '\r'}, Escape{'0', '\0'}, Escape{c_Marker, c_Marker}};
+constexpr std::array c_Escapes{Escape{'n', '\n'}, Escape{'r', '\r'}, Escape{'0', '\0'},
+                               Escape{c_AutosaveMarker, c_AutosaveMarker}};
 constexpr char c_ByteLetter = 'x';
 constexpr std::size_t c_ByteDigits = 2;
 
-enum ByteKind : unsigned char { c_Plain = 0, c_Break = 1, c_BeyondAscii = 2 };
-
-constexpr std::array<unsigned char, 256> c_Kinds = [] {
-    std::array<unsigned char, 256> kinds{};
-    std::fill(kinds.begin() + 128, kinds.end(), c_BeyondAscii);
-    for (const char byte : {'\n', '\r', '\0'}) {
-        kinds[static_cast<unsigned char>(byte)] = c_Break;
+/// Counted by pieces of a known length, which the compiler takes as many bytes at once as the processor can.
+std::size_t LineEndsIn(std::string_view text) {
+    constexpr std::size_t c_Piece = 128;
+    std::size_t count = 0;
+    while (text.size() >= c_Piece) {
+        unsigned char piece = 0;
+        for (std::size_t i = 0; i < c_Piece; ++i) {
+            piece = static_cast<unsigned char>(piece + (text[i] == '\n' ? 1 : 0));
+        }
+        count += piece;
+        text.remove_prefix(c_Piece);
     }
-    return kinds;
-}();
+    return count + static_cast<std::size_t>(std::ranges::count(text, '\n'));
+}
 
-/// The kinds of all bytes together, without a branch for each: most cells are a few plain letters or digits.
-unsigned KindsIn(std::string_view text) {
-    unsigned kinds = c_Plain;
+/// Bytes that would not come back from within a line.
+bool HoldsOtherBytes(std::string_view text) {
+    return text.find('\r') != text.npos || text.find('\0') != text.npos || !IsUtf8(text);
+}
+
+/// Letters, digits and signs of ASCII alone, as nearly all cells are. Without a branch for each byte.
+bool IsPlain(std::string_view text) {
+    bool isPlain = true;
     for (const char byte : text) {
-        kinds |= c_Kinds[static_cast<unsigned char>(byte)];
+        isPlain &= static_cast<unsigned char>(byte - ' ') < 0x80 - ' ';
     }
-    return kinds;
+    return isPlain;
 }
 
 bool StandsAsItIs(std::string_view cell) {
-    const unsigned kinds = KindsIn(cell);
-    return (kinds & c_Break) == 0 && !cell.starts_with(c_Marker) && ((kinds & c_BeyondAscii) == 0 || IsUtf8(cell));
+    return !cell.starts_with(c_AutosaveMarker) &&
+           (IsPlain(cell) || (cell.find('\n') == cell.npos && !HoldsOtherBytes(cell)));
 }
 
 void AppendByte(AnsiString& text, char byte) {
     constexpr std::string_view c_Digits = "0123456789ABCDEF";
     const auto value = static_cast<unsigned char>(byte);
-    text += {c_Marker, c_ByteLetter, c_Digits[value / 16], c_Digits[value % 16]};
+    text += {c_AutosaveMarker, c_ByteLetter, c_Digits[value / 16], c_Digits[value % 16]};
 }
 
 void AppendEscaped(AnsiString& text, std::string_view cell) {
@@ -57,7 +65,7 @@ void AppendEscaped(AnsiString& text, std::string_view cell) {
         const TUtf8Step step = FirstStep(cell);
         const auto* const escape = std::ranges::find(c_Escapes, cell.front(), &Escape::Character);
         if (escape != c_Escapes.end()) {
-            text += {c_Marker, escape->Letter};
+            text += {c_AutosaveMarker, escape->Letter};
         } else if (step.IsValid) {
             text += cell.substr(0, step.Length);
         } else {
@@ -92,7 +100,7 @@ std::optional<AnsiString> Unescaped(std::string_view line) {
     while (!line.empty()) {
         const char first = line.front();
         line.remove_prefix(1);
-        if (first != c_Marker) {
+        if (first != c_AutosaveMarker) {
             cell += first;
         } else if (const auto character = TakeEscape(line)) {
             cell += *character;
@@ -105,12 +113,16 @@ std::optional<AnsiString> Unescaped(std::string_view line) {
 
 } // namespace
 
+bool AreAutosaveLines(std::string_view text, std::size_t count) {
+    return LineEndsIn(text) == count && !HoldsOtherBytes(text);
+}
+
 void AppendAutosaveCell(AnsiString& text, std::string_view cell) {
     if (StandsAsItIs(cell)) {
         text += cell;
         return;
     }
-    text += c_Marker;
+    text += c_AutosaveMarker;
     AppendEscaped(text, cell);
 }
 
@@ -118,7 +130,7 @@ std::optional<AnsiString> AutosaveCell(std::string_view line) {
     if (StandsAsItIs(line)) {
         return AnsiString(line);
     }
-    std::optional<AnsiString> cell = line.starts_with(c_Marker) ? Unescaped(line.substr(1)) : std::nullopt;
+    std::optional<AnsiString> cell = line.starts_with(c_AutosaveMarker) ? Unescaped(line.substr(1)) : std::nullopt;
     if (cell) {
         AnsiString again;
         AppendAutosaveCell(again, *cell);

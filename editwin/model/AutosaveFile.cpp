@@ -24,10 +24,32 @@ public:
         FText += line;
         EndLine(line.size());
     }
-    void WriteCell(std::string_view cell) {
-        const std::size_t before = FText.size();
-        AppendAutosaveCell(FText, cell);
-        EndLine(FText.size() - before);
+    /// So many cells, of which the texts are the first, the others empty. Nearly all cells stand as they are: so each
+    /// block is written so and looked at as a whole afterwards, and only one that holds others is written again, cell
+    /// by cell.
+    void WriteColumn(std::span<const AnsiString> texts, int rowCount) {
+        while (!texts.empty()) {
+            const std::size_t start = FText.size();
+            std::size_t count = 0;
+            bool isPlain = true;
+            for (; count < texts.size() && FText.size() < c_Block; ++count) {
+                const AnsiString& cell = texts[count];
+                isPlain = isPlain && cell.size() <= c_LongestAutosaveLine && !cell.starts_with(c_AutosaveMarker);
+                FText += cell;
+                FText += '\n';
+                --rowCount;
+            }
+            if (!isPlain || !AreAutosaveLines(std::string_view(FText).substr(start), count)) {
+                FText.resize(start);
+                std::ranges::for_each(texts.first(count), [this](const AnsiString& cell) { WriteCell(cell); });
+            }
+            FlushBlock();
+            texts = texts.subspan(count);
+        }
+        for (; rowCount > 0; --rowCount) {
+            FText += '\n';
+            FlushBlock();
+        }
     }
     void Flush() {
         FOut.write(FText.data(), static_cast<std::streamsize>(FText.size()));
@@ -37,11 +59,19 @@ public:
 private:
     static constexpr std::size_t c_Block = std::size_t{64} * 1024;
 
+    void WriteCell(std::string_view cell) {
+        const std::size_t before = FText.size();
+        AppendAutosaveCell(FText, cell);
+        EndLine(FText.size() - before);
+    }
     void EndLine(std::size_t length) {
         if (length > c_LongestAutosaveLine) {
             throw AutosaveTooLarge();
         }
         FText += '\n';
+        FlushBlock();
+    }
+    void FlushBlock() {
         if (FText.size() >= c_Block) {
             Flush();
         }
@@ -76,27 +106,40 @@ std::optional<std::vector<int>> ReadColumns(LineReader& reader, std::span<const 
     return columns;
 }
 
-/// False when a line is missing or is no cell's.
+/// The cells of a column, as far as there are any; nothing when a line is missing or is no cell's.
 ///
-/// The store makes a column as long as the claimed rows at its first cell. So it gets none before the lines of the
-/// whole column are there, and none for an empty cell: what only claims a million rows takes no memory.
+/// `reserved` rows are known to be there. Empty cells take no memory before the next one that is not: what only claims
+/// a million rows, or has as many empty ones, takes little.
+std::optional<std::vector<AnsiString>> ReadColumn(LineReader& reader, int rowCount, int reserved) {
+    std::vector<AnsiString> cells;
+    for (int row = 0; row < rowCount; ++row) {
+        const auto line = reader.Next();
+        auto cell = line ? AutosaveCell(*line) : std::nullopt;
+        if (!cell) {
+            return std::nullopt;
+        }
+        if (!cell->empty()) {
+            if (cells.empty()) {
+                cells.reserve(static_cast<std::size_t>(reserved));
+            }
+            cells.resize(static_cast<std::size_t>(row));
+            cells.push_back(std::move(*cell));
+        }
+    }
+    return cells;
+}
+
+/// False when a line is missing or is no cell's, or when there are more.
 bool ReadCells(LineReader& reader, std::span<const int> columns, int rowCount, TDataGrid& lines) {
-    std::vector<std::pair<int, AnsiString>> cells;
+    int reserved = 0;
     for (const int column : columns) {
-        for (int row = 0; row < rowCount; ++row) {
-            const auto line = reader.Next();
-            auto cell = line ? AutosaveCell(*line) : std::nullopt;
-            if (!cell) {
-                return false;
-            }
-            if (!cell->empty()) {
-                cells.emplace_back(row, std::move(*cell));
-            }
+        auto cells = ReadColumn(reader, rowCount, reserved);
+        if (!cells) {
+            return false;
         }
-        for (auto& [row, text] : cells) {
-            lines.SetCells(column, row, std::move(text));
-        }
-        cells.clear();
+        cells->shrink_to_fit();
+        lines.FillColumn(column, std::move(*cells));
+        reserved = rowCount;
     }
     return reader.IsAtEnd();
 }
@@ -123,9 +166,7 @@ void WriteAutosave(std::ostream& out, std::int32_t documentId, std::span<const A
         writer.Write(key);
     }
     for (int column = 0; column < static_cast<int>(keys.size()); ++column) {
-        for (int row = 0; row < lines.GetRowCount(); ++row) {
-            writer.WriteCell(lines.GetCells(column, row));
-        }
+        writer.WriteColumn(lines.ColumnTexts(column), lines.GetRowCount());
     }
     writer.Flush();
 }
@@ -144,7 +185,6 @@ std::optional<AutosaveContent> ReadAutosave(std::istream& in, std::span<const An
     if (!columns || !ReadCells(reader, *columns, *rowCount, content.Lines)) {
         return std::nullopt;
     }
-    content.Lines.ResetModified();
     return content;
 }
 

@@ -11,6 +11,12 @@ std::size_t AsSize(int index) {
     return static_cast<std::size_t>(index);
 }
 
+void RequireNotNegative(int coordinate) {
+    if (coordinate < 0) {
+        throw std::out_of_range("a cell store has no negative coordinates");
+    }
+}
+
 /// How many of `size` positions a count covers; one that was never set bounds nothing.
 std::size_t Covered(int count, std::size_t size) {
     return count == 0 ? size : std::min(AsSize(count), size);
@@ -71,6 +77,23 @@ void TDataGrid::SetCellWithNoChange(int col, int row, AnsiString value) {
     }
 }
 
+void TDataGrid::FillColumn(int col, std::vector<AnsiString> texts) {
+    TColumn& column = Column(col);
+    column.Values = std::move(texts);
+    column.Modified.assign(column.Values.size(), false);
+    column.Present.resize(column.Values.size());
+    std::transform(column.Values.begin(), column.Values.end(), column.Present.begin(),
+                   [](const AnsiString& text) { return !text.empty(); });
+}
+
+std::span<const AnsiString> TDataGrid::ColumnTexts(int col) const {
+    if (col >= FColCount || AsSize(col) >= FColumns.size()) {
+        return {};
+    }
+    const std::vector<AnsiString>& texts = FColumns[AsSize(col)].Values;
+    return std::span(texts).first(std::min(texts.size(), AsSize(FRowCount)));
+}
+
 void TDataGrid::ResetModified() {
     for (std::size_t col = 0; col < Covered(FColCount, FColumns.size()); ++col) {
         std::vector<bool>& marks = FColumns[col].Modified;
@@ -87,16 +110,19 @@ bool TDataGrid::IsMarked(int col, int row) const {
     return HasCell(col, row) && FColumns[AsSize(col)].Modified[AsSize(row)];
 }
 
-/// The cell moved out of its column, which is made long enough to take it back; an empty one that is not marked when
-/// the position holds none.
-TDataGridCell TDataGrid::TakeCell(int col, int row) {
-    if (col < 0 || row < 0) {
-        throw std::out_of_range("a cell store has no negative coordinates");
-    }
+TDataGrid::TColumn& TDataGrid::Column(int col) {
+    RequireNotNegative(col);
     if (AsSize(col) >= FColumns.size()) {
         FColumns.resize(AsSize(col) + 1);
     }
-    TColumn& column = FColumns[AsSize(col)];
+    return FColumns[AsSize(col)];
+}
+
+/// The cell moved out of its column, which is made long enough to take it back; an empty one that is not marked when
+/// the position holds none.
+TDataGridCell TDataGrid::TakeCell(int col, int row) {
+    RequireNotNegative(row);
+    TColumn& column = Column(col);
     if (AsSize(row) >= column.Values.size()) {
         const std::size_t size = std::max(AsSize(row) + 1, AsSize(FRowCount)); // counted rows come without any to spare
         column.Values.resize(size);

@@ -2,6 +2,7 @@
 
 #include "host/Types.h"
 
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -53,6 +54,11 @@ public:
     bool GetModified(int col, int row) const;
     /// Writes a value that the program worked out: the mark stays as it was.
     void SetCellWithNoChange(int col, int row, AnsiString value);
+    /// Takes the texts as all the cells of the column, from the first row on, none of them marked. An empty text makes
+    /// no cell.
+    void FillColumn(int col, std::vector<AnsiString> texts);
+    /// The texts of the column's counted rows up to its last cell; behind it all are empty. Holds until the next write.
+    std::span<const AnsiString> ColumnTexts(int col) const;
     /// Clears the mark of every cell within the counts; a dimension that was never counted has no bound.
     void ResetModified();
 
@@ -70,6 +76,8 @@ private:
 
     bool IsCounted(int col, int row) const { return col < FColCount && row < FRowCount; }
     bool IsMarked(int col, int row) const;
+    /// The column, made when it is missing.
+    TColumn& Column(int col);
     TDataGridCell TakeCell(int col, int row);
     void PutCell(int col, int row, TDataGridCell cell);
     void EmptyCells(int firstCol, int firstRow);

@@ -1,5 +1,6 @@
 #include "editwin/model/AutosaveFile.h"
 
+#include "editwin/model/AutosaveCell.h"
 #include "host/Exceptions.h"
 #include "tests/host/FakeHost.h"
 
@@ -95,6 +96,37 @@ TEST_F(AutosaveFile, KeysStandAtTheirColumnsPlaces) {
     const std::vector<RColumn> columns{RColumn{.Name = "C", .DataColumn = 2}, RColumn{.Name = "A", .DataColumn = 0},
                                        RColumn{.Name = "B", .DataColumn = 1}};
     EXPECT_THAT(AutosaveKeys(columns), testing::ElementsAre("A", "B", "C"));
+}
+
+/// More than one block of the writer's.
+constexpr int c_ManyRows = 30'000;
+
+TEST_F(AutosaveFile, OneCellThatIsMarkedChangesNoOtherWhereverItStands) {
+    for (const AnsiString& cell : {AnsiString("a\nb"), AnsiString("a\rb"), AnsiString("a\0b", 3), AnsiString(R"(\n)"),
+                                   AnsiString("k\xC5"), AnsiString("\xC5")}) {
+        for (const int at : {0, 1, c_ManyRows / 2, c_ManyRows - 1}) {
+            TDataGrid lines;
+            lines.SetColCount(3);
+            lines.SetRowCount(c_ManyRows);
+            for (int row = 0; row < c_ManyRows; ++row) {
+                lines.SetCells(0, row, row == at ? cell : "kůň " + std::to_string(row));
+            }
+            lines.SetCells(2, c_ManyRows - 2, "the last but one");
+            AnsiString marked;
+            AppendAutosaveCell(marked, cell);
+            AnsiString wanted = "7\n" + std::to_string(c_ManyRows) + "\nSKLADPOL\nMNOZSTVI\nPOPIS\n";
+            for (int row = 0; row < c_ManyRows; ++row) {
+                wanted += (row == at ? marked : "kůň " + std::to_string(row)) + "\n";
+            }
+            wanted += AnsiString(2 * c_ManyRows - 2, '\n') + "the last but one\n\n";
+            ASSERT_TRUE(written(lines) == wanted) << at;
+            const auto content = read(wanted);
+            ASSERT_TRUE(content);
+            EXPECT_EQ(content->Lines.GetCells(0, at), cell);
+            EXPECT_EQ(content->Lines.GetCells(0, c_ManyRows - 1), at == c_ManyRows - 1 ? cell : "kůň 29999");
+            EXPECT_EQ(content->Lines.GetCells(2, c_ManyRows - 2), "the last but one");
+        }
+    }
 }
 
 struct BadFile {
@@ -206,6 +238,14 @@ TEST_F(AutosaveFile, AShortFileThatClaimsAMillionRowsTakesLittleMemory) {
     const long grown = memoryToRead("7\n1000000\n" KEYS "a\nb\n");
     EXPECT_GE(grown, 0);
     EXPECT_LT(grown, 8 * 1024);
+}
+
+TEST_F(AutosaveFile, AMillionEmptyRowsTakeLittleMemory) {
+    const AnsiString text = "7\n1000000\n" KEYS + AnsiString(3'000'000, '\n');
+    ASSERT_TRUE(read(text));
+    const long grown = memoryToRead(text);
+    EXPECT_GE(grown, 0);
+    EXPECT_LT(grown, 16 * 1024);
 }
 
 TEST_F(AutosaveFile, ACellThatCouldNotBeReadAgainIsNotWritten) {

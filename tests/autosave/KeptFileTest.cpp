@@ -225,6 +225,17 @@ TEST_F(KeptFiles, ComeBackWhenTheirDirectoryWasRemoved) {
     EXPECT_EQ(restored(file), "two");
 }
 
+TEST_F(KeptFiles, OfADirectoryThatWasPutBackAreReadFirst) {
+    KeptFile file(path());
+    write(file, "one");
+    std::filesystem::remove_all(directory());
+    leave("", "of a backup");
+    EXPECT_THROW(write(file, "two"), EInOutError);
+    EXPECT_EQ(restored(file), "of a backup");
+    write(file, "two");
+    EXPECT_EQ(restored(file), "two");
+}
+
 TEST_F(KeptFiles, AreNotWrittenWhereAFileIsInTheWay) {
     { std::ofstream(directory()) << "no directory"; }
     KeptFile file(path());

@@ -41,6 +41,17 @@ TEST(Utf8, TakesWhatIsNoCharacterByteByByte) {
     EXPECT_TRUE(IsUtf8(""));
 }
 
+TEST(Utf8, FindsDamageAtEachPlaceOfALongText) {
+    const std::string text = "0123456789 žluťoučký kůň € 0123456789 😀 0123456789";
+    EXPECT_TRUE(IsUtf8(text));
+    for (std::size_t at = 0; at <= text.size(); ++at) {
+        EXPECT_FALSE(IsUtf8(std::string(text).insert(at, "\xFF"))) << at;
+        const bool isBetween = at == text.size() || (static_cast<unsigned char>(text[at]) & 0xC0) != 0x80;
+        EXPECT_EQ(IsUtf8(text.substr(0, at)), isBetween) << at;
+        EXPECT_EQ(IsUtf8(text.substr(at)), isBetween) << at;
+    }
+}
+
 TEST(Utf8, CountsCharactersAndNoDamage) {
     EXPECT_EQ(CharacterCount(""), 0U);
     EXPECT_EQ(CharacterCount("žluť"), 4U);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -321,6 +322,32 @@ TEST(DataGrid, TextIsKeptByteForByte) {
     const AnsiString text("  \xC5\x99\0;\n", 7);
     store.SetCells(0, 0, text);
     EXPECT_EQ(store.GetCells(0, 0), text);
+}
+
+TEST(DataGrid, AColumnFilledAtOnceIsThoseTextsWithoutMarks) {
+    TDataGrid store = filledStore(2, 4);
+    store.FillColumn(1, {"a", "", "c"});
+    EXPECT_EQ(rowText(store, 0, 2), "0.0!|a");
+    EXPECT_EQ(rowText(store, 1, 2), "0.1!|");
+    EXPECT_EQ(rowText(store, 2, 2), "0.2!|c");
+    EXPECT_EQ(rowText(store, 3, 2), "0.3!|");
+    EXPECT_FALSE(store.HasCell(1, 1)) << "an empty text makes no cell";
+    EXPECT_FALSE(store.HasCell(1, 3)) << "what was there before is gone";
+    store.SetCells(1, 3, "d");
+    EXPECT_EQ(rowText(store, 3, 2), "0.3!|d!");
+    EXPECT_THROW(store.FillColumn(-1, {}), std::out_of_range);
+}
+
+TEST(DataGrid, AColumnsTextsAreThoseOfItsCountedRowsUpToTheLastCell) {
+    TDataGrid store = sizedStore(2, 3);
+    store.SetCells(0, 1, "b");
+    store.SetCells(0, 7, "beyond the rows");
+    store.SetCells(5, 0, "beyond the columns");
+    const auto texts = store.ColumnTexts(0);
+    EXPECT_EQ(std::vector<AnsiString>(texts.begin(), texts.end()), (std::vector<AnsiString>{"", "b", ""}));
+    EXPECT_TRUE(store.ColumnTexts(1).empty()) << "no cell";
+    EXPECT_TRUE(store.ColumnTexts(5).empty()) << "not counted";
+    EXPECT_TRUE(store.ColumnTexts(-1).empty());
 }
 
 TEST(DataGrid, TenThousandRowsOfThirtyColumnsKeepEachValueAtItsPlace) {
