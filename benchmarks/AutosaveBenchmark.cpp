@@ -3,14 +3,18 @@
 // Floor of writing: the same bytes, ready beforehand, written to a new file in pieces of the same size, synced,
 // renamed, the directory synced. Floor of reading: the file read in pieces. Both take turns with the editor's own
 // writing and reading in one run; medians of the rounds, by the wall's clock: waiting for the disk is part of it.
-// Without the syncs is what the window cannot be drawn for even on the fastest disk.
+// Without the syncs is what the window cannot be drawn for even on the fastest disk. How long the picture of a real
+// form stands still is measured on one, too.
 //
 //   autosave_benchmark DIRECTORY [ROUNDS]      the directory tells which disk is measured
 
+#include "benchmarks/AutosaveFrames.h"
 #include "benchmarks/database/CostClock.h"
 #include "benchmarks/database/Report.h"
 #include "editwin/model/AutosaveFile.h"
 #include "editwin/model/KeptFile.h"
+
+#include <QApplication>
 
 #include <algorithm>
 #include <array>
@@ -29,7 +33,7 @@ using namespace melvark;
 using benchmark::CostClock;
 
 constexpr int c_Columns = 26;
-constexpr std::size_t c_Piece = 64 * 1024;
+constexpr std::size_t c_Piece = std::size_t{64} * 1024;
 
 std::vector<AnsiString> keys() {
     std::vector<AnsiString> all;
@@ -152,6 +156,10 @@ int main(int argc, char** argv) {
     std::printf("%-28s %7s %10s %10s %8s\n", "work", "lines", "ms", "bare ms", "ratio");
     for (const int rows : {1'000, 10'000, 100'000}) {
         measure(clock, place, rows, rounds);
+    }
+    const QApplication application(argc, argv);
+    for (const int rows : {1'000, 10'000}) {
+        benchmark::measureFrames(place, rows, 10 * rounds);
     }
     std::filesystem::remove_all(place);
     return 0;
