@@ -6,7 +6,7 @@
 // Without the syncs is what the window cannot be drawn for even on the fastest disk. How long the picture of a real
 // form stands still is measured on one, too.
 //
-//   autosave_benchmark DIRECTORY [ROUNDS]      the directory tells which disk is measured
+//   autosave_benchmark DIRECTORY [ROUNDS [wall|processor]]      the directory tells which disk is measured
 
 #include "benchmarks/AutosaveFrames.h"
 #include "benchmarks/database/CostClock.h"
@@ -156,6 +156,9 @@ int main(int argc, char** argv) {
     std::printf("%-28s %7s %10s %10s %8s\n", "work", "lines", "ms", "bare ms", "ratio");
     for (const int rows : {1'000, 10'000, 100'000}) {
         measure(clock, place, rows, rounds);
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QApplication application(argc, argv);
     for (const int rows : {1'000, 10'000}) {

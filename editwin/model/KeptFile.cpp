@@ -33,22 +33,33 @@ KeptFile::KeptFile(AnsiString path)
       FCopyName(FName + ".kept"),
       FLockName(FName + ".lock") {}
 
-// The lock's file goes while the lock is still held: nobody else can have taken it.
+// The lock's file goes while the lock is still held: nobody else can have taken it. What else stands there by now
+// stays.
 KeptFile::~KeptFile() {
-    if (IsHeld()) {
-        FDirectory->Remove(FLockName);
+    try {
+        if (IsHeld() && FDirectory->IsNamed(FLockName, FLock)) {
+            FDirectory->Remove(FLockName);
+        }
+    } catch (const std::system_error&) {
+        return; // It stays, and hinders nobody.
     }
 }
 
 bool KeptFile::HasContent() {
+    if (!TryToHold()) {
+        return false;
+    }
     try {
-        return Hold() && !ContentName().empty();
+        return !ContentName().empty();
     } catch (const std::system_error& refusal) {
         throw AutosaveUnread(refusal.code().value(), FPath);
     }
 }
 
 void KeptFile::Read(const std::function<void(std::istream&)>& read) {
+    if (!IsHeld()) {
+        return;
+    }
     try {
         const Descriptor file = FDirectory->OpenToRead(ContentName());
         if (!file.IsOpen()) {
@@ -125,6 +136,16 @@ bool KeptFile::Hold() {
         FState = FLock.IsOpen() ? State::Held : State::Elsewhere;
     }
     return IsHeld();
+}
+
+bool KeptFile::TryToHold() {
+    try {
+        return Hold();
+    } catch (const std::system_error&) {
+        return false;
+    } catch (const EInOutError&) {
+        return false;
+    }
 }
 
 void KeptFile::PutInPlace(const std::function<void(std::ostream&)>& write) {

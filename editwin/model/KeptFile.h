@@ -19,8 +19,8 @@ namespace melvark {
 /// and Write take hold of it; where another one holds it, nothing is read, written or removed. A link, a pipe, a
 /// directory or another user's file under one of the names is left as it is.
 ///
-/// Content that the object finds is replaced, set aside and removed only after it was read to the end: what the system
-/// would not give now may be all that is left of a day's work.
+/// Content that the object finds is replaced, set aside and removed only after the system has given it to a reader:
+/// what cannot be had now may be all that is left of a day's work.
 class KeptFile {
 public:
     /// `path` is absolute. Nothing is touched yet.
@@ -35,10 +35,11 @@ public:
     bool IsHeldElsewhere() const { return FState == State::Elsewhere; }
 
     /// Whether there is content to be read: the file's, or else that of the copy. False also when the file is held
-    /// elsewhere. Throws EInOutError when that cannot be found out.
+    /// elsewhere, and when it cannot be taken hold of, which the next Write tells. Throws EInOutError when it cannot be
+    /// looked at.
     bool HasContent();
-    /// Hands the content to `read`, which HasContent said is there. Throws EInOutError when the system does not give
-    /// it; other errors of `read` pass through.
+    /// Hands the content to `read`, which HasContent said is there; nothing when the file is not held here. Throws
+    /// EInOutError when the system does not give it; other errors of `read` pass through.
     void Read(const std::function<void(std::istream&)>& read);
 
     /// Puts what `write` writes in the place of the content and waits until it is on the disk. Throws EInOutError when
@@ -55,6 +56,8 @@ private:
 
     /// False when another editor holds the file; throws what Write throws.
     bool Hold();
+    /// False also when Hold throws.
+    bool TryToHold();
     bool IsHeld() const { return FState == State::Held; }
     /// Whether what stands there, if anything, is this object's to replace.
     bool MayReplace() const { return FIsKnown || ContentName().empty(); }

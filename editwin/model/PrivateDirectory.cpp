@@ -144,15 +144,21 @@ Descriptor PrivateDirectory::Lock(const AnsiString& name) const {
             }
             Refused();
         }
-        struct stat named {};
-        if (Retried([&] { return fstatat(FDirectory.Number(), name.c_str(), &named, AT_SYMLINK_NOFOLLOW); }) != 0) {
-            if (errno != ENOENT) {
-                Refused();
-            }
-        } else if (IsSameFile(named, StatusOf(file))) {
+        if (IsNamed(name, file)) {
             return file;
         }
     }
+}
+
+bool PrivateDirectory::IsNamed(const AnsiString& name, const Descriptor& file) const {
+    struct stat named {};
+    if (Retried([&] { return fstatat(FDirectory.Number(), name.c_str(), &named, AT_SYMLINK_NOFOLLOW); }) == 0) {
+        return IsSameFile(named, StatusOf(file));
+    }
+    if (errno != ENOENT) {
+        Refused();
+    }
+    return false;
 }
 
 void PrivateDirectory::Rename(const AnsiString& from, const AnsiString& to) const {

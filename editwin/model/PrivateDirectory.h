@@ -35,6 +35,9 @@ public:
     /// when somebody else has it.
     Descriptor Lock(const AnsiString& name) const;
 
+    /// Whether the name stands for this very file.
+    bool IsNamed(const AnsiString& name, const Descriptor& file) const;
+
     void Rename(const AnsiString& from, const AnsiString& to) const;
     /// Whether the name is free now.
     bool Remove(const AnsiString& name) const noexcept;

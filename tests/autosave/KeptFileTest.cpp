@@ -225,6 +225,30 @@ TEST_F(KeptFiles, ComeBackWhenTheirDirectoryWasRemoved) {
     EXPECT_EQ(restored(file), "two");
 }
 
+TEST_F(KeptFiles, WhoseLockIsAnotherFileByNowLeaveThatFile) {
+    {
+        KeptFile file(path());
+        write(file, "one");
+        std::filesystem::remove(path(".lock"));
+        leave(".lock", "of another editor");
+    }
+    EXPECT_EQ(textOf(path(".lock")), "of another editor");
+}
+
+TEST_F(KeptFiles, ThatAreNotHeldGiveNothingToARead) {
+    leave("", "one");
+    KeptFile untouched(path());
+    bool isRead = false;
+    const auto note = [&](std::istream&) { isRead = true; };
+    untouched.Read(note);
+    KeptFile first(path());
+    EXPECT_EQ(restored(first), "one");
+    KeptFile second(path());
+    EXPECT_FALSE(second.HasContent());
+    second.Read(note);
+    EXPECT_FALSE(isRead);
+}
+
 TEST_F(KeptFiles, OfADirectoryThatWasPutBackAreReadFirst) {
     KeptFile file(path());
     write(file, "one");
@@ -242,7 +266,7 @@ TEST_F(KeptFiles, AreNotWrittenWhereAFileIsInTheWay) {
     const AnsiString foreign =
         "Rozepsaná práce se průběžně neukládá (místo souboru je tam odkaz, složka nebo něco cizího): „" +
         path().string() + "“. Uložte ji raději hned.";
-    EXPECT_EQ(messageOf<EInOutError>([&] { file.HasContent(); }), foreign);
+    EXPECT_FALSE(file.HasContent());
     EXPECT_EQ(messageOf<EInOutError>([&] { write(file, "one"); }), foreign);
     KeptFile below(path() / "y.dat");
     EXPECT_THAT(messageOf<EInOutError>([&] { write(below, "one"); }), HasSubstr("(složka neexistuje)"));

@@ -148,11 +148,64 @@ TEST_F(PlantedTrap, UnderTheNameOfTheCopyKeepsTheContentWhereItIs) {
     });
 }
 
+TEST_F(PlantedTrap, UnderTheNameOfTheNewFileBeforeTheFirstWriteStopsIt) {
+    withEachTrap(path(".new"), onlyOpen, [&](KeptFile& file) {
+        expectRefusal(file);
+        EXPECT_EQ(restored(file), "nothing");
+        file.Remove();
+    });
+}
+
+TEST_F(PlantedTrap, UnderTheNameOfTheCopyBeforeTheFirstWriteIsNeitherOfferedNorTouched) {
+    withEachTrap(path(".kept"), onlyOpen, [&](KeptFile& file) {
+        EXPECT_EQ(restored(file), "nothing");
+        write(file, "new");
+        EXPECT_EQ(restored(file), "new");
+        file.Remove();
+    });
+}
+
+TEST_F(PlantedTrap, UnderTheNameBesideTheCopyLeavesTheCopyToBeOffered) {
+    const auto writeAndSetAside = [](KeptFile& file) {
+        write(file, "old");
+        file.SetAside();
+    };
+    withEachTrap(path(), writeAndSetAside, [&](KeptFile& file) {
+        EXPECT_EQ(restored(file), "old");
+        expectRefusal(file);
+        file.SetAside();
+        EXPECT_EQ(restored(file), "old");
+    });
+}
+
+TEST_F(PlantedTrap, UnderTheNameOfTheLockWhileItIsHeldStaysWhenTheEditorCloses) {
+    for (const Trap& trap : c_Traps) {
+        SCOPED_TRACE(trap.name);
+        std::filesystem::remove_all(directory());
+        AnsiString laid;
+        {
+            KeptFile file(path());
+            {
+                const OrdinaryUser user;
+                write(file, "old");
+            }
+            std::filesystem::remove(path(".lock"));
+            trap.lay(path(".lock"), target());
+            laid = look(path(".lock"));
+            const OrdinaryUser user;
+            write(file, "new");
+            EXPECT_EQ(restored(file), "new");
+        }
+        EXPECT_EQ(look(path(".lock")), laid);
+        EXPECT_THAT(look(target()), EndsWith(" the user's own"));
+    }
+}
+
 TEST_F(PlantedTrap, UnderTheNameOfTheLockStopsTheEditorFromWriting) {
     withEachTrap(
         path(".lock"), [this](KeptFile&) { std::filesystem::create_directory(directory()); },
         [&](KeptFile& file) {
-            EXPECT_EQ(restored(file), "unread");
+            EXPECT_EQ(restored(file), "nothing");
             EXPECT_FALSE(file.IsHeldElsewhere());
             expectRefusal(file);
         });
@@ -180,7 +233,7 @@ TEST_F(PlantedTrap, InPlaceOfTheDirectoryStopsTheEditorFromWriting) {
         {
             const OrdinaryUser user;
             KeptFile file(path());
-            EXPECT_EQ(restored(file), "unread");
+            EXPECT_EQ(restored(file), "nothing");
             expectRefusal(file);
         }
         EXPECT_EQ(look(directory()), laid);

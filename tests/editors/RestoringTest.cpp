@@ -162,9 +162,39 @@ TEST_F(RestoringANote, AnUnreadableFileIsToldOnceAndGone) {
 }
 
 TEST_F(RestoringANote, AFileOfOtherColumnsIsUnreadable) {
-    leave(file_, fileText(7, dodObjKeys(), sampleOrderLines()));
-    EXPECT_EQ(names(*open()), c_Filled);
-    EXPECT_THAT(manager_.boxes(), ElementsAre(c_Unreadable));
+    std::vector<AnsiString> renamed = dodakKeys();
+    renamed.back() = "BALENI";
+    std::vector<AnsiString> more = dodakKeys();
+    more.emplace_back("BALENI");
+    std::vector<AnsiString> fewer = dodakKeys();
+    fewer.pop_back();
+    std::size_t told = 0;
+    for (const std::vector<AnsiString>& keys : {renamed, more, fewer, dodObjKeys()}) {
+        leave(file_, fileText(7, keys, unsavedLines()));
+        const auto editor = open();
+        EXPECT_EQ(names(*editor), c_Filled);
+        EXPECT_EQ(listing(), "");
+        ASSERT_THAT(manager_.boxes(), SizeIs(++told));
+        EXPECT_EQ(manager_.boxes().back(), c_Unreadable);
+    }
+}
+
+TEST_F(RestoringANote, AFileThatIsWrongInItsLastLineChangesNothing) {
+    const auto editor = open();
+    showAnd(*editor, [&] {
+        type(*editor, "77");
+        AnsiString text = fileText(9, dodakKeys(), unsavedLines());
+        text.insert(text.size() - 1, "\r");
+        leave(file_, text);
+        int id = 5;
+        EXPECT_FALSE(editor->LoadDataFromTempFile(id));
+        EXPECT_EQ(id, 5);
+        EXPECT_EQ(names(*editor), c_Filled);
+        EXPECT_EQ(stored(*editor, 1, "MNOZSTVI"), "77");
+        EXPECT_TRUE(isModified(*editor, 1, "MNOZSTVI"));
+        EXPECT_EQ(row(*editor, 1, {"SKLADPOL", "MNOZSTVI"}), "Mléko | 77");
+        EXPECT_EQ(editor->StringGrid->RowCount(), 3);
+    });
 }
 
 TEST_F(RestoringANote, AQuestionWithoutAnAnswerKeepsTheWorkForTheNextTime) {
@@ -173,7 +203,11 @@ TEST_F(RestoringANote, AQuestionWithoutAnAnswerKeepsTheWorkForTheNextTime) {
     EXPECT_THROW(open(), EDatabaseError);
     EXPECT_EQ(listing(), file_.filename().string() + ".kept");
     const DirectoryContent left = content();
-    EXPECT_EQ(names(*open()), c_Filled) << "a failure without an error: the document is opened anew";
+    {
+        const auto editor = open();
+        EXPECT_EQ(names(*editor), c_Filled) << "a failure without an error: the document is opened anew";
+        EXPECT_EQ(listing(), file_.filename().string() + ".kept");
+    }
     putBack(left);
     EXPECT_EQ(names(*open()), c_Unsaved);
 }
@@ -262,6 +296,7 @@ TEST_F(RestoringAnOrder, ComesBeforeEachSourcesDialogAndNamesNoSource) {
 TEST_F(RestoringAnOrder, TellsOfAnotherDocumentAndSavesIntoIt) {
     leaveWork(false, "SABLONA", 13);
     TDodObjEditBox editor(qApp, &manager_, false, "SABLONA", 12, 3, 5, "Praha", "Lípa", {});
+    EXPECT_THAT(host_.connection.calls(), Contains("MELVARKEDITORDodObjObnovData(a_DDOBID=13)"));
     showAnd(editor, [&] { ASSERT_TRUE(QTest::qWaitFor([&] { return !manager_.messages().empty(); })); });
     EXPECT_THAT(manager_.messages(), ElementsAre(StartsWith("O#: Obnovená rozepsaná práce patří k jinému dokladu")));
     EXPECT_TRUE(editor.SaveData());

@@ -169,6 +169,23 @@ TEST_F(SavingANoteToTempFile, AnEditorOfAnotherSourceHasAFileOfItsOwn) {
     EXPECT_EQ(listing(), file_.filename());
 }
 
+TEST_F(SavingANoteToTempFile, TwoNotesOfOneSourceShareAFileAndTwoSourcesDoNot) {
+    const auto first = open();
+    tick(*first);
+    const DirectoryContent before = content();
+    {
+        TDodakEditBox another(qApp, &manager_, "SABLONA", 9, 40);
+        tick(another);
+        EXPECT_EQ(content(), before) << "held by the first note's editor";
+    }
+    const std::filesystem::path fromOrder = fileOf("DODAK", "DODOBJ");
+    leave(fromOrder, fileText(7, dodakKeys(), sampleLines())); // so that no source is asked for
+    const auto second = open("DODOBJ");
+    tick(*second);
+    EXPECT_EQ(listing(), fromOrder.filename().string() + " " + file_.filename().string());
+    EXPECT_EQ(written(), fileText(7, dodakKeys(), templateLines()));
+}
+
 class SavingAnOrderToTempFile : public UnsavedWorkFixture {
 protected:
     SavingAnOrderToTempFile() { scriptDodObjEditor(host_.connection); }

@@ -15,6 +15,7 @@ using testing::SizeIs;
 using testing::StartsWith;
 
 constexpr const char* c_Unread = "O#: Nelze přečíst, co tu zbylo z rozepsané práce (systém hlásí: ";
+constexpr std::size_t c_DirectoryAndLock = 2;
 constexpr const char* c_Held = "O#: Rozepsanou práci z tohoto zdroje průběžně ukládá jiné okno. Práce v tomto okně se "
                                "průběžně neukládá.";
 
@@ -56,7 +57,8 @@ protected:
     const AnsiString unsaved_ = fileText(7, dodakKeys(), {{{"SKLADPOL", "Máslo"}, {"MNOZSTVI", "1,5"}}});
 };
 
-// The system gives none, one or two of the three files that an editor opens: directory, lock, content.
+// The system gives none, one or two of the three files that an editor opens: directory, lock, content. Without the
+// first two it is a fault of keeping the work, which a tick tells.
 class UnreadWork : public WorkInTheWay, public testing::WithParamInterface<std::size_t> {};
 
 TEST_P(UnreadWork, StaysWhateverTheClerkDoesAndIsToldOnce) {
@@ -64,11 +66,17 @@ TEST_P(UnreadWork, StaysWhateverTheClerkDoesAndIsToldOnce) {
     auto editor = openWithDescriptors(GetParam());
     EXPECT_EQ(stored(*editor, 1, "SKLADPOL"), "Mléko") << "the source's first line";
     showAnd(*editor, [&] {
-        ASSERT_TRUE(isTold(1));
         work(*editor);
         QTest::qWait(0);
     });
-    EXPECT_THAT(manager_.messages(), ElementsAre(StartsWith(c_Unread)));
+    if (GetParam() == c_DirectoryAndLock) {
+        EXPECT_THAT(manager_.messages(), ElementsAre(StartsWith(c_Unread)));
+    } else {
+        EXPECT_THAT(manager_.messages(), IsEmpty());
+        expectedErrors_ = {"Rozepsaná práce se průběžně neukládá (je tam starší rozepsaná práce, kterou nebylo možné "
+                           "přečíst): „" +
+                           file_.string() + "“. Uložte ji raději hned."};
+    }
     EXPECT_THAT(manager_.boxes(), IsEmpty());
     editor.reset();
     EXPECT_EQ(textOf(file_), unsaved_);
@@ -76,7 +84,7 @@ TEST_P(UnreadWork, StaysWhateverTheClerkDoesAndIsToldOnce) {
     EXPECT_EQ(stored(*open(), 1, "SKLADPOL"), "Máslo") << "the next opening";
 }
 
-INSTANTIATE_TEST_SUITE_P(Descriptors, UnreadWork, testing::Values(0U, 1U, 2U));
+INSTANTIATE_TEST_SUITE_P(Descriptors, UnreadWork, testing::Values(0U, 1U, c_DirectoryAndLock));
 
 TEST_F(WorkInTheWay, ThreeDescriptorsAreEnoughToTakeItUp) {
     leave(file_, unsaved_);
@@ -86,10 +94,10 @@ TEST_F(WorkInTheWay, ThreeDescriptorsAreEnoughToTakeItUp) {
 TEST_F(WorkInTheWay, WithoutAnyTheEditorKeepsItsOwnAsSoonAsItCan) {
     const auto editor = openWithDescriptors(0);
     showAnd(*editor, [&] {
-        ASSERT_TRUE(isTold(1));
         work(*editor);
         EXPECT_EQ(listing(), file_.filename());
     });
+    EXPECT_THAT(manager_.messages(), IsEmpty());
 }
 
 TEST_F(WorkInTheWay, AFileThatIsFoundHeldAtALaterTickIsToldOnce) {
@@ -98,13 +106,12 @@ TEST_F(WorkInTheWay, AFileThatIsFoundHeldAtALaterTickIsToldOnce) {
     tick(*holder);
     const AnsiString before = textOf(file_);
     showAnd(*late, [&] {
-        ASSERT_TRUE(isTold(1));
         work(*late);
-        ASSERT_TRUE(isTold(2));
+        ASSERT_TRUE(isTold(1));
         tick(*late);
         QTest::qWait(0);
     });
-    EXPECT_THAT(manager_.messages(), ElementsAre(StartsWith(c_Unread), c_Held));
+    EXPECT_THAT(manager_.messages(), ElementsAre(c_Held));
     EXPECT_EQ(textOf(file_), before);
 }
 
@@ -162,17 +169,14 @@ INSTANTIATE_TEST_SUITE_P(Names, PlantedLink,
                          testing::Values(Link{"", 1, "File"}, Link{".new", 1, "NewFile"}, Link{".kept", 0, "Copy"}),
                          [](const auto& row) { return row.param.what; });
 
-TEST_F(WorkInTheWay, ALinkInPlaceOfTheLockIsToldOnceWhenTheEditorOpens) {
+TEST_F(WorkInTheWay, ALinkInPlaceOfTheLockIsToldOnce) {
     const std::filesystem::path target = file_.parent_path().string() + "-target";
     leave(file_, unsaved_);
     std::filesystem::create_symlink(target, file_.string() + ".lock");
     const auto editor = open();
-    showAnd(*editor, [&] {
-        ASSERT_TRUE(isTold(1));
-        work(*editor);
-        QTest::qWait(0);
-    });
-    EXPECT_THAT(manager_.messages(), ElementsAre(HasSubstr("místo souboru je tam odkaz")));
+    showAnd(*editor, [&] { work(*editor); });
+    ASSERT_THAT(host_.errors(), ElementsAre(HasSubstr("místo souboru je tam odkaz")));
+    expectedErrors_ = host_.errors();
     EXPECT_FALSE(std::filesystem::exists(target));
     EXPECT_EQ(textOf(file_), unsaved_);
 }
