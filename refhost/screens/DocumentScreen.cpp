@@ -81,15 +81,19 @@ void DocumentScreen::refresh() {
     showLines();
 }
 
-std::set<std::int64_t> DocumentScreen::created() const {
+std::optional<std::set<std::int64_t>> DocumentScreen::created() const {
     return readCreated(connection_, definition_);
 }
 
-QStringList DocumentScreen::refreshForCreated(const std::set<std::int64_t>& before) {
+QStringList DocumentScreen::refreshForCreated(const std::optional<std::set<std::int64_t>>& before) {
     refresh();
+    const auto after = created();
+    if (!before || !after) {
+        return {};
+    }
     std::set<std::string> made;
-    for (const std::int64_t id : created()) {
-        if (!before.contains(id)) {
+    for (const std::int64_t id : *after) {
+        if (!before->contains(id)) {
             made.insert(std::to_string(id));
         }
     }

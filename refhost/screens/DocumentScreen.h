@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <optional>
 #include <set>
 
 class QLabel;
@@ -32,11 +33,11 @@ public:
     /// Reads the documents and the current one's lines again; the current document stays current. Throws
     /// EDatabaseError.
     void refresh();
-    /// The documents that this session's saves have made so far.
-    std::set<std::int64_t> created() const;
+    /// The documents that this session's saves have made so far; nothing when the database does not tell.
+    std::optional<std::set<std::int64_t>> created() const;
     /// Refreshes; the numbers of the documents that this session's saves have made beside those, in their order. What
-    /// others made meanwhile is not named.
-    QStringList refreshForCreated(const std::set<std::int64_t>& before);
+    /// others made meanwhile is not named, nor anything without knowing what there was before.
+    QStringList refreshForCreated(const std::optional<std::set<std::int64_t>>& before);
 
     /// The current document, or an empty dataset.
     DocumentDataSet dataSet() const;

@@ -54,15 +54,18 @@ TResultTable readDocument(TConnection& connection, const ScreenDefinition& scree
                             " where _ID = " + std::to_string(document));
 }
 
-std::set<std::int64_t> readCreated(TConnection& connection, const ScreenDefinition& screen) {
-    if (screen.createdView.empty()) {
-        return {};
-    }
+// The names of new documents are a kindness: for want of them nobody is kept from inserting lines. Whatever else is
+// wrong with the database, the next call says.
+std::optional<std::set<std::int64_t>> readCreated(TConnection& connection, const ScreenDefinition& screen) try {
     std::set<std::int64_t> created;
-    for (const auto& row : connection.Query("select _ID from " + std::string(screen.createdView)).Rows) {
-        created.insert(std::get<std::int64_t>(row.front()));
+    if (!screen.createdView.empty()) {
+        for (const auto& row : connection.Query("select _ID from " + std::string(screen.createdView)).Rows) {
+            created.insert(std::get<std::int64_t>(row.front()));
+        }
     }
     return created;
+} catch (const EDatabaseError&) {
+    return std::nullopt;
 }
 
 TResultTable readLines(TConnection& connection, const ScreenDefinition& screen, std::int32_t document) {

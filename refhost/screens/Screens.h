@@ -6,6 +6,7 @@
 #include <Qt>
 
 #include <cstdint>
+#include <optional>
 #include <set>
 #include <span>
 #include <string>
@@ -42,8 +43,9 @@ TResultTable readDocuments(TConnection& connection, const ScreenDefinition& scre
 /// The document of that record number; no row when the screen has none.
 TResultTable readDocument(TConnection& connection, const ScreenDefinition& screen, std::int32_t document);
 
-/// The record numbers of the documents that this session's saves have made on the screen.
-std::set<std::int64_t> readCreated(TConnection& connection, const ScreenDefinition& screen);
+/// The record numbers of the documents that this session's saves have made on the screen; nothing when the database
+/// does not tell, as one that somebody else has furnished may not.
+std::optional<std::set<std::int64_t>> readCreated(TConnection& connection, const ScreenDefinition& screen);
 
 /// The stored lines of the document in their order.
 TResultTable readLines(TConnection& connection, const ScreenDefinition& screen, std::int32_t document);

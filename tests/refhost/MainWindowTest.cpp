@@ -31,6 +31,7 @@ namespace {
 using testing::ElementsAre;
 
 const std::string c_documentsQuery = "select * from SCREEN_DODAK_V order by _ID";
+const std::string c_createdQuery = "select _ID from SCREEN_DODOBJ_CREATED_V";
 
 class MainWindowTest : public testing::Test {
 protected:
@@ -65,7 +66,7 @@ protected:
         for (const std::int64_t id : orders) {
             table.Rows.push_back({id});
         }
-        host_.connection.answerQuery("select _ID from SCREEN_DODOBJ_CREATED_V", table);
+        host_.connection.answerQuery(c_createdQuery, table);
     }
     const QLabel& newDocuments() const { return *window_->findChild<QLabel*>(QStringLiteral("newDocumentsLabel")); }
 
@@ -173,6 +174,36 @@ TEST_F(MainWindowTest, NothingIsNamedWhenNoLinesWereInserted) {
         answerCreated({12});
     };
     press(Qt::Key_F8);
+    EXPECT_EQ(newDocuments().text(), QString());
+}
+
+TEST_F(MainWindowTest, ADatabaseThatDoesNotTellNewDocumentsTakesLinesAndNothingIsNamed) {
+    changed_ = true;
+    open();
+    press(Qt::Key_2, Qt::ControlModifier);
+    host_.connection.refuseQuery(c_createdQuery, "no such view");
+    whileInserting_ = [this] { answerOrders({{9, "OB-1"}, {12, "OB-2"}}); };
+
+    press(Qt::Key_F8);
+
+    EXPECT_THAT(executed_, ElementsAre("DODOBJ 9"));
+    EXPECT_THAT(host_.errors(), ElementsAre());
+    EXPECT_EQ(shownDocuments().rowCount(), 2);
+    EXPECT_EQ(newDocuments().text(), QString());
+}
+
+TEST_F(MainWindowTest, WhatWasMadeBeforeADatabaseBeganToTellIsNotNamed) {
+    changed_ = true;
+    open();
+    press(Qt::Key_2, Qt::ControlModifier);
+    host_.connection.refuseQuery(c_createdQuery, "no such view");
+    whileInserting_ = [this] {
+        answerOrders({{9, "OB-1"}, {12, "OB-2"}});
+        answerCreated({9, 12});
+    };
+
+    press(Qt::Key_F8);
+
     EXPECT_EQ(newDocuments().text(), QString());
 }
 

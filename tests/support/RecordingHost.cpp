@@ -81,6 +81,7 @@ void RecordingConnection::dropProcedure(const AnsiString& name) {
 
 void RecordingConnection::answerQuery(const AnsiString& sql, TResultTable table) {
     queries_[sql] = std::move(table);
+    refusedQueries_.erase(sql);
 }
 
 void RecordingConnection::refuseQuery(const AnsiString& sql, AnsiString message) {

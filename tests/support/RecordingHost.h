@@ -63,6 +63,7 @@ public:
     ProcedureScript& procedure(const AnsiString& name);
     /// Forgets the procedure, as in a database that lacks it.
     void dropProcedure(const AnsiString& name);
+    /// The answer of the query from now on, also of a refused one.
     void answerQuery(const AnsiString& sql, TResultTable table);
     /// The query is refused with this sentence.
     void refuseQuery(const AnsiString& sql, AnsiString message);
