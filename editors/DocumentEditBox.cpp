@@ -32,13 +32,15 @@ bool TDocumentEditBox::CheckDocument(int id) const {
     return CheckMasterDocument(FDocumentKind.CheckProcedure, FDocumentKind.IdParam, id);
 }
 
-void TDocumentEditBox::RequireMaster(bool mayBeEdited) {
+void TDocumentEditBox::Begin(bool mayBeEdited, std::function<bool()> saveData) {
     if (!mayBeEdited) {
         throw Canceled();
     }
+    SetOnSaveDataToTempFile([this] { SaveDataToTempFile(); });
+    SetOnSaveData(std::move(saveData));
 }
 
-SourceChoice TDocumentEditBox::AskForSource(const std::function<void(TSelectBox&)>& setUp) {
+SourceChoice TDocumentEditBox::ShowSelection(const std::function<void(TSelectBox&)>& setUp) {
     TSelectBox selection(this, LibraryManager());
     setUp(selection);
     if (selection.ShowModal() != c_ResultOk || selection.GetID() <= c_NullValue) {

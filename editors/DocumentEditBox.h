@@ -9,6 +9,7 @@
 #include <initializer_list>
 #include <span>
 #include <string_view>
+#include <type_traits>
 
 class TSelectBox;
 
@@ -37,12 +38,16 @@ protected:
 
     /// Asks the database whether the document may be edited: false when it answers no. A refusal throws EDatabaseError.
     bool CheckDocument(int id) const;
-    /// Throws what cancels the editor when the check answered no.
-    static void RequireMaster(bool mayBeEdited);
+    /// Once the master check has answered: throws what cancels the editor when it was no, else installs the hooks.
+    void Begin(bool mayBeEdited, std::function<bool()> saveData);
 
-    /// Shows the source dialog as `setUp` sets it up; the dialog is gone when the choice is returned. Throws
-    /// EEditBoxCanceled when the clerk cancelled it or no id came of it.
-    melvark::SourceChoice AskForSource(const std::function<void(TSelectBox&)>& setUp);
+    /// Shows the source dialog, set up by one of its set-ups with these arguments; the dialog is gone when the choice
+    /// is returned. Throws EEditBoxCanceled when the clerk cancelled it or no id came of it.
+    template <class... Parameters>
+    melvark::SourceChoice AskForSource(void (TSelectBox::*setUp)(Parameters...),
+                                       const std::type_identity_t<Parameters>&... arguments) {
+        return ShowSelection([&](TSelectBox& selection) { std::invoke(setUp, selection, arguments...); });
+    }
     /// What calls the preparation off without a word to the clerk.
     static EEditBoxCanceled Canceled();
 
@@ -62,6 +67,7 @@ private:
     /// told and removed; what cannot be read is told and stays.
     bool FindUnsavedWork(int& id);
     void TellOnceIfHeld();
+    melvark::SourceChoice ShowSelection(const std::function<void(TSelectBox&)>& setUp);
     /// Asks the database; what it declines is gone for good.
     bool MayBeRestored(int id);
 

@@ -27,9 +27,7 @@ TDodObjEditBox::TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryMana
     : TDocumentEditBox(aOwner, aLibraryManager, opening.Document.IsTemplate ? c_TemplateKind : c_OrderKind, opening,
                        LoadDefaultColumnsSettings(opening)),
       FOpening(std::move(opening)) {
-    RequireMaster(CheckMaster());
-    SetOnSaveDataToTempFile([this] { SaveDataToTempFile(); });
-    SetOnSaveData([this] { return SaveData(); });
+    Begin(CheckMaster(), [this] { return SaveData(); });
     SetOnIsEditable([this](int col, int row) { return IsEditable(col, row); });
     FillGrid(FOpening.SourceNumber, Document().DodvID);
     Filled();
@@ -57,27 +55,24 @@ void TDodObjEditBox::FillGrid(int aSourceKind, int aDodvID) {
     };
     static_assert(std::size(c_Ways) == c_DodObjEditType.size());
     FChosen = {};
-    FDodvID = aDodvID;
+    FChosen.Supplier.ID = aDodvID;
     FillFromSource(*this, c_Ways, aSourceKind);
 }
 
+int TDodObjEditBox::AskForDocument(void (TSelectBox::*setUp)(int, int, int)) {
+    return AskForSource(setUp, DocumentID(), Document().SkldID, Document().DodvID).ID;
+}
+
 void TDodObjEditBox::AskForOrder() {
-    FChosen.OrderID = AskForSource([this](TSelectBox& selection) {
-                          selection.DodObjSelectFromObjednavka(DocumentID(), Document().SkldID, Document().DodvID);
-                      }).ID;
+    FChosen.OrderID = AskForDocument(&TSelectBox::DodObjSelectFromObjednavka);
 }
 
 void TDodObjEditBox::AskForTemplate() {
-    FChosen.TemplateID =
-        AskForSource([this](TSelectBox& selection) {
-            selection.DodObjSelectFromObjednavkaVzor(DocumentID(), Document().SkldID, Document().DodvID);
-        }).ID;
+    FChosen.TemplateID = AskForDocument(&TSelectBox::DodObjSelectFromObjednavkaVzor);
 }
 
 void TDodObjEditBox::AskForDeliveryNote() {
-    FChosen.DeliveryNoteID = AskForSource([this](TSelectBox& selection) {
-                                 selection.DodObjSelectFromDodak(DocumentID(), Document().SkldID, Document().DodvID);
-                             }).ID;
+    FChosen.DeliveryNoteID = AskForDocument(&TSelectBox::DodObjSelectFromDodak);
 }
 
 // Only the modal result tells a cancel: a level, even every level, may stay without a group.
@@ -91,18 +86,14 @@ void TDodObjEditBox::AskForGroups() {
 }
 
 void TDodObjEditBox::AskForPriceList() {
-    if (FDodvID > 0) {
-        FChosen.Supplier.ID = FDodvID;
-        return;
+    if (FChosen.Supplier.ID <= 0) {
+        FChosen.Supplier = AskForSource(&TSelectBox::DodObjSelectFromDodCenik, DocumentID(), Document().Moment);
     }
-    FChosen.Supplier = AskForSource(
-        [this](TSelectBox& selection) { selection.DodObjSelectFromDodCenik(DocumentID(), Document().Moment); });
 }
 
 void TDodObjEditBox::AskForDeliveries() {
-    FChosen.Supplier = AskForSource([this](TSelectBox& selection) {
-        selection.DodObjSelectFromDodavky(DocumentID(), Document().Dodavatel, Document().Moment);
-    });
+    FChosen.Supplier =
+        AskForSource(&TSelectBox::DodObjSelectFromDodavky, DocumentID(), Document().Dodavatel, Document().Moment);
 }
 
 void TDodObjEditBox::FillGridFromObjednavka(int aOrderID) {

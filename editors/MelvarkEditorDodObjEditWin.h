@@ -37,9 +37,11 @@ private:
     static std::vector<RColumn> LoadDefaultColumnsSettings(const melvark::DodObjOpening& opening);
     bool CheckMaster() const { return CheckDocument(DocumentID()); }
 
-    /// `aDodvID` is the document's supplier, whose price list is taken without a question. An unknown source leaves one
-    /// empty row.
+    /// `aDodvID` is the document's supplier, whose price list is taken without a question; 0 or below for nobody. An
+    /// unknown source leaves one empty row.
     void FillGrid(int aSourceKind, int aDodvID);
+    /// The id of the chosen document; `setUp` gets the edited document, its warehouse and its supplier.
+    int AskForDocument(void (TSelectBox::*setUp)(int, int, int));
     void AskForOrder();
     void AskForTemplate();
     void AskForDeliveryNote();
@@ -64,8 +66,7 @@ private:
     const melvark::DodObjDocument& Document() const { return FOpening.Document; }
 
     melvark::DodObjOpening FOpening;
-    int FDodvID = c_NullValue; ///< Whose price list needs no question; 0 or below for nobody's.
-    /// The sources, once one was chosen.
+    /// The sources, once one was chosen; the document's own supplier is from the start.
     struct {
         int OrderID = c_NullValue;
         int TemplateID = c_NullValue;

@@ -22,9 +22,7 @@ TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManage
 TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, DodakOpening opening)
     : TDocumentEditBox(aOwner, aLibraryManager, c_DodakKind, opening, LoadDefaultColumnsSettings(opening, this)),
       FOpening(std::move(opening)) {
-    RequireMaster(CheckMasterDodak(DocumentID()));
-    SetOnSaveDataToTempFile([this] { SaveDataToTempFile(); });
-    SetOnSaveData([this] { return SaveData(); });
+    Begin(CheckMasterDodak(DocumentID()), [this] { return SaveData(); });
     FillGrid(FOpening.SourceNumber);
     Filled();
 }
@@ -52,14 +50,11 @@ void TDodakEditBox::FillGrid(int aFillMode) {
 }
 
 void TDodakEditBox::AskForOrder() {
-    FChosen.OrderID = AskForSource([this](TSelectBox& selection) {
-                          selection.DodakSelectFromObjednavka(DocumentID(), FOpening.DodvID);
-                      }).ID;
+    FChosen.OrderID = AskForSource(&TSelectBox::DodakSelectFromObjednavka, DocumentID(), FOpening.DodvID).ID;
 }
 
 void TDodakEditBox::AskForDeliveryNote() {
-    FChosen.Note =
-        AskForSource([this](TSelectBox& selection) { selection.DodakSelectFromDodak(DocumentID(), FOpening.DodvID); });
+    FChosen.Note = AskForSource(&TSelectBox::DodakSelectFromDodak, DocumentID(), FOpening.DodvID);
 }
 
 void TDodakEditBox::FillGridFromObjednavka() {

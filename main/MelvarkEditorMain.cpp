@@ -20,7 +20,7 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
+#include <utility>
 
 namespace {
 
@@ -117,30 +117,33 @@ AnsiString TMelvarkEditor::ChooseSource(const melvark::SourceMenu& menu, TClickH
     return FSourceCode;
 }
 
+bool TMelvarkEditor::EditFrom(AnsiString source, const melvark::SourceMenu& menu, TClickHandler onClick,
+                              const std::function<bool(const AnsiString&)>& edit) {
+    if (source.empty()) {
+        source = ChooseSource(menu, onClick);
+    }
+    return !source.empty() && edit(source);
+}
+
 bool TMelvarkEditor::DodakEditor(AnsiString aSource) {
-    if (aSource.empty()) {
-        aSource = ChooseSource(melvark::c_DodakMenu, &TMelvarkEditor::OnPopupMenuClickDodak);
-    }
-    if (aSource.empty()) {
-        return false;
-    }
-    const int id = FDataSet->FieldByName("_ID").AsInteger();
-    const int dodvId = FDataSet->FieldByName("_DODVID").AsInteger();
-    return EditModally<TDodakEditBox>(LibraryManager(), aSource, id, dodvId);
+    return EditFrom(std::move(aSource), melvark::c_DodakMenu, &TMelvarkEditor::OnPopupMenuClickDodak,
+                    [this](const AnsiString& source) { return EditDeliveryNote(source); });
 }
 
 bool TMelvarkEditor::ObjednavkaEditor(AnsiString aSource) {
-    if (aSource.empty()) {
-        aSource = ChooseSource(melvark::c_DodObjMenu, &TMelvarkEditor::OnPopupMenuClickDodObj);
-    }
-    return !aSource.empty() && EditOrder(false, aSource);
+    return EditFrom(std::move(aSource), melvark::c_DodObjMenu, &TMelvarkEditor::OnPopupMenuClickDodObj,
+                    [this](const AnsiString& source) { return EditOrder(false, source); });
 }
 
 bool TMelvarkEditor::ObjednavkaVzorEditor(AnsiString aSource) {
-    if (aSource.empty()) {
-        aSource = ChooseSource(melvark::c_DodObjVzorMenu, &TMelvarkEditor::OnPopupMenuClickDodObjVzor);
-    }
-    return !aSource.empty() && EditOrder(true, aSource);
+    return EditFrom(std::move(aSource), melvark::c_DodObjVzorMenu, &TMelvarkEditor::OnPopupMenuClickDodObjVzor,
+                    [this](const AnsiString& source) { return EditOrder(true, source); });
+}
+
+bool TMelvarkEditor::EditDeliveryNote(const AnsiString& source) {
+    const int id = FDataSet->FieldByName("_ID").AsInteger();
+    const int dodvId = FDataSet->FieldByName("_DODVID").AsInteger();
+    return EditModally<TDodakEditBox>(LibraryManager(), source, id, dodvId);
 }
 
 // An order's prices are those of the moment when it was ordered; a template's screen need not have one, its are

@@ -6,6 +6,7 @@
 
 #include <QPointer>
 
+#include <functional>
 #include <span>
 #include <string_view>
 
@@ -46,6 +47,10 @@ private:
     void CreatePopupMenu();
     AnsiString ChooseSource(const melvark::SourceMenu& menu, TClickHandler onClick);
     void TakeSource(const TObject* sender, std::span<const std::string_view> codes);
+    /// Edits from that source, or from the one that the user chooses when it is empty; false when he chooses none.
+    bool EditFrom(AnsiString source, const melvark::SourceMenu& menu, TClickHandler onClick,
+                  const std::function<bool(const AnsiString&)>& edit);
+    bool EditDeliveryNote(const AnsiString& source);
     bool EditOrder(bool isTemplate, const AnsiString& source);
     void ShowNote(const AnsiString& text);
 
