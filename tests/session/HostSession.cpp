@@ -70,8 +70,9 @@ void HostSession::start(const QStringList& arguments) {
     }
 }
 
-void HostSession::startEditor(const QString& params, int document) {
-    start({QStringLiteral("--execute"), params, QStringLiteral("--document"), QString::number(document)});
+void HostSession::startEditor(const QString& params, int document, const QStringList& arguments) {
+    start(arguments +
+          QStringList{QStringLiteral("--execute"), params, QStringLiteral("--document"), QString::number(document)});
 }
 
 int HostSession::finish() {

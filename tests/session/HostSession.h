@@ -27,7 +27,7 @@ public:
 
     /// Starts the host with further arguments, the trace on.
     void start(const QStringList& arguments);
-    void startEditor(const QString& params, int document);
+    void startEditor(const QString& params, int document, const QStringList& arguments = {});
     /// Waits until the host has ended; its exit status.
     int finish();
     /// Ends the host without asking, as a power failure would.

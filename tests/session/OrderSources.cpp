@@ -1,5 +1,7 @@
 #include "tests/session/OrderSources.h"
 
+#include "tests/database/ContractCompany.h"
+
 #include <ostream>
 
 namespace ordersources {
@@ -14,13 +16,30 @@ std::string master(int document) {
     return R"(["a_DDOBIDMASTER",)" + std::to_string(document) + "]";
 }
 
+/// Confirms the supplier that the dialog shows, with the quantities of his deliveries.
+void confirmWithQuantities(HostSession& session, const SessionWords& words) {
+    session.waitForWindow(QString::fromUtf8(words.Supplier));
+    session.press({QStringLiteral("space"), QStringLiteral("Return")});
+}
+
 std::string groupCheck(int level, int document, const char* name) {
     const std::string number = std::to_string(level);
     return call("MELVARKEDITORDodObjCheckSkupSkladPol" + number, true,
                 master(document) + R"(,["a_NAZEV",")" + name + R"("],["a_SSP)" + number + R"(ID",null])", 1);
 }
 
-/// The three levels' checks, that of the whole and the reading; the ids as they stand in the trace.
+} // namespace
+
+std::string companyOn(refhost::Engine engine, const std::string& change) {
+    const std::string url = refhost::newDatabaseUrl(engine);
+    const auto database = refhost::openAs(url, "novakova");
+    refhost::addContractCompany(*database);
+    if (!change.empty()) {
+        database->runScript(change);
+    }
+    return engine == refhost::Engine::PostgreSQL ? url + " user=novakova" : url;
+}
+
 Lines groups(int document, const std::vector<const char*>& names, const std::string& ids, int rows) {
     Lines lines;
     for (int level = 1; level <= 3; ++level) {
@@ -31,18 +50,17 @@ Lines groups(int document, const std::vector<const char*>& names, const std::str
     return lines;
 }
 
-/// Confirms the supplier that the dialog shows, with the quantities of his deliveries.
-void confirmWithQuantities(HostSession& session) {
-    session.waitForWindow(QStringLiteral("Výběr dodavatele"));
-    session.press({QStringLiteral("space"), QStringLiteral("Return")});
+Choice typed(const char* SessionWords::*title, const char* text) {
+    return [=](HostSession& session, const SessionWords& words) {
+        session.waitForWindow(QString::fromUtf8(words.*title));
+        session.type(QString::fromUtf8(text));
+        session.press({QStringLiteral("Return")});
+    };
 }
 
-} // namespace
-
-std::function<void(HostSession&)> typed(const char* title, const char* text) {
-    return [=](HostSession& session) {
-        session.waitForWindow(QString::fromUtf8(title));
-        session.type(QString::fromUtf8(text));
+Choice confirmed(const char* SessionWords::*title) {
+    return [=](HostSession& session, const SessionWords& words) {
+        session.waitForWindow(QString::fromUtf8(words.*title));
         session.press({QStringLiteral("Return")});
     };
 }
@@ -87,7 +105,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "OBJEDNAVKA",
          .number = 1,
          .change = "",
-         .choose = typed("Výběr objednávky", "OBJ-10"),
+         .choose = typed(&SessionWords::Order, "OBJ-10"),
          .reading = {typedCheck("Objednavka", 1, "a_CISLO", "OBJ-10", "a_DDOBID"),
                      fill("Objednavka", 1, R"(["a_DDOBID",10])", 3)},
          // The tea's own quantity is a box; the typed pieces stand beside it.
@@ -105,7 +123,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "OBJEDNAVKAVZOR",
          .number = 2,
          .change = "",
-         .choose = typed("Výběr vzoru objednávky", "VZ-1"),
+         .choose = typed(&SessionWords::Template, "VZ-1"),
          .reading = {typedCheck("ObjednavkaVzor", 1, "a_CISLO", "VZ-1", "a_DDOBID"),
                      fill("Objednavka", 1, R"(["a_DDOBID",7])", 2)},
          .rows = {{.item = "Mouka hladká", .main = "2.5"}, {.item = "Sirup", .main = "5", .supplier = "Nápoje Švec"}},
@@ -139,7 +157,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "DODAK",
          .number = 4,
          .change = "",
-         .choose = typed("Výběr dodacího listu", "DL-6"),
+         .choose = typed(&SessionWords::DeliveryNote, "DL-6"),
          .reading = {typedCheck("Dodak", 1, "a_CISLO", "DL-6", "a_DODKID"), fill("Dodak", 1, R"(["a_DODKID",6])", 2)},
          .rows = {{.item = "Mouka hladká", .main = "2.5"}, {.item = "Cukr krystal", .main = "6"}},
          .closing = ordertrace::closing(1, c_None, c_None, "6"),
@@ -153,8 +171,8 @@ const std::vector<SourceCase>& sourceCases() {
          .number = 5,
          .change = "",
          .choose =
-             [](HostSession& session) {
-                 session.waitForWindow(QStringLiteral("Výběr skupin skladových položek"));
+             [](HostSession& session, const SessionWords& words) {
+                 session.waitForWindow(QString::fromUtf8(words.Groups));
                  session.press({QStringLiteral("Tab")}); // to the second level
                  session.type(QStringLiteral("mouky"));
                  session.press({QStringLiteral("Return")});
@@ -206,7 +224,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "DODAVATEL",
          .number = 6,
          .change = "",
-         .choose = typed("Výběr dodavatele", "mlýn lípa"),
+         .choose = typed(&SessionWords::Supplier, "mlýn lípa"),
          .reading = {typedCheck("DodCenik", 5, "a_JMENO", "mlýn lípa", "a_DODVID"),
                      fill("DodCenik", 5, R"(["a_DODVID",1])", 4)},
          .rows = {{.item = "Cukr krystal", .main = "2.5"},
@@ -224,7 +242,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "DODAVKY",
          .number = 7,
          .change = "",
-         .choose = typed("Výběr dodavatele", "mlýn lípa"),
+         .choose = typed(&SessionWords::Supplier, "mlýn lípa"),
          .reading = {typedCheck("Dodavky", 5, "a_JMENO", "mlýn lípa", "a_DODVID"),
                      fill("Dodavky", 5, R"(["a_DODVID",1],["a_PRENESMNOZSTVI",false])", 3)},
          .rows = {{.item = "Cukr krystal", .main = "2.5"}, {.item = "Mouka hladká"}, {.item = "Hruška sušená"}},
@@ -238,7 +256,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "OBJEDNAVKA",
          .number = 1,
          .change = "",
-         .choose = typed("Výběr objednávky", "OBJ-10"),
+         .choose = typed(&SessionWords::Order, "OBJ-10"),
          .reading = {typedCheck("Objednavka", 7, "a_CISLO", "OBJ-10", "a_DDOBID"),
                      fill("Objednavka", 7, R"(["a_DDOBID",10])", 3)},
          .rows = {{.item = "Čaj černý", .main = "2.5", .second = "1"},
@@ -256,7 +274,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "OBJEDNAVKAVZOR",
          .number = 2,
          .change = "",
-         .choose = typed("Výběr vzoru objednávky", "VZ-1"),
+         .choose = typed(&SessionWords::Template, "VZ-1"),
          .reading = {typedCheck("ObjednavkaVzor", 9, "a_CISLO", "VZ-1", "a_DDOBID"),
                      fill("Objednavka", 9, R"(["a_DDOBID",7])", 2)},
          .rows = {{.item = "Mouka hladká", .main = "2.5"}, {.item = "Sirup", .main = "5", .supplier = "Nápoje Švec"}},
@@ -287,7 +305,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "DODAK",
          .number = 4,
          .change = "",
-         .choose = typed("Výběr dodacího listu", "DL-6"),
+         .choose = typed(&SessionWords::DeliveryNote, "DL-6"),
          .reading = {typedCheck("Dodak", 7, "a_CISLO", "DL-6", "a_DODKID"), fill("Dodak", 7, R"(["a_DODKID",6])", 2)},
          .rows = {{.item = "Mouka hladká", .main = "2.5"}, {.item = "Cukr krystal", .main = "6"}},
          .closing = ordertrace::closing(7, c_None, c_None, "6"),
@@ -301,7 +319,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "SKUPSKLADPOL",
          .number = 5,
          .change = "",
-         .choose = typed("Výběr skupin skladových položek", "nápoje"),
+         .choose = typed(&SessionWords::Groups, "nápoje"),
          .reading = groups(7, {"nápoje", "", ""}, R"(["a_SSP1ID",2],["a_SSP2ID",null],["a_SSP3ID",null])", 2),
          .rows = {{.item = "Čaj černý", .main = "2.5"}, {.item = "Sirup"}},
          .closing = ordertrace::closing(7, c_None, c_None, c_None),
@@ -315,7 +333,7 @@ const std::vector<SourceCase>& sourceCases() {
          .code = "DODAVATEL",
          .number = 6,
          .change = "",
-         .choose = typed("Výběr dodavatele", "mlýn lípa"),
+         .choose = typed(&SessionWords::Supplier, "mlýn lípa"),
          .reading = {typedCheck("DodCenik", 9, "a_JMENO", "mlýn lípa", "a_DODVID"),
                      fill("DodCenik", 9, R"(["a_DODVID",1])", 3)},
          .rows = {{.item = "Mouka hladká", .main = "2.5"}, {.item = "Mouka hrubá"}, {.item = "Ovesné vločky"}},

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "tests/database/Engines.h"
 #include "tests/session/HostSession.h"
 #include "tests/session/OrderTrace.h"
+#include "tests/session/SessionWords.h"
 
 #include <functional>
 #include <iosfwd>
@@ -13,6 +15,9 @@
 /// (tests/database/ContractCompany.cpp), never taken from a trace.
 namespace ordersources {
 
+/// What a clerk does in the dialog of the source.
+using Choice = std::function<void(HostSession&, const SessionWords&)>;
+
 struct SourceCase {
     const char* name;
     bool isTemplate;
@@ -22,21 +27,28 @@ struct SourceCase {
     const char* code;   ///< The source's.
     int number;         ///< The source's; the settings are filed under 10 or 20 more.
     const char* change; ///< SQL that the company needs first; empty for none.
-    std::function<void(HostSession&)> choose; ///< Empty where nothing is asked.
-    Lines reading;                            ///< The checks of the source and the reading of its lines.
+    Choice choose;      ///< Empty where nothing is asked.
+    Lines reading;      ///< The checks of the source and the reading of its lines.
     std::vector<ordertrace::Row> rows;
     std::string closing;
     Lines storedLines;
 };
 
+/// A contract company of its own on the engine, changed by that SQL: its address for the host's command line.
+std::string companyOn(refhost::Engine engine, const std::string& change = {});
+
 const std::vector<SourceCase>& sourceCases();
 void PrintTo(const SourceCase& source, std::ostream* out);
 
 /// Types the source into the dialog of that title and confirms it.
-std::function<void(HostSession&)> typed(const char* title, const char* text);
+Choice typed(const char* SessionWords::*title, const char* text);
+/// Confirms what the dialog of that title shows.
+Choice confirmed(const char* SessionWords::*title);
 
 /// The check of a source that was typed, not picked.
 std::string typedCheck(const char* kind, int document, const char* textParam, const char* text, const char* idParam);
+/// The three levels' checks, that of the whole and the reading; `names` are typed, `ids` stand so in the trace.
+Lines groups(int document, const std::vector<const char*>& names, const std::string& ids, int rows);
 /// The reading of the lines, whose parameters after the document stand in `source`.
 std::string fill(const char* kind, int document, const char* source, int rows);
 

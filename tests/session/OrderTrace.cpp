@@ -19,6 +19,7 @@ struct Units {
 };
 
 constexpr Units c_Units[] = {
+    {"", "", ""}, // of an empty row
     {"Mouka hladká", "11", "kg", "12", "pytel", "13", "paleta"},
     {"Mouka hrubá", "21", "kg", "22", "pytel"},
     {"Cukr krystal", "31", "kg", "32", "karton"},

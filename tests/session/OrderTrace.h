@@ -24,6 +24,8 @@ struct Row {
 Lines opening(int document, int settingsType);
 /// The restored placement of orders (10) or templates (20).
 std::string placement(int type);
+inline constexpr Row c_EmptyRow{.item = "", .warehouse = "", .supplier = ""};
+
 /// The row insert of a line; the units are those of the company's items.
 std::string rowInsert(const Row& row);
 /// The closing call with the identifiers of the sources as they stand in the trace.
