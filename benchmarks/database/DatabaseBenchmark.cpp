@@ -3,19 +3,13 @@
 //
 //   database_benchmark [OPTION…]     see Options.h
 
-#include "benchmarks/Options.h"
-#include "benchmarks/database/GrowthPlot.h"
+#include "benchmarks/BenchmarkRun.h"
 #include "benchmarks/database/NoteWork.h"
 #include "benchmarks/database/OrderWork.h"
-#include "host/Exceptions.h"
-
-#include <cstdio>
-#include <fstream>
 
 namespace {
 
 void measure(const benchmark::Options& options, benchmark::Report& report) {
-    benchmark::Report::printHeadings();
     for (const int size : options.Sizes) {
         for (const refhost::Engine engine : options.engines()) {
             benchmark::Company company(engine, size, options.Clock);
@@ -29,17 +23,5 @@ void measure(const benchmark::Options& options, benchmark::Report& report) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const benchmark::Options options = benchmark::readOptions(argc, argv);
-    benchmark::Report report;
-    try {
-        measure(options, report);
-    } catch (const EDatabaseError& error) {
-        std::fprintf(stderr, "%s\n%s\n", error.Message().c_str(), error.Details().c_str());
-        return 2;
-    }
-    report.print();
-    if (!options.Plot.empty()) {
-        std::ofstream(options.Plot) << benchmark::growthPlot(report.figures());
-    }
-    return 0;
+    return benchmark::runBenchmark(argc, argv, measure);
 }

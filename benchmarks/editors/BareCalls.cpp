@@ -7,6 +7,7 @@
 #include "refhost/database/SqlScript.h"
 #include "tests/database/Engines.h"
 
+#include <algorithm>
 #include <libpq-fe.h>
 #include <map>
 #include <sqlite3.h>
@@ -65,6 +66,11 @@ public:
         }
         sqlite3_exec(handle_, "commit", nullptr, nullptr, nullptr);
         return bytes;
+    }
+    void save(std::span<const TProcedureCall> calls) override {
+        for (const TProcedureCall& call : calls) {
+            run(call);
+        }
     }
     std::int64_t process() const override { return 0; }
 
@@ -155,17 +161,9 @@ public:
 
     std::size_t run(const TProcedureCall& call) override {
         const std::string& statement = prepared(call);
-        std::vector<TDbValue> held = plainValues(call);
-        std::vector<const char*> values;
-        for (TDbValue& value : held) {
-            if (const auto* number = std::get_if<std::int64_t>(&value)) {
-                value = std::to_string(*number);
-            }
-            const auto* characters = std::get_if<AnsiString>(&value);
-            values.push_back(characters ? characters->c_str() : nullptr);
-        }
-        PGresult* const result = PQexecPrepared(session_.handle(), statement.c_str(), static_cast<int>(values.size()),
-                                                values.data(), nullptr, nullptr, 0);
+        const Values values(call);
+        PGresult* const result =
+            PQexecPrepared(session_.handle(), statement.c_str(), values.count(), values.data(), nullptr, nullptr, 0);
         check(result);
         std::size_t bytes = 0;
         for (int row = 0; row < PQntuples(result); ++row) {
@@ -176,9 +174,62 @@ public:
         PQclear(result);
         return bytes;
     }
+    void save(std::span<const TProcedureCall> calls) override {
+        run(calls.front());
+        const std::span<const TProcedureCall> rows = calls.subspan(1, calls.size() - 2);
+        const std::string& statement = prepared(rows.front());
+        PQclear(PQexec(session_.handle(), "begin"));
+        PQenterPipelineMode(session_.handle());
+        for (std::size_t first = 0; first < rows.size(); first += c_Together) {
+            sendTogether(statement, rows.subspan(first, std::min(c_Together, rows.size() - first)));
+        }
+        PQexitPipelineMode(session_.handle());
+        PQclear(PQexec(session_.handle(), "commit"));
+        run(calls.back());
+    }
     std::int64_t process() const override { return PQbackendPID(session_.handle()); }
 
 private:
+    /// So few rows that the server can take them and answer them without waiting for us.
+    static constexpr std::size_t c_Together = 200;
+
+    /// A call's values as the library takes them.
+    class Values {
+    public:
+        explicit Values(const TProcedureCall& call) : held_(plainValues(call)) {
+            for (TDbValue& value : held_) {
+                if (const auto* number = std::get_if<std::int64_t>(&value)) {
+                    value = std::to_string(*number);
+                }
+                const auto* characters = std::get_if<AnsiString>(&value);
+                values_.push_back(characters ? characters->c_str() : nullptr);
+            }
+        }
+
+        int count() const { return static_cast<int>(values_.size()); }
+        const char* const* data() const { return values_.data(); }
+
+    private:
+        std::vector<TDbValue> held_;
+        std::vector<const char*> values_;
+    };
+
+    void sendTogether(const std::string& statement, std::span<const TProcedureCall> rows) {
+        for (const TProcedureCall& row : rows) {
+            const Values values(row);
+            PQsendQueryPrepared(session_.handle(), statement.c_str(), values.count(), values.data(), nullptr, nullptr,
+                                0);
+        }
+        PQpipelineSync(session_.handle());
+        for (const TProcedureCall& row [[maybe_unused]] : rows) {
+            PGresult* const result = PQgetResult(session_.handle());
+            check(result);
+            PQclear(result);
+            PQgetResult(session_.handle()); // the null that ends a statement's results
+        }
+        PQclear(PQgetResult(session_.handle())); // the answer to the synchronisation
+    }
+
     const std::string& prepared(const TProcedureCall& call) {
         std::string& name = prepared_[call.Name];
         if (!name.empty()) {

@@ -4,22 +4,18 @@
 //
 //   editor_benchmark [OPTION…]     see Options.h
 
-#include "benchmarks/Options.h"
-#include "benchmarks/database/GrowthPlot.h"
+#include "benchmarks/BenchmarkRun.h"
 #include "benchmarks/editors/EditorMemory.h"
 #include "benchmarks/editors/EditorWork.h"
-#include "host/Exceptions.h"
 
 #include <QApplication>
 
-#include <cstdio>
 #include <cstring>
-#include <fstream>
+#include <utility>
 
 namespace {
 
 void measure(const benchmark::Options& options, benchmark::Report& report) {
-    benchmark::Report::printHeadings();
     for (const int size : options.Sizes) {
         for (const refhost::Engine engine : options.engines()) {
             benchmark::Company company(engine, size, options.Clock);
@@ -41,23 +37,8 @@ void measure(const benchmark::Options& options, benchmark::Report& report) {
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    benchmark::Report report;
-    try {
-        if (argc == 6 && std::strcmp(argv[1], benchmark::EditorMemory::c_Option) == 0) {
-            return benchmark::EditorMemory::run(argv + 2);
-        }
-        const benchmark::Options options = benchmark::readOptions(argc, argv);
-        measure(options, report);
-        report.print();
-        if (!options.Plot.empty()) {
-            std::ofstream(options.Plot) << benchmark::growthPlot(report.figures());
-        }
-    } catch (const EDatabaseError& error) {
-        std::fprintf(stderr, "%s\n%s\n", error.Message().c_str(), error.Details().c_str());
-        return 2;
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return 2;
+    if (argc == 6 && std::strcmp(argv[1], benchmark::EditorMemory::c_Option) == 0) {
+        return benchmark::EditorMemory::run(argv + 2);
     }
-    return 0;
+    return benchmark::runBenchmark(argc, argv, measure);
 }

@@ -186,11 +186,7 @@ void EditorWork::save(TEditBox& editor) {
             param.Value = newDocument();
         }
     }
-    saving_.Floors.push_back(cost([&] {
-        for (const TProcedureCall& call : calls) {
-            bare_->run(call);
-        }
-    }));
+    saving_.Floors.push_back(cost([&] { bare_->save(calls); }));
 }
 
 void EditorWork::tell() {
