@@ -98,6 +98,9 @@ AnsiString TLiveResult::TakeString(std::size_t number) {
         return {};
     }
     TDbValue& value = FTables[FTable].Rows[FRow].at(number);
+    if (std::holds_alternative<std::monostate>(value)) {
+        return {};
+    }
     auto* const text = std::get_if<AnsiString>(&value);
     return text != nullptr ? std::move(*text) : TField({}, value, CurrentHost().FormatSettings()).AsString();
 }

@@ -46,9 +46,10 @@ void TDataGrid::SetColCount(int n) {
 }
 
 void TDataGrid::SetCells(int col, int row, AnsiString value) {
-    TDataGridCell cell = TakeCell(col, row);
+    TColumn& column = ColumnWithRoom(col, row);
+    TDataGridCell cell{AnsiString()}; // what the position holds is overwritten whatever it is
     cell.SetValue(std::move(value));
-    PutCell(col, row, std::move(cell));
+    PutCell(column, row, std::move(cell));
 }
 
 const AnsiString& TDataGrid::GetCells(int col, int row) const {
@@ -60,9 +61,10 @@ void TDataGrid::SetModified(int col, int row, bool flag) {
     if (!flag && !HasCell(col, row)) {
         return;
     }
-    TDataGridCell cell = TakeCell(col, row);
+    TColumn& column = ColumnWithRoom(col, row);
+    TDataGridCell cell(std::move(column.Values[AsSize(row)]));
     cell.Modified = flag;
-    PutCell(col, row, std::move(cell));
+    PutCell(column, row, std::move(cell));
 }
 
 bool TDataGrid::GetModified(int col, int row) const {
@@ -118,9 +120,8 @@ TDataGrid::TColumn& TDataGrid::Column(int col) {
     return FColumns[AsSize(col)];
 }
 
-/// The cell moved out of its column, which is made long enough to take it back; an empty one that is not marked when
-/// the position holds none.
-TDataGridCell TDataGrid::TakeCell(int col, int row) {
+/// The column, made long enough to hold the row.
+TDataGrid::TColumn& TDataGrid::ColumnWithRoom(int col, int row) {
     RequireNotNegative(row);
     TColumn& column = Column(col);
     if (AsSize(row) >= column.Values.size()) {
@@ -129,13 +130,10 @@ TDataGridCell TDataGrid::TakeCell(int col, int row) {
         column.Present.resize(size);
         column.Modified.resize(size);
     }
-    TDataGridCell cell(std::move(column.Values[AsSize(row)]));
-    cell.Modified = column.Modified[AsSize(row)];
-    return cell;
+    return column;
 }
 
-void TDataGrid::PutCell(int col, int row, TDataGridCell cell) {
-    TColumn& column = FColumns[AsSize(col)];
+void TDataGrid::PutCell(TColumn& column, int row, TDataGridCell&& cell) {
     column.Present[AsSize(row)] = true;
     column.Modified[AsSize(row)] = cell.Modified;
     column.Values[AsSize(row)] = std::move(cell).GetValue();

@@ -78,8 +78,8 @@ private:
     bool IsMarked(int col, int row) const;
     /// The column, made when it is missing.
     TColumn& Column(int col);
-    TDataGridCell TakeCell(int col, int row);
-    void PutCell(int col, int row, TDataGridCell cell);
+    TColumn& ColumnWithRoom(int col, int row);
+    static void PutCell(TColumn& column, int row, TDataGridCell&& cell);
     void EmptyCells(int firstCol, int firstRow);
 
     std::vector<TColumn> FColumns;

@@ -2,6 +2,8 @@
 
 #include "host/AsciiCase.h"
 
+#include <utility>
+
 namespace refhost {
 
 namespace {
@@ -20,6 +22,25 @@ int bindValue(sqlite3_stmt* statement, int index, const TDbValue& value) {
         return sqlite3_bind_text64(statement, index, text->data(), text->size(), SQLITE_STATIC, SQLITE_UTF8);
     }
     return sqlite3_bind_null(statement, index);
+}
+
+/// Makes the value where it stays. A value of a row may be read so as long as one thread alone uses the connection.
+void append(std::vector<TDbValue>& values, sqlite3_value* value) {
+    switch (sqlite3_value_type(value)) {
+    case SQLITE_NULL:
+        values.emplace_back();
+        break;
+    case SQLITE_INTEGER:
+        values.emplace_back(std::int64_t{sqlite3_value_int64(value)});
+        break;
+    case SQLITE_FLOAT:
+        values.emplace_back(sqlite3_value_double(value));
+        break;
+    default: {
+        const auto* const text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+        values.emplace_back(std::in_place_type<AnsiString>, text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
+    }
+    }
 }
 
 } // namespace
@@ -77,30 +98,17 @@ std::vector<std::string> SQLiteStatement::columns() const {
     return names;
 }
 
-TDbValue SQLiteStatement::value(int column) const {
-    sqlite3_stmt* statement = handle_.get();
-    switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_NULL:
-        return {};
-    case SQLITE_INTEGER:
-        return std::int64_t{sqlite3_column_int64(statement, column)};
-    case SQLITE_FLOAT:
-        return sqlite3_column_double(statement, column);
-    default: {
-        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-        const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
-        return TDbValue(std::in_place_type<AnsiString>, text, size); // made where it stays
-    }
-    }
-}
-
 std::vector<TDbValue> SQLiteStatement::row() const {
     std::vector<TDbValue> values;
     values.reserve(static_cast<std::size_t>(columnCount()));
     for (int i = 0; i < columnCount(); ++i) {
-        values.push_back(value(i));
+        append(values, engineValue(i));
     }
     return values;
+}
+
+TDbValue SQLiteStatement::value(int column) const {
+    return std::move(row().at(static_cast<std::size_t>(column)));
 }
 
 std::string SQLiteStatement::text() const {
