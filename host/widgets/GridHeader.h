@@ -5,7 +5,7 @@
 namespace melvark {
 
 /// The header row of a string grid. It tells when a mouse button was released after a press in it, once Qt has
-/// finished what the drag was for: sizing or moving a column.
+/// finished what the drag was for: sizing or moving a column. A caption without room is shortened in its middle.
 class GridHeader : public QHeaderView {
     Q_OBJECT
 
@@ -18,6 +18,7 @@ Q_SIGNALS:
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int section) const override;
 };
 
 } // namespace melvark

@@ -122,6 +122,16 @@ TEST_F(StringGridTest, DraggingAHeaderMovesTextsAndWidthAndTellsOnce) {
     EXPECT_TRUE(sectionsStandInOrder());
 }
 
+TEST_F(StringGridTest, HeadersThatDifferInTheirLastLetterLookDifferentInNarrowColumns) {
+    show();
+    const auto picture = [&](int col, const char* caption) {
+        grid.SetCells(col, 0, caption);
+        grid.SetColWidths(col, grid.fontMetrics().horizontalAdvance(QStringLiteral("Množství")));
+        return grid.grab(grid.CellRect(col, 0)).toImage();
+    };
+    EXPECT_NE(picture(1, "Množství v jednotce 1"), picture(1, "Množství v jednotce 2"));
+}
+
 TEST_F(StringGridTest, AReleaseIsToldAfterWhatTheDragDid) {
     show();
     std::vector<std::string> told;
