@@ -8,8 +8,6 @@ namespace ordersources {
 
 namespace {
 
-using ordertrace::Row;
-
 const std::string c_None = "null";
 
 std::string master(int document) {
