@@ -60,7 +60,11 @@ std::optional<std::set<std::int64_t>> readCreated(TConnection& connection, const
     std::set<std::int64_t> created;
     if (!screen.createdView.empty()) {
         for (const auto& row : connection.Query("select _ID from " + std::string(screen.createdView)).Rows) {
-            created.insert(std::get<std::int64_t>(row.front()));
+            const auto* const id = std::get_if<std::int64_t>(&row.front());
+            if (!id) {
+                return std::nullopt;
+            }
+            created.insert(*id);
         }
     }
     return created;

@@ -192,6 +192,19 @@ TEST_F(MainWindowTest, ADatabaseThatDoesNotTellNewDocumentsTakesLinesAndNothingI
     EXPECT_EQ(newDocuments().text(), QString());
 }
 
+TEST_F(MainWindowTest, ADatabaseThatTellsNewDocumentsInItsOwnWayTakesLinesAndNothingIsNamed) {
+    changed_ = true;
+    open();
+    press(Qt::Key_2, Qt::ControlModifier);
+    for (const TDbValue& id : {TDbValue(), TDbValue(AnsiString("12"))}) {
+        host_.connection.answerQuery(c_createdQuery, {.Columns = {"_ID"}, .Rows = {{id}}});
+        press(Qt::Key_F8);
+        EXPECT_EQ(newDocuments().text(), QString());
+    }
+    EXPECT_THAT(executed_, ElementsAre("DODOBJ 9", "DODOBJ 9"));
+    EXPECT_THAT(host_.errors(), ElementsAre());
+}
+
 TEST_F(MainWindowTest, WhatWasMadeBeforeADatabaseBeganToTellIsNotNamed) {
     changed_ = true;
     open();

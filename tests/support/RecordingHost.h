@@ -63,9 +63,8 @@ public:
     ProcedureScript& procedure(const AnsiString& name);
     /// Forgets the procedure, as in a database that lacks it.
     void dropProcedure(const AnsiString& name);
-    /// The answer of the query from now on, also of a refused one.
     void answerQuery(const AnsiString& sql, TResultTable table);
-    /// The query is refused with this sentence.
+    /// The query is refused with this sentence, until it gets an answer again.
     void refuseQuery(const AnsiString& sql, AnsiString message);
 
     const std::vector<AnsiString>& calls() const { return calls_; }
