@@ -102,7 +102,9 @@ void TMultiSelectBox::DodObjSelectSkupSkladPolCheckAll() {
     for (std::size_t level = 0; level < c_Groups.size(); ++level) {
         melvark::SetIdentifier(procedure.ParamByName(c_Groups[level].IdParam), Line(level).ID);
     }
-    procedure.Exec(false);
+    if (!procedure.Exec(false)) {
+        throw NotConfirmed();
+    }
 }
 
 void TMultiSelectBox::ShowDlg(std::size_t level) {

@@ -19,8 +19,6 @@ constexpr int c_Height = 150;
 
 } // namespace
 
-ESelectBox::~ESelectBox() = default;
-
 TSelectBox::TSelectBox(TComponent* aOwner, TLibraryManager* aLibraryManager) : TSelectForm(aOwner, aLibraryManager) {
     CreateControls();
     FormCreate();
@@ -90,7 +88,7 @@ void TSelectBox::Check(const RSourceSetup& setup) {
                                        .IdParam = setup.IdParam},
                                       FArguments.DocumentID);
     if (answer.IsNull()) {
-        throw ESelectBox(EditorText("SOURCENOTCONFIRMED", "Databáze zdroj nepotvrdila. Zadejte jiný zdroj."));
+        throw NotConfirmed();
     }
     Line(0).ID = answer.AsInteger();
 }

@@ -1,18 +1,8 @@
 #pragma once
 
-#include "host/Exceptions.h"
 #include "host/Types.h"
 #include "select/SelectForm.h"
 #include "select/SourceTable.h"
-
-/// The selection's own failures.
-class ESelectBox : public Exception {
-public:
-    using Exception::Exception;
-    ESelectBox(const ESelectBox&) = default;
-    ESelectBox& operator=(const ESelectBox&) = default;
-    ~ESelectBox() override;
-};
 
 /// The modal dialog in which the user names the one source from which an editor pre-fills its lines: by typing its
 /// number (a supplier's name) or by picking it from the host's lookup list. On OK the database checks it.

@@ -36,6 +36,8 @@ QVBoxLayout* MakeColumn(TPanel& panel) {
 
 } // namespace
 
+ESelectBox::~ESelectBox() = default;
+
 TSelectForm::TSelectForm(TComponent* aOwner, TLibraryManager* aLibraryManager)
     : TForm(aOwner), FLibraryManager(aLibraryManager) {
     setFont(melvark::FormFont());
@@ -156,12 +158,18 @@ void TSelectForm::SelectSpeedButtonClick(TObject* Sender) {
     }
 }
 
+ESelectBox TSelectForm::NotConfirmed() {
+    return ESelectBox(EditorText("SOURCENOTCONFIRMED", "Databáze zdroj nepotvrdila. Zadejte jiný zdroj."));
+}
+
 TField TSelectForm::AskDatabase(const TSelectLine& line, const TSelectCheck& check, int documentId) {
     TLiveStoredProc procedure(check.Procedure);
     procedure.ParamByName(check.DocumentParam).SetAsInteger(documentId);
     procedure.ParamByName(check.TextParam).SetAsString(melvark::ToAnsi(line.Edit->text()));
     melvark::SetIdentifier(procedure.ParamByName(check.IdParam), line.ID);
-    procedure.Exec(true);
+    if (!procedure.Exec(true)) {
+        throw NotConfirmed();
+    }
     return procedure.FieldByName("ID");
 }
 

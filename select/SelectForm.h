@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Exceptions.h"
 #include "host/Identifier.h"
 #include "host/LiveData.h"
 #include "host/Types.h"
@@ -15,6 +16,15 @@ class QVBoxLayout;
 class TLibraryManager;
 class TQelPngBitBtn;
 class TQelPngSpeedButton;
+
+/// The selection's own failures.
+class ESelectBox : public Exception {
+public:
+    using Exception::Exception;
+    ESelectBox(const ESelectBox&) = default;
+    ESelectBox& operator=(const ESelectBox&) = default;
+    ~ESelectBox() override;
+};
 
 /// One line of a selection dialog: what is asked, the edit for the answer, the button of the lookup list, and what is
 /// known of the answer.
@@ -79,7 +89,10 @@ protected:
     /// What OK checks once every line was accepted; nothing unless a dialog says so.
     virtual void CheckTogether() {}
     static void Run(const std::function<void()>& operation);
-    /// The database's answer to what the line names, as its result's "ID". Throws EDatabaseError when it refuses.
+    /// Why a choice is no choice of the database's, in the user's language.
+    static ESelectBox NotConfirmed();
+    /// The database's answer to what the line names, as its result's "ID". Throws EDatabaseError when it refuses,
+    /// ESelectBox when the check reports failure.
     static TField AskDatabase(const TSelectLine& line, const TSelectCheck& check, int documentId);
     /// Lets the user pick a row of the host's lookup list into the line, whose id becomes the picked row's. A cancelled
     /// list changes nothing.

@@ -227,6 +227,20 @@ TEST_F(MultiSelectBox, ARefusedCombinationPutsTheFocusOnTheFirstLineAndCanBeCorr
     EXPECT_THAT(ids(), ElementsAre(-1, -1, 123));
 }
 
+TEST_F(MultiSelectBox, ACheckThatReportsFailureIsNoConsent) {
+    const std::pair<const char*, int> checks[] = {{"MELVARKEDITORDodObjCheckSkupSkladPol2", 2},
+                                                  {"MELVARKEDITORDodObjCheckSkupSkladPol", 1}};
+    for (const auto& [check, line] : checks) {
+        host.connection.procedure(check).failsCall(1);
+        expectedErrors.emplace_back("Databáze zdroj nepotvrdila. Zadejte jiný zdroj.");
+        showAnd([&, focused = line] {
+            QTest::keyClick(edit(1), Qt::Key_Return);
+            EXPECT_EQ(focusedLine(), focused);
+        });
+        EXPECT_TRUE(leftOpen) << check;
+    }
+}
+
 TEST_F(MultiSelectBox, EachLineHasTheFocusWhileItIsChecked) {
     std::vector<int> focused;
     for (int level = 1; level <= 3; ++level) {
