@@ -57,7 +57,9 @@ EEditBoxCanceled TDocumentEditBox::Canceled() {
 
 void TDocumentEditBox::FillLines(const AnsiString& procedure, std::initializer_list<LinesParam> params,
                                  std::string_view skippedKey) {
-    melvark::FillLines(DataGrid(), Columns(), procedure, params, skippedKey);
+    if (!melvark::FillLines(DataGrid(), Columns(), procedure, params, skippedKey)) {
+        throw Canceled();
+    }
 }
 
 void TDocumentEditBox::SaveDataToTempFile() {

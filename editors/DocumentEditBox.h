@@ -51,7 +51,7 @@ protected:
     /// What calls the preparation off without a word to the clerk.
     static EEditBoxCanceled Canceled();
 
-    /// See melvark::FillLines.
+    /// See melvark::FillLines. Throws what cancels the editor when there are no lines to be had.
     void FillLines(const AnsiString& procedure, std::initializer_list<melvark::LinesParam> params,
                    std::string_view skippedKey = {});
     /// Freshly filled lines count as unchanged; the editor is complete.

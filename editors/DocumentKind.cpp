@@ -4,7 +4,7 @@
 
 namespace melvark {
 
-void FillLines(TDataGrid& store, const DocumentColumns& columns, const AnsiString& procedure,
+bool FillLines(TDataGrid& store, const DocumentColumns& columns, const AnsiString& procedure,
                std::initializer_list<LinesParam> params, std::string_view skippedKey) {
     TLiveStoredProc lines(procedure);
     for (const auto& [name, value] : params) {
@@ -15,8 +15,11 @@ void FillLines(TDataGrid& store, const DocumentColumns& columns, const AnsiStrin
             param.SetAsBoolean(std::get<bool>(value));
         }
     }
-    lines.Exec(true);
+    if (!lines.Exec(true)) {
+        return false;
+    }
     FillStore(store, columns, lines, skippedKey);
+    return true;
 }
 
 bool SaveLines(const DocumentKind& kind, const DocumentColumns& columns, const TDataGrid& store, int id,

@@ -50,8 +50,8 @@ struct LinesParam {
 };
 
 /// Fills the store with the lines that the procedure brings for the parameters, which are set in their order; see
-/// FillStore. Throws EDatabaseError.
-void FillLines(TDataGrid& store, const DocumentColumns& columns, const AnsiString& procedure,
+/// FillStore. False, with the store as it was, when the call reports failure. Throws EDatabaseError.
+bool FillLines(TDataGrid& store, const DocumentColumns& columns, const AnsiString& procedure,
                std::initializer_list<LinesParam> params, std::string_view skippedKey = {});
 
 /// Stages every row and takes them over into the document `id`, naming the documents that they came from, null where

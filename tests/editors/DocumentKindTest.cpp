@@ -67,6 +67,16 @@ TEST_F(DocumentKind, ParametersOfAFillAreSetInTheirOrderAndNoneIsNull) {
             "MELVARKEDITORDodObjGetPolozkyByDodavky(a_DDOBIDMASTER=7, a_PRENESMNOZSTVI=true, a_DODVID=0) open"));
 }
 
+TEST_F(DocumentKind, AFillThatReportsFailureBringsNothingAndSaysSo) {
+    fillFromOrder(31);
+    host_.connection.procedure("MELVARKEDITORDodObjGetPolozkyByDodCenik").failsCall(1);
+    EXPECT_FALSE(melvark::FillLines(store_, columns(), "MELVARKEDITORDodObjGetPolozkyByDodCenik",
+                                    {{"a_DDOBIDMASTER", 7}, {"a_DODVID", 5}}));
+    EXPECT_EQ(store_.GetRowCount(), 3);
+    EXPECT_TRUE(melvark::FillLines(store_, columns(), "MELVARKEDITORDodObjGetPolozkyByDodCenik",
+                                   {{"a_DDOBIDMASTER", 7}, {"a_DODVID", 5}}));
+}
+
 TEST_F(DocumentKind, ASourceWithoutRowsLeavesOneEmptyRow) {
     fillFromOrder(31);
     ASSERT_EQ(store_.GetRowCount(), 3);

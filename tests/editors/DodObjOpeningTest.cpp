@@ -41,6 +41,7 @@ TEST_F(DodObjOpening, AsksForTheUserThenTheWarehousesThenTheSuppliers) {
     EXPECT_EQ(opening.EditType, "DODAVKY");
     EXPECT_EQ(opening.Document.SkldID, 3);
     EXPECT_EQ(opening.Document.DodvID, 5);
+    EXPECT_EQ(opening.Document.Sklad, "Praha");
     EXPECT_EQ(opening.Document.Dodavatel, "Lípa");
 }
 

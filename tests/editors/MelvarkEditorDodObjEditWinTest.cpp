@@ -370,7 +370,20 @@ TEST_F(DodObjEditorSource, RefusedGroupsStayInTheDialogUntilTheyAreCorrected) {
 TEST_F(DodObjEditorSource, ARefusedFillIsTheDatabasesErrorAndNoEditorIsLeft) {
     host_.connection.procedure("MELVARKEDITORDodObjGetPolozkyByDodCenik")
         .refusesCall(1, "Dodavatel nemá v tu dobu ceník.");
-    EXPECT_THROW(open("DODAVATEL"), EDatabaseError);
+    try {
+        open("DODAVATEL");
+        ADD_FAILURE() << "the fill was refused";
+    } catch (const EDatabaseError& error) {
+        EXPECT_EQ(error.Message(), "Dodavatel nemá v tu dobu ceník.");
+    }
+    EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
+}
+
+TEST_F(DodObjEditorSource, AFillThatReportsFailureCancelsTheEditorQuietly) {
+    host_.connection.procedure("MELVARKEDITORDodObjGetPolozkyByDodCenik").failsCall(1);
+    EXPECT_THROW(open("DODAVATEL"), EEditBoxCanceled);
+    EXPECT_THAT(QApplication::topLevelWidgets(), IsEmpty());
+    EXPECT_THAT(manager_.boxes(), IsEmpty());
 }
 
 // ---- Editing ----
