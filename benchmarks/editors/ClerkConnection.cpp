@@ -28,7 +28,8 @@ TCallResult ClerkConnection::Execute(const TProcedureCall& call) {
         }
     }
     if (keeps_) {
-        kept_.push_back(sent);
+        kept_.push_back(std::move(sent));
+        return target_.Execute(kept_.back());
     }
     return target_.Execute(sent);
 }
