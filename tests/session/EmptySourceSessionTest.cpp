@@ -136,19 +136,25 @@ Lines allStored(const HostSession& session) {
     return stored;
 }
 
+QString params(bool isTemplate, const char* code) {
+    return (isTemplate ? QStringLiteral("DODOBJVZOR,%1") : QStringLiteral("DODOBJ,%1")).arg(QLatin1String(code));
+}
+
+QString editorOf(bool isTemplate) {
+    return QString::fromUtf8(isTemplate ? c_Czech.TemplateEditor : c_Czech.OrderEditor);
+}
+
 class EmptySourceSession : public testing::TestWithParam<std::tuple<Engine, EmptySource>> {};
 
 TEST_P(EmptySourceSession, GivesOneEmptyRowAndSavingItChangesNothing) {
     const auto& [engine, source] = GetParam();
     HostSession session(companyOn(engine, source.change));
     const Lines before = allStored(session);
-    session.startEditor((source.isTemplate ? QStringLiteral("DODOBJVZOR,%1") : QStringLiteral("DODOBJ,%1"))
-                            .arg(QLatin1String(source.code)),
-                        source.document);
+    session.startEditor(params(source.isTemplate, source.code), source.document);
     if (source.choose) {
         source.choose(session, c_Czech);
     }
-    session.waitForWindow(QString::fromUtf8(source.isTemplate ? c_Czech.TemplateEditor : c_Czech.OrderEditor));
+    session.waitForWindow(editorOf(source.isTemplate));
     session.press({QStringLiteral("ctrl+Return")});
     EXPECT_EQ(session.finish(), 0);
 
@@ -170,12 +176,13 @@ INSTANTIATE_TEST_SUITE_P(Sources, EmptySourceSession,
 /// A source that the dialog refuses in words, and how the clerk goes on in the same dialog.
 struct RefusedSource {
     const char* name;
+    bool isTemplate;
     int document;
     const char* code;
     const char* SessionWords::*dialog;
     Choice choose;
-    const char* sentence;
-    const char* instead; ///< Typed over it.
+    const char* sentence; ///< Or how it begins: the moment of a template is now.
+    const char* instead;  ///< Typed over it.
     std::string reading;
 };
 
@@ -185,20 +192,26 @@ void PrintTo(const RefusedSource& source, std::ostream* out) {
 
 std::vector<RefusedSource> refusedSources() {
     return {
-        {"ASupplierWithoutAPriceList", 5, "DODAVATEL", &SessionWords::Supplier,
+        {"ASupplierWithoutAPriceList", false, 5, "DODAVATEL", &SessionWords::Supplier,
          typed(&SessionWords::Supplier, "čajovna říp"),
          "Dodavatel „Čajovna Říp“ nemá k datu 12.2.2026 žádný platný ceník. Vyberte jiného dodavatele.", "nápoje švec",
          fill("DodCenik", 5, R"(["a_DODVID",2])", 1)},
-        {"ASupplierWithoutDeliveries", 5, "DODAVKY", &SessionWords::Supplier,
+        {"ASupplierWithoutDeliveries", false, 5, "DODAVKY", &SessionWords::Supplier,
          typed(&SessionWords::Supplier, "čajovna říp"),
          "Dodavatel „Čajovna Říp“ v posledních měsících nic nedodal. Vyberte jiného dodavatele.", "mlýn lípa",
          fill("Dodavky", 5, R"(["a_DODVID",1],["a_PRENESMNOZSTVI",false])", 3)},
-        {"NoGroupAtAll", 1, "SKUPSKLADPOL", &SessionWords::Groups, confirmed(&SessionWords::Groups),
+        {"NoGroupAtAll", false, 1, "SKUPSKLADPOL", &SessionWords::Groups, confirmed(&SessionWords::Groups),
          "Není zadána žádná skupina. Zadejte skupinu aspoň jedné úrovně.", "nápoje",
          fill("SkupSkladPol", 1, R"(["a_SSP1ID",2],["a_SSP2ID",null],["a_SSP3ID",null])", 2)},
-        {"NoOrderAtAll", 1, "OBJEDNAVKA", &SessionWords::Order, confirmed(&SessionWords::Order),
+        {"NoOrderAtAll", false, 1, "OBJEDNAVKA", &SessionWords::Order, confirmed(&SessionWords::Order),
          "Zdroj není zadán. Zapište jej, nebo jej vyberte ze seznamu.", "OBJ-10",
          fill("Objednavka", 1, R"(["a_DDOBID",10])", 3)},
+        {"ASupplierWithoutAPriceListForATemplate", true, 9, "DODAVATEL", &SessionWords::Supplier,
+         typed(&SessionWords::Supplier, "čajovna říp"), "Dodavatel „Čajovna Říp“ nemá k datu ", "mlýn lípa",
+         fill("DodCenik", 9, R"(["a_DODVID",1])", 3)},
+        {"NoGroupAtAllForATemplate", true, 7, "SKUPSKLADPOL", &SessionWords::Groups, confirmed(&SessionWords::Groups),
+         "Není zadána žádná skupina. Zadejte skupinu aspoň jedné úrovně.", "nápoje",
+         fill("SkupSkladPol", 7, R"(["a_SSP1ID",2],["a_SSP2ID",null],["a_SSP3ID",null])", 2)},
     };
 }
 
@@ -208,17 +221,17 @@ TEST_P(RefusedSourceSession, IsToldAndCorrectedInTheOpenDialog) {
     const auto& [engine, source] = GetParam();
     HostSession session(companyOn(engine));
     const Lines before = allStored(session);
-    session.startEditor(QStringLiteral("DODOBJ,%1").arg(QLatin1String(source.code)), source.document);
+    session.startEditor(params(source.isTemplate, source.code), source.document);
     source.choose(session, c_Czech);
     session.waitForWindow(QString::fromUtf8(c_Czech.Error));
     session.press({QStringLiteral("Return")});
     session.waitForWindow(QString::fromUtf8(c_Czech.*source.dialog));
     session.press({QStringLiteral("ctrl+a")});
     typed(source.dialog, source.instead)(session, c_Czech);
-    session.waitForWindow(QString::fromUtf8(c_Czech.OrderEditor));
+    session.waitForWindow(editorOf(source.isTemplate));
     session.press({QStringLiteral("alt+F4")});
     EXPECT_EQ(session.finish(), 1);
-    EXPECT_THAT(session.trace(), Contains(shownError(source.sentence)));
+    EXPECT_THAT(session.trace(), Contains(HasSubstr(R"({"error":")" + std::string(source.sentence))));
     EXPECT_THAT(session.trace(), Contains(source.reading));
     EXPECT_EQ(allStored(session), before);
 }
