@@ -13,7 +13,7 @@ std::vector<std::string> stepsIn(const std::filesystem::path& trace) {
     const std::pair<std::regex, const char*> steps[] = {
         {std::regex(R"(mkdir\(".*/state", 0700\) += 0)"), "make the directory above"},
         {std::regex(R"(mkdir\(".*/melvark", 0700\) += 0)"), "make the directory"},
-        {std::regex(R"(fsync\(\d+<[^>]*/melvark-autosave-\w+>\) += 0)"), "sync the base"},
+        {std::regex(R"(fsync\(\d+<[^>]*/melvark-autosave-[-\w]+>\) += 0)"), "sync the base"},
         {std::regex(R"(fsync\(\d+<[^>]*/state>\) += 0)"), "sync the directory above"},
         {std::regex(R"(openat\(\d+<[^>]*>, "x\.dat\.new", [^)]*O_EXCL[^)]*, 0600\) = \d.*)"), "make the new file"},
         {std::regex(R"(write\(\d+<[^>]*/x\.dat\.new>.*\) = 12)"), "write it"},

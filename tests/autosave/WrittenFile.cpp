@@ -16,14 +16,8 @@ constexpr std::size_t c_Piece = std::size_t{64} * 1024;
 } // namespace
 
 WrittenFileTest::WrittenFileTest() {
-    AnsiString name = std::filesystem::temp_directory_path() / "melvark-autosave-XXXXXX";
-    folder_ = mkdtemp(name.data());
     // Tests that give up the administrator's rights go on in it.
     EXPECT_EQ(chmod(folder_.c_str(), 01777), 0);
-}
-
-WrittenFileTest::~WrittenFileTest() {
-    std::filesystem::remove_all(folder_);
 }
 
 std::filesystem::path WrittenFileTest::path(std::string_view suffix) const {

@@ -3,6 +3,7 @@
 #include "editwin/model/KeptFile.h"
 #include "host/Types.h"
 #include "tests/host/FakeHost.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <filesystem>
 #include <gmock/gmock.h>
@@ -12,7 +13,6 @@
 class WrittenFileTest : public testing::Test {
 protected:
     WrittenFileTest();
-    ~WrittenFileTest() override;
 
     /// The file's directory, which is not there yet.
     std::filesystem::path directory() const { return folder_ / "melvark"; }
@@ -29,7 +29,8 @@ protected:
     static AnsiString restored(melvark::KeptFile& file);
     AnsiString restoredNext() const;
 
-    std::filesystem::path folder_;
+    TemporaryFolder temporary_{"autosave"};
+    std::filesystem::path folder_ = temporary_.path();
     FakeHost host_;
     TScopedHost scope_{host_};
 };

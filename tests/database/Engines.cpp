@@ -2,10 +2,8 @@
 
 #include "refhost/database/Databases.h"
 #include "tests/database/PrivateServer.h"
+#include "tests/support/TemporaryFolder.h"
 
-#include <cstdlib>
-#include <filesystem>
-#include <stdexcept>
 #include <string>
 
 namespace refhost {
@@ -14,33 +12,10 @@ namespace {
 
 constexpr std::string_view c_PostgreSQL = "postgresql:";
 
-/// A folder of the test program for its database files, deleted at its end.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "melvark-database-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) {
-            throw std::runtime_error("no temporary folder could be made");
-        }
-        path_ = pattern;
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder() {
-        std::error_code ignored; // the system cleans its temporary folder too
-        std::filesystem::remove_all(path_, ignored);
-    }
-
-    const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
-
 } // namespace
 
 std::string newSQLiteUrl() {
-    static const TemporaryFolder folder;
+    static const TemporaryFolder folder("database");
     static int count = 0;
     return "sqlite:" + (folder.path() / ("company" + std::to_string(++count) + ".db")).string();
 }

@@ -2,6 +2,7 @@
 
 #include "tests/database/OtherProcess.h"
 #include "tests/database/PrivateServer.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <array>
 #include <csignal>
@@ -111,31 +112,11 @@ private:
     Descriptor listener_;
 };
 
-/// A folder for the door's socket, gone with its owner.
-class DoorFolder {
-public:
-    DoorFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "melvark-door-XXXXXX").string();
-        path_ = mkdtemp(pattern.data());
-    }
-    DoorFolder(const DoorFolder&) = delete;
-    DoorFolder& operator=(const DoorFolder&) = delete;
-    ~DoorFolder() {
-        std::error_code ignored; // the system cleans its temporary folder too
-        std::filesystem::remove_all(path_, ignored);
-    }
-
-    const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
-
 } // namespace
 
 Interruption killedAfterMessage(int point, const std::string& url,
                                 const std::function<void(const std::string& url)>& work) {
-    const DoorFolder folder;
+    const TemporaryFolder folder("door");
     const Door door(folder.path());
     std::string byDoor = url;
     const std::string server = PrivateServer::instance().folder().string();

@@ -1,5 +1,6 @@
 #include "tests/database/LongLink.h"
 
+#include <cerrno>
 #include <cstring>
 #include <poll.h>
 #include <stdexcept>
@@ -15,14 +16,6 @@ namespace {
 constexpr const char* c_SocketName = ".s.PGSQL.5432";
 /// Much longer than either side needs between two calls.
 constexpr int c_Silence = 20;
-
-std::filesystem::path newFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "melvark-link-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder could be made");
-    }
-    return pattern;
-}
 
 sockaddr_un addressOf(const std::filesystem::path& path) {
     sockaddr_un address{};
@@ -48,6 +41,11 @@ bool isReadable(const pollfd& side) {
     return (side.revents & (POLLIN | POLLHUP | POLLERR)) != 0;
 }
 
+/// What to wait for of a side that may have to take these bytes.
+short wanted(const std::vector<char>& bytes) {
+    return static_cast<short>(bytes.empty() ? POLLIN : POLLIN | POLLOUT);
+}
+
 /// Appends what has come; false at the end of the link.
 bool take(int socket, std::vector<char>& bytes) {
     std::vector<char> portion(1U << 16U);
@@ -56,31 +54,29 @@ bool take(int socket, std::vector<char>& bytes) {
     return count > 0;
 }
 
+/// Hands over what the other side takes at once: waiting for it, while it waits for its answers to be taken, would
+/// never end. False at the end of the link.
 bool hand(int socket, std::vector<char>& bytes) {
-    for (std::size_t done = 0; done < bytes.size();) {
-        const ssize_t count = send(socket, bytes.data() + done, bytes.size() - done, MSG_NOSIGNAL);
+    while (!bytes.empty()) {
+        const ssize_t count = send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
         if (count <= 0) {
-            return false;
+            return errno == EAGAIN;
         }
-        done += static_cast<std::size_t>(count);
+        bytes.erase(bytes.begin(), bytes.begin() + count);
     }
-    bytes.clear();
     return true;
 }
 
 } // namespace
 
 LongLink::LongLink(const std::filesystem::path& serverFolder)
-    : folder_(newFolder()),
-      listening_(listenAt(folder_ / c_SocketName)),
+    : listening_(listenAt(folder() / c_SocketName)),
       thread_([this, socket = serverFolder / c_SocketName] { serve(socket); }) {}
 
 LongLink::~LongLink() {
     isEnding_ = true;
     thread_.join();
     close(listening_);
-    std::error_code ignored; // the system cleans its temporary folder too
-    std::filesystem::remove_all(folder_, ignored);
 }
 
 void LongLink::serve(const std::filesystem::path& serverSocket) {
@@ -103,21 +99,16 @@ void LongLink::serve(const std::filesystem::path& serverSocket) {
 void LongLink::carry(int client, int server) {
     std::vector<char> asked;
     std::vector<char> answered;
+    std::vector<char> arriving;
     while (!isEnding_) {
-        pollfd sides[] = {{client, POLLIN, 0}, {server, POLLIN, 0}};
-        if (poll(sides, 2, c_Silence) == 0) { // the server has answered all, and the client waits
-            if (!answered.empty()) {
-                ++turns_;
-                if (!hand(client, answered)) {
-                    return;
-                }
-            }
-            continue;
+        pollfd sides[] = {{client, wanted(arriving), 0}, {server, wanted(asked), 0}};
+        if (poll(sides, 2, c_Silence) == 0 && !answered.empty()) { // the server has answered all, and the client waits
+            ++turns_;
+            arriving.insert(arriving.end(), answered.begin(), answered.end());
+            answered.clear();
         }
-        if (isReadable(sides[1]) && !take(server, answered)) {
-            return;
-        }
-        if (isReadable(sides[0]) && (!take(client, asked) || !hand(server, asked))) {
+        if ((isReadable(sides[1]) && !take(server, answered)) || (isReadable(sides[0]) && !take(client, asked)) ||
+            !hand(server, asked) || !hand(client, arriving)) {
             return;
         }
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/TemporaryFolder.h"
+
 #include <atomic>
 #include <filesystem>
 #include <string>
@@ -19,14 +21,14 @@ public:
     ~LongLink();
 
     /// What a client gives as its host.
-    const std::filesystem::path& folder() const { return folder_; }
+    const std::filesystem::path& folder() const { return folder_.path(); }
     int turns() const { return turns_; }
 
 private:
     void serve(const std::filesystem::path& serverSocket);
     void carry(int client, int server);
 
-    std::filesystem::path folder_;
+    TemporaryFolder folder_{"link"};
     int listening_;
     std::atomic<int> turns_{0};
     std::atomic<bool> isEnding_{false};

@@ -15,14 +15,6 @@ namespace {
 /// From which new databases are copied: much faster than making the schema anew.
 constexpr const char* c_Model = "melvark_model";
 
-std::filesystem::path newFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "melvark-server-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder could be made");
-    }
-    return pattern;
-}
-
 } // namespace
 
 PrivateServer& PrivateServer::instance() {
@@ -30,10 +22,10 @@ PrivateServer& PrivateServer::instance() {
     return server;
 }
 
-// The folder is there when the other constructor has ended, so that the destructor clears it away also when this one
+// The folder is there when the other constructor has ended, so that the destructor stops the server also when this one
 // fails.
-PrivateServer::PrivateServer() : PrivateServer(newFolder()) {
-    run("start '" + folder_.string() + "' --without-fsync --until-exit-of " + std::to_string(getpid()));
+PrivateServer::PrivateServer() : PrivateServer("server") {
+    run("start '" + folder().string() + "' --without-fsync --until-exit-of " + std::to_string(getpid()));
     try {
         administrator("postgres").execute(std::string("create database ") + c_Model);
         PostgreSQLSession session = administrator(c_Model);
@@ -45,12 +37,10 @@ PrivateServer::PrivateServer() : PrivateServer(newFolder()) {
 
 PrivateServer::~PrivateServer() {
     try {
-        run("stop '" + folder_.string() + "'");
+        run("stop '" + folder().string() + "'");
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
     }
-    std::error_code ignored; // the system cleans its temporary folder too
-    std::filesystem::remove_all(folder_, ignored);
 }
 
 void PrivateServer::run(const std::string& command) const {
@@ -88,7 +78,7 @@ void PrivateServer::addRole(const std::string& name, const std::string& group) {
 }
 
 std::string PrivateServer::address(const std::string& database, const std::string& role) const {
-    return "host=" + folder_.string() + " dbname=" + database + " user=" + role;
+    return "host=" + folder().string() + " dbname=" + database + " user=" + role;
 }
 
 PostgreSQLSession PrivateServer::administrator(const std::string& database) const {

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "tests/support/TemporaryFolder.h"
+
 #include <filesystem>
 #include <memory>
 #include <string>
-#include <utility>
 
 namespace refhost {
 
@@ -30,15 +31,15 @@ public:
     std::string address(const std::string& database, const std::string& role) const;
     /// A session of the server's administrator.
     PostgreSQLSession administrator(const std::string& database) const;
-    const std::filesystem::path& folder() const { return folder_; }
+    const std::filesystem::path& folder() const { return folder_.path(); }
 
 private:
     PrivateServer();
-    explicit PrivateServer(std::filesystem::path folder) : folder_(std::move(folder)) {}
+    explicit PrivateServer(const std::string& folderKind) : folder_(folderKind) {}
     void run(const std::string& command) const;
     std::string copyOf(const std::string& model);
 
-    std::filesystem::path folder_;
+    TemporaryFolder folder_;
     int databases_ = 0;
 };
 

@@ -1,8 +1,5 @@
 #include "tests/database/SQLiteFile.h"
 
-#include <cstdlib>
-#include <stdexcept>
-
 namespace refhost {
 
 namespace {
@@ -30,20 +27,6 @@ std::string valueText(const TDbValue& value) {
 }
 
 } // namespace
-
-SQLiteFile::SQLiteFile() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "melvark-file-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder could be made");
-    }
-    folder_ = pattern;
-    path_ = folder_ / "company.db";
-}
-
-SQLiteFile::~SQLiteFile() {
-    std::error_code ignored; // the system cleans its temporary folder too
-    std::filesystem::remove_all(folder_, ignored);
-}
 
 std::unique_ptr<SQLiteConnection> SQLiteFile::open(const std::string& user, bool create) const {
     return std::make_unique<SQLiteConnection>(path_.string(), user, TFormatSettings::Czech(),

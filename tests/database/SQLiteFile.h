@@ -1,6 +1,7 @@
 #pragma once
 
 #include "refhost/database/SQLiteConnection.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <filesystem>
 #include <memory>
@@ -11,12 +12,7 @@ namespace refhost {
 /// A database file of one test, in a folder of its own that disappears with it.
 class SQLiteFile {
 public:
-    SQLiteFile();
-    SQLiteFile(const SQLiteFile&) = delete;
-    SQLiteFile& operator=(const SQLiteFile&) = delete;
-    ~SQLiteFile();
-
-    const std::filesystem::path& folder() const { return folder_; }
+    const std::filesystem::path& folder() const { return folder_.path(); }
     const std::filesystem::path& path() const { return path_; }
 
     /// A connection with Czech formats that waits for nobody.
@@ -26,8 +22,8 @@ public:
     std::unique_ptr<SQLiteConnection> createCompany() const;
 
 private:
-    std::filesystem::path folder_;
-    std::filesystem::path path_;
+    TemporaryFolder folder_{"file"};
+    std::filesystem::path path_ = folder() / "company.db";
 };
 
 /// A call with texts for parameters that opens its results.
