@@ -1,6 +1,7 @@
 #include "benchmarks/database/NoteWork.h"
 
 #include "benchmarks/database/Floors.h"
+#include "refhost/database/Decimal.h"
 #include "tests/database/PriceColumns.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ TDbValue sent(const TDbValue& value) {
     return value;
 }
 
-/// A cell as the floor stores it: numbers with a point, and no shelf life, whose text would have to be read.
+/// A cell as the floor stores it: numbers as the tables keep them, and no shelf life, whose text would have to be read.
 TDbValue stored(const TDbValue& value, std::size_t place) {
     if (place + 1 == c_SavedColumns.size()) {
         return {};
@@ -39,6 +40,7 @@ TDbValue stored(const TDbValue& value, std::size_t place) {
     if (auto* characters = std::get_if<AnsiString>(&text);
         characters != nullptr && place >= c_FirstNumber && place != 4) {
         std::ranges::replace(*characters, ',', '.');
+        *characters = refhost::canonicalDecimal(*characters);
     }
     return text;
 }
