@@ -11,6 +11,8 @@ namespace {
 
 /// So many statements may be without an answer: enough for a link with a fifth of a second, and little memory.
 constexpr std::size_t c_MostUnanswered = 2000;
+/// So many statements are handed over together: waking the server for each, and it the client, costs more than a row.
+constexpr std::size_t c_Portion = 16;
 
 } // namespace
 
@@ -23,6 +25,11 @@ void PostgreSQLPipeline::send(const std::string& sql, std::span<const TDbValue> 
         open();
     }
     sent(session_.send(sql, parameters), {sql, row});
+    if (++gathered_ < c_Portion) {
+        return;
+    }
+    endPortion();
+    handOver();
     takeArrived();
     while (unanswered_.size() > c_MostUnanswered) {
         takeAnswer();
@@ -40,7 +47,10 @@ void PostgreSQLPipeline::finish() {
     if (!isOpen_) {
         return;
     }
+    endPortion();          // else a refused row would take the next statement with it
     sendControl("commit"); // of a failed transaction the server makes a rollback
+    endPortion();
+    handOver();
     while (!unanswered_.empty()) {
         takeAnswer();
     }
@@ -55,12 +65,16 @@ void PostgreSQLPipeline::sendControl(const char* statement) {
 }
 
 void PostgreSQLPipeline::sent(bool accepted, Sent statement) {
-    if (!accepted || PQpipelineSync(session_.handle()) != 1) {
+    if (!accepted) {
         keepLostLink(statement);
         return;
     }
     unanswered_.push_back(std::move(statement));
-    handOver();
+}
+
+void PostgreSQLPipeline::endPortion() {
+    gathered_ = 0;
+    sent(PQpipelineSync(session_.handle()) == 1, {"sync", std::nullopt});
 }
 
 void PostgreSQLPipeline::handOver() {
@@ -75,7 +89,7 @@ void PostgreSQLPipeline::handOver() {
         left = PQflush(session_.handle());
     }
     if (left != 0) {
-        keepLostLink(unanswered_.back());
+        keepLostLink({"flush", std::nullopt});
     }
 }
 
@@ -88,23 +102,20 @@ void PostgreSQLPipeline::takeArrived() {
 void PostgreSQLPipeline::takeAnswer() {
     const Sent statement = std::move(unanswered_.front());
     unanswered_.pop_front();
-    for (ExecStatusType status = PGRES_EMPTY_QUERY; status != PGRES_PIPELINE_SYNC;) {
-        PGresult* result = PQgetResult(session_.handle());
-        status = PQresultStatus(result);
-        if (session_.isLost()) {
+    // A statement's answer ends with none, a mark's is itself.
+    while (PGresult* result = PQgetResult(session_.handle())) {
+        if (PQresultStatus(result) == PGRES_PIPELINE_SYNC) {
             PQclear(result);
-            keepLostLink(statement);
             return;
-        }
-        if (result == nullptr || status == PGRES_PIPELINE_SYNC) {
-            PQclear(result);
-            continue;
         }
         try {
             session_.checked(result, statement.Statement);
         } catch (const EDatabaseError& error) {
             keep(error, statement);
         }
+    }
+    if (session_.isLost()) {
+        keepLostLink(statement);
     }
 }
 

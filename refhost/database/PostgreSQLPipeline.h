@@ -22,9 +22,10 @@ public:
 
     bool isOpen() const { return isOpen_; }
 
-    /// Sends one statement and takes the answers that have come meanwhile. Waits only while very many are missing, or
-    /// while the server takes nothing more. `row` is the row that a refusal of it is about. Throws EDatabaseError only
-    /// when the statement cannot be prepared: then it was not sent.
+    /// Puts one statement on its way; a portion of them is handed over to the server together, and the answers that
+    /// have come meanwhile are taken. Waits only while very many are missing, or while the server takes nothing more.
+    /// `row` is the row that a refusal of it is about. Throws EDatabaseError only when the statement cannot be
+    /// prepared: then it was not sent.
     void send(const std::string& sql, std::span<const TDbValue> parameters, int row);
 
     /// Waits for all answers and ends the transaction: what was sent has lasted, or, after a failure, nothing of it.
@@ -36,7 +37,8 @@ public:
     void forgetFailure() { failure_.reset(); }
 
 private:
-    /// A statement without its answer; those that begin and end the transaction have no row.
+    /// A statement without its answer; those that begin and end the transaction have no row, nor has the mark at a
+    /// portion's end, at which the server answers all of it.
     struct Sent {
         std::string Statement;
         std::optional<int> Row;
@@ -44,8 +46,10 @@ private:
 
     void open();
     void sendControl(const char* statement);
-    /// Ends the statement, so that the server answers it whatever becomes of the next ones, and hands it over.
     void sent(bool accepted, Sent statement);
+    /// Marks the end of a portion: what is refused in it takes the rest of it along, but nothing behind the mark.
+    void endPortion();
+    /// Gives the server all that was sent.
     void handOver();
     void takeArrived();
     void takeAnswer();
@@ -55,6 +59,7 @@ private:
     PostgreSQLSession& session_;
     bool isOpen_ = false;
     std::deque<Sent> unanswered_;
+    std::size_t gathered_ = 0; ///< Statements that are not handed over yet.
     std::optional<EDatabaseError> failure_;
 };
 

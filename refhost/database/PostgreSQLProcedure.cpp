@@ -81,8 +81,11 @@ TProcedureInfo PostgreSQLProcedure::info() const {
     return info;
 }
 
-const PostgreSQLProcedure::Parameter& PostgreSQLProcedure::input(const TProcedureCall& call,
-                                                                 std::string_view name) const {
+const PostgreSQLProcedure::Parameter& PostgreSQLProcedure::input(const TProcedureCall& call, std::string_view name,
+                                                                 std::size_t guess) const {
+    if (guess < inputs_.size() && SameDbName(inputs_[guess].Name, name)) {
+        return inputs_[guess];
+    }
     const auto found =
         std::ranges::find_if(inputs_, [name](const Parameter& parameter) { return SameDbName(parameter.Name, name); });
     if (found == inputs_.end()) {
@@ -95,8 +98,9 @@ PostgreSQLProcedure::Statement PostgreSQLProcedure::statement(const TProcedureCa
     // A function that brings nothing costs less where it need not be a table.
     Statement statement{(bringsNothing_ ? "select melvark." : "select * from melvark.") + sqlName_ + "(", {}};
     std::vector<const Parameter*> named;
+    std::size_t guess = 0;
     for (const TDbParam& parameter : call.Params) {
-        const Parameter& declared = input(call, parameter.Name);
+        const Parameter& declared = input(call, parameter.Name, guess++);
         TDbValue value = parameterValue(declared.Kind, declared.Name, parameter.Value);
         if (const auto earlier = std::ranges::find(named, &declared); earlier != named.end()) {
             statement.Values[static_cast<std::size_t>(earlier - named.begin())] =

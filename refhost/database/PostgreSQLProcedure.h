@@ -42,7 +42,8 @@ private:
         ParameterKind Kind = ParameterKind::Text;
     };
 
-    const Parameter& input(const TProcedureCall& call, std::string_view name) const;
+    /// `guess`, the place at which callers mostly name it, is tried first.
+    const Parameter& input(const TProcedureCall& call, std::string_view name, std::size_t guess) const;
     TCallResult runForCursors(PostgreSQLSession& session, const Statement& statement, bool open) const;
 
     std::string sqlName_;
