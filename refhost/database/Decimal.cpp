@@ -246,6 +246,24 @@ int compareDecimals(std::string_view left, std::string_view right) {
     });
 }
 
+bool isProductWithin(std::string_view left, std::string_view right, std::string_view product,
+                     std::string_view distance) {
+    const std::size_t digits = left.size() + right.size() + product.size() + distance.size();
+    return withIntegerFor(digits, [&]<typename Integer>(Integer) {
+        const auto a = parseDecimal<Integer>(left);
+        const auto b = parseDecimal<Integer>(right);
+        const auto expected = parseDecimal<Integer>(product);
+        const auto most = parseDecimal<Integer>(distance);
+        const unsigned scale = std::max({a.Scale + b.Scale, expected.Scale, most.Scale});
+        const auto scaled = [scale](const Integer& unscaled, unsigned from) {
+            return Integer(unscaled * powerOfTen<Integer>(scale - from));
+        };
+        const Integer difference =
+            scaled(a.Unscaled * b.Unscaled, a.Scale + b.Scale) - scaled(expected.Unscaled, expected.Scale);
+        return magnitude(difference) <= scaled(most.Unscaled, most.Scale);
+    });
+}
+
 std::string fixedDecimal(std::string_view text, int decimals) {
     const unsigned scale = checkedDecimals(decimals);
     return withIntegerFor(text.size() + scale, [&]<typename Integer>(Integer) {

@@ -38,6 +38,9 @@ std::string absoluteDecimal(std::string_view text);
 std::string negatedDecimal(std::string_view text);
 /// -1, 0 or 1 when `left` is less than, equal to or greater than `right`.
 int compareDecimals(std::string_view left, std::string_view right);
+/// Whether the product of `left` and `right` is no further from `product` than `distance`.
+bool isProductWithin(std::string_view left, std::string_view right, std::string_view product,
+                     std::string_view distance);
 
 /// The number rounded to `decimals` and written with just so many ("12.5" with 2 gives "12.50"). Not canonical: the
 /// last step before a text for people.

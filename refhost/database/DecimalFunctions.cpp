@@ -123,6 +123,26 @@ void compare(sqlite3_context* context, int count, sqlite3_value** values) {
     });
 }
 
+/// A quantity, a distance, and pairs of a unit price and a total: 1 when no total is further than the distance from
+/// quantity times unit price. A pair that is not given whole does not count.
+void productsAgree(sqlite3_context* context, int count, sqlite3_value** values) {
+    guarded(context, [&] {
+        const Arguments arguments(values, static_cast<std::size_t>(count));
+        const DecimalArgument quantity(arguments[0]);
+        const DecimalArgument distance(arguments[1]);
+        if (!quantity || !distance) {
+            return;
+        }
+        bool agree = true;
+        for (std::size_t i = 2; agree && i + 1 < arguments.size(); i += 2) {
+            const DecimalArgument unit(arguments[i]);
+            const DecimalArgument total(arguments[i + 1]);
+            agree = !unit || !total || isProductWithin(*quantity, *unit, *total, *distance);
+        }
+        sqlite3_result_int(context, agree ? 1 : 0);
+    });
+}
+
 /// What the engine keeps for one group of dec_sum: zeroed memory that holds a pointer once there is a value.
 struct SumState {
     std::string* Total;
@@ -176,6 +196,7 @@ constexpr Entry c_Functions[] = {
     {"dec_abs", 1, unary<absoluteDecimal>},
     {"dec_neg", 1, unary<negatedDecimal>},
     {"dec_cmp", 2, compare},
+    {"dec_products_agree", -1, productsAgree},
 };
 
 constexpr int c_Flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;

@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 namespace refhost {
 
@@ -20,6 +21,11 @@ public:
     std::size_t count() const { return arguments_.size(); }
     sqlite3_value* argument(std::size_t index) const { return arguments_[index]; }
     std::optional<std::string> text(std::size_t index) const {
+        const auto characters = view(index);
+        return characters ? std::optional<std::string>(*characters) : std::nullopt;
+    }
+    /// The same without a copy, as long as the call.
+    std::optional<std::string_view> view(std::size_t index) const {
         if (index >= arguments_.size() || sqlite3_value_type(arguments_[index]) == SQLITE_NULL) {
             return std::nullopt;
         }
@@ -27,11 +33,11 @@ public:
         if (bytes == nullptr) {
             throw std::bad_alloc();
         }
-        return std::string(bytes, static_cast<std::size_t>(sqlite3_value_bytes(arguments_[index])));
+        return std::string_view(bytes, static_cast<std::size_t>(sqlite3_value_bytes(arguments_[index])));
     }
     int integer(std::size_t index) const { return sqlite3_value_int(arguments_[index]); }
 
-    void give(const std::string& text) const {
+    void give(std::string_view text) const {
         sqlite3_result_text64(context_, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
     }
     void give(std::int32_t number) const { sqlite3_result_int(context_, number); }

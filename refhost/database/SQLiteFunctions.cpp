@@ -23,8 +23,8 @@ constexpr std::size_t c_MostWholeDigits = 15;
 constexpr std::size_t c_MostDecimals = 50;
 
 /// What the refusal of a typed text names: its label, then the text.
-std::vector<std::string> labelled(const SQLiteCall& call, const std::string& text) {
-    return {call.text(1).value_or("Hodnota"), shownText(text)};
+std::vector<std::string> labelled(const SQLiteCall& call, std::string_view text) {
+    return {call.text(1).value_or("Hodnota"), shownText(std::string(text))};
 }
 
 /// The number of digits before and after the point of a canonical decimal.
@@ -57,7 +57,7 @@ void refuseLine(const SQLiteCall& call) {
 }
 
 void parseNumber(const SQLiteCall& call) {
-    const auto text = call.text(0);
+    const auto text = call.view(0);
     if (!text || TrimText(*text).empty()) {
         return;
     }
@@ -158,8 +158,8 @@ void asInteger(const SQLiteCall& call) {
 }
 
 void typed(const SQLiteCall& call) {
-    if (const auto text = call.text(0)) {
-        if (const std::string trimmed(TrimText(*text)); !trimmed.empty()) {
+    if (const auto text = call.view(0)) {
+        if (const std::string_view trimmed = TrimText(*text); !trimmed.empty()) {
             call.give(trimmed);
         }
     }
@@ -180,8 +180,8 @@ void areDecimals(const SQLiteCall& call) {
 }
 
 void typedId(const SQLiteCall& call) {
-    if (const auto text = call.text(0)) {
-        const std::string trimmed(TrimText(*text));
+    if (const auto text = call.view(0)) {
+        const std::string_view trimmed = TrimText(*text);
         const auto number = TextToInt(trimmed);
         if (!trimmed.empty() && !(number && *number <= 0)) {
             call.give(trimmed);

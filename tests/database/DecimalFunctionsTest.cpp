@@ -67,6 +67,16 @@ TEST_F(DecimalFunctions, GiveNullForNull) {
     }
 }
 
+TEST_F(DecimalFunctions, ProductsAgreeWhenEachPairThatIsGivenDoes) {
+    EXPECT_EQ(valueOf("dec_products_agree('2', '0.01')"), "1");
+    EXPECT_EQ(valueOf("dec_products_agree('2', '0.01', '3', '6.01', '4', '7.99')"), "1");
+    EXPECT_EQ(valueOf("dec_products_agree('2', '0.01', '3', '6.02', '4', '7.99')"), "0");
+    EXPECT_EQ(valueOf("dec_products_agree('2', '0.01', '3', '6.01', '4', '7.98')"), "0");
+    EXPECT_EQ(valueOf("dec_products_agree('2', '0.01', null, '9', '4', null)"), "1");
+    EXPECT_EQ(valueOf("dec_products_agree(null, '0.01', '3', '7')"), "null");
+    EXPECT_EQ(valueOf("dec_products_agree('2', null, '3', '7')"), "null");
+}
+
 TEST_F(DecimalFunctions, MistakesFailTheStatement) {
     EXPECT_EQ(valueOf("dec_add('1,5', '1')"), "error: not a decimal number: 1,5");
     EXPECT_EQ(valueOf("dec_abs('')"), "error: not a decimal number: ");

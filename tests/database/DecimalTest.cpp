@@ -101,6 +101,24 @@ TEST(Decimal, NumbersCompareByValueNotByText) {
     EXPECT_EQ(negatedDecimal("0"), "0");
 }
 
+TEST(Decimal, AProductMayBeAsFarFromANumberAsIsSaid) {
+    EXPECT_TRUE(isProductWithin("2.5", "4", "10", "0"));
+    EXPECT_TRUE(isProductWithin("2.5", "4.01", "10", "0.025"));
+    EXPECT_FALSE(isProductWithin("2.5", "4.01", "10", "0.0249"));
+    EXPECT_TRUE(isProductWithin("2.5", "3.99", "10", "0.025")) << "on either side";
+    EXPECT_FALSE(isProductWithin("2.5", "3.99", "10", "0.0249"));
+    EXPECT_TRUE(isProductWithin("-1.5", "-2", "3", "0"));
+    EXPECT_FALSE(isProductWithin("-1.5", "2", "3", "5.99"));
+    EXPECT_TRUE(isProductWithin("0.000001", "0.000001", "0", "0.000000000001"));
+    EXPECT_FALSE(isProductWithin("0.000001", "0.000001", "0", "0.0000000000009"));
+    // Too long for the processor's integers.
+    EXPECT_TRUE(
+        isProductWithin("123456789012345.123456", "100000000000000.1", "12345678901234524691278901234.5123456", "0"));
+    EXPECT_FALSE(
+        isProductWithin("123456789012345.123456", "100000000000000.1", "12345678901234524691278901234.5123455", "0"));
+    EXPECT_THROW(isProductWithin("1", "1", "x", "0"), DecimalError);
+}
+
 TEST(Decimal, FixedTextsKeepTheirZeros) {
     EXPECT_EQ(fixedDecimal("12.5", 2), "12.50");
     EXPECT_EQ(fixedDecimal("0", 2), "0.00");

@@ -85,6 +85,10 @@ const std::vector<NoteRowRefusal>& refusals() {
          "ML002 Trvanlivost „31.4.2026“ není datum. Zapište existující den, měsíc a rok."},
         {"ADayInAnotherOrder", flourWith({{"a_TRVANLIVOST", "2026-04-30"}}),
          "ML002 Trvanlivost „2026-04-30“ není datum. Zapište existující den, měsíc a rok."},
+        {"TheDiscountIsJudgedBeforeTheShelfLife", flourWith({{"a_SLEVA", "101"}, {"a_TRVANLIVOST", "31.4.2026"}}),
+         "ML111 Sleva 101 % není přípustná. Zadejte slevu od 0 do 100 %."},
+        {"TheNumbersAreJudgedBeforeTheDiscount", flourWith({{"a_SLEVA", "101"}, {"a_CENAS", "zdarma"}}),
+         "ML001 Celková cena „zdarma“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou čárku."},
         {"TotalThatDoesNotFit", // 2 times 10 is not 21
          flourWith({{"a_JEDNCENAB", "10"}, {"a_CENAB", "21"}}),
          "ML052 Celková cena 21,00 položky „Mouka hladká“ neodpovídá množství 2 krát jednotkové ceně 10. Opravte jednu "

@@ -58,28 +58,21 @@ where coalesce(DOBSID, SKLADPOL, SKLAD, DPH, MNOZSTVI, SLEVA,
                JEDNCENABSL, JEDNDPHASL, JEDNDPHBSL, JEDNCENASSL, JEDNCENAB, JEDNDPHA, JEDNDPHB, JEDNCENAS,
                CENABSL, DPHASL, DPHBSL, CENASSL, CENAB, DPHA, DPHB, CENAS, TRVANLIVOST) is null;
 
-select refuse_unknown_item(SKLADPOL) as refusal from NOTE_SENT where SKLPID is null;
-
-select refuse_unknown_warehouse(SKLAD) as refusal from NOTE_SENT where SKLDID is null;
-
-select refuse('ML110', DPH) as refusal
-from NOTE_SENT
-where DPH is not null and DPHID is null;
-
-select refuse('ML049', DOBSID) as refusal
-from NOTE_SENT
-where DOBSID is not null and ORDERLINEID is null;
-
-select refuse('ML050', s.DOBSID, s.SKLADPOL) as refusal
-from NOTE_SENT s
-join DODOBJPOL p on p.ID = s.ORDERLINEID
-where p.SKLPID <> s.SKLPID;
+select case
+           when SKLPID is null then refuse_unknown_item(SKLADPOL)
+           when SKLAD is not null and SKLDID is null then refuse_unknown_warehouse(SKLAD)
+           when DPH is not null and DPHID is null then refuse('ML110', DPH)
+           when DOBSID is not null and ORDERLINEID is null then refuse('ML049', DOBSID)
+           when (select p.SKLPID from DODOBJPOL p where p.ID = ORDERLINEID) <> SKLPID
+               then refuse('ML050', DOBSID, SKLADPOL)
+       end as refusal
+from NOTE_SENT;
 
 insert into NOTE_STAGED (PLACE, DOBSID, SKLPID, SKLDID, DPHID, MNOZSTVI, SLEVA,
                          JEDNCENABSESLEVOU, JEDNDPHASESLEVOU, JEDNDPHBSESLEVOU, JEDNCENASSESLEVOU,
                          JEDNCENABBEZSLEVY, JEDNDPHABEZSLEVY, JEDNDPHBBEZSLEVY, JEDNCENASBEZSLEVY,
                          CENABSESLEVOU, DPHASESLEVOU, DPHBSESLEVOU, CENASSESLEVOU,
-                         CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, CENASBEZSLEVY)
+                         CENABBEZSLEVY, DPHABEZSLEVY, DPHBBEZSLEVY, CENASBEZSLEVY, TRVANLIVOST)
 select (select LASTROW from STAGING), ORDERLINEID, SKLPID, SKLDID, DPHID,
        coalesce(parse_number(MNOZSTVI, 'Množství', 6), '0'), parse_number(SLEVA, 'Sleva', 2),
        parse_number(JEDNCENABSL, 'Jednotková cena', 6), parse_number(JEDNDPHASL, 'Jednotková cena', 6),
@@ -89,23 +82,19 @@ select (select LASTROW from STAGING), ORDERLINEID, SKLPID, SKLDID, DPHID,
        parse_number(CENABSL, 'Celková cena', 2), parse_number(DPHASL, 'Celková cena', 2),
        parse_number(DPHBSL, 'Celková cena', 2), parse_number(CENASSL, 'Celková cena', 2),
        parse_number(CENAB, 'Celková cena', 2), parse_number(DPHA, 'Celková cena', 2),
-       parse_number(DPHB, 'Celková cena', 2), parse_number(CENAS, 'Celková cena', 2)
+       parse_number(DPHB, 'Celková cena', 2), parse_number(CENAS, 'Celková cena', 2),
+       -- A discount that is refused below is refused before the shelf life.
+       iif(dec_cmp(parse_number(SLEVA), 0) < 0 or dec_cmp(parse_number(SLEVA), 100) > 0, null,
+           parse_date(TRVANLIVOST, 'Trvanlivost'))
 from NOTE_SENT;
 
-select refuse('ML111', number_text(SLEVA)) as refusal
-from NOTE_LAST
-where dec_cmp(SLEVA, 0) < 0 or dec_cmp(SLEVA, 100) > 0;
-
-update NOTE_STAGED
-set TRVANLIVOST = parse_date(SENT.TRVANLIVOST, 'Trvanlivost')
-from NOTE_SENT as SENT
-where SENT.TRVANLIVOST is not null and PLACE = (select PLACE from NOTE_LAST);
-
--- Prices are rounded to their decimals, so that a total may differ from quantity times unit price by that much.
-select refuse('ML052', total_text(CENA), i.NAZEV, number_text(MNOZSTVI), number_text(JEDNCENA)) as refusal
-from NOTE_PAIR
-join SKLADPOL i on i.ID = SKLPID
-where MNOZSTVI <> '0'
-  and dec_cmp(dec_abs(dec_sub(dec_mul(MNOZSTVI, JEDNCENA), CENA)),
-              (select dec_add('0.02', dec_mul(dec_abs(MNOZSTVI), '0.000002')) from NOTE_LAST)) > 0
-order by ORDINAL;
+select case
+           when dec_cmp(SLEVA, 0) < 0 or dec_cmp(SLEVA, 100) > 0 then refuse('ML111', number_text(SLEVA))
+           when MNOZSTVI <> '0' and not dec_products_agree(MNOZSTVI, TOLERANCE,
+                    JEDNCENABSESLEVOU, CENABSESLEVOU, JEDNDPHASESLEVOU, DPHASESLEVOU,
+                    JEDNDPHBSESLEVOU, DPHBSESLEVOU, JEDNCENASSESLEVOU, CENASSESLEVOU,
+                    JEDNCENABBEZSLEVY, CENABBEZSLEVY, JEDNDPHABEZSLEVY, DPHABEZSLEVY,
+                    JEDNDPHBBEZSLEVY, DPHBBEZSLEVY, JEDNCENASBEZSLEVY, CENASBEZSLEVY)
+               then refuse_unbalanced_note_line()
+       end as refusal
+from NOTE_LAST;

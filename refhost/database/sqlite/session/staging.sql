@@ -35,14 +35,17 @@ create index temp.NOTE_STAGED_DOBSID on NOTE_STAGED (DOBSID);
 create temp view NOTE_LINE as
 select * from NOTE_STAGED where MNOZSTVI <> '0';
 
--- The row that came last.
+-- The row that came last, and how far a total of it may be from quantity times unit price: both prices are rounded to
+-- their decimals.
 create temp view NOTE_LAST as
-select * from NOTE_STAGED where PLACE = (select max(PLACE) from NOTE_STAGED);
+select *, dec_add('0.02', dec_mul(dec_abs(MNOZSTVI), '0.000002')) as TOLERANCE
+from NOTE_STAGED
+where PLACE = (select max(PLACE) from NOTE_STAGED);
 
 -- Each of its unit prices beside the total that it has to give, in the order in which a clash is reported.
-create temp view NOTE_PAIR (ORDINAL, SKLPID, MNOZSTVI, JEDNCENA, CENA) as
+create temp view NOTE_PAIR (ORDINAL, SKLPID, MNOZSTVI, TOLERANCE, JEDNCENA, CENA) as
 with PAIR (ORDINAL) as (values (1), (2), (3), (4), (5), (6), (7), (8))
-select ORDINAL, SKLPID, MNOZSTVI,
+select ORDINAL, SKLPID, MNOZSTVI, TOLERANCE,
        case ORDINAL
            when 1 then JEDNCENABSESLEVOU when 2 then JEDNDPHASESLEVOU when 3 then JEDNDPHBSESLEVOU
            when 4 then JEDNCENASSESLEVOU when 5 then JEDNCENABBEZSLEVY when 6 then JEDNDPHABEZSLEVY
