@@ -169,6 +169,38 @@ TEST_F(OverlappingPrices, TheSecondOneIsKeptWhenTheFirstIsTakenBack) {
     EXPECT_EQ(prices(), "2026-02-01");
 }
 
+/// Saves a line of another supplier into the order, so that an order is made of it.
+void makeOrder(Database& database, std::int64_t from) {
+    database.Execute(serverCall("MELVARKEDITORResetTemp"));
+    database.Execute(
+        serverCall("MELVARKEDITORDodObjInsertToTemp",
+                   {{"a_SKLADPOL", "Mléko"}, {"a_DODAVATEL", "Pekárna"}, {"a_SKPLID", "1"}, {"a_MNOZSTVI", "1"}}));
+    database.Execute(serverCall("MELVARKEDITORDodObjTempUloz", {{"a_DDOBID", from}}));
+}
+
+// The first one is about to move the sequence behind the chosen id: the second one would move it there again.
+TEST(PostgreSQLConflict, ASaveThatMakesAnOrderWaitsForAnotherOneThatDoes) {
+    const ServerCompany company;
+    const auto one = company.open();
+    const auto other = company.open();
+    one->runScript("insert into DODAVATEL (JMENO) values ('Pekárna');"
+                   "insert into DODOBJEDNAVKA (ID, VZOR, CISLO, OBJEDNANIDC, DODVID, SKLDID)"
+                   "values (1, 0, 'OV-1', '2026-04-11 10:00:00', 1, 1), (2, 0, 'OV-2', '2026-04-11 10:00:00', 1, 1),"
+                   "       (40, 0, 'RUČNÍ', '2026-04-11 10:00:00', 1, 1)");
+    std::future<void> second;
+    one->inOneTransaction([&] {
+        makeOrder(*one, 1);
+        second = std::async(std::launch::async, [&] { makeOrder(*other, 2); });
+        EXPECT_TRUE(company.waitFor(
+            "select count(*) from pg_stat_activity where wait_event = 'advisory' and datname = current_database()",
+            "1"))
+            << "the second one does not wait";
+    });
+    second.get();
+    EXPECT_EQ(rowsOf(*one, "select ID, CISLO from DODOBJEDNAVKA where ID > 40 order by ID"),
+              "41,OV2026-000041|42,OV2026-000042");
+}
+
 TEST(PostgreSQLConflict, TwoSavesIntoOneNoteFollowOneAnother) {
     const ServerCompany company;
     const auto save = [&company](const std::string& quantity) {

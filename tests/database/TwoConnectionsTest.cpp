@@ -134,6 +134,30 @@ TEST_P(TwoConnections, NewOrdersForOtherSuppliersGetNumbersOfTheirOwn) {
               "40 | 40 | 1 | 1");
 }
 
+TEST_P(TwoConnections, NewOrdersStandAboveAnIdThatSomebodyChoseElsewhere) {
+    const auto database = observer();
+    for (int round = 0; round < c_Rounds; ++round) {
+        const std::string chosen = rows(*database, "select max(ID) + 2 from DODOBJEDNAVKA");
+        database->runScript("insert into DODOBJEDNAVKA (ID, VZOR, CISLO, OBJEDNANIDC, SKLDID) values (" + chosen +
+                            ", 0, 'RUČNÍ " + chosen + "', '2026-04-11 10:00:00', 1)");
+        std::string outcomes[2];
+        atOnce([&outcomes](Database& connection, int clerk) {
+            call(connection, "MELVARKEDITORResetTemp");
+            call(connection, "MELVARKEDITORDodObjInsertToTemp",
+                 {{"a_SKLADPOL", AnsiString("Chléb")},
+                  {"a_DODAVATEL", AnsiString("Nápoje Švec")},
+                  {"a_SKPLID", AnsiString("51")},
+                  {"a_MNOZSTVI", AnsiString("1")}});
+            outcomes[clerk] = outcome(connection, "MELVARKEDITORDodObjTempUloz",
+                                      {{"a_DDOBID", id(clerk == 0 ? c_Order : c_OrderOfBranch)}});
+        });
+        EXPECT_EQ(outcomes[0] + " " + outcomes[1], "accepted accepted");
+        EXPECT_EQ(
+            rows(*database, "select ID - " + chosen + " from DODOBJEDNAVKA where ID > " + chosen + " order by ID"),
+            "1\n2");
+    }
+}
+
 TEST_P(TwoConnections, OfTwoWhoFindTheOrderWithoutASupplierOneGivesItHis) {
     const auto database = observer();
     for (int round = 0; round < c_Rounds; ++round) {
