@@ -43,7 +43,8 @@ begin
     for routine in
         select p.oid from pg_catalog.pg_proc p
         where p.pronamespace = 'melvark'::regnamespace
-          and p.proname in ('number_text', 'total_text', 'date_text', 'moment_text')
+          and p.proname in ('decimal_separator', 'written_number', 'number_text', 'written_total', 'total_text', 'date_text',
+                            'moment_text')
     loop
         execute format('grant execute on function %s to melvark_clerk', routine);
     end loop;

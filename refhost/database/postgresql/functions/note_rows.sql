@@ -7,26 +7,27 @@ create function note_rows(note integer, fills note_fill[]) returns setof note_ro
 language plpgsql stable set search_path = melvark, pg_temp set plan_cache_mode = force_custom_plan as $$
 declare
     local_rate constant numeric := recalculation_local_rate();
+    separator constant text := decimal_separator();
 begin
     return query
-    select f.DOBSID, i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, s.NAZEV, number_text(round(f.MNOZSTVI, 6)),
-           r.NAZEV, number_text(round(f.SLEVA, 2)),
-           number_text(coalesce(source.JEDNCENABSESLEVOU, (p.unit_after).cenab)),
-           number_text(coalesce(source.JEDNDPHASESLEVOU, (p.unit_after).dpha)),
-           number_text(coalesce(source.JEDNDPHBSESLEVOU, (p.unit_after).dphb)),
-           number_text(coalesce(source.JEDNCENASSESLEVOU, (p.unit_after).cenas)),
-           number_text(coalesce(source.JEDNCENABBEZSLEVY, (p.unit_before).cenab)),
-           number_text(coalesce(source.JEDNDPHABEZSLEVY, (p.unit_before).dpha)),
-           number_text(coalesce(source.JEDNDPHBBEZSLEVY, (p.unit_before).dphb)),
-           number_text(coalesce(source.JEDNCENASBEZSLEVY, (p.unit_before).cenas)),
-           total_text(coalesce(total.CENABSESLEVOU, (p.total_after).cenab)),
-           total_text(coalesce(total.DPHASESLEVOU, (p.total_after).dpha)),
-           total_text(coalesce(total.DPHBSESLEVOU, (p.total_after).dphb)),
-           total_text(coalesce(total.CENASSESLEVOU, (p.total_after).cenas)),
-           total_text(coalesce(total.CENABBEZSLEVY, (p.total_before).cenab)),
-           total_text(coalesce(total.DPHABEZSLEVY, (p.total_before).dpha)),
-           total_text(coalesce(total.DPHBBEZSLEVY, (p.total_before).dphb)),
-           total_text(coalesce(total.CENASBEZSLEVY, (p.total_before).cenas)),
+    select f.DOBSID, i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, s.NAZEV,
+           written_number(round(f.MNOZSTVI, 6), separator), r.NAZEV, written_number(round(f.SLEVA, 2), separator),
+           written_number(coalesce(source.JEDNCENABSESLEVOU, (p.unit_after).cenab), separator),
+           written_number(coalesce(source.JEDNDPHASESLEVOU, (p.unit_after).dpha), separator),
+           written_number(coalesce(source.JEDNDPHBSESLEVOU, (p.unit_after).dphb), separator),
+           written_number(coalesce(source.JEDNCENASSESLEVOU, (p.unit_after).cenas), separator),
+           written_number(coalesce(source.JEDNCENABBEZSLEVY, (p.unit_before).cenab), separator),
+           written_number(coalesce(source.JEDNDPHABEZSLEVY, (p.unit_before).dpha), separator),
+           written_number(coalesce(source.JEDNDPHBBEZSLEVY, (p.unit_before).dphb), separator),
+           written_number(coalesce(source.JEDNCENASBEZSLEVY, (p.unit_before).cenas), separator),
+           written_total(coalesce(total.CENABSESLEVOU, (p.total_after).cenab), separator),
+           written_total(coalesce(total.DPHASESLEVOU, (p.total_after).dpha), separator),
+           written_total(coalesce(total.DPHBSESLEVOU, (p.total_after).dphb), separator),
+           written_total(coalesce(total.CENASSESLEVOU, (p.total_after).cenas), separator),
+           written_total(coalesce(total.CENABBEZSLEVY, (p.total_before).cenab), separator),
+           written_total(coalesce(total.DPHABEZSLEVY, (p.total_before).dpha), separator),
+           written_total(coalesce(total.DPHBBEZSLEVY, (p.total_before).dphb), separator),
+           written_total(coalesce(total.CENASBEZSLEVY, (p.total_before).cenas), separator),
            date_text(d.DATUM + i.TRVANLIVOSTDNU)
     from unnest(fills) with ordinality f (DOBSID, SKLPID, SKLDID, DPHID, MNOZSTVI, SOURCEID, CENA, SLEVA, LINE)
     join DODAK d on d.ID = note

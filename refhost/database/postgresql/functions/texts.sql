@@ -2,17 +2,30 @@
 -- melvark.date_separator and melvark.date_order (DMY, MDY or YMD), which a connection makes at its start; without them
 -- ISO with a point. Null gives null.
 
--- Without needless zeros.
-create function number_text(value numeric) returns text
+create function decimal_separator() returns text
 language sql stable as $$
-    select replace(trim_scale(value)::text, '.', coalesce(nullif(current_setting('melvark.decimal_separator', true), ''), '.'))
+    select coalesce(nullif(current_setting('melvark.decimal_separator', true), ''), '.')
 $$;
 
--- With two decimals.
-create function total_text(value numeric) returns text
-language sql stable as $$
-    select replace(round(value, 2)::text, '.', coalesce(nullif(current_setting('melvark.decimal_separator', true), ''), '.'))
+-- Without needless zeros. Whoever writes many numbers asks for the separator once.
+create function written_number(value numeric, separator text) returns text
+language sql immutable as $$
+    select replace(trim_scale(value)::text, '.', separator)
 $$;
+
+create function number_text(value numeric) returns text
+language sql stable
+return written_number(value, decimal_separator());
+
+-- With two decimals.
+create function written_total(value numeric, separator text) returns text
+language sql immutable as $$
+    select replace(round(value, 2)::text, '.', separator)
+$$;
+
+create function total_text(value numeric) returns text
+language sql stable
+return written_total(value, decimal_separator());
 
 -- One expression without a subquery, like its neighbours: the planner then puts it into the query that asks for it.
 create function date_text(day date) returns text
