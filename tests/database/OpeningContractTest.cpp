@@ -10,14 +10,14 @@ namespace {
 
 class OpeningContract : public Contract {};
 
-/// A day counted from today as the database keeps it.
+/// A day counted from today in UTC, as the database keeps it.
 std::string dayFromToday(int days) {
     const std::time_t now =
         std::chrono::system_clock::to_time_t(std::chrono::system_clock::now() + std::chrono::days(days));
-    std::tm local{};
-    localtime_r(&now, &local);
+    std::tm utc{};
+    gmtime_r(&now, &utc);
     char text[16];
-    std::strftime(text, sizeof text, "%Y-%m-%d", &local);
+    std::strftime(text, sizeof text, "%Y-%m-%d", &utc);
     return text;
 }
 
@@ -44,6 +44,7 @@ TEST_P(OpeningContract, ARateIsValidOnItsFirstAndItsLastDay) {
     const std::string yesterday = dayFromToday(-1);
     const std::string today = dayFromToday(0);
     const std::string tomorrow = dayFromToday(1);
+    database->runScript("insert into GLOBALPARAM (SEKCE, NAZEV, HODNOTA) values ('FIRMA', 'CASOVEPASMO', 'UTC')");
     database->runScript("delete from DPH where NAZEV = '0 %'");
     database->runScript("insert into DPH (NAZEV, SAZBA, PLATIOD, PLATIDO) values ('1 %', '1', '2000-01-01', '" +
                         yesterday + "'), ('2 %', '2', '" + today + "', '" + today + "'), ('3 %', '3', '" + tomorrow +
