@@ -2,12 +2,14 @@
 -- by the groups' names, the item's name and its identifier.
 --
 -- Refusals: ML012 the document does not exist, ML021 the supplier does not exist.
+--
+-- Planned at each call, for a plan that is kept fits sources of usual length only.
 
 create function MELVARKEDITORDodObjGetPolozkyByDodCenik(
     a_DDOBIDMASTER integer default null,
     a_DODVID integer default null)
 returns setof order_row
-language plpgsql stable as $$
+language plpgsql stable set plan_cache_mode = force_custom_plan as $$
 begin
     perform refuse_unknown_order(a_DDOBIDMASTER);
 

@@ -2,12 +2,14 @@
 -- delivered in the main unit.
 --
 -- Refusals: ML012 the document does not exist, ML021 the note does not exist.
+--
+-- Planned at each call, for a plan that is kept fits sources of usual length only.
 
 create function MELVARKEDITORDodObjGetPolozkyByDodak(
     a_DDOBIDMASTER integer default null,
     a_DODKID integer default null)
 returns setof order_row
-language plpgsql stable as $$
+language plpgsql stable set plan_cache_mode = force_custom_plan as $$
 begin
     perform refuse_unknown_order(a_DDOBIDMASTER);
 

@@ -4,13 +4,15 @@
 --
 -- Refusals: ML012 the document does not exist, ML021 the supplier does not exist, ML070 the parameter is no number of
 -- months.
+--
+-- Planned at each call, for a plan that is kept fits sources of usual length only.
 
 create function MELVARKEDITORDodObjGetPolozkyByDodavky(
     a_DDOBIDMASTER integer default null,
     a_DODVID integer default null,
     a_PRENESMNOZSTVI boolean default null)
 returns setof order_row
-language plpgsql stable as $$
+language plpgsql stable set plan_cache_mode = force_custom_plan as $$
 begin
     perform refuse_unknown_order(a_DDOBIDMASTER);
 

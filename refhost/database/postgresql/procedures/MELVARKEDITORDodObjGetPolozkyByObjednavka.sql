@@ -5,12 +5,14 @@
 -- a_DDOBID is the source, null for the latest orders.
 --
 -- Refusals: ML012 the document does not exist, ML021 the source does not exist, ML027 it is the document itself.
+--
+-- Planned at each call, for a plan that is kept fits sources of usual length only.
 
 create function MELVARKEDITORDodObjGetPolozkyByObjednavka(
     a_DDOBIDMASTER integer default null,
     a_DDOBID integer default null)
 returns setof order_row
-language plpgsql stable as $$
+language plpgsql stable set plan_cache_mode = force_custom_plan as $$
 begin
     perform refuse_unknown_order(a_DDOBIDMASTER);
     perform refuse_own_order(a_DDOBIDMASTER, a_DDOBID);

@@ -2,6 +2,8 @@
 -- groups' names, the item's name and its identifier. A level that is left empty restricts nothing.
 --
 -- Refusals: ML012 the document does not exist; ML033, ML030, ML034 the choice of groups.
+--
+-- Planned at each call, for a plan that is kept fits sources of usual length only.
 
 create function MELVARKEDITORDodObjGetPolozkyBySkupSkladPol(
     a_DDOBIDMASTER integer default null,
@@ -9,7 +11,7 @@ create function MELVARKEDITORDodObjGetPolozkyBySkupSkladPol(
     a_SSP2ID integer default null,
     a_SSP3ID integer default null)
 returns setof order_row
-language plpgsql stable as $$
+language plpgsql stable set plan_cache_mode = force_custom_plan as $$
 begin
     perform refuse_unknown_order(a_DDOBIDMASTER);
 

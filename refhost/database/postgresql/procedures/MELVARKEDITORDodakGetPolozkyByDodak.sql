@@ -6,6 +6,8 @@
 -- a_DODKIDMASTER is the source, null for the template; a_DODKID the note that is edited.
 --
 -- Refusals: ML010 the note does not exist, ML021 the source does not exist, ML027 it is the note itself.
+--
+-- Planned at each call, for a plan that is kept fits sources of usual length only.
 
 create function MELVARKEDITORDodakGetPolozkyByDodak(
     a_DODKIDMASTER integer default null,
@@ -13,7 +15,7 @@ create function MELVARKEDITORDodakGetPolozkyByDodak(
     a_PRENESMNOZSTVI boolean default null,
     a_PRENESCENY boolean default null)
 returns setof note_row
-language plpgsql stable as $$
+language plpgsql stable set plan_cache_mode = force_custom_plan as $$
 begin
     perform refuse_unknown_note(a_DODKID);
     perform refuse_own_note(a_DODKID, a_DODKIDMASTER);

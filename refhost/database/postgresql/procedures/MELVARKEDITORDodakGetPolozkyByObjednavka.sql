@@ -3,10 +3,12 @@
 -- order, or, when he listed none, on the day of the note.
 --
 -- Refusals: ML010 the note does not exist, ML021 the order does not exist.
+--
+-- Planned at each call, for a plan that is kept fits sources of usual length only.
 
 create function MELVARKEDITORDodakGetPolozkyByObjednavka(a_DODKID integer default null, a_DDOBID integer default null)
 returns setof note_row
-language plpgsql stable as $$
+language plpgsql stable set plan_cache_mode = force_custom_plan as $$
 begin
     perform refuse_unknown_note(a_DODKID);
 
