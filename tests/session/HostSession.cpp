@@ -61,6 +61,11 @@ QStringList HostSession::withDatabase(const QStringList& arguments) const {
            arguments;
 }
 
+void HostSession::useDisplay(const QString& name) {
+    environment_.insert(QStringLiteral("DISPLAY"), name);
+    host_.setProcessEnvironment(environment_);
+}
+
 void HostSession::start(const QStringList& arguments) {
     host_.start(
         hostProgram(),
@@ -95,6 +100,7 @@ bool HostSession::isRunning() const {
 
 void HostSession::runTool(const QStringList& arguments) const {
     QProcess tool;
+    tool.setProcessEnvironment(environment_);
     tool.start(QStringLiteral("xdotool"), arguments);
     if (!tool.waitForFinished(c_LimitMs) || tool.exitCode() != 0) {
         fail(QStringLiteral("xdotool ") + arguments.join(u' ') + QStringLiteral(": ") +
@@ -161,6 +167,7 @@ void HostSession::waitForWindowWidth(int width) {
     const QByteArray wanted = "WIDTH=" + QByteArray::number(width) + '\n';
     const auto isSo = [&] {
         QProcess tool;
+        tool.setProcessEnvironment(environment_);
         tool.start(QStringLiteral("xdotool"),
                    {QStringLiteral("getactivewindow"), QStringLiteral("getwindowgeometry"), QStringLiteral("--shell")});
         tool.waitForFinished(c_LimitMs);
@@ -173,6 +180,7 @@ void HostSession::waitForWindowWidth(int width) {
 
 QStringList HostSession::visibleWindows() const {
     QProcess tool;
+    tool.setProcessEnvironment(environment_);
     tool.start(QStringLiteral("xdotool"),
                {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--pid"),
                 QString::number(host_.processId()), QStringLiteral("--name"), QString()});

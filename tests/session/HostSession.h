@@ -2,6 +2,7 @@
 
 #include <QPoint>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRect>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -25,6 +26,8 @@ public:
     /// Ends a host that is still running.
     ~HostSession();
 
+    /// Before the host starts: it and the keys and the pointer that drive it go to this display.
+    void useDisplay(const QString& name);
     /// Starts the host with further arguments, the trace on.
     void start(const QStringList& arguments);
     void startEditor(const QString& params, int document, const QStringList& arguments = {});
@@ -80,6 +83,7 @@ private:
     QTemporaryDir folder_;
     std::string database_;
     QString user_;
+    QProcessEnvironment environment_ = QProcessEnvironment::systemEnvironment();
     QStringList menu_; ///< The windows of the menu that was opened last.
     QProcess host_;
     std::string standardError_;

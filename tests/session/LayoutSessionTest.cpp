@@ -4,15 +4,18 @@
 #include "tests/database/ServerCompany.h"
 #include "tests/session/DeliveryNoteTrace.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/SecondDisplay.h"
 
 #include <QTest>
 
 #include <algorithm>
+#include <functional>
 #include <gmock/gmock.h>
 #include <regex>
 
 /// Column layouts by name, and the window's place, as clerks use them: real pointer and keys, one or two processes on
-/// one database. Places in the window are those of its design size of 790 × 400, whose columns begin so:
+/// one database, on one display or on two. Places in the window are those of its design size of 790 × 400, whose
+/// columns begin so:
 ///
 ///   indicator 10, SKUPSPOL1 to SKUPSPOL3, SKLADPOL, SKLAD 100 each, MNOZSTVI 55, DPH 60, SLEVA 55
 namespace {
@@ -53,6 +56,7 @@ const QStringList c_Save = {QStringLiteral("Up"), QStringLiteral("Up"), QStringL
                             QStringLiteral("Return")};
 const QStringList c_Rename = {QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Up"),
                               QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Return")};
+const QStringList c_Restore = {QStringLiteral("Up"), QStringLiteral("Return")};
 const QStringList c_FirstSaved = {QStringLiteral("Down"), QStringLiteral("Return")};
 
 /// The document in a traced call.
@@ -139,10 +143,11 @@ protected:
     }
 
     /// Stores a shared layout beforehand, by the command line.
-    static void keepLayout(const HostSession& session, const QString& name) {
+    static void keepLayout(const HostSession& session, const QString& name,
+                           const QString& document = QStringLiteral("<settings/>")) {
         session.ask({QStringLiteral("--call"), QStringLiteral("MELVARKEDITORNASTAVENIUlozNove"),
                      QStringLiteral("a_NAZEV=") + name, QStringLiteral("a_TYPEDITACE=3"), QStringLiteral("a_SDILENE=1"),
-                     QStringLiteral("a_DATA=<settings/>")});
+                     QStringLiteral("a_DATA=") + document});
     }
 
     /// Fills the dialog of the name, replacing what stands there, and confirms it.
@@ -246,39 +251,56 @@ TEST_P(LayoutSession, AShapedLayoutIsFoundTheNextDayAndPickedByAColleague) {
         << "the place is each clerk's own";
 }
 
-TEST_P(LayoutSession, WhatIsRenamedAndDeletedWhileAColleagueHasTheListIsToldWhenHePicksIt) {
+/// The colleague's menu is open while the owner works at another machine.
+TEST_P(LayoutSession, WhatTheOwnerDoesWhileAColleagueHasTheMenuOpenIsMetWhenHePicks) {
+    const SecondDisplay elsewhere;
     HostSession owner(addressFor("novakova"));
     keepLayout(owner, QStringLiteral("Druhý"));
     keepLayout(owner, QStringLiteral("První"));
     HostSession colleague(addressFor("dvorak"), QStringLiteral("dvorak"));
-    openEditor(colleague); // lists both, that of the owner first by name
+    colleague.useDisplay(elsewhere.name());
+    openEditor(colleague); // lists both, the one that was kept first above
     openEditor(owner);     // with the one that was kept last in force
-
     owner.pickFromMenu(menuButton(), c_Left, c_FirstSaved);
     owner.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
-    owner.pickFromMenu(menuButton(), c_Left, c_Rename);
-    nameIt(owner, QStringLiteral("Jinak"));
-    owner.waitForTrace("NASTAVENIPremenuj");
     owner.waitForWindow(c_Title);
-    colleague.waitForWindow(c_Title);
-    colleague.pickFromMenu(menuButton(), c_Left, c_FirstSaved); // still under its old name
+    const auto pickFirst = [&](const std::function<void()>& meanwhile) {
+        colleague.waitForWindow(c_Title);
+        colleague.openMenuAt(menuButton(), c_Left);
+        meanwhile();
+        colleague.press(c_FirstSaved);
+    };
+
+    // Overwritten: the colleague gets what is stored now, as he would save it.
+    pickFirst([&] {
+        owner.pickFromMenu(header(40), c_Right,
+                           {QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")});
+        owner.pickFromMenu(menuButton(), c_Left, c_Save);
+        owner.waitForTrace(R"("MELVARKEDITORNASTAVENIUloz")");
+    });
     colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
-
-    owner.waitForWindow(c_Title);
-    owner.pickFromMenu(menuButton(), c_Left, c_Delete);
-    owner.waitForWindow(c_QuestionTitle);
-    owner.press({QStringLiteral("alt+a")});
-    owner.waitForTrace(R"("MELVARKEDITORNASTAVENISmaz")");
-    owner.waitForWindow(c_Title);
     colleague.waitForWindow(c_Title);
-    colleague.pickFromMenu(menuButton(), c_Left, c_FirstSaved);
-    readError(colleague);
-    colleague.waitForWindow(c_Title);
+    colleague.pickFromMenu(menuButton(), c_Left, c_Save);
+    readError(colleague); // it is not his
+    EXPECT_THAT(columnIn(sentWith(owner, "Uloz"), "SKUPSPOL1"), HasSubstr("<visible>0</visible>"));
+    EXPECT_EQ(sentWith(colleague, "Uloz"), sentWith(owner, "Uloz"));
 
-    // The other one goes while the menu is open.
-    colleague.openMenuAt(menuButton(), c_Left);
-    owner.ask({QStringLiteral("--call"), QStringLiteral("MELVARKEDITORNASTAVENISmaz"), QStringLiteral("a_ID=2")});
-    colleague.press({QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")});
+    // Renamed: he picks it under its old name.
+    pickFirst([&] {
+        owner.pickFromMenu(menuButton(), c_Left, c_Rename);
+        nameIt(owner, QStringLiteral("Jinak"));
+        owner.waitForTrace("NASTAVENIPremenuj");
+        owner.waitForWindow(c_Title);
+    });
+    colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")", 2);
+
+    // Deleted: he is told so, and goes on.
+    pickFirst([&] {
+        owner.pickFromMenu(menuButton(), c_Left, c_Delete);
+        owner.waitForWindow(c_QuestionTitle);
+        owner.press({QStringLiteral("alt+a")});
+        owner.waitForTrace(R"("MELVARKEDITORNASTAVENISmaz")");
+    });
     readError(colleague);
     colleague.waitForWindow(c_Title);
     colleague.type(QStringLiteral("3"));
@@ -290,10 +312,46 @@ TEST_P(LayoutSession, WhatIsRenamedAndDeletedWhileAColleagueHasTheListIsToldWhen
         ElementsAre(HasSubstr(R"("params":[["a_ID",1],["a_NAZEV","Jinak"],["a_KOMENTAR",""],["a_SDILENE",true]])")));
     EXPECT_THAT(callsOf(owner, "Smaz"), ElementsAre(HasSubstr(idParam(1))));
     EXPECT_THAT(owner.trace(), Contains(HasSubstr(R"({"box":"Smazat zvolené nastavení?","flags":36,"result":6})")));
-    for (const int id : {1, 2}) {
-        EXPECT_THAT(colleague.trace(), Contains(shownError("Nastavení s identifikátorem " + std::to_string(id) +
-                                                           " neexistuje nebo není sdílené. Vyberte jiné.")));
+    EXPECT_THAT(callsOf(colleague, "Nacti"),
+                ElementsAre(HasSubstr(idParam(1)), HasSubstr(idParam(1)), HasSubstr(idParam(1))));
+    EXPECT_THAT(colleague.trace(),
+                Contains(shownError("Nastavení s identifikátorem 1 neexistuje nebo není sdílené. Vyberte jiné.")));
+}
+
+TEST_P(LayoutSession, TheBuiltInLayoutIsRestoredAndFoundTheNextDay) {
+    HostSession first(addressFor("novakova"));
+    keepLayout(first, QStringLiteral("Moje"),
+               QStringLiteral("<settings><prepocet>0</prepocet><columns><column><name>MNOZSTVI</name>"
+                              "<caption>Kusů</caption></column></columns></settings>"));
+    openEditor(first);
+    first.pickFromMenu(menuButton(), c_Left, c_Restore);
+    first.waitForWindow(c_QuestionTitle);
+    first.press({QStringLiteral("alt+n")}); // not yet
+    first.waitForWindow(c_Title);
+    first.pickFromMenu(menuButton(), c_Left, c_Restore);
+    first.waitForWindow(c_QuestionTitle);
+    first.press({QStringLiteral("alt+a")});
+    first.waitForTrace("NASTAVENISmazDef");
+    closeEditor(first);
+    EXPECT_THAT(callsOf(first, "SmazDef"), ElementsAre(HasSubstr(R"("params":[["a_TYPEDITACE",3]])")));
+    for (const char* const answer : {"7", "6"}) {
+        EXPECT_THAT(first.trace(), Contains(HasSubstr(R"({"box":"Obnovit původní nastavení?","flags":36,"result":)" +
+                                                      std::string(answer))));
     }
+
+    // What the next one would save is the built-in layout; the restored setting itself is still listed.
+    HostSession next(addressFor("novakova"));
+    openEditor(next);
+    next.pickFromMenu(menuButton(), c_Left, c_SaveAsNew);
+    nameIt(next, QStringLiteral("Vestavěné"));
+    next.waitForTrace("NASTAVENIGetList", 2);
+    closeEditor(next);
+    const std::string layout = sentWith(next, "UlozNove");
+    EXPECT_THAT(columnsIn(layout, 7),
+                ElementsAre("DOBSID", "SKUPSPOL1", "SKUPSPOL2", "SKUPSPOL3", "SKLADPOL", "SKLAD", "MNOZSTVI"));
+    EXPECT_THAT(columnIn(layout, "MNOZSTVI"), HasSubstr("<caption>Množství</caption>"));
+    EXPECT_THAT(layout, HasSubstr("<prepocet>1</prepocet>"));
+    EXPECT_THAT(callsOf(next, "GetList"), ElementsAre(HasSubstr(R"("rows":1)"), HasSubstr(R"("rows":2)")));
 }
 
 TEST_P(LayoutSession, ATakenNameIsToldAndAskedForAgainWithItsTexts) {
@@ -364,6 +422,27 @@ TEST(LayoutSessionLink, ALinkLostWhileThePlaceIsStoredIsToldAndTheWindowCloses) 
     session.press({QStringLiteral("Return")});
     EXPECT_EQ(session.finish(), 1);
     EXPECT_THAT(session.trace(), Contains(HasSubstr(R"({"error":"Spojení s databází)")));
+}
+
+TEST(LayoutSessionLink, ALinkLostAfterOkIsToldAndTheWindowClosesWithItsResult) {
+    const std::string url = refhost::newDatabaseUrl(Engine::PostgreSQL);
+    const auto owner = refhost::openAs(url, "novakova");
+    refhost::addContractCompany(*owner);
+    owner->runScript("create or replace function MELVARKEDITORNASTAVENIUlozNastaveniOkna("
+                     "a_TYPEDITACE integer default null, a_DATA text default null) returns void language sql as $$ "
+                     "select pg_terminate_backend(pg_backend_pid()) $$");
+    HostSession session(url + " user=novakova");
+    session.startEditor(QStringLiteral("DODAK,SABLONA"), 2);
+    session.waitForWindow(c_Title);
+    session.waitForTrace("NactiNastaveniOkna");
+    session.press({QStringLiteral("ctrl+Return")});
+    session.waitForWindow(c_ErrorTitle);
+    session.press({QStringLiteral("Return")});
+    EXPECT_EQ(session.finish(), 0) << "the note was saved";
+    const Lines trace = session.trace();
+    EXPECT_EQ(std::ranges::count_if(trace, [](const auto& line) { return line.find("TempUloz") != line.npos; }), 1);
+    EXPECT_THAT(trace, Contains(HasSubstr(R"({"error":"Spojení s databází)")));
+    EXPECT_FALSE(storedLines(session).empty());
 }
 
 } // namespace
