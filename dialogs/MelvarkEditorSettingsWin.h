@@ -4,7 +4,8 @@
 #include "host/Types.h"
 
 /// The modal dialog in which the user names a column setting, describes it and shares it with other users. Whether a
-/// name is taken is the store's business; here it must only not be blank.
+/// name is taken is the store's business; here it must only not be blank. It has one size: 305 × 181 pixels, or what
+/// its texts need in the user's font.
 class TSettingsBox : public TPropertyBox {
     Q_OBJECT
 
