@@ -163,15 +163,19 @@ void ColumnMenu::MoveAwaited(int from, int to) {
 }
 
 void ColumnMenu::CaptureWidths() {
+    bool isTaken = false;
     for (int col = 1; col < FEditing.Grid.ColCount(); ++col) {
         RColumn* const column = FEditing.ColumnAt(col);
         const int width = FEditing.Grid.ColWidths(col);
         if (column && width != ShownWidth(*column)) {
             TakeWidth(*column, width);
+            isTaken = true;
         }
     }
     FKeeper.LayEditor();
-    FKeeper.LayOutAwaited();
+    if (isTaken) { // a mere click on the header is no leaving of the cell
+        FKeeper.LayOutAwaited();
+    }
 }
 
 void ColumnMenu::TakeWidth(RColumn& column, int width) {

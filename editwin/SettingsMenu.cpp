@@ -159,6 +159,7 @@ void SettingsMenu::SaveAsNew() {
     if (!AskAndStore(box, [this](const SettingInfo& info) { FSettings.SaveAsNew(info, Document()); })) {
         return;
     }
+    FSettingsItem = nullptr; // that of the former setting, which the list may keep
     LoadList();
     NameItemInForce(box.GetNazev());
 }

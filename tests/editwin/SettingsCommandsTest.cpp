@@ -1,5 +1,6 @@
 #include "dialogs/MelvarkEditorSettingsWin.h"
 #include "editwin/AskingCheckBox.h"
+#include "editwin/CellWriter.h"
 #include "host/Exceptions.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/StringGrid.h"
@@ -423,9 +424,14 @@ TEST_F(DeletedPicture, AnOpenValueGoesToTheColumnThatIsPictured) {
     type(QStringLiteral("77"));
     deleteSetting();
     EXPECT_EQ(sharedEdit().text(), QStringLiteral("77")) << "the editor stays open";
+    log.answer = [&] {
+        form->Cells().WriteDerived(7, 1, "8"); // a count that follows from the price
+        return true;
+    };
     ASSERT_TRUE(form->HideEditor());
     EXPECT_EQ(stored(6, 1), "77") << "the price";
     EXPECT_EQ(stored(8, 1), "Matice");
+    EXPECT_EQ(rowText(2), "77||Matice|8||vedlejší|B2||y") << "as pictured";
     EXPECT_EQ(log.lines.back(), "1,2=77");
 }
 
@@ -533,6 +539,36 @@ TEST_F(DeletedPicture, ADraggedWidthIsTheOnlyOneThatIsKept) {
     EXPECT_EQ(grid().ColWidths(c_PriceCol), 80) << "66 was the deleted layout's";
 }
 
+TEST_F(DeletedPicture, ADragOverARefusedValueIsReportedOnce) {
+    start();
+    choose(item(3));
+    openCell(1, 2);
+    type(QStringLiteral("x"));
+    deleteSetting();
+    grid().horizontalHeader()->moveSection(3, 2);
+    Q_EMIT grid().MouseUp(3, 0); // the button's release follows the drag
+    settle();
+    EXPECT_THAT(manager.boxes(), ElementsAre("36: Smazat zvolené nastavení?", "16: Hodnota x není desetinné číslo"));
+    EXPECT_EQ(rowText(0), "Kč|Sleva|Počet|Název|Datum|Sklad|Kód|Poznámka|Typ") << "the picture stays";
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("x"));
+}
+
+TEST_F(DeletedPicture, AMereClickOnTheHeaderOrBesideTheCellsIsNoLeaving) {
+    start();
+    choose(item(3));
+    openCell(1, 2);
+    type(QStringLiteral("77"));
+    deleteSetting();
+    for (const int row : {0, -1}) {
+        Q_EMIT grid().MouseUp(4, row);
+        settle();
+        EXPECT_EQ(openCellText(), "1,2");
+        EXPECT_EQ(sharedEdit().text(), QStringLiteral("77"));
+        EXPECT_EQ(rowText(0), "Kč|Sleva|Název|Počet|Datum|Sklad|Kód|Poznámka|Typ");
+        EXPECT_THAT(log.lines, IsEmpty());
+    }
+}
+
 TEST_F(DeletedPicture, AnotherChoiceReplacesIt) {
     start();
     choose(item(3));
@@ -632,6 +668,19 @@ TEST_F(SettingsCommands, ADefaultWithTheNumberZeroThatIsNotListedHasNoItem) {
     EXPECT_EQ(form->SettingsItem(), nullptr) << "no fixed item stands for it";
 }
 
+TEST_F(SettingsCommands, ANewSettingThatIsNotListedLeavesTheFormerItemItsName) {
+    list({{AnsiString("Nula"), std::int64_t{0}}});
+    start();
+    choose(item(0));
+    const ModalDriver driver(QStringLiteral("SettingsBox"), name("Příjem"));
+    choose(form->UlozitJakoNoveNastaveni);
+    EXPECT_EQ(form->SettingsId(), 12);
+    EXPECT_EQ(form->SettingsItem(), nullptr);
+    for (const QAction* const each : form->SettingsPopupMenu->actions()) {
+        EXPECT_NE(each->text(), QStringLiteral("Příjem"));
+    }
+}
+
 TEST_F(SettingsCommands, ARecordWithTheNumberZeroCountsAsFixed) {
     list({{AnsiString("Nula"), std::int64_t{0}}, {AnsiString("Moje"), std::int64_t{3}}});
     start();
@@ -642,4 +691,8 @@ TEST_F(SettingsCommands, ARecordWithTheNumberZeroCountsAsFixed) {
     choose(item(0));
     EXPECT_EQ(form->SettingsId(), 0);
     EXPECT_EQ(form->MenuBtn->Caption(), "Nula") << "the caption of an item that the list no longer holds";
+    manager.boxAnswers = {c_ResultYes};
+    choose(form->ObnovVychoziNastaveni);
+    EXPECT_EQ(form->SettingsId(), -1);
+    EXPECT_TRUE(item(0)->isChecked()) << "unchecked no more than another fixed item";
 }

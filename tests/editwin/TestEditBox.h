@@ -45,6 +45,7 @@ public:
     TestEditBox(TLibraryManager* manager, const std::vector<RColumn>& columns, std::int32_t editType = 30,
                 std::int32_t typeOffset = 2);
 
+    using TEditBox::Cells;
     using TEditBox::SetOnIsEditable;
     using TEditBox::SetOnSaveData;
     using TEditBox::SetOnSaveDataToTempFile;
