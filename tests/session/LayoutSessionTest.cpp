@@ -57,6 +57,9 @@ const QStringList c_Save = {QStringLiteral("Up"), QStringLiteral("Up"), QStringL
 const QStringList c_Rename = {QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Up"),
                               QStringLiteral("Up"), QStringLiteral("Up"), QStringLiteral("Return")};
 const QStringList c_Restore = {QStringLiteral("Up"), QStringLiteral("Return")};
+/// In the dialog of the name, from its name on.
+const QStringList c_TurnSharing = {QStringLiteral("Tab"), QStringLiteral("Tab"), QStringLiteral("space"),
+                                   QStringLiteral("Return")};
 const QStringList c_FirstSaved = {QStringLiteral("Down"), QStringLiteral("Return")};
 
 /// The document in a traced call.
@@ -281,7 +284,13 @@ TEST_P(LayoutSession, WhatTheOwnerDoesWhileAColleagueHasTheMenuOpenIsMetWhenHePi
     colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
     colleague.waitForWindow(c_Title);
     colleague.pickFromMenu(menuButton(), c_Left, c_Save);
-    readError(colleague); // it is not his
+    readError(colleague); // it is not his, nor his to rename
+    colleague.waitForWindow(c_Title);
+    colleague.pickFromMenu(menuButton(), c_Left, c_Rename);
+    nameIt(colleague, QStringLiteral("Moje"));
+    readError(colleague);
+    colleague.waitForWindow(c_LayoutTitle);
+    colleague.press({QStringLiteral("Escape")});
     EXPECT_THAT(columnIn(sentWith(owner, "Uloz"), "SKUPSPOL1"), HasSubstr("<visible>0</visible>"));
     EXPECT_EQ(sentWith(colleague, "Uloz"), sentWith(owner, "Uloz"));
 
@@ -294,7 +303,22 @@ TEST_P(LayoutSession, WhatTheOwnerDoesWhileAColleagueHasTheMenuOpenIsMetWhenHePi
     });
     colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")", 2);
 
-    // Deleted: he is told so, and goes on.
+    // No longer shared: he is told so. Shared again: he gets it.
+    for (const int count : {2, 3}) {
+        pickFirst([&] {
+            owner.pickFromMenu(menuButton(), c_Left, c_Rename);
+            owner.waitForWindow(c_LayoutTitle);
+            owner.press(c_TurnSharing);
+            owner.waitForTrace("NASTAVENIPremenuj", count);
+            owner.waitForWindow(c_Title);
+        });
+        if (count == 2) {
+            readError(colleague);
+        }
+        colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")", count + 1);
+    }
+
+    // Deleted: he is told so. A new one is shared: he finds it when he next opens an editor.
     pickFirst([&] {
         owner.pickFromMenu(menuButton(), c_Left, c_Delete);
         owner.waitForWindow(c_QuestionTitle);
@@ -303,19 +327,40 @@ TEST_P(LayoutSession, WhatTheOwnerDoesWhileAColleagueHasTheMenuOpenIsMetWhenHePi
     });
     readError(colleague);
     colleague.waitForWindow(c_Title);
-    colleague.type(QStringLiteral("3"));
+    colleague.openMenuAt(menuButton(), c_Left);
+    owner.waitForWindow(c_Title);
+    owner.pickFromMenu(menuButton(), c_Left, c_SaveAsNew);
+    owner.waitForWindow(c_LayoutTitle);
+    owner.type(QStringLiteral("Akce"));
+    owner.press(c_TurnSharing);
+    owner.waitForTrace("NASTAVENIGetList", 2);
+    colleague.press({QStringLiteral("Escape")});
     closeEditor(colleague);
     closeEditor(owner);
+    HostSession later(addressFor("dvorak"), QStringLiteral("dvorak"));
+    later.useDisplay(elsewhere.name());
+    openEditor(later);
+    later.pickFromMenu(menuButton(), c_Left, c_FirstSaved);
+    later.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
+    closeEditor(later);
+    EXPECT_THAT(callsOf(later, "Nacti"), ElementsAre(HasSubstr(idParam(3))));
 
-    EXPECT_THAT(
-        callsOf(owner, "Premenuj"),
-        ElementsAre(HasSubstr(R"("params":[["a_ID",1],["a_NAZEV","Jinak"],["a_KOMENTAR",""],["a_SDILENE",true]])")));
+    const auto renamed = [](const char* shared) {
+        return HasSubstr(R"("params":[["a_ID",1],["a_NAZEV","Jinak"],["a_KOMENTAR",""],["a_SDILENE",)" +
+                         std::string(shared) + "]]");
+    };
+    EXPECT_THAT(callsOf(owner, "Premenuj"), ElementsAre(renamed("true"), renamed("false"), renamed("true")));
+    EXPECT_THAT(callsOf(owner, "UlozNove"), ElementsAre(HasSubstr(R"(["a_NAZEV","Akce"],["a_TYPEDITACE",3],)"
+                                                                  R"(["a_SDILENE",true])")));
+    EXPECT_THAT(callsOf(colleague, "Premenuj"), ElementsAre(HasSubstr(R"(["a_NAZEV","Moje"])")));
+    EXPECT_THAT(colleague.trace(),
+                Contains(shownError("Nastavení „Druhý“ patří jinému uživateli. Uložte si je jako nové.")).Times(2));
     EXPECT_THAT(callsOf(owner, "Smaz"), ElementsAre(HasSubstr(idParam(1))));
     EXPECT_THAT(owner.trace(), Contains(HasSubstr(R"({"box":"Smazat zvolené nastavení?","flags":36,"result":6})")));
-    EXPECT_THAT(callsOf(colleague, "Nacti"),
-                ElementsAre(HasSubstr(idParam(1)), HasSubstr(idParam(1)), HasSubstr(idParam(1))));
-    EXPECT_THAT(colleague.trace(),
-                Contains(shownError("Nastavení s identifikátorem 1 neexistuje nebo není sdílené. Vyberte jiné.")));
+    EXPECT_THAT(callsOf(colleague, "Nacti"), testing::AllOf(testing::SizeIs(5), testing::Each(HasSubstr(idParam(1)))));
+    EXPECT_THAT(
+        colleague.trace(),
+        Contains(shownError("Nastavení s identifikátorem 1 neexistuje nebo není sdílené. Vyberte jiné.")).Times(2));
 }
 
 TEST_P(LayoutSession, TheBuiltInLayoutIsRestoredAndFoundTheNextDay) {
