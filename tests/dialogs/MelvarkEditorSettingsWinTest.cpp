@@ -40,8 +40,8 @@ TEST_F(SettingsBox, GivesBackWhatTheCallerSetAndWhatTheUserTyped) {
 
 TEST_F(SettingsBox, HasOneSize) {
     EXPECT_EQ(box.minimumSize(), box.maximumSize());
-    EXPECT_GE(box.findChild<QPlainTextEdit*>(QStringLiteral("memKomentar"))->minimumHeight(), 89);
-    EXPECT_GE(box.findChild<QLineEdit*>(QStringLiteral("edtNazev"))->minimumWidth(), 205);
+    EXPECT_EQ(box.findChild<QPlainTextEdit*>(QStringLiteral("memKomentar"))->minimumHeight(), 89);
+    EXPECT_EQ(box.findChild<QLineEdit*>(QStringLiteral("edtNazev"))->minimumWidth(), 205);
 }
 
 } // namespace

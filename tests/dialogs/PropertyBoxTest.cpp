@@ -4,6 +4,7 @@
 #include "tests/widgets/ModalDriver.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -192,9 +193,32 @@ TEST_P(PropertyBox, CancelAndTheCloseBoxAskNothing) {
     EXPECT_THAT(manager.boxes(), IsEmpty());
 }
 
-TEST_P(PropertyBox, IsNeverSmallerThanItsLeastSize) {
-    EXPECT_GE(box->minimumWidth(), GetParam().least.width());
-    EXPECT_GE(box->minimumHeight(), GetParam().least.height());
+TEST_P(PropertyBox, OpensAtItsLeastSizeOrWhatItsTextsNeed) {
+    showAnd([&] {
+        const QSize wanted = GetParam().least.expandedTo(box->layout()->totalMinimumSize());
+        EXPECT_EQ(box->size(), wanted);
+        EXPECT_EQ(box->minimumSize(), wanted);
+    });
+}
+
+TEST_P(PropertyBox, WithTheSmallestTextsItHasItsDesignSize) {
+    box->setFont(QFont(QStringLiteral("DejaVu Sans"), 4));
+    for (QWidget* const control : box->findChildren<QWidget*>()) {
+        control->setFont(box->font());
+    }
+    box->layout()->setContentsMargins(1, 1, 1, 1);
+    box->layout()->setSpacing(1);
+    showAnd([&] { EXPECT_EQ(box->minimumSize(), GetParam().least); });
+}
+
+TEST_P(PropertyBox, TheMemoMayBeEmpty) {
+    EXPECT_EQ(showAnd([&] {
+                  edit->setText(QStringLiteral("Množství"));
+                  memo->clear();
+                  button(QStringLiteral("OkBtn"))->click();
+              }),
+              c_ResultOk);
+    EXPECT_THAT(manager.boxes(), IsEmpty());
 }
 
 TEST_P(PropertyBox, EachTextIsLabelled) {

@@ -3,8 +3,10 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTest>
 
 #include <gmock/gmock.h>
+#include <map>
 
 class WindowPlacement : public EditBoxTest {
 protected:
@@ -117,6 +119,34 @@ TEST_F(WindowPlacement, ClosingStoresTheRectangleUnderTheEditTypeAlone) {
     EXPECT_THAT(line, testing::StartsWith("MELVARKEDITORNASTAVENIUlozNastaveniOkna(a_TYPEDITACE=30, a_DATA="));
     EXPECT_THAT(line, testing::HasSubstr("<window><left>50</left><top>60</top><width>1000</width><height>600</height>"
                                          "<maximized>0</maximized></window>"));
+}
+
+TEST_F(WindowPlacement, TwoEditorsOfOneTypeThatDifferInTheOffsetShareThePlace) {
+    std::map<std::int64_t, AnsiString> kept;
+    host.connection.procedure("MELVARKEDITORNASTAVENIUlozNastaveniOkna").answers([&](const TProcedureCall& call) {
+        kept[std::get<std::int64_t>(call.Params.at(0).Value)] = std::get<AnsiString>(call.Params.at(1).Value);
+        return TCallResult();
+    });
+    host.connection.procedure("MELVARKEDITORNASTAVENINactiNastaveniOkna").answers([&](const TProcedureCall& call) {
+        const auto found = kept.find(std::get<std::int64_t>(call.Params.at(0).Value));
+        TCallResult result;
+        result.Sets = {{{"DATA"}, {{found == kept.end() ? TDbValue() : TDbValue(found->second)}}}};
+        return result;
+    });
+    const auto use = [&](int editType, int offset) {
+        form = std::make_unique<TestEditBox>(&manager, testColumns(log), editType, offset);
+        form->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    };
+    use(30, 2);
+    form->setGeometry(50, 60, 1000, 600);
+    settle();
+    form->close();
+    use(30, 5);
+    EXPECT_EQ(form->geometry(), QRect(50, 60, 1000, 600));
+    form->close();
+    use(31, 2);
+    EXPECT_EQ(form->geometry(), centred()) << "another type";
 }
 
 // The window manager's answers take a maximised window through other states before it is down: how many, and with which
