@@ -10,8 +10,8 @@
 namespace benchmark {
 
 /// The floor of the editors' work: the same procedures with the same parameters, prepared once, each call in a
-/// transaction of its own but for the rows of a save, by the bare database library, which hands out each text that comes
-/// and keeps none.
+/// transaction of its own but for the rows of a save, by the bare database library, which hands out each text that
+/// comes and keeps none.
 class BareCalls {
 public:
     virtual ~BareCalls() = default;
