@@ -91,7 +91,9 @@ void useOrderEditor(TranslatingHost& host, TLibraryManager& manager) {
 void useAutosave() {
     for (const int error : {ENOSPC, EACCES, ENOENT, EIO}) {
         melvark::AutosaveRefused(error, "x");
+        melvark::AutosaveUnread(error, "x");
     }
+    melvark::AutosaveOverUnread("x");
     melvark::AutosaveForeign("x");
     melvark::AutosaveTooLarge();
     melvark::UnsavedWorkIsUnreadable();
