@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t c_HelpColumn = 44;
 constexpr const char* c_Name = "melvark-dbcheck";
-constexpr const char* c_Purpose = "Checks whether a database fits Melvark. Nothing is written.";
+constexpr const char* c_Purpose = "Checks whether a database fits Melvark. Without --exercise nothing is written.";
 
 /// Declares the options to the parser, which writes what it finds into the result.
 void declare(CLI::App& app, CheckCommandLine& result) {
@@ -29,6 +29,16 @@ void declare(CLI::App& app, CheckCommandLine& result) {
     app.add_option("--language", result.language, "the language of the findings")
         ->check(CLI::IsMember({"cs", "en"}))
         ->option_text("cs | en");
+    CLI::Option* const document =
+        app.add_option("--document", result.document, "the document that the trial writes to")->option_text("ID");
+    CLI::Option* const trial =
+        app.add_option("--exercise", result.screen,
+                       "tries the procedures on an open document, after a\nquestion, and lists what it wrote")
+            ->check(CLI::IsMember({"DODAK", "DODOBJ", "DODOBJVZOR"}))
+            ->option_text("SCREEN --document ID")
+            ->needs(document);
+    document->needs(trial);
+    app.add_flag("--yes", result.isConfirmed, "does not ask before the trial")->needs(trial);
     app.add_flag("--json", result.json, "prints one JSON object");
     app.add_flag("--help", result.help, "prints this text");
 }

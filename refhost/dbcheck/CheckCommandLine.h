@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,9 @@ struct CheckCommandLine {
     std::string locale = "cs_CZ";
     std::string language = "cs";
     std::string procedures; ///< A folder whose scripts replace procedures of the embedded engine; empty for none.
+    std::string screen;     ///< Of the document on which the procedures are tried; empty when they are not.
+    std::int32_t document = 0;
+    bool isConfirmed = false; ///< The trial is not asked about.
     bool json = false;
     bool help = false;
 };

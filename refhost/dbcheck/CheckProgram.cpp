@@ -1,5 +1,6 @@
 #include "refhost/dbcheck/CheckProgram.h"
 
+#include "host/AsciiCase.h"
 #include "refhost/CompanyDatabase.h"
 #include "refhost/ErrorDisplay.h"
 #include "refhost/Languages.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <istream>
 #include <ostream>
 
 namespace refhost {
@@ -35,6 +37,63 @@ std::string labelOf(const CheckCommandLine& commandLine) {
     return databaseLabel(host);
 }
 
+constexpr HostText c_Question{"MELVARKHOST\\DBCHECK\\QUESTION",
+                              "Zkouška přidá do dokladu %1 řádky, které v něm zůstanou. Pokračovat? [a/n] "};
+constexpr HostText c_Yes{"MELVARKHOST\\DBCHECK\\YES", "a"};
+constexpr HostText c_Declined{"MELVARKHOST\\DBCHECK\\DECLINED", "Zkouška byla odmítnuta, databáze se nezkoušela."};
+constexpr HostText c_NoItem{"MELVARKHOST\\DBCHECK\\NOITEM",
+                            "Doklad ani jeho šablona nemají řádek, který by šlo uložit znovu. Zvolte jiný doklad."};
+constexpr HostText c_MendFirst{"MELVARKHOST\\DBCHECK\\MENDFIRST", "Zkouška neproběhla. Nejprve opravte nálezy."};
+
+bool isConfirmed(const CheckCommandLine& commandLine, const CheckStreams& streams, const Languages& languages) {
+    if (commandLine.isConfirmed) {
+        return true;
+    }
+    const QString document = QString::fromStdString(commandLine.screen + " " + std::to_string(commandLine.document));
+    streams.errors << languages.label(c_Question).arg(document).toStdString() << std::flush;
+    std::string answer;
+    std::getline(streams.input, answer);
+    return melvark::LowerAscii(answer) == languages.text(c_Yes);
+}
+
+/// False, with the reason on the errors, when they were not tried.
+bool tryProcedures(const CheckCommandLine& commandLine, const CheckStreams& streams, const Languages& languages,
+                   CheckReport& report) {
+    if (!report.findings.empty()) {
+        streams.errors << languages.text(c_MendFirst) << std::endl;
+        return true; // that it does not fit is known
+    }
+    if (!isConfirmed(commandLine, streams, languages)) {
+        streams.errors << languages.text(c_Declined) << std::endl;
+        return false;
+    }
+    const TFormatSettings settings = formatSettingsOf(commandLine.locale);
+    const auto open = [&] {
+        auto database = openDatabase(commandLine.database, userOf(commandLine), settings, OpenMode::Existing);
+        if (!commandLine.procedures.empty()) {
+            database->useProcedures(commandLine.procedures);
+        }
+        return database;
+    };
+    const auto first = open();
+    const auto second = open();
+    ExerciseOutcome outcome;
+    const auto take = [&] {
+        report.findings = outcome.Found;
+        report.written = outcome.Left;
+    };
+    report.isExercised = true;
+    try {
+        exercise(contract(), *exerciseKind(commandLine.screen), commandLine.document, settings, *first, *second,
+                 outcome);
+    } catch (...) {
+        take();
+        throw;
+    }
+    take();
+    return true;
+}
+
 } // namespace
 
 Findings inspect(const CheckCommandLine& commandLine) {
@@ -55,15 +114,24 @@ Findings inspect(const CheckCommandLine& commandLine) {
 
 int runCheck(const CheckCommandLine& commandLine, const CheckStreams& streams) {
     const Languages languages(commandLine.language);
+    CheckReport report{labelOf(commandLine), {}, false, {}, false};
     try {
-        const CheckReport report{labelOf(commandLine), inspect(commandLine)};
-        streams.output << (commandLine.json ? reportJson(report, languages) : reportText(report, languages))
-                       << std::flush;
-        return report.findings.empty() ? Fits : DoesNotFit;
+        report.findings = inspect(commandLine);
+        report.isComplete = commandLine.screen.empty() || tryProcedures(commandLine, streams, languages, report);
+    } catch (const NothingToSave&) {
+        streams.errors << languages.text(c_NoItem) << std::endl;
     } catch (...) {
         StreamErrorDisplay(streams.errors).show(describeError(std::current_exception(), languages));
+    }
+    // What was found and written before the check broke off is told all the same.
+    if (report.isComplete || !report.findings.empty() || !report.written.empty()) {
+        streams.output << (commandLine.json ? reportJson(report, languages) : reportText(report, languages))
+                       << std::flush;
+    }
+    if (!report.isComplete) {
         return NotChecked;
     }
+    return report.findings.empty() ? Fits : DoesNotFit;
 }
 
 } // namespace refhost

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "refhost/dbcheck/Exercise.h"
 #include "refhost/dbcheck/Finding.h"
 
 #include <string>
@@ -12,9 +13,12 @@ class Languages;
 struct CheckReport {
     std::string database; ///< The address as it was given.
     Findings findings;
+    bool isExercised = false;
+    std::vector<Written> written;
+    bool isComplete = true; ///< False when the check broke off, so that nobody knows whether the database fits.
 };
 
-/// A line a finding, and at the end how many there are.
+/// A line a finding, a line for each thing that a trial wrote, and at the end how many findings there are.
 std::string reportText(const CheckReport& report, const Languages& languages);
 
 /// The same as one JSON object, which docs/database.md describes.

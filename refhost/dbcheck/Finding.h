@@ -33,6 +33,23 @@ enum class FindingKind {
     RoleMayNotCall,
     RoleMayNotRead,
     RoleMayWrite,
+    MissingDocumentAccepted,
+    AnswerWrong,
+    DiscountAccepted,
+    SaveNotBegun,
+    SaveNotBegunChanges,
+    SaveRefused,
+    EmptySaveChanges,
+    SavedLinesWrong,
+    ClosingTwiceDoubles,
+    BeginKeepsRows,
+    UnknownItemAccepted,
+    ClosedAfterRefusal,
+    SavedInPart,
+    SessionsMixed,
+    SessionLost,
+    TakenNameAccepted,
+    SettingNotDeleted,
 };
 
 /// One thing that is not as the contract wants it.

@@ -78,6 +78,65 @@ constexpr FindingText c_Texts[] = {
     {RoleMayWrite,
      "role-may-write",
      {"MELVARKHOST\\DBCHECK\\ROLEMAYWRITE", "Role %1 smí přímo měnit %2, mimo procedury. Odeberte jí to právo."}},
+    {MissingDocumentAccepted,
+     "missing-document-accepted",
+     {"MELVARKHOST\\DBCHECK\\MISSINGDOCUMENTACCEPTED", "Procedura %1 přijala doklad, který není. Odmítněte jej."}},
+    {AnswerWrong,
+     "answer-wrong",
+     {"MELVARKHOST\\DBCHECK\\ANSWERWRONG", "Procedura %1 dala v %2 hodnotu „%4“ místo „%3“. Opravte ji."}},
+    {DiscountAccepted,
+     "discount-accepted",
+     {"MELVARKHOST\\DBCHECK\\DISCOUNTACCEPTED", "Procedura %1 přijala slevu nad 100. Odmítněte ji."}},
+    {SaveNotBegun,
+     "save-not-begun",
+     {"MELVARKHOST\\DBCHECK\\SAVENOTBEGUN", "Procedura %1 přijala řádek, aniž bylo ukládání zahájeno. Odmítněte jej."}},
+    {SaveNotBegunChanges,
+     "save-not-begun-changes",
+     {"MELVARKHOST\\DBCHECK\\SAVENOTBEGUNCHANGES",
+      "Procedura %1 převzala řádky ukládání, které nikdo nezahájil (%4). Odmítněte je."}},
+    {SaveRefused,
+     "save-refused",
+     {"MELVARKHOST\\DBCHECK\\SAVEREFUSED", "Procedura %1 odmítla platná data: %4 Přijměte je."}},
+    {EmptySaveChanges,
+     "empty-save-changes",
+     {"MELVARKHOST\\DBCHECK\\EMPTYSAVECHANGES",
+      "Procedura %1 změnila doklad, ač nebylo co uložit (%4). Nechte jej být."}},
+    {SavedLinesWrong,
+     "saved-lines-wrong",
+     {"MELVARKHOST\\DBCHECK\\SAVEDLINESWRONG",
+      "Po volání %1 přibyly řádky s množstvím „%4“ místo „%3“. Uložte je všechny a v pořadí."}},
+    {ClosingTwiceDoubles,
+     "closing-twice-doubles",
+     {"MELVARKHOST\\DBCHECK\\CLOSINGTWICEDOUBLES",
+      "Opakované volání %1 uložilo řádky znovu (%4). Po úspěchu je vyprázdněte."}},
+    {BeginKeepsRows,
+     "begin-keeps-rows",
+     {"MELVARKHOST\\DBCHECK\\BEGINKEEPSROWS",
+      "Procedura %1 převzala i řádky předchozího ukládání (%4). Nové ukládání je musí vyprázdnit."}},
+    {UnknownItemAccepted,
+     "unknown-item-accepted",
+     {"MELVARKHOST\\DBCHECK\\UNKNOWNITEMACCEPTED", "Procedura %1 přijala položku, která není. Odmítněte ji."}},
+    {ClosedAfterRefusal,
+     "closed-after-refusal",
+     {"MELVARKHOST\\DBCHECK\\CLOSEDAFTERREFUSAL",
+      "Procedura %1 uzavřela ukládání, jehož řádek byl odmítnut. Odmítněte je."}},
+    {SavedInPart,
+     "saved-in-part",
+     {"MELVARKHOST\\DBCHECK\\SAVEDINPART",
+      "Procedura %1 uložila část odmítnutého ukládání (%4). Uložte vše, nebo nic."}},
+    {SessionsMixed,
+     "sessions-mixed",
+     {"MELVARKHOST\\DBCHECK\\SESSIONSMIXED", "Procedura %1 převzala řádky jiné relace (%4). Každá relace má své."}},
+    {SessionLost,
+     "session-lost",
+     {"MELVARKHOST\\DBCHECK\\SESSIONLOST",
+      "Procedura %1 uložila po práci jiné relace „%4“ místo „%3“. Každá relace má své řádky."}},
+    {TakenNameAccepted,
+     "taken-name-accepted",
+     {"MELVARKHOST\\DBCHECK\\TAKENNAMEACCEPTED", "Procedura %1 přijala jméno, které už nastavení má. Odmítněte je."}},
+    {SettingNotDeleted,
+     "setting-not-deleted",
+     {"MELVARKHOST\\DBCHECK\\SETTINGNOTDELETED", "Nastavení zůstalo v seznamu i po volání %1. Smažte je."}},
 };
 
 /// In one pass, so that a value which itself has a "%2" in it stays as it is.
@@ -101,6 +160,10 @@ std::string firstLine(const std::string& text) {
 }
 
 } // namespace
+
+std::span<const FindingText> findingTexts() {
+    return c_Texts;
+}
 
 const FindingText& findingText(FindingKind kind) {
     return *std::ranges::find(c_Texts, kind, &FindingText::kind);

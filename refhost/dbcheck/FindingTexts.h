@@ -3,6 +3,8 @@
 #include "refhost/HostTexts.h"
 #include "refhost/dbcheck/Finding.h"
 
+#include <span>
+
 namespace refhost {
 
 class Languages;
@@ -15,6 +17,7 @@ struct FindingText {
     HostText sentence;
 };
 
+std::span<const FindingText> findingTexts();
 const FindingText& findingText(FindingKind kind);
 
 /// What was found, in the language: a refusal's own sentence when the database spoke.

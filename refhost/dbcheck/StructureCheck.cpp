@@ -62,7 +62,8 @@ std::vector<FunctionCall> callsIn(const std::string& condition) {
 
 class StructureCheck {
 public:
-    StructureCheck(const Contract& contract, DatabaseInspector& database) : contract_(contract), database_(database) {}
+    StructureCheck(const DatabaseContract& contract, DatabaseInspector& database)
+        : contract_(contract), database_(database) {}
 
     Findings run() {
         for (const auto& [name, expected] : contract_.Procedures) {
@@ -71,10 +72,10 @@ public:
         for (const auto& [name, columns] : contract_.Views) {
             checkColumns(FindingKind::ViewUnusable, name, "select * from " + name, columns);
         }
-        for (const Contract::FixedQuery& query : contract_.Queries) {
+        for (const DatabaseContract::FixedQuery& query : contract_.Queries) {
             checkQuery(query);
         }
-        for (const Contract::ListCondition& condition : contract_.Conditions) {
+        for (const DatabaseContract::ListCondition& condition : contract_.Conditions) {
             checkCondition(condition);
         }
         if (database_.hasRoles()) {
@@ -156,14 +157,14 @@ private:
         }
     }
 
-    void checkQuery(const Contract::FixedQuery& query) {
+    void checkQuery(const DatabaseContract::FixedQuery& query) {
         if (checkColumns(FindingKind::QueryUnusable, query.Sql, query.Sql, query.Columns)) {
             checkOrder(query);
         }
     }
 
     /// Sorts words of ours as the query sorts its own: a union has the collation of its first part's column.
-    void checkOrder(const Contract::FixedQuery& query) {
+    void checkOrder(const DatabaseContract::FixedQuery& query) {
         const std::string column = query.Columns.front().Name;
         std::string words = query.Sql.substr(0, query.Sql.find(" order by")) + " where 1 = 0";
         std::string expected;
@@ -181,7 +182,7 @@ private:
         }
     }
 
-    void checkCondition(const Contract::ListCondition& condition) {
+    void checkCondition(const DatabaseContract::ListCondition& condition) {
         const std::string filled = filledCondition(condition.Text);
         const std::vector<FunctionCall> calls = callsIn(filled);
         for (auto inner = calls.begin() + 1; inner != calls.end(); ++inner) {
@@ -233,7 +234,7 @@ private:
         for (const auto& [name, declaration] : contract_.Procedures) {
             names.insert(name);
         }
-        for (const Contract::ListCondition& condition : contract_.Conditions) {
+        for (const DatabaseContract::ListCondition& condition : contract_.Conditions) {
             for (const FunctionCall& call : callsIn(condition.Text)) {
                 names.insert(call.Name);
             }
@@ -241,7 +242,7 @@ private:
         return names;
     }
 
-    const Contract& contract_;
+    const DatabaseContract& contract_;
     DatabaseInspector& database_;
     Findings findings_;
 };
@@ -265,7 +266,7 @@ void compareMembers(const std::string& object, const DeclaredNames& expected, co
     }
 }
 
-Findings checkStructure(const Contract& contract, DatabaseInspector& database) {
+Findings checkStructure(const DatabaseContract& contract, DatabaseInspector& database) {
     return StructureCheck(contract, database).run();
 }
 

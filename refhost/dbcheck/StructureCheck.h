@@ -1,6 +1,6 @@
 #pragma once
 
-#include "refhost/dbcheck/Contract.h"
+#include "refhost/dbcheck/DatabaseContract.h"
 #include "refhost/dbcheck/Finding.h"
 
 namespace refhost {
@@ -10,7 +10,7 @@ namespace refhost {
 /// beyond the contract is its own affair. Nothing is written, for the inspector cannot.
 ///
 /// What the procedures do with a document is asked by Exercise.h.
-Findings checkStructure(const Contract& contract, DatabaseInspector& database);
+Findings checkStructure(const DatabaseContract& contract, DatabaseInspector& database);
 
 /// Whether the error tells nothing of what was asked, for the database could not be asked: its link is lost, it is in
 /// use or damaged.

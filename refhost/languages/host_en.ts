@@ -487,6 +487,86 @@
         <source>Role %1 smí přímo měnit %2, mimo procedury. Odeberte jí to právo.</source>
         <translation>The role %1 may change %2 itself, past the procedures. Revoke that right.</translation>
     </message>
+    <message id="MELVARKHOST\DBCHECK\MISSINGDOCUMENTACCEPTED">
+        <source>Procedura %1 přijala doklad, který není. Odmítněte jej.</source>
+        <translation>The procedure %1 accepted a document that there is not. Refuse it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\ANSWERWRONG">
+        <source>Procedura %1 dala v %2 hodnotu „%4“ místo „%3“. Opravte ji.</source>
+        <translation>The procedure %1 gave “%4” in %2 where “%3” is right. Mend it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\DISCOUNTACCEPTED">
+        <source>Procedura %1 přijala slevu nad 100. Odmítněte ji.</source>
+        <translation>The procedure %1 accepted a discount above 100. Refuse it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\SAVENOTBEGUN">
+        <source>Procedura %1 přijala řádek, aniž bylo ukládání zahájeno. Odmítněte jej.</source>
+        <translation>The procedure %1 accepted a row though no save was begun. Refuse it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\SAVENOTBEGUNCHANGES">
+        <source>Procedura %1 převzala řádky ukládání, které nikdo nezahájil (%4). Odmítněte je.</source>
+        <translation>The procedure %1 took over rows of a save that nobody began (%4). Refuse it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\SAVEREFUSED">
+        <source>Procedura %1 odmítla platná data: %4 Přijměte je.</source>
+        <translation>The procedure %1 refused valid data: %4 Accept them.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\EMPTYSAVECHANGES">
+        <source>Procedura %1 změnila doklad, ač nebylo co uložit (%4). Nechte jej být.</source>
+        <translation>The procedure %1 changed the document though there was nothing to save (%4). Leave it alone.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\SAVEDLINESWRONG">
+        <source>Po volání %1 přibyly řádky s množstvím „%4“ místo „%3“. Uložte je všechny a v pořadí.</source>
+        <translation>After %1 there were new lines of “%4” where “%3” is right. Save all of them, in their order.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\CLOSINGTWICEDOUBLES">
+        <source>Opakované volání %1 uložilo řádky znovu (%4). Po úspěchu je vyprázdněte.</source>
+        <translation>A second call of %1 saved the rows again (%4). Empty them after a success.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\BEGINKEEPSROWS">
+        <source>Procedura %1 převzala i řádky předchozího ukládání (%4). Nové ukládání je musí vyprázdnit.</source>
+        <translation>The procedure %1 took over rows of the save before, too (%4). A new save has to empty them.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\UNKNOWNITEMACCEPTED">
+        <source>Procedura %1 přijala položku, která není. Odmítněte ji.</source>
+        <translation>The procedure %1 accepted an item that there is not. Refuse it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\CLOSEDAFTERREFUSAL">
+        <source>Procedura %1 uzavřela ukládání, jehož řádek byl odmítnut. Odmítněte je.</source>
+        <translation>The procedure %1 closed a save whose row was refused. Refuse it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\SAVEDINPART">
+        <source>Procedura %1 uložila část odmítnutého ukládání (%4). Uložte vše, nebo nic.</source>
+        <translation>The procedure %1 saved a part of a refused save (%4). Save all or nothing.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\SESSIONSMIXED">
+        <source>Procedura %1 převzala řádky jiné relace (%4). Každá relace má své.</source>
+        <translation>The procedure %1 took over rows of another session (%4). Each session has its own.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\SESSIONLOST">
+        <source>Procedura %1 uložila po práci jiné relace „%4“ místo „%3“. Každá relace má své řádky.</source>
+        <translation>After another session's work the procedure %1 saved “%4” where “%3” is right. Each session has its own rows.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\TAKENNAMEACCEPTED">
+        <source>Procedura %1 přijala jméno, které už nastavení má. Odmítněte je.</source>
+        <translation>The procedure %1 accepted a name that a setting has already. Refuse it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\SETTINGNOTDELETED">
+        <source>Nastavení zůstalo v seznamu i po volání %1. Smažte je.</source>
+        <translation>The setting stayed in the list after %1. Delete it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\WRITTENLINES">
+        <source>Zapsáno: doklad %1, nové řádky: %2</source>
+        <translation>Written: document %1, new lines: %2</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\WRITTENSETTING">
+        <source>Zapsáno: nastavení sloupců „%1“, nakonec zase smazané</source>
+        <translation>Written: layout “%1”, deleted again at the end</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\WRITTENPLACEMENT">
+        <source>Zapsáno: umístění okna pro druh editoru %1</source>
+        <translation>Written: the window’s place for the kind of editor %1</translation>
+    </message>
     <message id="MELVARKHOST\DBCHECK\FITS">
         <source>Databáze vyhovuje.</source>
         <translation>The database fits.</translation>
@@ -494,6 +574,26 @@
     <message id="MELVARKHOST\DBCHECK\COUNT">
         <source>Nevyhovuje, nálezů: %1</source>
         <translation>It does not fit, findings: %1</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\QUESTION">
+        <source>Zkouška přidá do dokladu %1 řádky, které v něm zůstanou. Pokračovat? [a/n] </source>
+        <translation>The trial adds lines to the document %1, which stay in it. Go on? [y/n] </translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\YES">
+        <source>a</source>
+        <translation>y</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\DECLINED">
+        <source>Zkouška byla odmítnuta, databáze se nezkoušela.</source>
+        <translation>The trial was declined; the database was not tried.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\NOITEM">
+        <source>Doklad ani jeho šablona nemají řádek, který by šlo uložit znovu. Zvolte jiný doklad.</source>
+        <translation>Neither the document nor its template has a line that could be saved once more. Choose another document.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\MENDFIRST">
+        <source>Zkouška neproběhla. Nejprve opravte nálezy.</source>
+        <translation>The trial did not run. Mend the findings first.</translation>
     </message>
 </context>
 </TS>

@@ -2,7 +2,7 @@
 #include "refhost/database/Databases.h"
 #include "refhost/database/EmbeddedSql.h"
 #include "refhost/database/PostgreSQLSession.h"
-#include "refhost/dbcheck/Contract.h"
+#include "refhost/dbcheck/DatabaseContract.h"
 #include "tests/database/Engines.h"
 
 #include <algorithm>

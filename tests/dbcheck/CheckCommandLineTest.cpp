@@ -45,9 +45,26 @@ TEST(CheckCommandLine, NeedsADatabaseAndRefusesWhatItDoesNotKnow) {
     EXPECT_EQ(refused({"--help"}), "accepted");
 }
 
+TEST(CheckCommandLine, ATrialNeedsItsDocumentAndAConfirmationATrial) {
+    const std::vector<std::string> database{"--database", "sqlite:a.db"};
+    const auto with = [&](std::vector<std::string> words) {
+        words.insert(words.end(), database.begin(), database.end());
+        return words;
+    };
+    const CheckCommandLine line = parseCheckCommandLine(with({"--exercise", "DODOBJ", "--document", "7", "--yes"}));
+    EXPECT_EQ(line.screen, "DODOBJ");
+    EXPECT_EQ(line.document, 7);
+    EXPECT_TRUE(line.isConfirmed);
+    EXPECT_THAT(refused(with({"--exercise", "DODOBJ"})), HasSubstr("--document"));
+    EXPECT_THAT(refused(with({"--document", "7"})), HasSubstr("--exercise"));
+    EXPECT_THAT(refused(with({"--yes"})), HasSubstr("--exercise"));
+    EXPECT_THAT(refused(with({"--exercise", "FAKTURY", "--document", "7"})), HasSubstr("--exercise"));
+    EXPECT_THAT(refused(with({"--exercise", "DODAK", "--document", "sedm"})), HasSubstr("--document"));
+}
+
 TEST(CheckCommandLine, TellsEveryOptionAndTheExitStatus) {
-    for (const char* told :
-         {"--database", "--user", "--procedures", "--locale", "--language", "--json", "Exit status"}) {
+    for (const char* told : {"--database", "--user", "--procedures", "--locale", "--language", "--json", "--exercise",
+                             "--document", "--yes", "Exit status"}) {
         EXPECT_THAT(checkUsageText(), HasSubstr(told));
     }
 }

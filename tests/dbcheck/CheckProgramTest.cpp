@@ -1,5 +1,7 @@
 #include "refhost/dbcheck/CheckProgram.h"
 
+#include "refhost/database/Databases.h"
+#include "tests/database/ContractCompany.h"
 #include "tests/dbcheck/Broken.h"
 
 #include <array>
@@ -96,6 +98,70 @@ TEST(CheckProgram, RunsFromAScript) {
     EXPECT_EQ(unknown.status, 2);
     EXPECT_THAT(unknown.output, HasSubstr("melvark-dbcheck [OPTIONS]"));
     EXPECT_EQ(runProgram("--help").status, 0);
+}
+
+CheckCommandLine trialCommandLine() {
+    CheckCommandLine commandLine = fileCommandLine();
+    commandLine.user = "novakova";
+    addContractCompany(*openAs(commandLine.database, "novakova"));
+    commandLine.screen = "DODAK";
+    commandLine.document = static_cast<std::int32_t>(c_OpenNote);
+    return commandLine;
+}
+
+std::size_t linesOf(const CheckCommandLine& commandLine) {
+    return openAs(commandLine.database, "novakova")->Query("select ID from DODAKPOL").Rows.size();
+}
+
+TEST(CheckProgram, AsksInTheUsersLanguageBeforeItWrites) {
+    CheckCommandLine commandLine = trialCommandLine();
+    const std::size_t before = linesOf(commandLine);
+    const Outcome declined = check(commandLine, "n\n");
+    EXPECT_EQ(declined.status, 2);
+    EXPECT_THAT(declined.errors, HasSubstr("Zkouška přidá do dokladu DODAK 2 řádky"));
+    EXPECT_THAT(declined.output, IsEmpty());
+    EXPECT_EQ(check(commandLine, "").status, 2) << "the end of the input is no yes";
+    EXPECT_EQ(linesOf(commandLine), before);
+
+    EXPECT_EQ(check(commandLine, "A\n").status, 0);
+    EXPECT_EQ(linesOf(commandLine), before + 4);
+    commandLine.language = "en";
+    EXPECT_EQ(check(commandLine, "a\n").status, 2);
+    const Outcome accepted = check(commandLine, "y\n");
+    EXPECT_EQ(accepted.status, 0);
+    EXPECT_THAT(accepted.output, HasSubstr("Written: document DODAK 2, new lines: 4\n"));
+}
+
+TEST(CheckProgram, AScriptConfirmsBeforehand) {
+    CheckCommandLine commandLine = trialCommandLine();
+    commandLine.isConfirmed = true;
+    commandLine.json = true;
+    const Outcome outcome = check(commandLine);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.errors, IsEmpty());
+    EXPECT_THAT(outcome.output, HasSubstr(R"({"kind":"lines","object":"DODAK 2","count":4})"));
+}
+
+TEST(CheckProgram, TriesNothingInADatabaseWhoseStructureIsWrong) {
+    CheckCommandLine commandLine = trialCommandLine();
+    commandLine.isConfirmed = true;
+    runIn(commandLine.database, "drop view SKUPSPOL_SKUPSPOL1_V");
+    const std::size_t before = linesOf(commandLine);
+    const Outcome outcome = check(commandLine);
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_THAT(outcome.errors, HasSubstr("Zkouška neproběhla."));
+    EXPECT_EQ(linesOf(commandLine), before);
+}
+
+TEST(CheckProgram, ADocumentWithoutAnythingToSaveIsNoFinding) {
+    CheckCommandLine commandLine = trialCommandLine();
+    commandLine.isConfirmed = true;
+    commandLine.screen = "DODOBJ";
+    commandLine.document = static_cast<std::int32_t>(c_FreeOrder);
+    runIn(commandLine.database, "delete from DODOBJPOL");
+    const Outcome outcome = check(commandLine);
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.errors, HasSubstr("Zvolte jiný doklad."));
 }
 
 } // namespace

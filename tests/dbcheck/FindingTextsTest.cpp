@@ -2,7 +2,9 @@
 
 #include "refhost/Languages.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace refhost {
 namespace {
@@ -15,6 +17,15 @@ TEST(FindingTexts, EachKindHasItsSentenceAndAdviceInBothLanguages) {
     EXPECT_EQ(findingSentence(finding, czech), "Parametr a_X procedury PROC má typ text. Změňte jej na integer.");
     EXPECT_EQ(findingSentence(finding, english),
               "The parameter a_X of the procedure PROC has the type text. Make it integer.");
+}
+
+TEST(FindingTexts, ThePageForAdministratorsTellsEveryCode) {
+    std::ostringstream page;
+    page << std::ifstream(MELVARK_SOURCE_DIR "/docs/database.md").rdbuf();
+    for (const FindingText& text : findingTexts()) {
+        EXPECT_NE(page.str().find("`" + std::string(text.code) + "`"), std::string::npos) << text.code;
+        EXPECT_EQ(&findingText(text.kind), &text) << text.code << " is not alone";
+    }
 }
 
 TEST(FindingTexts, AValueThatLooksLikeAPlaceStaysAsItIs) {

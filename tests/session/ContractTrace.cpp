@@ -1,6 +1,6 @@
 #include "tests/session/ContractTrace.h"
 
-#include "refhost/dbcheck/Contract.h"
+#include "refhost/dbcheck/DatabaseContract.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -14,11 +14,11 @@ namespace {
 using Names = std::set<std::string>;
 
 bool isOfContract(const QJsonObject& line) {
-    const refhost::Contract& contract = refhost::contract();
+    const refhost::DatabaseContract& contract = refhost::contract();
     const std::string name = line.value(QStringLiteral("call")).toString().toStdString();
     const auto procedure = contract.Procedures.find(name);
     if (procedure == contract.Procedures.end()) {
-        return std::ranges::count(contract.Queries, name, &refhost::Contract::FixedQuery::Sql) == 1;
+        return std::ranges::count(contract.Queries, name, &refhost::DatabaseContract::FixedQuery::Sql) == 1;
     }
     Names sent;
     for (const QJsonValue& parameter : line.value(QStringLiteral("params")).toArray()) {

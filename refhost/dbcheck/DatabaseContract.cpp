@@ -1,4 +1,4 @@
-#include "refhost/dbcheck/Contract.h"
+#include "refhost/dbcheck/DatabaseContract.h"
 
 #include <algorithm>
 #include <array>
@@ -75,8 +75,8 @@ ProcedureDeclaration declarationOf(const std::vector<std::string>& row, const st
     return declaration;
 }
 
-Contract readPage() {
-    Contract contract;
+DatabaseContract readPage() {
+    DatabaseContract contract;
     contract.PriceColumns = priceColumns();
     for (const auto& row : pageTable("procedure")) {
         contract.Procedures[std::string(c_Prefix) + codeOf(row[0]).front()] = declarationOf(row, contract.PriceColumns);
@@ -123,8 +123,8 @@ std::vector<std::vector<std::string>> pageTable(std::string_view heading) {
     return rows;
 }
 
-const Contract& contract() {
-    static const Contract read = readPage();
+const DatabaseContract& contract() {
+    static const DatabaseContract read = readPage();
     return read;
 }
 

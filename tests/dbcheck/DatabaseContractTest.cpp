@@ -1,4 +1,4 @@
-#include "refhost/dbcheck/Contract.h"
+#include "refhost/dbcheck/DatabaseContract.h"
 
 #include "host/AsciiCase.h"
 #include "select/SourceTable.h"
@@ -32,7 +32,7 @@ std::vector<std::string> namesOf(const DeclaredNames& declared) {
     return names;
 }
 
-TEST(Contract, HasTheConditionsThatTheDialogsAskLetterForLetter) {
+TEST(DatabaseContract, HasTheConditionsThatTheDialogsAskLetterForLetter) {
     ASSERT_THAT(contract().Conditions, SizeIs(std::size(c_Setups)));
     for (std::size_t i = 0; i < std::size(c_Setups); ++i) {
         EXPECT_EQ(contract().Conditions[i].View, viewOf(c_Setups[i]->HostForm));
@@ -40,7 +40,7 @@ TEST(Contract, HasTheConditionsThatTheDialogsAskLetterForLetter) {
     }
 }
 
-TEST(Contract, HasTheChecksThatTheDialogsCall) {
+TEST(DatabaseContract, HasTheChecksThatTheDialogsCall) {
     for (const RSourceSetup* setup : c_Setups) {
         ASSERT_TRUE(contract().Procedures.contains(setup->CheckProcedure)) << setup->CheckProcedure;
         const ProcedureDeclaration& check = contract().Procedures.at(setup->CheckProcedure);
@@ -52,7 +52,7 @@ TEST(Contract, HasTheChecksThatTheDialogsCall) {
     }
 }
 
-TEST(Contract, HasTheTwoQueriesOfThePickLists) {
+TEST(DatabaseContract, HasTheTwoQueriesOfThePickLists) {
     ASSERT_THAT(contract().Queries, SizeIs(2));
     EXPECT_EQ(contract().Queries[0].Sql, "select NAZEV from SKLAD_V order by NAZEV");
     EXPECT_THAT(namesOf(contract().Queries[0].Columns), ElementsAre("NAZEV:text"));
@@ -60,7 +60,7 @@ TEST(Contract, HasTheTwoQueriesOfThePickLists) {
     EXPECT_THAT(namesOf(contract().Queries[1].Columns), ElementsAre("JMENO:text"));
 }
 
-TEST(Contract, ReadsSeveralSetsOutputsAndThePricesOfARow) {
+TEST(DatabaseContract, ReadsSeveralSetsOutputsAndThePricesOfARow) {
     const auto& procedures = contract().Procedures;
     ASSERT_THAT(*procedures.at("MELVARKEDITORDodakInit").Sets, SizeIs(3));
     EXPECT_THAT(namesOf(procedures.at("MELVARKEDITORDodakInit").Sets->front()),
@@ -77,7 +77,7 @@ TEST(Contract, ReadsSeveralSetsOutputsAndThePricesOfARow) {
         ElementsAre("a_NAZEV:text", "a_TYPEDITACE:integer", "a_SDILENE:boolean", "a_KOMENTAR:text", "a_DATA:text"));
 }
 
-TEST(Contract, APageWithoutATableIsAMistakeOfOurs) {
+TEST(DatabaseContract, APageWithoutATableIsAMistakeOfOurs) {
     EXPECT_THROW(pageTable("no such heading"), std::logic_error);
 }
 

@@ -11,7 +11,7 @@ namespace refhost {
 
 /// What the editors and the host need of a database: the tables of docs/procedures.md, which is built into the program,
 /// so that a database is checked against the very page that its author has read.
-struct Contract {
+struct DatabaseContract {
     /// A query that the editors ask word for word.
     struct FixedQuery {
         std::string Sql;
@@ -32,7 +32,7 @@ struct Contract {
 };
 
 /// Read once. Throws std::logic_error when the page has lost one of its tables.
-const Contract& contract();
+const DatabaseContract& contract();
 
 /// The text of docs/procedures.md.
 std::string_view proceduresPage();
