@@ -1,6 +1,7 @@
 #include "host/Exceptions.h"
 #include "refhost/database/Databases.h"
 #include "refhost/database/PostgreSQLSession.h"
+#include "refhost/database/SchemaVersion.h"
 #include "tests/database/PrivateServer.h"
 #include "tests/database/VersionOne.h"
 
@@ -13,11 +14,15 @@ namespace {
 
 using testing::HasSubstr;
 
+const std::string c_Later = std::to_string(c_SchemaVersion + 1);
+
 /// What an upgrade by a later program leaves behind, as far as a connected clerk can see it.
 void leaveALaterVersion(Engine engine, const std::string& url) {
-    BareConnection(url).run(engine == Engine::SQLite ? "pragma user_version = 3"
-                                                     : "begin; comment on schema melvark is 'Melvark, version 3';"
-                                                       "notify melvark_upgraded; commit");
+    BareConnection(url).run(engine == Engine::SQLite
+                                ? "pragma user_version = " + c_Later
+                                : "begin; comment on schema melvark is 'Melvark, version " + c_Later +
+                                      "';"
+                                      "notify melvark_upgraded; commit");
 }
 
 std::string sentenceOf(Database& database, const std::string& procedure) {
@@ -93,7 +98,7 @@ TEST(ConnectedClerkOfAServer, WhoseLinkWasCutMeanwhileIsRefusedAsWell) {
     BareConnection administrator(url + " user=postgres");
     administrator.rows("select pg_terminate_backend(pid, 5000) from pg_stat_activity where usename = 'svoboda' and "
                        "datname = current_database()");
-    administrator.run("comment on schema melvark is 'Melvark, version 3'");
+    administrator.run("comment on schema melvark is 'Melvark, version " + c_Later + "'");
     EXPECT_THAT(sentenceOf(*clerk, "MELVARKEDITORDodObjInit"), HasSubstr("ML9"));
     EXPECT_THAT(sentenceOf(*clerk, "MELVARKEDITORDodObjInit"), HasSubstr("je novější než tento program"));
 }

@@ -77,6 +77,21 @@ TEST_P(Upgrade, TheUpgradedCompanyOpensAndItsProceduresWork) {
     EXPECT_GT(lines.Sets.at(0).Rows.size(), 0U);
 }
 
+TEST_P(Upgrade, ACompanyOfVersionTwoGetsThisProgramsViewsAndFunctionsAndKeepsItsRows) {
+    const std::string url = newDatabaseUrl(GetParam()) + (GetParam() == Engine::SQLite ? "" : " user=postgres");
+    const auto schema = schemaOf(url);
+    const auto rows = contentsOf(url);
+    BareConnection(url).run(GetParam() == Engine::SQLite ? "drop view DODAVATEL_V"
+                                                         : "drop function melvark.next_order_id");
+    setVersion(GetParam(), url, 2);
+    ASSERT_NE(schemaOf(url), schema);
+
+    EXPECT_EQ(upgraded(url).From, 2);
+
+    EXPECT_EQ(schemaOf(url), schema);
+    EXPECT_EQ(contentsOf(url), rows);
+}
+
 TEST_P(Upgrade, ASecondUpgradeHasNothingToDo) {
     const std::string url = versionOneUrl(GetParam());
     upgraded(url);

@@ -1,8 +1,10 @@
 #include "tests/editwin/SettingsCommands.h"
 
+#include "editwin/CellWriter.h"
 #include "host/widgets/StringGrid.h"
 
 #include <QHeaderView>
+#include <QLineEdit>
 
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -1,12 +1,15 @@
 #include "tests/editwin/SettingsCommands.h"
 
 #include "editwin/AskingCheckBox.h"
+#include "editwin/CellWriter.h"
 #include "host/Exceptions.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/StringGrid.h"
 #include "tests/widgets/ModalDriver.h"
 
 #include <QCheckBox>
+#include <QHeaderView>
+#include <QLineEdit>
 #include <QTextDocument>
 
 using testing::ElementsAre;

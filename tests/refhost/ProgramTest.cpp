@@ -226,10 +226,10 @@ TEST_F(ProgramTest, AnyOtherOlderDatabaseIsUpgradedByTheCommandOnly) {
 
     const Outcome outcome = run(database + QStringList{QStringLiteral("--upgrade-database")});
     EXPECT_EQ(outcome.status, 0) << outcome.errors;
-    EXPECT_EQ(outcome.output, "{\"from\":1,\"to\":2,\"copy\":\"" + path + ".version-1\",\"kept\":[]}\n");
+    EXPECT_EQ(outcome.output, "{\"from\":1,\"to\":3,\"copy\":\"" + path + ".version-1\",\"kept\":[]}\n");
     EXPECT_EQ(run(database + QStringList{QStringLiteral("--documents"), QStringLiteral("DODAK")}).status, 0);
     EXPECT_EQ(run(database + QStringList{QStringLiteral("--upgrade-database")}).output,
-              "{\"from\":2,\"to\":2,\"copy\":null,\"kept\":[]}\n");
+              "{\"from\":3,\"to\":3,\"copy\":null,\"kept\":[]}\n");
 }
 
 TEST_F(ProgramTest, AFolderOfProceduresReplacesThoseOfItsNames) {
