@@ -118,6 +118,7 @@ void measure(const CostClock& clock, const std::filesystem::path& place, int row
     std::ostringstream text;
     WriteAutosave(text, 7, columns, store);
     const std::string bytes = text.str();
+    std::filesystem::remove_all(place); // what another size left is not to be taken up
     const PrivateDirectory directory = PrivateDirectory::Open(place).value();
     KeptFile file(place / "lines.dat");
     const auto keep = [&] { file.Write([&](std::ostream& out) { WriteAutosave(out, 7, columns, store); }); };

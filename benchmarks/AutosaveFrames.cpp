@@ -124,6 +124,7 @@ void measureFrames(const std::filesystem::path& state, int rows, int writes) {
     editor.resize(1600, 1000);
     editor.show();
 
+    writesBegun = 0;
     FrameWatch watch(*editor.StringGrid->viewport());
     QTimer clock;
     QObject::connect(&clock, &QTimer::timeout, &editor, [&] {
