@@ -1,7 +1,6 @@
-#include "tests/editwin/SettingsCommands.h"
-
 #include "editwin/CellWriter.h"
 #include "host/widgets/StringGrid.h"
+#include "tests/editwin/SettingsCommands.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
