@@ -6,7 +6,7 @@ set(melvark_headers ${CMAKE_INSTALL_INCLUDEDIR}/melvark)
 set(melvark_configuration ${CMAKE_INSTALL_LIBDIR}/cmake/Melvark)
 
 file(RELATIVE_PATH program_to_libraries /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${melvark_libraries})
-set_target_properties(melvark-host PROPERTIES INSTALL_RPATH "$ORIGIN/${program_to_libraries}")
+set_target_properties(melvark-host melvark-dbcheck PROPERTIES INSTALL_RPATH "$ORIGIN/${program_to_libraries}")
 set_target_properties(hostcontract hostwidgets MelvarkEditor PROPERTIES INSTALL_RPATH "$ORIGIN")
 
 # A library's name carries the version of the contract, so that a host and a module of different ones cannot meet.
@@ -16,14 +16,14 @@ set_target_properties(hostcontract hostwidgets PROPERTIES VERSION ${contract} SO
 
 include(CMakePackageConfigHelpers)
 
-install(TARGETS melvark-host RUNTIME COMPONENT program)
+install(TARGETS melvark-host melvark-dbcheck RUNTIME COMPONENT program)
 install(TARGETS MelvarkEditor LIBRARY DESTINATION ${melvark_libraries} COMPONENT program)
 install(TARGETS hostcontract hostwidgets EXPORT Melvark LIBRARY DESTINATION ${melvark_libraries} COMPONENT program
   NAMELINK_COMPONENT development INCLUDES DESTINATION ${melvark_headers})
 install(FILES packaging/desktop/melvark.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT program)
 install(FILES packaging/desktop/melvark.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
   COMPONENT program)
-install(FILES packaging/manual/melvark-host.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT program)
+install(FILES packaging/manual/melvark-host.1 packaging/manual/melvark-dbcheck.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT program)
 install(FILES docs/database.md docs/procedures.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/melvark COMPONENT program)
 
 install(DIRECTORY host/ DESTINATION ${melvark_headers}/host COMPONENT development FILES_MATCHING PATTERN "*.h")

@@ -327,8 +327,8 @@ std::string usageText() {
     return Reader().usage();
 }
 
-std::string versionText() {
-    return "melvark-host " MELVARK_VERSION "\ncontract " + std::to_string(c_ContractVersion) + "\ndatabase " +
+std::string versionText(const std::string& program) {
+    return program + " " MELVARK_VERSION "\ncontract " + std::to_string(c_ContractVersion) + "\ndatabase " +
            std::to_string(c_SchemaVersion) + "\n";
 }
 

@@ -58,8 +58,7 @@ CommandLine parseCommandLine(const std::vector<std::string>& words);
 /// themselves: they are for scripts and administrators, not for clerks.
 std::string usageText();
 
-/// The program's name and version, those of the contract that its modules must have, and of the databases that it
-/// opens.
-std::string versionText();
+/// A program's name and version, that of the contract that modules must have, and that of the databases that fit.
+std::string versionText(const std::string& program);
 
 } // namespace refhost

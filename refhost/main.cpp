@@ -16,7 +16,7 @@ int main(int argc, char** argv) {
         return 0;
     }
     if (commandLine.command == refhost::Command::Version) {
-        std::cout << refhost::versionText();
+        std::cout << refhost::versionText("melvark-host");
         return 0;
     }
     return refhost::runProgram(commandLine, argc, argv);

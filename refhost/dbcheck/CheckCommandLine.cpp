@@ -40,6 +40,7 @@ void declare(CLI::App& app, CheckCommandLine& result) {
     document->needs(trial);
     app.add_flag("--yes", result.isConfirmed, "does not ask before the trial")->needs(trial);
     app.add_flag("--json", result.json, "prints one JSON object");
+    app.add_flag("--version", result.version, "prints the versions of the program, its contract and its databases");
     app.add_flag("--help", result.help, "prints this text");
 }
 
@@ -56,7 +57,7 @@ CheckCommandLine parseCheckCommandLine(const std::vector<std::string>& words) {
     } catch (const CLI::ParseError& error) {
         throw CommandLineError(error.what());
     }
-    if (result.database.empty() && !result.help) {
+    if (result.database.empty() && !result.help && !result.version) {
         throw CommandLineError("--database: needs a value");
     }
     return result;

@@ -17,6 +17,7 @@ struct CheckCommandLine {
     std::int32_t document = 0;
     bool isConfirmed = false; ///< The trial is not asked about.
     bool json = false;
+    bool version = false;
     bool help = false;
 };
 

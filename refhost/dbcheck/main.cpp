@@ -15,5 +15,9 @@ int main(int argc, char** argv) {
         std::cout << refhost::checkUsageText();
         return 0;
     }
+    if (commandLine.version) {
+        std::cout << refhost::versionText("melvark-dbcheck");
+        return 0;
+    }
     return refhost::runCheck(commandLine, {.input = std::cin, .output = std::cout, .errors = std::cerr});
 }

@@ -37,6 +37,11 @@ TEST(CheckCommandLine, IsCzechAndForPeopleWhenNothingElseIsSaid) {
     EXPECT_FALSE(line.json);
 }
 
+TEST(CheckCommandLine, AsksForItsVersionWithoutADatabase) {
+    EXPECT_TRUE(parseCheckCommandLine({"--version"}).version);
+    EXPECT_FALSE(parseCheckCommandLine({"--database", "sqlite:a.db"}).version);
+}
+
 TEST(CheckCommandLine, NeedsADatabaseAndRefusesWhatItDoesNotKnow) {
     EXPECT_THAT(refused({}), HasSubstr("--database"));
     EXPECT_THAT(refused({"--database"}), HasSubstr("--database"));
