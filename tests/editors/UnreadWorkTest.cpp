@@ -34,6 +34,7 @@ protected:
     }
     /// Types into the second line and has columns laid out between ticks, as in any session.
     static void work(TEditBox& editor) {
+        QTest::qWait(0); // what is told at the first show has been told by then
         type(editor, "");
         type(editor, "");
         type(editor, "");
