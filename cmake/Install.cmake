@@ -1,11 +1,9 @@
 # What an installed tree holds. The libraries are the program's own and lie with its module in a folder that bears its
 # name; whoever builds on them finds them by the package configuration (component "development").
 
-set(melvark_libraries ${CMAKE_INSTALL_LIBDIR}/melvark)
 set(melvark_headers ${CMAKE_INSTALL_INCLUDEDIR}/melvark)
 set(melvark_configuration ${CMAKE_INSTALL_LIBDIR}/cmake/Melvark)
 
-file(RELATIVE_PATH program_to_libraries /prefix/${CMAKE_INSTALL_BINDIR} /prefix/${melvark_libraries})
 set_target_properties(melvark-host melvark-dbcheck PROPERTIES INSTALL_RPATH "$ORIGIN/${program_to_libraries}")
 set_target_properties(hostcontract hostwidgets MelvarkEditor PROPERTIES INSTALL_RPATH "$ORIGIN")
 

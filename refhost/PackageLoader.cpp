@@ -15,7 +15,8 @@ namespace refhost {
 
 namespace {
 
-constexpr std::array c_packageFolders{u"", u"/../lib/melvark"};
+/// Beside the program in a build folder; where the installation put it, seen from the program.
+constexpr std::array c_packageFolders{"", "/" MELVARK_MODULE_FOLDER};
 const QString c_packageFile = QStringLiteral("/MelvarkEditor.so");
 
 template <typename... Values>
@@ -94,8 +95,8 @@ std::unique_ptr<TLibraryItem> Package::createItem(const std::string& className, 
 
 std::string findPackage(const std::string& programFolder) {
     const QString folder = QString::fromStdString(programFolder);
-    for (const char16_t* place : c_packageFolders) {
-        const QString file = folder + QString::fromUtf16(place) + c_packageFile;
+    for (const char* place : c_packageFolders) {
+        const QString file = folder + QString::fromUtf8(place) + c_packageFile;
         if (QFileInfo::exists(file)) {
             return file.toStdString();
         }

@@ -112,10 +112,10 @@ TEST_F(PackageLoaderTest, IsLookedForBesideTheProgramFirstAndThenInTheInstalledT
     const std::filesystem::path root = std::filesystem::path(testing::TempDir()) / "melvark-package-test";
     std::filesystem::remove_all(root);
     std::filesystem::create_directories(root / "bin");
-    std::filesystem::create_directories(root / "lib/melvark");
+    std::filesystem::create_directories((root / "bin" / MODULE_FOLDER).lexically_normal());
     const std::string program = (root / "bin").string();
     const auto beside = root / "bin/MelvarkEditor.so";
-    const auto installed = root / "lib/melvark/MelvarkEditor.so";
+    const auto installed = (root / "bin" / MODULE_FOLDER / "MelvarkEditor.so").lexically_normal();
 
     EXPECT_EQ(findPackage(program), beside.string()); // nowhere: named beside the program
     std::ofstream(installed.string()) << "x";
