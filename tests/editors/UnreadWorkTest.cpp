@@ -58,9 +58,21 @@ protected:
     const AnsiString unsaved_ = fileText(7, dodakKeys(), {{{"SKLADPOL", "Máslo"}, {"MNOZSTVI", "1,5"}}});
 };
 
+/// While the process can open hardly any file more.
+class WithFewDescriptors : public WorkInTheWay {
+protected:
+    void SetUp() override {
+#ifdef __SANITIZE_ADDRESS__
+        GTEST_SKIP()
+            << "the sanitizer looks at an object's type through a pipe and takes a failing one for a wrong type";
+#endif
+        WorkInTheWay::SetUp();
+    }
+};
+
 // The system gives none, one or two of the three files that an editor opens: directory, lock, content. Without the
 // first two it is a fault of keeping the work, which a tick tells.
-class UnreadWork : public WorkInTheWay, public testing::WithParamInterface<std::size_t> {};
+class UnreadWork : public WithFewDescriptors, public testing::WithParamInterface<std::size_t> {};
 
 TEST_P(UnreadWork, StaysWhateverTheClerkDoesAndIsToldOnce) {
     leave(file_, unsaved_);
@@ -87,12 +99,12 @@ TEST_P(UnreadWork, StaysWhateverTheClerkDoesAndIsToldOnce) {
 
 INSTANTIATE_TEST_SUITE_P(Descriptors, UnreadWork, testing::Values(0U, 1U, c_DirectoryAndLock));
 
-TEST_F(WorkInTheWay, ThreeDescriptorsAreEnoughToTakeItUp) {
+TEST_F(WithFewDescriptors, ThreeDescriptorsAreEnoughToTakeItUp) {
     leave(file_, unsaved_);
     EXPECT_EQ(stored(*openWithDescriptors(3), 1, "SKLADPOL"), "Máslo");
 }
 
-TEST_F(WorkInTheWay, WithoutAnyTheEditorKeepsItsOwnAsSoonAsItCan) {
+TEST_F(WithFewDescriptors, WithoutAnyTheEditorKeepsItsOwnAsSoonAsItCan) {
     const auto editor = openWithDescriptors(0);
     showAnd(*editor, [&] {
         work(*editor);
@@ -101,7 +113,7 @@ TEST_F(WorkInTheWay, WithoutAnyTheEditorKeepsItsOwnAsSoonAsItCan) {
     EXPECT_THAT(manager_.messages(), IsEmpty());
 }
 
-TEST_F(WorkInTheWay, AFileThatIsFoundHeldAtALaterTickIsToldOnce) {
+TEST_F(WithFewDescriptors, AFileThatIsFoundHeldAtALaterTickIsToldOnce) {
     const auto late = openWithDescriptors(0);
     const auto holder = open();
     tick(*holder);
