@@ -1,2 +1,2 @@
--- From version 2 to 3: nothing in tables, constraints, indices and data. Procedures, functions and views answer as before
--- and are faster; those of a company are made anew by every upgrade.
+-- From version 2 to 3: nothing in tables, constraints, indices and data. What is new are procedures, functions and views,
+-- which every upgrade makes anew from their own files.
