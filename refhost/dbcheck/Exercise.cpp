@@ -4,19 +4,18 @@
 #include "refhost/dbcheck/SettingsExercise.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace refhost {
 
 namespace {
 
 constexpr ExerciseKind c_Kinds[] = {
-    {"DODAK", "Dodak", "a_DODKID", "SCREEN_DODAK_LINES_V"},
-    {"DODOBJ", "DodObj", "a_DDOBID", "SCREEN_DODOBJ_LINES_V"},
-    {"DODOBJVZOR", "DodObj", "a_DDOBID", "SCREEN_DODOBJVZOR_LINES_V"},
+    {"DODAK", "Dodak", "a_DODKID", "SCREEN_DODAK_LINES_V", "GetPolozkyByDodak", "a_DODKID", "a_DODKIDMASTER", true},
+    {"DODOBJ", "DodObj", "a_DDOBID", "SCREEN_DODOBJ_LINES_V", "GetPolozkyByObjednavka", "a_DDOBIDMASTER", "a_DDOBID",
+     false},
+    {"DODOBJVZOR", "DodObj", "a_DDOBID", "SCREEN_DODOBJVZOR_LINES_V", "GetPolozkyByObjednavka", "a_DDOBIDMASTER",
+     "a_DDOBID", false},
 };
-
-constexpr std::int64_t c_NoDocument = std::numeric_limits<std::int32_t>::max();
 
 /// A document that is open is let in and may be taken up again, one that there is not is neither.
 void exerciseOpening(const ExerciseContext& context) {
@@ -102,7 +101,7 @@ void exercise(const DatabaseContract& contract, const ExerciseKind& kind, std::i
     exerciseOpening(context);
     exerciseSaving(context);
     exerciseSettings(context);
-    if (kind.Screen == "DODAK") {
+    if (kind.IsRecalculated) {
         exerciseRecalculation(context);
     }
 }

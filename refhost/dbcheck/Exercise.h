@@ -3,6 +3,8 @@
 #include "host/FormatSettings.h"
 #include "refhost/dbcheck/ExercisedSession.h"
 
+#include <cstdint>
+#include <limits>
 #include <stdexcept>
 #include <string_view>
 
@@ -14,7 +16,14 @@ struct ExerciseKind {
     const char* Prefix;        ///< Of its procedures: "Dodak".
     const char* DocumentParam; ///< Of the document in them.
     const char* LinesView;
+    const char* Fill;              ///< The fill from a document of the same kind,
+    const char* FillDocumentParam; ///< its parameter of the document that is filled
+    const char* FillSourceParam;   ///< and that of the source; null takes the template's lines.
+    bool IsRecalculated;           ///< Whether its lines' prices are.
 };
+
+/// An id that no document has.
+inline constexpr std::int64_t c_NoDocument = std::numeric_limits<std::int32_t>::max();
 
 /// Nothing when there is no such screen.
 const ExerciseKind* exerciseKind(std::string_view screen);

@@ -2,13 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace refhost {
 
 namespace {
 
-constexpr std::int64_t c_NoDocument = std::numeric_limits<std::int32_t>::max();
 constexpr const char* c_UnknownItem = "melvark-dbcheck: není";
 
 /// The cells of a row by its parameters.
@@ -57,16 +55,11 @@ private:
 
     /// What the document itself or its template would be filled with.
     Row findItem() const {
-        const bool isNote = context_.Kind.Screen == "DODAK";
-        const std::string fill = prefix_ + (isNote ? "GetPolozkyByDodak" : "GetPolozkyByObjednavka");
+        const ExerciseKind& kind = context_.Kind;
         const TDbValue document = exercisedId(context_.Document);
         for (const TDbValue& source : {document, TDbValue()}) {
-            const Answer filled = isNote
-                                      ? context_.First.call(fill, {{"a_DODKIDMASTER", source},
-                                                                   {"a_DODKID", document},
-                                                                   {"a_PRENESMNOZSTVI", true},
-                                                                   {"a_PRENESCENY", true}})
-                                      : context_.First.call(fill, {{"a_DDOBIDMASTER", document}, {"a_DDOBID", source}});
+            const Answer filled = context_.First.call(
+                prefix_ + kind.Fill, {{kind.FillDocumentParam, document}, {kind.FillSourceParam, source}});
             if (filled.accepted() && !filled.Result.Sets.empty()) {
                 if (Row item = itemOf(filled.Result.Sets.front()); !item.empty()) {
                     return item;
