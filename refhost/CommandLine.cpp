@@ -57,44 +57,6 @@ constexpr bool standTogether(Command one, Command other) {
            (one == Command::Batch && other == Command::Call);
 }
 
-/// An option that carries one text, for every command. What it may say is its validator's to decide.
-struct TextOptionRow {
-    const char* option;
-    const char* operand;
-    std::string CommandLine::*field;
-    const char* meaning;
-    CLI::Validator allowed;
-};
-
-CLI::Validator anyText() {
-    return CLI::Validator([](const std::string& value) { return value.empty() ? "needs a value" : std::string(); }, "");
-}
-
-CLI::Validator databaseName() {
-    return CLI::Validator(
-        [](const std::string& value) {
-            const bool isKnown = value.starts_with("sqlite:") || value.starts_with("postgresql:");
-            return isKnown ? std::string() : "begins with sqlite: or postgresql:";
-        },
-        "");
-}
-
-const std::vector<TextOptionRow>& textOptions() {
-    static const std::vector<TextOptionRow> rows{
-        {"--database", "sqlite:FILE | postgresql:CONNINFO", &CommandLine::database,
-         "the company's database; without it the user's own,\nmade with sample data on first start", databaseName()},
-        {"--user", "NAME", &CommandLine::user, "who works", anyText()},
-        {"--locale", "cs_CZ | en_GB", &CommandLine::locale, "how numbers and dates are written",
-         CLI::IsMember({"cs_CZ", "en_GB"})},
-        {"--language", "cs | en", &CommandLine::language, "the language of windows and messages",
-         CLI::IsMember({"cs", "en"})},
-        {"--trace", "FILE", &CommandLine::traceFile, "appends one JSON line for each service call", anyText()},
-        {"--procedures", "FOLDER", &CommandLine::procedures,
-         "scripts there replace the procedures of an SQLite\ndatabase that bear their names", anyText()},
-    };
-    return rows;
-}
-
 /// An option that carries a number and belongs to some commands only.
 struct NumberOptionRow {
     const char* option;
@@ -138,16 +100,6 @@ const std::vector<FlagOptionRow>& flagOptions() {
 const CommandRow& rowOf(Command command) {
     return *std::find_if(c_commands.begin(), c_commands.end(),
                          [&](const CommandRow& row) { return row.command == command; });
-}
-
-bool looksLikeOption(std::string_view word) {
-    return word.starts_with("--");
-}
-
-/// A value that was forgotten must not swallow the option behind it.
-CLI::Validator noOption() {
-    return CLI::Validator(
-        [](const std::string& value) { return looksLikeOption(value) ? "needs a value" : std::string(); }, "");
 }
 
 CLI::Validator wholeNumber(std::int32_t least) {
@@ -204,17 +156,15 @@ public:
 private:
     static constexpr std::size_t c_helpColumn = 36;
 
-    CLI::Option* addOption(const char* name, std::string& target, const char* meaning) {
-        return app_
-            .add_option_function<std::string>(
-                name, [&target](const std::string& value) { target = value; }, meaning)
-            ->check(noOption());
-    }
-
     void declareTexts() {
-        for (const TextOptionRow& row : textOptions()) {
-            addOption(row.option, result_.*row.field, row.meaning)->option_text(row.operand)->check(row.allowed);
-        }
+        declareCompanyOptions(
+            app_, result_,
+            {.database = "the company's database; without it the user's own,\nmade with sample data on first start",
+             .user = "who works",
+             .language = "the language of windows and messages"});
+        addTextOption(app_, "--trace", result_.traceFile, "appends one JSON line for each service call")
+            ->option_text("FILE")
+            ->check(anyText());
     }
 
     void declareNumbers() {
@@ -243,8 +193,9 @@ private:
 
     void declareCommands() {
         for (const CommandRow& row : c_commands) {
-            CLI::Option* option = row.subject == Value::None ? addFlag(row.option, row.meaning)
-                                                             : addOption(row.option, result_.subject, row.meaning);
+            CLI::Option* option = row.subject == Value::None
+                                      ? addFlag(row.option, row.meaning)
+                                      : addTextOption(app_, row.option, result_.subject, row.meaning);
             if (row.subject == Value::Optional) {
                 option->expected(0, 1);
             }
@@ -314,10 +265,6 @@ private:
 };
 
 } // namespace
-
-TFormatSettings formatSettingsOf(std::string_view locale) {
-    return locale == "en_GB" ? TFormatSettings::English() : TFormatSettings::Czech();
-}
 
 CommandLine parseCommandLine(const std::vector<std::string>& words) {
     return Reader().read(words);

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "host/FormatSettings.h"
+#include "refhost/CompanyOptions.h"
 
 #include <cstdint>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -27,23 +26,15 @@ enum class Command {
 };
 
 /// The command line, read and checked. Texts are UTF-8 as they came.
-struct CommandLine {
+struct CommandLine : CompanyOptions {
     Command command = Command::OpenHost;
-    std::string database; ///< "sqlite:FILE" or "postgresql:CONNINFO"; empty for the user's own database.
-    std::string user;     ///< Empty for the user that the database takes by itself.
-    std::string locale = "cs_CZ";
-    std::string language = "cs";
-    std::string traceFile;  ///< Empty for no trace.
-    std::string procedures; ///< A folder whose scripts replace procedures of the embedded engine; empty for none.
-    std::string subject;    ///< What the command works on: parameters, procedure, SQL text or screen.
+    std::string traceFile; ///< Empty for no trace.
+    std::string subject;   ///< What the command works on: parameters, procedure, SQL text or screen.
     std::vector<std::pair<std::string, std::string>> arguments; ///< NAME=VALUE of a call, in order.
     std::int32_t document = 0;
     std::int32_t lines = 0;
     bool empty = false; ///< A new company without the sample.
 };
-
-/// How the locale that an option names writes numbers and dates.
-TFormatSettings formatSettingsOf(std::string_view locale);
 
 /// The command line makes no sense; the message says which word and why, in the language of the options.
 class CommandLineError : public std::runtime_error {

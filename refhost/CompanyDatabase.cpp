@@ -8,8 +8,6 @@
 #include <QStandardPaths>
 
 #include <filesystem>
-#include <pwd.h>
-#include <unistd.h>
 
 namespace refhost {
 
@@ -17,12 +15,8 @@ namespace {
 
 constexpr std::string_view c_fileScheme = "sqlite:";
 
-std::string userOf(const CommandLine& commandLine) {
-    return commandLine.user.empty() ? systemUser() : commandLine.user;
-}
-
-std::string urlOf(const CommandLine& commandLine) {
-    return commandLine.database.empty() ? std::string(c_fileScheme) + defaultDatabaseFile() : commandLine.database;
+std::string urlOf(const CompanyOptions& options) {
+    return options.database.empty() ? std::string(c_fileScheme) + defaultDatabaseFile() : options.database;
 }
 
 /// The own database's folder, its owner's alone when it is new.
@@ -68,11 +62,6 @@ std::unique_ptr<Database> openOwnDatabase(const CommandLine& commandLine, const 
 
 } // namespace
 
-std::string systemUser() {
-    const passwd* entry = getpwuid(geteuid());
-    return entry ? entry->pw_name : std::to_string(geteuid());
-}
-
 std::string defaultDatabaseFile() {
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return (folder + QStringLiteral("/melvark/company.sqlite")).toStdString();
@@ -101,8 +90,8 @@ UpgradeReport upgradeCompanyDatabase(const CommandLine& commandLine) {
     return upgradeDatabase(urlOf(commandLine));
 }
 
-std::string databaseLabel(const CommandLine& commandLine) {
-    const std::string url = urlOf(commandLine);
+std::string databaseLabel(const CompanyOptions& options) {
+    const std::string url = urlOf(options);
     if (url.starts_with(c_fileScheme)) {
         return url.substr(c_fileScheme.size());
     }

@@ -14,9 +14,6 @@ namespace refhost {
 /// The file of the user's own database, used when the command line names no other: in the user's data directory.
 std::string defaultDatabaseFile();
 
-/// Who works when nobody is named: the system's user.
-std::string systemUser();
-
 /// Hears of an upgrade that opening a database brought about.
 using UpgradeListener = std::function<void(const UpgradeReport&)>;
 
@@ -35,6 +32,6 @@ void createCompanyDatabase(const CommandLine& commandLine, const TFormatSettings
 UpgradeReport upgradeCompanyDatabase(const CommandLine& commandLine);
 
 /// The database as people call it: the file's path, or the server's connection words without a password.
-std::string databaseLabel(const CommandLine& commandLine);
+std::string databaseLabel(const CompanyOptions& options);
 
 } // namespace refhost

@@ -17,18 +17,10 @@ void declare(CLI::App& app, CheckCommandLine& result) {
     app.set_help_flag();
     app.get_formatter()->column_width(c_HelpColumn);
     app.footer("Exit status: 0 it fits, 1 something is missing or wrong, 2 it could not be checked.");
-    app.add_option("--database", result.database, "the database that is checked")
-        ->option_text("sqlite:FILE | postgresql:CONNINFO");
-    app.add_option("--user", result.user, "whose settings the procedures of a file use")->option_text("NAME");
-    app.add_option("--procedures", result.procedures,
-                   "scripts there replace the procedures of an SQLite\ndatabase that bear their names")
-        ->option_text("FOLDER");
-    app.add_option("--locale", result.locale, "how numbers and dates are written")
-        ->check(CLI::IsMember({"cs_CZ", "en_GB"}))
-        ->option_text("cs_CZ | en_GB");
-    app.add_option("--language", result.language, "the language of the findings")
-        ->check(CLI::IsMember({"cs", "en"}))
-        ->option_text("cs | en");
+    declareCompanyOptions(app, result,
+                          {.database = "the database that is checked",
+                           .user = "whose settings the procedures of a file use",
+                           .language = "the language of the findings"});
     CLI::Option* const document =
         app.add_option("--document", result.document, "the document that the trial writes to")->option_text("ID");
     CLI::Option* const trial =
@@ -38,7 +30,7 @@ void declare(CLI::App& app, CheckCommandLine& result) {
             ->option_text("SCREEN --document ID")
             ->needs(document);
     document->needs(trial);
-    app.add_flag("--yes", result.isConfirmed, "does not ask before the trial")->needs(trial);
+    app.add_flag("--yes", result.isConfirmed, "does not ask before the trial")->needs(trial)->option_text(" ");
     app.add_flag("--json", result.json, "prints one JSON object");
     app.add_flag("--version", result.version, "prints the versions of the program, its contract and its databases");
     app.add_flag("--help", result.help, "prints this text");

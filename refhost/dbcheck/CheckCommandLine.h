@@ -1,5 +1,7 @@
 #pragma once
 
+#include "refhost/CompanyOptions.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -7,13 +9,8 @@
 namespace refhost {
 
 /// The command line of the program that checks a database, read. Texts are UTF-8 as they came.
-struct CheckCommandLine {
-    std::string database; ///< "sqlite:FILE" or "postgresql:CONNINFO".
-    std::string user;     ///< Empty for the system's user.
-    std::string locale = "cs_CZ";
-    std::string language = "cs";
-    std::string procedures; ///< A folder whose scripts replace procedures of the embedded engine; empty for none.
-    std::string screen;     ///< Of the document on which the procedures are tried; empty when they are not.
+struct CheckCommandLine : CompanyOptions {
+    std::string screen; ///< Of the document on which the procedures are tried; empty when they are not.
     std::int32_t document = 0;
     bool isConfirmed = false; ///< The trial is not asked about.
     bool json = false;

@@ -26,17 +26,6 @@ bool isRefusedAsItIs(const EDatabaseError& error) {
     return std::ranges::find(c_Codes, error.Code()) != c_Codes.end();
 }
 
-std::string userOf(const CheckCommandLine& commandLine) {
-    return commandLine.user.empty() ? systemUser() : commandLine.user;
-}
-
-/// The address without a password.
-std::string labelOf(const CheckCommandLine& commandLine) {
-    CommandLine host;
-    host.database = commandLine.database;
-    return databaseLabel(host);
-}
-
 constexpr HostText c_Question{"MELVARKHOST\\DBCHECK\\QUESTION",
                               "Zkouška přidá do dokladu %1 řádky, které v něm zůstanou. Pokračovat? [a/n] "};
 constexpr HostText c_Yes{"MELVARKHOST\\DBCHECK\\YES", "a"};
@@ -101,20 +90,20 @@ Findings inspect(const CheckCommandLine& commandLine) {
         const auto inspector = inspectDatabase(commandLine.database, userOf(commandLine),
                                                formatSettingsOf(commandLine.locale), commandLine.procedures);
         if (!inspector->hasSchema()) {
-            throw refusal("ML922", {labelOf(commandLine)});
+            throw refusal("ML922", {databaseLabel(commandLine)});
         }
         return checkStructure(contract(), *inspector);
     } catch (const EDatabaseError& error) {
         if (!isRefusedAsItIs(error) && error.Code() != "ML922") {
             throw;
         }
-        return {{FindingKind::CompanyMissing, labelOf(commandLine), {}, {}, {}, error}};
+        return {{FindingKind::CompanyMissing, databaseLabel(commandLine), {}, {}, {}, error}};
     }
 }
 
 int runCheck(const CheckCommandLine& commandLine, const CheckStreams& streams) {
     const Languages languages(commandLine.language);
-    CheckReport report{labelOf(commandLine), {}, false, {}, false};
+    CheckReport report{databaseLabel(commandLine), {}, false, {}, false};
     try {
         report.findings = inspect(commandLine);
         report.isComplete = commandLine.screen.empty() || tryProcedures(commandLine, streams, languages, report);

@@ -46,6 +46,9 @@ TEST(CheckCommandLine, NeedsADatabaseAndRefusesWhatItDoesNotKnow) {
     EXPECT_THAT(refused({}), HasSubstr("--database"));
     EXPECT_THAT(refused({"--database"}), HasSubstr("--database"));
     EXPECT_THAT(refused({"--database", "sqlite:a.db", "--language", "de"}), HasSubstr("--language"));
+    EXPECT_THAT(refused({"--database", "mysql:a"}), HasSubstr("begins with sqlite: or postgresql:"));
+    EXPECT_THAT(refused({"--database", "sqlite:a.db", "--user", "--json"}), HasSubstr("--user"));
+    EXPECT_THAT(refused({"--database", "sqlite:a.db", "--procedures", ""}), HasSubstr("needs a value"));
     EXPECT_THAT(refused({"--database", "sqlite:a.db", "word"}), HasSubstr("word"));
     EXPECT_EQ(refused({"--help"}), "accepted");
 }
@@ -68,6 +71,7 @@ TEST(CheckCommandLine, ATrialNeedsItsDocumentAndAConfirmationATrial) {
 }
 
 TEST(CheckCommandLine, TellsEveryOptionAndTheExitStatus) {
+    EXPECT_THAT(checkUsageText(), testing::Not(HasSubstr("Needs:")));
     for (const char* told : {"--database", "--user", "--procedures", "--locale", "--language", "--json", "--exercise",
                              "--document", "--yes", "Exit status"}) {
         EXPECT_THAT(checkUsageText(), HasSubstr(told));
