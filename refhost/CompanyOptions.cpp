@@ -34,7 +34,8 @@ CLI::Validator anyText() {
 
 CLI::Option* addTextOption(CLI::App& app, const char* name, std::string& target, const char* meaning) {
     return app
-        .add_option_function<std::string>(name, [&target](const std::string& value) { target = value; }, meaning)
+        .add_option_function<std::string>(
+            name, [&target](const std::string& value) { target = value; }, meaning)
         ->check(noOption());
 }
 
