@@ -32,12 +32,61 @@ function(melvark_qt_library target)
   melvark_target_options(${target})
 endfunction()
 
-# One test program: melvark_test(name SOURCES files... LIBRARIES targets... [GUI] [DISPLAY] [TIMEOUT seconds])
-# GUI: drives forms with Qt's off-screen platform; has a main of its own from tests/support (GuiMain.cpp).
-# DISPLAY: needs a window manager; tests/run-on-display starts a virtual display with one. Labelled "display".
-# The target tests_without_display builds the others.
+# What every test says of itself, for it and for its label of ctest:
+# DISPLAY: needs a window manager; tests/run-on-display starts a virtual display with one. Label "display".
+# DATABASE: starts a database server. Label "database".
+# GUI: drives forms or programs on Qt's off-screen platform. Label "gui".
+# None of the three has the label "fast".
+# LONG: takes more than ten seconds; has the label "long" besides. What has it not and needs neither display nor server
+#   runs in ./test --fast.
+macro(melvark_parse_test)
+  cmake_parse_arguments(ARG "DISPLAY;DATABASE;GUI;LONG" "TIMEOUT" "SOURCES;LIBRARIES;COMMAND" ${ARGN})
+  set(labels fast)
+  foreach(kind GUI DATABASE DISPLAY)
+    if(ARG_${kind})
+      string(TOLOWER ${kind} labels)
+    endif()
+  endforeach()
+  set(runs_fast OFF)
+  if(ARG_LONG)
+    list(APPEND labels long)
+  elseif(labels MATCHES "^(fast|gui)$")
+    set(runs_fast ON)
+  endif()
+endmacro()
+
+# The properties of a test that melvark_parse_test has read.
+function(melvark_set_test name)
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 120)
+  endif()
+  set(environment "LC_ALL=C.UTF-8")
+  if(ARG_GUI)
+    list(APPEND environment "QT_QPA_PLATFORM=offscreen")
+  endif()
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${environment}" LABELS "${labels}")
+  if(ARG_DISPLAY)
+    # Keys and focus go their way through other processes; nothing else competes with them for the machine.
+    set_tests_properties(${name} PROPERTIES RUN_SERIAL ON)
+  endif()
+endfunction()
+
+# A test that is a command: melvark_command_test(name COMMAND words... [DISPLAY] [DATABASE] [GUI] [LONG]
+# [TIMEOUT seconds])
+function(melvark_command_test name)
+  melvark_parse_test(${ARGN})
+  if(ARG_DISPLAY)
+    list(PREPEND ARG_COMMAND ${PROJECT_SOURCE_DIR}/tests/run-on-display)
+  endif()
+  add_test(NAME ${name} COMMAND ${ARG_COMMAND})
+  melvark_set_test(${name})
+endfunction()
+
+# One test program: melvark_test(name SOURCES files... LIBRARIES targets... [DISPLAY] [DATABASE] [GUI] [LONG]
+# [TIMEOUT seconds]). One with GUI or DISPLAY has a main of its own from tests/support (GuiMain.cpp).
+# The target tests_without_display builds all that need no display, tests_fast what ./test --fast runs.
 function(melvark_test target)
-  cmake_parse_arguments(ARG "GUI;DISPLAY" "TIMEOUT" "SOURCES;LIBRARIES" ${ARGN})
+  melvark_parse_test(${ARGN})
   add_executable(${target} ${ARG_SOURCES})
   target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${target} PRIVATE ${ARG_LIBRARIES})
@@ -49,22 +98,14 @@ function(melvark_test target)
   else()
     target_link_libraries(${target} PRIVATE GTest::gmock GTest::gtest GTest::gtest_main)
   endif()
-  if(NOT ARG_TIMEOUT)
-    set(ARG_TIMEOUT 120)
-  endif()
   if(ARG_DISPLAY)
     add_test(NAME ${target} COMMAND ${PROJECT_SOURCE_DIR}/tests/run-on-display $<TARGET_FILE:${target}>)
   else()
     add_test(NAME ${target} COMMAND ${target})
     add_dependencies(tests_without_display ${target})
   endif()
-  set(environment "LC_ALL=C.UTF-8")
-  if(ARG_GUI)
-    list(APPEND environment "QT_QPA_PLATFORM=offscreen")
+  if(runs_fast)
+    add_dependencies(tests_fast ${target})
   endif()
-  set_tests_properties(${target} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${environment}")
-  if(ARG_DISPLAY)
-    # Keys and focus go their way through other processes; nothing else competes with them for the machine.
-    set_tests_properties(${target} PROPERTIES LABELS display RUN_SERIAL ON)
-  endif()
+  melvark_set_test(${target})
 endfunction()
