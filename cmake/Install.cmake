@@ -24,7 +24,11 @@ install(FILES packaging/desktop/melvark.svg DESTINATION ${CMAKE_INSTALL_DATADIR}
 install(FILES packaging/manual/melvark-host.1 packaging/manual/melvark-dbcheck.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT program)
 install(FILES docs/database.md docs/procedures.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/melvark COMPONENT program)
 
-install(DIRECTORY host/ DESTINATION ${melvark_headers}/host COMPONENT development FILES_MATCHING PATTERN "*.h")
+# What only the libraries themselves include; nobody else is promised anything of it.
+set(melvark_inner_headers ContractTexts.h DecimalDigits.h FormTexts.h GridCellDelegate.h GridHeader.h StringGridModel.h)
+list(TRANSFORM melvark_inner_headers REPLACE "(.+)" "PATTERN;\\1;EXCLUDE" OUTPUT_VARIABLE without_inner_headers)
+install(DIRECTORY host/ DESTINATION ${melvark_headers}/host COMPONENT development FILES_MATCHING PATTERN "*.h"
+  ${without_inner_headers})
 install(EXPORT Melvark NAMESPACE Melvark:: DESTINATION ${melvark_configuration} COMPONENT development)
 configure_package_config_file(cmake/MelvarkConfig.cmake.in ${PROJECT_BINARY_DIR}/MelvarkConfig.cmake
   INSTALL_DESTINATION ${melvark_configuration} PATH_VARS melvark_libraries)

@@ -1,22 +1,28 @@
 #pragma once
 
+/// \file
+/// The errors that travel between a host and its plug-ins.
+
 #include "host/Types.h"
 
 #include <exception>
 #include <optional>
 
-/// The framework's message-carrying base exception. The message is a sentence for the user, in UTF-8.
+/// The framework's message-carrying base exception. The message is a sentence for the user, in UTF-8. Throw one of the
+/// classes below; a host shows what arrives in THostServices::ShowError or leaves TLibraryItem::Execute.
 ///
 /// Every class below has an out-of-line destructor, so that its type information lives in the contract library alone
 /// and an exception thrown in a plug-in is caught by type in the host.
 class Exception : public std::exception {
 public:
+    /// The sentence, already in the user's language.
     explicit Exception(AnsiString message);
     Exception(const Exception&) = default;
     Exception& operator=(const Exception&) = default;
     ~Exception() override;
 
     const char* what() const noexcept override;
+    /// The sentence; what() gives the same bytes.
     const AnsiString& Message() const noexcept;
 
 private:
@@ -58,8 +64,11 @@ public:
     EDatabaseError& operator=(const EDatabaseError&) = default;
     ~EDatabaseError() override;
 
+    /// The refusal's code, empty for an error that the database gave none.
     const AnsiString& Code() const noexcept;
+    /// For the administrator, in any language; may be empty.
     const AnsiString& Details() const noexcept;
+    /// Who has to do something: the clerk or the administrator.
     TDatabaseCause Cause() const noexcept;
 
     /// The line of a save that the refusal is about, counted from 0 in the order in which the lines are sent; nothing

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Texts with places for numbers, amounts of money and other texts.
+
 #include "host/FormatSettings.h"
 #include "host/Types.h"
 
@@ -10,16 +13,23 @@
 #include <utility>
 #include <variant>
 
-/// One argument of Format: an integer, a floating-point number or a text.
+/// One argument of Format: an integer, a floating-point number or a text. It converts by itself: write the values.
 class TFormatArg {
 public:
+    /// A whole number.
     TFormatArg(int value) : FValue(std::int64_t{value}) {}
+    /// A whole number.
     TFormatArg(std::int64_t value) : FValue(value) {}
+    /// A number for %f and %m.
     TFormatArg(double value) : FValue(value) {}
+    /// A text.
     TFormatArg(AnsiString value) : FValue(std::move(value)) {}
+    /// A text.
     TFormatArg(std::string_view value) : FValue(AnsiString(value)) {}
+    /// A text, the empty one for null.
     TFormatArg(const char* value) : FValue(AnsiString(value != nullptr ? value : "")) {}
 
+    /// What it was made from.
     const std::variant<std::int64_t, double, AnsiString>& Value() const { return FValue; }
 
 private:
@@ -44,5 +54,6 @@ inline constexpr int c_MaxFormatWidth = 1000;
 /// Throws EConvertError, naming the format text, for an unknown or cut specifier, a width or precision that is too
 /// large, a missing argument, one of the wrong type or a number that is not finite. Arguments left over are ignored.
 AnsiString Format(std::string_view format, std::span<const TFormatArg> arguments, const TFormatSettings& settings);
+/// As above, with the arguments written where it is called.
 AnsiString Format(std::string_view format, std::initializer_list<TFormatArg> arguments,
                   const TFormatSettings& settings);

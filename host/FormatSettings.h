@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// How a locale writes numbers, dates and money.
+
 #include "host/Types.h"
 
 /// The order in which a locale writes the parts of a date.
@@ -13,8 +16,8 @@ struct TFormatSettings {
     AnsiString CurrencyString = "";     ///< Written with money; empty for none.
     bool CurrencyAfterNumber = true;    ///< Where the currency stands.
     int CurrencyDecimals = 2;           ///< Decimals of money when the format gives no precision.
-    TDateOrder DateOrder = TDateOrder::YearMonthDay;
-    char DateSeparator = '-';
+    TDateOrder DateOrder = TDateOrder::YearMonthDay; ///< Also of dates that are read.
+    char DateSeparator = '-';                        ///< A blank may stand around it in what is read.
 
     /// cs_CZ: comma, no-break space groups, "Kč" after the number, day.month.year.
     static TFormatSettings Czech();
@@ -22,5 +25,6 @@ struct TFormatSettings {
     /// day/month/year.
     static TFormatSettings English();
 
+    /// Whether every member is the same.
     bool operator==(const TFormatSettings&) const = default;
 };

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Identifiers of documents and how one travels to a procedure.
+
 class TLiveParam;
 
 /// Identifiers are 32-bit integers of the database. This one means "none".

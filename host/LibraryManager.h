@@ -1,22 +1,28 @@
 #pragma once
 
+/// \file
+/// What a host does for a plug-in's windows: boxes, lookup lists and the user's language.
+
 #include "host/Types.h"
 
 #include <functional>
 #include <optional>
 
-/// Message-box flags and results of the platform.
+/// \name Message-box flags and results of the platform
+/// A form's modal result is one of the results, too.
+/// \{
 inline constexpr int c_MessageBoxError = 16;    ///< Error icon, OK button.
 inline constexpr int c_MessageBoxQuestion = 36; ///< Question icon, Yes and No buttons.
-inline constexpr int c_ResultOk = 1;
-inline constexpr int c_ResultCancel = 2;
-inline constexpr int c_ResultYes = 6;
-inline constexpr int c_ResultNo = 7;
+inline constexpr int c_ResultOk = 1;            ///< "OK".
+inline constexpr int c_ResultCancel = 2;        ///< Cancelled, or closed by the close box.
+inline constexpr int c_ResultYes = 6;           ///< The question's Yes.
+inline constexpr int c_ResultNo = 7;            ///< The question's No.
+/// \}
 
 /// What the user picked from a lookup list, as texts.
 struct TLookupPick {
-    AnsiString Display;
-    AnsiString Key;
+    AnsiString Display; ///< Of the display column.
+    AnsiString Key;     ///< Of the key column, for TextToInt.
 };
 
 /// A form whose texts the host may replace by the user's language. The host looks a text up under
@@ -25,17 +31,19 @@ class TLocalizableForm {
 public:
     /// One text of one control: its current (built-in) text and the way to replace it.
     struct TText {
-        AnsiString Control;  ///< Control name; the form itself is "Form".
-        AnsiString Property; ///< "Caption" or "Hint".
-        AnsiString Text;
-        std::function<void(const AnsiString&)> Replace;
+        AnsiString Control;                             ///< Control name; the form itself is "Form".
+        AnsiString Property;                            ///< "Caption" or "Hint".
+        AnsiString Text;                                ///< Never empty.
+        std::function<void(const AnsiString&)> Replace; ///< Holds as long as the form.
     };
 
     virtual ~TLocalizableForm();
+    /// Shows each of the form's texts to `visit`, in the order in which the controls were made.
     virtual void VisitTexts(const std::function<void(const TText&)>& visit) = 0;
 };
 
-/// The host object that loads and owns library items. Implemented by the host; a form works without one (null).
+/// The host object that loads and owns library items. Implemented by the host; a form works without one (null): it then
+/// keeps its built-in texts, shows the framework's own boxes (ApplicationMessageBox) and opens no lists.
 class TLibraryManager {
 public:
     TLibraryManager() = default;

@@ -1,5 +1,11 @@
 #pragma once
 
+/// \file
+/// Numbers and dates as the user types them, and back.
+///
+/// The one place that says which text is a number or a date: value checks, price rules, the reference databases and
+/// their tests all follow it.
+
 #include "host/FormatSettings.h"
 #include "host/Types.h"
 
@@ -7,9 +13,6 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
-
-/// Numbers and dates as the user types them, and back. The one place that says which text is a number or a date:
-/// value checks, price rules, the reference databases and their tests all follow it.
 
 /// `text` without leading and trailing blanks (space, tab, line break, no-break space).
 std::string_view TrimText(std::string_view text);

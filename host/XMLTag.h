@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// A small XML tree, and reading and writing it.
+
 #include "host/Types.h"
 
 #include <cstddef>
@@ -11,22 +14,26 @@
 /// the contract; reading skips them.
 class TXMLTag {
 public:
+    /// A node without a value and children. The name is looked at when the tree is written.
     explicit TXMLTag(AnsiString name);
     TXMLTag(const TXMLTag&) = delete;
     TXMLTag& operator=(const TXMLTag&) = delete;
     ~TXMLTag();
 
+    /// The element's name.
     const AnsiString& GetName() const { return FName; }
     /// The character data directly inside the element, all pieces joined, unchanged.
     const AnsiString& GetValue() const { return FValue; }
+    /// Replaces the character data; any UTF-8.
     void SetValue(AnsiString value) { FValue = std::move(value); }
 
     /// Appends a child and returns it; it lives as long as this node.
     TXMLTag& CreateTag(AnsiString name);
     /// The first child of that name (case-sensitive), or null.
     const TXMLTag* GetTagByName(std::string_view name) const;
+    /// How many children there are.
     std::size_t GetTagsCount() const { return FTags.size(); }
-    /// The child at `index`, 0 to GetTagsCount() - 1.
+    /// The child at `index`, 0 to GetTagsCount() - 1, in their order; std::out_of_range for another.
     const TXMLTag& GetTag(std::size_t index) const;
 
 private:

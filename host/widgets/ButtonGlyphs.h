@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The images of buttons.
+
 #include "host/widgets/Vocabulary.h"
 
 #include <QPixmap>

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The framework's three buttons.
+
 #include "host/Types.h"
 #include "host/widgets/Vocabulary.h"
 
@@ -16,15 +19,22 @@ class TQelPngBitBtn : public QPushButton {
     Q_OBJECT
 
 public:
+    /// Give it an object name, a caption and a modal result next.
     explicit TQelPngBitBtn(QWidget* parent);
 
+    /// The caption with its shortcut mark.
     AnsiString Caption() const;
+    /// "&" marks the shortcut letter; a caption that is data goes through melvark::PlainCaption.
     void SetCaption(const AnsiString& caption);
+    /// What a click sets; 0 (the button leaves the form open) at first.
     int ModalResult() const { return FModalResult; }
+    /// One of c_ResultOk, c_ResultCancel and their like, or 0.
     void SetModalResult(int result) { FModalResult = result; }
+    /// The handler runs between the two looks at the form's result. None when it is empty.
     void SetOnClick(TNotifyEvent handler) { FOnClick = std::move(handler); }
     /// The default button of its form is clicked by Enter in any control that does not use the key itself.
     bool Default() const { return isDefault(); }
+    /// A form has one; the last that is set.
     void SetDefault(bool isDefaultButton) { setDefault(isDefaultButton); }
     /// A null image removes it.
     void SetGlyph(const TPngObject& png);
@@ -44,10 +54,12 @@ class TQelPngSpeedButton : public QToolButton {
     Q_OBJECT
 
 public:
+    /// Give it an object name, an image and a hint next: it has no caption.
     explicit TQelPngSpeedButton(QWidget* parent);
 
     /// The handler is guarded.
     void SetOnClick(TNotifyEvent handler) { FOnClick = std::move(handler); }
+    /// A null image removes it.
     void SetGlyph(const TPngObject& png);
 
 private:
@@ -60,11 +72,14 @@ class TMenuButton : public QPushButton {
     Q_OBJECT
 
 public:
+    /// Give it an object name, a caption and a menu next.
     explicit TMenuButton(QWidget* parent);
 
+    /// The text as it was set.
     AnsiString Caption() const;
     /// The text is data (the name of a setting) and is shown letter for letter.
     void SetCaption(const AnsiString& caption);
+    /// The attached menu; null when there is none or it is gone.
     TPopupMenu* PopupMenu() const;
     /// The menu is not owned.
     void SetPopupMenu(TPopupMenu* menu);

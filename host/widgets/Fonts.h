@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The letters of forms and grids.
+
 #include <QFont>
 
 namespace melvark {

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The framework's form class.
+
 #include "host/LibraryManager.h"
 #include "host/Types.h"
 #include "host/widgets/Vocabulary.h"
@@ -19,10 +22,10 @@ enum class TPosition {
 /// Limits of a form's size in pixels; 0 = no limit. The layout's own needs go before them: a form never becomes so
 /// small that a text is cut, and a maximum below that need gives way.
 struct TSizeConstraints {
-    int MinWidth = 0;
-    int MinHeight = 0;
-    int MaxWidth = 0;
-    int MaxHeight = 0;
+    int MinWidth = 0;  ///< Of the client area, as the others.
+    int MinHeight = 0; ///< No smaller.
+    int MaxWidth = 0;  ///< No wider.
+    int MaxHeight = 0; ///< No taller.
 };
 
 /// The framework's form class on a dialog: show and close events, a modal result, localisation of its texts.
@@ -42,7 +45,9 @@ public:
     explicit TForm(TComponent* owner);
     ~TForm() override;
 
+    /// The window's title.
     AnsiString Caption() const;
+    /// Replaces it.
     void SetCaption(const AnsiString& caption);
 
     /// 0 = none; see c_ResultOk and c_ResultCancel.
@@ -56,8 +61,11 @@ public:
     /// Closes a shown form as the close box does, with c_ResultCancel.
     void Close();
 
+    /// Looked at when the form appears; poDefault at first.
     void SetPosition(TPosition position) { FPosition = position; }
+    /// Holds from now on, also for a form that is shown.
     void SetConstraints(const TSizeConstraints& constraints);
+    /// Whether Escape closes the form as the close box does; false at first.
     void SetCloseOnEscape(bool closes) { FCloseOnEscape = closes; }
     /// Moves the form so that it stands in the middle of its screen, not counting the window manager's frame, which is
     /// not known before the form appears; odd rests go toward zero.

@@ -1,5 +1,12 @@
 #pragma once
 
+/// \file
+/// How every slot, timer and event handler is entered.
+///
+/// No exception may leave one of them: Qt ends the process. Each entry point of a form runs its work through
+/// melvark::Guarded, or is connected with melvark::ConnectGuarded; the error goes to the host's error display and the
+/// event loop goes on. Constructors and workflows are not guarded: their errors travel to their caller.
+
 #include <QObject>
 
 #include <exception>
@@ -7,9 +14,6 @@
 #include <type_traits>
 #include <utility>
 
-/// No exception may leave a slot, timer or event handler: Qt ends the process. Every such entry point of a
-/// form runs its work through Guarded, or is connected with ConnectGuarded; the error goes to the host's error display
-/// and the event loop goes on. Constructors and workflows are not guarded: their errors travel to their caller.
 namespace melvark {
 
 /// Hands the error to the current host's error display; writes it to standard error when no host is installed.

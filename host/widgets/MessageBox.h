@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The framework's own message box.
+
 #include "host/LibraryManager.h"
 #include "host/Types.h"
 

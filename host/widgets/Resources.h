@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Images of the host.
+
 #include "host/widgets/Vocabulary.h"
 
 #include <string_view>

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// Alt keys that an edit needs for itself.
+
 #include <Qt>
 
 #include <initializer_list>

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The framework's string grid.
+
 #include "host/Types.h"
 #include "host/widgets/StringGridTexts.h"
 #include "host/widgets/Vocabulary.h"
@@ -12,9 +15,9 @@ class TStringGridModel;
 
 /// How one data cell looks: the text shown (which may differ from the cell's text), its place and weight.
 struct TCellLook {
-    AnsiString Text;
+    AnsiString Text;                         ///< One line, shown letter for letter.
     Qt::AlignmentFlag Align = Qt::AlignLeft; ///< AlignLeft, AlignHCenter or AlignRight.
-    bool Bold = false;
+    bool Bold = false;                       ///< Whether the letters are bold.
 };
 
 /// Gives the look of the data cell at a grid column and row (both at least 1). Called while painting: it reads, and
@@ -42,37 +45,52 @@ public:
     /// The header row is the one fixed row, however many rows there are.
     static constexpr int c_FixedRows = 1;
 
+    /// One column and one row, both fixed: it shows nothing yet.
     explicit TStringGrid(QWidget* parent);
     ~TStringGrid() override;
 
+    /// How many columns there are, the fixed one included.
     int ColCount() const;
+    /// How many rows there are, the fixed one included.
     int RowCount() const;
+    /// Columns come empty and go at the right; one stays at least.
     void SetColCount(int count);
+    /// Rows come empty and go at the end; one stays at least.
     void SetRowCount(int count);
 
     /// The text of a cell, header cells included; empty outside the counts, where writing has no effect. The reference
     /// holds until the cell's text changes.
     const AnsiString& Cells(int col, int row) const;
+    /// Writes a cell's text over what lies underneath.
     void SetCells(int col, int row, AnsiString text);
     /// The column's cells show these texts, which stay where they are and may change there, each until another text is
     /// written into its cell. What was written before is gone.
     void SetColumnTexts(int col, TColumnTexts texts);
 
-    /// Whole-column shifts with texts and widths; none of them tells the owner. `col` counts from 1.
+    /// An empty column comes to stand at `col`, which counts from 1. Like the two below it shifts whole columns with
+    /// their texts and widths, and tells nobody.
     void InsertColumn(int col);
+    /// Takes column `col` out.
     void DeleteColumn(int col);
+    /// Column `from` comes to stand at `to`.
     void MoveColumn(int from, int to);
 
-    /// Inner widths and heights of cells in pixels, without the grid line.
+    /// A column's inner width in pixels, without the grid line.
     int ColWidths(int col) const;
+    /// Sets it; 0 is the narrowest. The owner gets TopLeftChanged.
     void SetColWidths(int col, int width);
+    /// The inner height of every row in pixels, without the grid line.
     int RowHeight() const;
+    /// Sets it; 1 is the lowest.
     void SetRowHeight(int height);
 
-    /// The current cell. Before a cell was current, the column is 0 and the row the first data row.
+    /// The current cell's column; 0 before a cell was current.
     int Col() const;
+    /// The current cell's row; the first data row before a cell was current.
     int Row() const;
+    /// As SetCurrentCell in the current row.
     void SetCol(int col);
+    /// As SetCurrentCell in the current column.
     void SetRow(int row);
     /// Makes a data cell current and scrolls it into view; other coordinates have no effect.
     void SetCurrentCell(int col, int row);
@@ -86,7 +104,9 @@ public:
     /// Scrolls a data cell into view without making it current.
     void ScrollToCell(int col, int row);
 
+    /// Whether Tab leads to the grid.
     bool TabStop() const;
+    /// True at first. The mouse gives the focus either way.
     void SetTabStop(bool stops);
 
     /// Scrolls as if the wheel had been turned over the cells.
@@ -94,12 +114,14 @@ public:
 
     /// The hint shown when the mouse rests on the grid, headers included. Plain text.
     AnsiString Hint() const;
+    /// None when it is empty.
     void SetHint(const AnsiString& hint);
     /// Takes a hint on the screen away.
     void CancelHint();
 
     /// Without one, a cell shows its text at the left, not bold. One that throws is removed and its error reported.
     void SetPresentation(TCellPresentation presentation);
+    /// What the presentation says of a data cell, or the cell's text without one.
     TCellLook Look(int col, int row) const;
 
     void keyboardSearch(const QString& search) override;

@@ -1,5 +1,8 @@
 #pragma once
 
+/// \file
+/// The texts of one column of a string grid.
+
 #include "host/Types.h"
 
 #include <functional>
@@ -16,7 +19,9 @@ namespace melvark {
 /// copy of them. Row 0, the header, has nothing underneath.
 class StringGridTexts {
 public:
+    /// What the cell shows. The reference holds until the text changes.
     const AnsiString& Text(int row) const;
+    /// Writes over what lies underneath; the same text as there is forgotten.
     void SetText(int row, AnsiString text);
     /// Forgets the texts that were written below the header.
     void SetUnderneath(TColumnTexts texts);

@@ -1,16 +1,19 @@
 #pragma once
 
+/// \file
+/// The widget boundary: the one place where UTF-8 text becomes a Qt string and back.
+
 #include "host/Types.h"
 
 #include <QString>
 
 #include <string_view>
 
-/// The widget boundary: the one place where UTF-8 text becomes a Qt string and back.
 namespace melvark {
 
 /// Bytes that are no UTF-8 become the replacement character.
 QString ToQString(std::string_view text);
+/// As UTF-8.
 AnsiString ToAnsi(const QString& text);
 
 /// A caption that shows `text` letter for letter: an ampersand marks a shortcut letter in captions of buttons, check
