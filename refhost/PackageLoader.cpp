@@ -8,8 +8,10 @@
 
 #include <QFileInfo>
 #include <QLibrary>
+#include <QRegularExpression>
 
 #include <array>
+#include <optional>
 
 namespace refhost {
 
@@ -24,6 +26,15 @@ template <typename... Values>
     throw EHostError(languages.label(text).arg(QString::fromStdString(values)...).toStdString());
 }
 
+/// The other version of the contract whose library the loader missed: in whatever language it complains, it names the
+/// file, and the file's name ends in the version.
+std::optional<std::string> missedContract(const QString& complaint) {
+    static const QRegularExpression contract(QStringLiteral(R"(libhostcontract\.so\.(\d+))"));
+    const QString version = contract.match(complaint).captured(1);
+    return version.isEmpty() || version == QString::number(c_ContractVersion) ? std::nullopt
+                                                                              : std::optional(version.toStdString());
+}
+
 /// The library with all its symbols bound, so that a part that does not fit shows itself now and not in use.
 void load(QLibrary& library, const std::string& name, const Languages& languages) {
     if (!QFileInfo::exists(library.fileName())) {
@@ -35,6 +46,9 @@ void load(QLibrary& library, const std::string& name, const Languages& languages
     }
     library.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     if (!library.load()) {
+        if (const auto version = missedContract(library.errorString())) {
+            refuse(languages, texts::pluginVersion, name, *version, std::to_string(c_ContractVersion));
+        }
         refuse(languages, texts::pluginUnloadable, name, library.errorString().toStdString());
     }
 }

@@ -104,6 +104,12 @@ TEST_F(PackageLoaderTest, APackageOfAnotherVersionIsNotInitialized) {
               "programem.");
 }
 
+TEST_F(PackageLoaderTest, APackageOfAVersionWhoseLibrariesAreMissingIsRefusedForItsVersion) {
+    EXPECT_EQ(refusal(plugin("LaterPlugin")),
+              "Modul „LaterPlugin.so“ je pro jinou verzi programu (2 místo 1). Nainstalujte jeho verzi vydanou s tímto "
+              "programem.");
+}
+
 TEST_F(PackageLoaderTest, APackageThatFailsToStartSaysWhyAndIsNotFinalized) {
     EXPECT_EQ(refusal(plugin("FailingPlugin")), "Modul „FailingPlugin.so“ se nepodařilo spustit. (Chybí licence.)");
 }

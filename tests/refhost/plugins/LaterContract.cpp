@@ -1,0 +1,2 @@
+/// Something that only the later version of the contract has.
+void somethingNew() {}
