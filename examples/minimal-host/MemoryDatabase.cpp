@@ -29,7 +29,7 @@ TCallResult OneSet(const AnsiString& columns, std::vector<std::vector<TDbValue>>
 
 } // namespace
 
-MemoryDatabase::MemoryDatabase(const TFormatSettings& settings) : FSettings(settings) {
+MemoryDatabase::MemoryDatabase() {
     const auto nothing = [](const Values&) { return TCallResult(); };
     const auto add = [this](const AnsiString& name, const AnsiString& inputs, auto run) {
         FProcedures["MELVARKEDITOR" + name] = {Words(inputs, "a_"), run};

@@ -16,7 +16,7 @@ public:
         double UnitPrice = 0;
     };
 
-    explicit MemoryDatabase(const TFormatSettings& settings);
+    MemoryDatabase();
 
     TProcedureInfo Describe(const AnsiString& procedure) override;
     TCallResult Execute(const TProcedureCall& call) override;
@@ -38,7 +38,7 @@ private:
     TCallResult Recalculate(const Values& values) const;
     TCallResult Stage(const Values& values);
     TCallResult TakeOver();
-    TFormatSettings FSettings;
+    TFormatSettings FSettings = TFormatSettings::English();
     std::map<AnsiString, Procedure> FProcedures;
     std::vector<Line> FStaged;
     std::vector<Line> FStored;
