@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QObject>
-#include <QRect>
+#include "host/widgets/WindowPlace.h"
 
 #include <cstdint>
 
@@ -9,12 +8,8 @@ class TForm;
 
 namespace melvark {
 
-/// Remembers in the database where the windows of one edit type stood. The rectangle is the normal one, to which a
-/// maximised or minimised window returns, without the frame, so that a window does not creep from one use to the next.
-/// Errors of the database pass through.
-class WindowPlacementKeeper : public QObject {
-    Q_OBJECT
-
+/// Remembers in the database where the windows of one edit type stood. Errors of the database pass through.
+class WindowPlacementKeeper {
 public:
     /// All editors of the edit type share one placement, whatever their edit-type offset.
     WindowPlacementKeeper(TForm& form, std::int32_t editType);
@@ -24,14 +19,10 @@ public:
     void Load();
     void Save() const;
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
-    QRect NormalRect() const;
-
     TForm& FForm;
     std::int32_t FEditType;
-    QRect FRectBeforeMaximizing; ///< Null unless the form is maximised, or was when it was minimised.
+    WindowPlace FPlace;
 };
 
 } // namespace melvark

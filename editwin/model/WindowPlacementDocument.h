@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/ReachablePlace.h"
 #include "host/Types.h"
 
 #include <optional>
@@ -7,17 +8,6 @@
 
 /// The small document that remembers where an editor's window stood.
 namespace melvark {
-
-/// Edges and sizes of the normal rectangle, the one that a maximised window returns to, in screen pixels.
-struct WindowPlacement {
-    int Left = 0;
-    int Top = 0;
-    int Width = 0;
-    int Height = 0;
-    std::optional<bool> Maximized = {}; ///< Nothing when a document that was read does not say; always written.
-
-    bool operator==(const WindowPlacement&) const = default;
-};
 
 /// The document of a placement.
 AnsiString WriteWindowPlacement(const WindowPlacement& placement);

@@ -1,4 +1,4 @@
-#include "editwin/model/ReachablePlace.h"
+#include "editwin/model/WindowPlacementDocument.h"
 #include "tests/fuzzing/FuzzTarget.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "editwin/model/ColumnSettingsDocument.h"
-#include "editwin/model/ReachablePlace.h"
 #include "editwin/model/WindowPlacementDocument.h"
+#include "host/ReachablePlace.h"
 #include "tests/fuzzing/Mutations.h"
 #include "tests/model/ColumnsForTests.h"
 #include "tests/model/SettingsJudge.h"

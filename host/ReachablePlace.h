@@ -1,10 +1,21 @@
 #pragma once
 
-#include "editwin/model/WindowPlacementDocument.h"
-
+#include <optional>
 #include <span>
 
 namespace melvark {
+
+/// Where a window stands. Edges and sizes of the normal rectangle, the one that a maximised window returns to, in
+/// screen pixels.
+struct WindowPlacement {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    std::optional<bool> Maximized = {}; ///< Nothing when whoever remembers the window does not say.
+
+    bool operator==(const WindowPlacement&) const = default;
+};
 
 /// A rectangle of the desktop, in screen pixels.
 struct ScreenArea {

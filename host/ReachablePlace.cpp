@@ -1,4 +1,4 @@
-#include "editwin/model/ReachablePlace.h"
+#include "host/ReachablePlace.h"
 
 #include <algorithm>
 #include <cstdint>
