@@ -1,5 +1,6 @@
 #include "refhost/CompanyDatabase.h"
 
+#include "refhost/OwnFolder.h"
 #include "refhost/database/Databases.h"
 #include "refhost/database/SampleCompany.h"
 #include "refhost/database/SchemaVersion.h"
@@ -19,14 +20,8 @@ std::string urlOf(const CompanyOptions& options) {
     return options.database.empty() ? std::string(c_fileScheme) + defaultDatabaseFile() : options.database;
 }
 
-/// The own database's folder, its owner's alone when it is new.
-void makeOwnFolder() {
-    const std::filesystem::path folder = std::filesystem::path(defaultDatabaseFile()).parent_path();
-    std::error_code refused; // a folder that is missing in the end is refused with a sentence when it is to be used
-    std::filesystem::create_directories(folder.parent_path(), refused);
-    if (std::filesystem::create_directory(folder, refused)) {
-        std::filesystem::permissions(folder, std::filesystem::perms::owner_all, refused);
-    }
+void makeDefaultFolder() {
+    makeOwnFolder(std::filesystem::path(defaultDatabaseFile()).parent_path());
 }
 
 /// All in one transaction: a program that is interrupted leaves nothing that looks like a company.
@@ -41,7 +36,7 @@ void makeCompany(Database& database, const CommandLine& commandLine) {
 std::unique_ptr<Database> openOwnDatabase(const CommandLine& commandLine, const TFormatSettings& settings,
                                           const UpgradeListener& upgraded) {
     const std::string url = urlOf(commandLine);
-    makeOwnFolder();
+    makeDefaultFolder();
     if (std::filesystem::exists(defaultDatabaseFile())) {
         const std::int64_t version = schemaVersionOf(url);
         if (version != 0 && version < c_SchemaVersion) {
@@ -80,7 +75,7 @@ std::unique_ptr<Database> openCompanyDatabase(const CommandLine& commandLine, co
 
 void createCompanyDatabase(const CommandLine& commandLine, const TFormatSettings& settings) {
     if (commandLine.database.empty()) {
-        makeOwnFolder();
+        makeDefaultFolder();
     }
     const auto database = openDatabase(urlOf(commandLine), userOf(commandLine), settings, OpenMode::Create);
     database->inOneTransaction([&] { makeCompany(*database, commandLine); });

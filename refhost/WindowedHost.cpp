@@ -11,6 +11,8 @@
 
 #include <QApplication>
 
+#include <iostream>
+
 namespace refhost {
 
 namespace {
@@ -52,7 +54,8 @@ int WindowedHost::openMainWindow() {
                           .user = database_.user(),
                           .database = databaseLabel(commandLine_),
                           .insertLines = {},
-                          .moduleMissing = {}};
+                          .moduleMissing = {},
+                          .look = readWindowLook(windowLookFile())};
     try {
         loadModule();
         parts.insertLines = [this](const std::string& params, TDataSet& dataSet) {
@@ -62,7 +65,12 @@ int WindowedHost::openMainWindow() {
         parts.moduleMissing = error.Message();
     }
     MainWindow window(std::move(parts));
-    QObject::connect(&window, &MainWindow::closed, qApp, &QCoreApplication::quit);
+    QObject::connect(&window, &MainWindow::closed, qApp, [&window] {
+        if (!writeWindowLook(windowLookFile(), window.look())) {
+            std::cerr << "The window's place and widths cannot be kept.\n";
+        }
+        QCoreApplication::quit();
+    });
     window.start();
     window.show();
     return QApplication::exec();

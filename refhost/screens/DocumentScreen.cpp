@@ -33,7 +33,8 @@ DocumentScreen::DocumentScreen(const ScreenDefinition& definition, TConnection& 
       languages_(languages),
       documents_(new SearchableTable(settings, languages, this)),
       linesTitle_(new QLabel(this)),
-      lines_(new ResultTable(settings, languages, this)) {
+      lines_(new ResultTable(settings, languages, this)),
+      splitter_(new QSplitter(Qt::Vertical, this)) {
     setObjectName(QString::fromLatin1(definition.code.data(), static_cast<qsizetype>(definition.code.size())));
     documents_->table().setObjectName(u"documentsTable");
     documents_->table().setAccessibleName(languages.label(texts::documentList));
@@ -53,16 +54,16 @@ DocumentScreen::DocumentScreen(const ScreenDefinition& definition, TConnection& 
     belowLayout->addWidget(linesTitle_);
     belowLayout->addWidget(lines_, 1);
 
-    auto* splitter = new QSplitter(Qt::Vertical, this);
-    splitter->setObjectName(u"splitter");
-    splitter->setChildrenCollapsible(false);
-    splitter->addWidget(documents_);
-    splitter->addWidget(below);
-    splitter->setStretchFactor(0, 3);
-    splitter->setStretchFactor(1, 2);
+    splitter_->setObjectName(u"splitter");
+    splitter_->setChildrenCollapsible(false);
+    splitter_->addWidget(documents_);
+    splitter_->addWidget(below);
+    splitter_->setStretchFactor(0, 3);
+    splitter_->setStretchFactor(1, 2);
+    connect(splitter_, &QSplitter::splitterMoved, this, [this] { heightsAreSet_ = true; });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(c_margin, c_margin, c_margin, c_margin);
-    layout->addWidget(splitter);
+    layout->addWidget(splitter_);
 
     melvark::ConnectGuarded(&documents_->table(), &ResultTable::currentRowChanged, this, &DocumentScreen::showLines);
 }
@@ -73,7 +74,9 @@ void DocumentScreen::refresh() {
         documents_->table().setTable(readDocuments(connection_, definition_));
         documents_->updateCount();
         if (!sorted_) {
-            documents_->table().sortBy(definition_.sortColumn, definition_.sortOrder);
+            if (!documents_->table().isSorted()) {
+                documents_->table().sortBy(definition_.sortColumn, definition_.sortOrder);
+            }
             documents_->table().selectFirst();
             sorted_ = true;
         }
@@ -128,6 +131,24 @@ void DocumentScreen::showLines() {
 DocumentDataSet DocumentScreen::dataSet() const {
     const ResultTable& documents = documents_->table();
     return {documents.result().table(), documents.currentRow(), settings_};
+}
+
+void DocumentScreen::setLook(const ScreenLook& look) {
+    documents_->table().setLook(look.documents);
+    lines_->setLook(look.lines);
+    heightsAreSet_ = look.documentsHeight > 0 && look.linesHeight > 0;
+    if (heightsAreSet_) {
+        splitter_->setSizes({look.documentsHeight, look.linesHeight});
+    }
+}
+
+ScreenLook DocumentScreen::look() const {
+    ScreenLook look{.documents = documents_->table().look(), .lines = lines_->look()};
+    if (heightsAreSet_) {
+        look.documentsHeight = splitter_->sizes().at(0);
+        look.linesHeight = splitter_->sizes().at(1);
+    }
+    return look;
 }
 
 void DocumentScreen::startSearch() {

@@ -3,6 +3,7 @@
 #include "host/Connection.h"
 #include "host/FormatSettings.h"
 #include "refhost/screens/DocumentDataSet.h"
+#include "refhost/screens/WindowLook.h"
 
 #include <QStringList>
 #include <QWidget>
@@ -12,6 +13,7 @@
 #include <set>
 
 class QLabel;
+class QSplitter;
 
 namespace refhost {
 
@@ -42,6 +44,10 @@ public:
     /// The current document, or an empty dataset.
     DocumentDataSet dataSet() const;
 
+    /// Before the first refresh: how the screen was left.
+    void setLook(const ScreenLook& look);
+    ScreenLook look() const;
+
     /// Puts the cursor into the search line.
     void startSearch();
 
@@ -55,6 +61,8 @@ private:
     SearchableTable* documents_;
     QLabel* linesTitle_;
     ResultTable* lines_;
+    QSplitter* splitter_;
+    bool heightsAreSet_ = false; ///< By the user.
     bool sorted_ = false;
     bool refreshing_ = false;
 };

@@ -49,12 +49,9 @@ protected:
 
 } // namespace
 
-MainWindow::MainWindow(MainWindowParts parts) : parts_(std::move(parts)) {
+MainWindow::MainWindow(MainWindowParts parts) : parts_(std::move(parts)), place_(*this) {
     setObjectName(u"mainWindow");
     setWindowTitle(parts_.languages.label(texts::applicationTitle));
-    // A dense or small screen has less room than the first size wants; the window's frame needs some too.
-    resize(c_startSize.boundedTo(screen()->availableSize() * 0.9));
-
     auto* center = new QWidget(this);
     auto* layout = new QVBoxLayout(center);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -73,6 +70,27 @@ MainWindow::MainWindow(MainWindowParts parts) : parts_(std::move(parts)) {
     if (!parts_.moduleMissing.empty()) {
         addModuleNotice();
     }
+    takePlace();
+}
+
+void MainWindow::takePlace() {
+    if (!parts_.look.place) {
+        // A dense or small screen has less room than the first size wants; the window's frame needs some too.
+        resize(c_startSize.boundedTo(screen()->availableSize() * 0.9));
+        return;
+    }
+    melvark::MoveWithinReach(*this, *parts_.look.place);
+    if (parts_.look.place->Maximized.value_or(false)) {
+        setWindowState(Qt::WindowMaximized);
+    }
+}
+
+WindowLook MainWindow::look() const {
+    WindowLook look{.place = place_.Current(), .screen = std::string(currentScreen().definition().code), .screens = {}};
+    for (const DocumentScreen* screen : screens_) {
+        look.screens[std::string(screen->definition().code)] = screen->look();
+    }
+    return look;
 }
 
 void MainWindow::start() {
@@ -90,6 +108,13 @@ void MainWindow::buildScreens() {
         auto* screen = new DocumentScreen(definition, parts_.connection, parts_.settings, parts_.languages, tabs_);
         tabs_->addTab(screen, parts_.languages.label(definition.title));
         screens_.push_back(screen);
+        const std::string code(definition.code);
+        if (const auto left = parts_.look.screens.find(code); left != parts_.look.screens.end()) {
+            screen->setLook(left->second);
+        }
+        if (parts_.look.screen == code) {
+            tabs_->setCurrentWidget(screen);
+        }
     }
     melvark::ConnectGuarded(tabs_, &QTabWidget::currentChanged, this, [this] { enterScreen(); });
 }

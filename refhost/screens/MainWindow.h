@@ -2,6 +2,8 @@
 
 #include "host/Connection.h"
 #include "host/FormatSettings.h"
+#include "host/widgets/WindowPlace.h"
+#include "refhost/screens/WindowLook.h"
 
 #include <QMainWindow>
 
@@ -31,6 +33,8 @@ struct MainWindowParts {
     std::function<bool(const std::string& params, TDataSet& dataSet)> insertLines;
     /// Why there is no module: one sentence; empty when there is one.
     std::string moduleMissing;
+    /// How the window was left the last time.
+    WindowLook look;
 };
 
 /// The host's window: three document screens as tabs, a menu, a tool bar and a status bar. Everything has a key.
@@ -42,6 +46,9 @@ public:
     /// Reads the first screen and puts the cursor into its documents. Throws EDatabaseError.
     void start();
 
+    /// How the window is left.
+    WindowLook look() const;
+
 Q_SIGNALS:
     void closed();
 
@@ -49,6 +56,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void takePlace();
     void buildScreens();
     void buildActions();
     void buildStatusBar();
@@ -60,6 +68,7 @@ private:
     void tellNew(const QStringList& numbers);
 
     MainWindowParts parts_;
+    melvark::WindowPlace place_;
     QTabWidget* tabs_ = nullptr;
     std::vector<DocumentScreen*> screens_;
     QLabel* newDocuments_ = nullptr;

@@ -51,6 +51,9 @@ void ResultTable::setTable(TResultTable table, std::string_view firstColumn) {
     const auto columnsBefore = model_->shownColumns();
     model_->setTable(std::move(table), firstColumn);
     fitColumns(model_->shownColumns() != columnsBefore);
+    if (columnsBefore.empty()) {
+        applyWanted();
+    }
     if (key.empty() || !selectKey(key)) {
         keepSomeRowCurrent(row);
     }
@@ -76,6 +79,38 @@ void ResultTable::fitColumns(bool isNewLayout) {
         const int wanted = std::max(horizontalHeader()->sectionSizeHint(column), std::min(text, c_widestColumn));
         setColumnWidth(column, isNewLayout ? wanted : std::max(wanted, columnWidth(column)));
     }
+}
+
+void ResultTable::applyWanted() {
+    sortBy(wanted_.sortColumn, wanted_.sortOrder);
+    const QScopedValueRollback fitting(fitting_, true);
+    for (const auto& [name, width] : wanted_.widths) {
+        if (const auto column = model_->shownColumn(name)) {
+            setColumnWidth(*column, width);
+            widthsAreSet_ = true;
+        }
+    }
+}
+
+TableLook ResultTable::look() const {
+    const auto columns = model_->shownColumns();
+    if (columns.empty()) {
+        return wanted_;
+    }
+    TableLook look;
+    if (isSorted()) {
+        look.sortColumn = columns.at(static_cast<std::size_t>(horizontalHeader()->sortIndicatorSection()));
+        look.sortOrder = horizontalHeader()->sortIndicatorOrder();
+    }
+    for (std::size_t column = 0; widthsAreSet_ && column < columns.size(); ++column) {
+        look.widths[columns[column]] = columnWidth(static_cast<int>(column));
+    }
+    return look;
+}
+
+bool ResultTable::isSorted() const {
+    const int column = horizontalHeader()->sortIndicatorSection();
+    return column >= 0 && column < order_->columnCount();
 }
 
 void ResultTable::sortBy(std::string_view column, Qt::SortOrder order) {

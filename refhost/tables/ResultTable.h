@@ -2,6 +2,7 @@
 
 #include "host/Connection.h"
 #include "host/FormatSettings.h"
+#include "refhost/tables/TableLook.h"
 
 #include <QTableView>
 
@@ -28,6 +29,14 @@ public:
     const ResultModel& result() const { return *model_; }
 
     void sortBy(std::string_view column, Qt::SortOrder order);
+    /// Whether rows stand in the order of a column.
+    bool isSorted() const;
+
+    /// Takes effect with the first result; columns that it lacks do not count.
+    void setLook(const TableLook& look) { wanted_ = look; }
+    /// How the table is left, or how it was to look when there was no result yet.
+    TableLook look() const;
+
     /// The column, counted from 0, by which Alt and a digit sort: Alt+1 the first to Alt+9 the ninth; nothing for any
     /// other key.
     static std::optional<int> sortColumnOfKey(const QKeyEvent& event);
@@ -60,9 +69,11 @@ private:
     void selectShownRow(int row);
     void keepSomeRowCurrent(int wantedRow);
     void fitColumns(bool isNewLayout);
+    void applyWanted();
 
     ResultModel* model_;
     ResultOrder* order_;
+    TableLook wanted_;          ///< Until there are columns.
     bool widthsAreSet_ = false; ///< By the user.
     bool fitting_ = false;
 };

@@ -10,8 +10,11 @@
 #include <QTest>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <gmock/gmock.h>
 #include <regex>
+#include <sstream>
 #include <stdexcept>
 
 namespace {
@@ -47,6 +50,9 @@ HostSession::HostSession() : HostSession(std::string()) {
 
 HostSession::HostSession(std::string database, QString user) : database_(std::move(database)), user_(std::move(user)) {
     host_.setProcessChannelMode(QProcess::SeparateChannels);
+    // How one session leaves the window is nothing to the next one.
+    environment_.insert(QStringLiteral("XDG_CONFIG_HOME"), folder_.path());
+    host_.setProcessEnvironment(environment_);
 }
 
 HostSession::~HostSession() {
@@ -258,6 +264,18 @@ std::vector<std::string> HostSession::ask(const QStringList& arguments) const {
         fail(QString::fromUtf8(command.readAllStandardError()));
     }
     return linesOf(command.readAllStandardOutput());
+}
+
+std::string HostSession::configuration(const std::string& file) const {
+    std::ostringstream content;
+    content << std::ifstream(folder_.path().toStdString() + "/" + file).rdbuf();
+    return content.str();
+}
+
+void HostSession::configure(const std::string& file, const std::string& content) const {
+    const std::filesystem::path path(folder_.path().toStdString() + "/" + file);
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path) << content;
 }
 
 void HostSession::changeDatabase(const std::string& sql) const {

@@ -68,6 +68,11 @@ public:
     std::vector<std::string> ask(const QStringList& arguments) const;
     std::string standardError() const { return standardError_; }
 
+    /// A file of the session's own configuration directory; empty when it is not there.
+    std::string configuration(const std::string& file) const;
+    /// Before the host starts: puts such a file there.
+    void configure(const std::string& file, const std::string& content) const;
+
     /// Runs one statement on the session's database from outside, as another clerk's work would.
     void changeDatabase(const std::string& sql) const;
 

@@ -8,6 +8,7 @@ namespace {
 
 using testing::Contains;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 const QString c_MainTitle = QStringLiteral("Melvark – nákup a sklad");
@@ -75,6 +76,41 @@ TEST(MainWindowSession, AClosedNoteIsRefusedInWordsAndTheWindowGoesOn) {
     EXPECT_THAT(session.trace(), Contains(shownError(refusal)));
     EXPECT_THAT(session.ask({QStringLiteral("--documents"), QStringLiteral("DODAK")}),
                 Contains(R"({"id":1,"number":"DL1","supplier":"Mlýn Lípa","open":false,"lines":2})"));
+}
+
+/// Opens the host's window and leaves it at once, by the close box's key.
+void lookAround(HostSession& session) {
+    session.start({});
+    session.waitForWindow(c_MainTitle);
+    session.press({QStringLiteral("ctrl+q")});
+    EXPECT_EQ(session.finish(), 0);
+    EXPECT_EQ(session.standardError(), "");
+}
+
+TEST(MainWindowSession, TheWindowOpensInTheWayInWhichItWasLeft) {
+    HostSession session;
+    session.start({});
+    session.waitForWindow(c_MainTitle);
+    session.placeWindow({120, 80, 900, 640});
+    session.press({QStringLiteral("ctrl+2"), QStringLiteral("alt+1"), QStringLiteral("ctrl+q")});
+    EXPECT_EQ(session.finish(), 0);
+    const std::string left = session.configuration("melvark/window.conf");
+    EXPECT_THAT(left, HasSubstr("width=900\n"));
+    EXPECT_THAT(left, HasSubstr("screen=DODOBJ\n"));
+    EXPECT_THAT(left, HasSubstr("[DODOBJ]\ndocuments\\order=ascending\ndocuments\\sort=CISLO\n"));
+
+    // What is written again is where the second window stood, and how it looked.
+    lookAround(session);
+    EXPECT_EQ(session.configuration("melvark/window.conf"), left);
+    lookAround(session);
+    EXPECT_EQ(session.configuration("melvark/window.conf"), left);
+}
+
+TEST(MainWindowSession, ADamagedFileOfTheWindowsLookIsNoHindrance) {
+    HostSession session;
+    session.configure("melvark/window.conf", "[window\n\x01=\nscreen=7\nleft=99999999999\n");
+    lookAround(session);
+    EXPECT_THAT(session.configuration("melvark/window.conf"), HasSubstr("screen=DODAK\n"));
 }
 
 TEST(MainWindowSession, ADismissedMenuAsksNothing) {
