@@ -1,6 +1,7 @@
 #include "refhost/screens/MainWindow.h"
 
 #include "host/widgets/Guard.h"
+#include "host/widgets/Text.h"
 #include "refhost/Languages.h"
 #include "refhost/screens/DocumentScreen.h"
 #include "refhost/screens/Screens.h"
@@ -220,7 +221,7 @@ void MainWindow::insertLines() {
 void MainWindow::tellNew(const QStringList& numbers) {
     const QString names = numbers.join(QStringLiteral(", "));
     newDocuments_->setText(numbers.isEmpty() ? QString() : parts_.languages.label(texts::newDocuments).arg(names));
-    newDocuments_->setToolTip(newDocuments_->text());
+    newDocuments_->setToolTip(melvark::PlainHint(newDocuments_->text().toStdString()));
 }
 
 } // namespace refhost

@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTextDocumentFragment>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -80,6 +81,21 @@ TEST_F(MainWindowTest, AnotherClerksNewDocumentIsShownButNotNamed) {
     press(Qt::Key_F8);
     EXPECT_EQ(newDocuments().text(), QStringLiteral("Nové doklady: OB-3"));
     EXPECT_EQ(shownDocuments().rowCount(), 3);
+}
+
+TEST_F(MainWindowTest, ANumberThatLooksLikeMarkupIsShownLetterForLetterAndSoInTheHint) {
+    changed_ = true;
+    open();
+    press(Qt::Key_2, Qt::ControlModifier);
+    whileInserting_ = [this] {
+        answerOrders({{9, "OB-1"}, {12, "<b>OB-2</b> & 1"}});
+        answerCreated({12});
+    };
+    press(Qt::Key_F8);
+    const QString told = QStringLiteral("Nové doklady: <b>OB-2</b> & 1");
+    EXPECT_EQ(newDocuments().text(), told);
+    EXPECT_EQ(newDocuments().textFormat(), Qt::PlainText);
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(newDocuments().toolTip()).toPlainText(), told);
 }
 
 TEST_F(MainWindowTest, NothingIsNamedWhenNoLinesWereInserted) {
