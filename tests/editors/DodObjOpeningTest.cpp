@@ -21,8 +21,11 @@ protected:
                                                 .DodvID = 5,
                                                 .Sklad = "Praha",
                                                 .Dodavatel = "Lípa",
-                                                .Moment = {}});
+                                                .Moment = c_Moment});
     }
+
+    static constexpr TDateTime c_Moment =
+        std::chrono::local_days(std::chrono::year(2026) / 3 / 5) + std::chrono::hours(14);
 
     RecordingHost host_;
     TScopedHost scope_{host_};
@@ -43,6 +46,7 @@ TEST_F(DodObjOpening, AsksForTheUserThenTheWarehousesThenTheSuppliers) {
     EXPECT_EQ(opening.Document.DodvID, 5);
     EXPECT_EQ(opening.Document.Sklad, "Praha");
     EXPECT_EQ(opening.Document.Dodavatel, "Lípa");
+    EXPECT_EQ(opening.Document.Moment, c_Moment);
 }
 
 TEST_F(DodObjOpening, TheSourcesNumberIsItsPlaceInTheTable) {

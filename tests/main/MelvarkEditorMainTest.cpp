@@ -20,6 +20,29 @@ protected:
     static void press(QWidget& window, const char* button) {
         QTest::mouseClick(window.findChild<QPushButton*>(QString::fromUtf8(button)), Qt::LeftButton);
     }
+
+    /// Opens the editor and leaves it in each way that there is: only OK says that lines were inserted.
+    void leaveInEachWay(const char* params) {
+        struct {
+            const char* remark;
+            std::function<void(QWidget&)> leave;
+            bool result;
+        } const ways[] = {
+            {"OK", [](QWidget& window) { press(window, "OkBtn"); }, true},
+            {"cancel", [](QWidget& window) { press(window, "CancelBtn"); }, false},
+            {"the close box", [](QWidget& window) { window.close(); }, false},
+        };
+        for (const auto& way : ways) {
+            SCOPED_TRACE(std::string(params) + " left by " + way.remark);
+            ModalDriver editor({}, [&](QWidget& window) {
+                EXPECT_EQ(editorsAlive(), 1u);
+                way.leave(window);
+            });
+            EXPECT_EQ(item_.Execute(params, &dataSet_, nullptr), way.result);
+            EXPECT_TRUE(editor.hasActed());
+            EXPECT_EQ(editorsAlive(), 0u);
+        }
+    }
 };
 
 TEST_F(LibraryItem, AGivenSourceOpensTheEditorWithoutAMenu) {
@@ -42,24 +65,7 @@ TEST_F(LibraryItem, TheDocumentIsReadBeforeItsSupplier) {
 }
 
 TEST_F(LibraryItem, OnlyOkIsTrueAndTheEditorIsFreedInAnyCase) {
-    struct {
-        const char* remark;
-        std::function<void(QWidget&)> leave;
-        bool result;
-    } const ways[] = {
-        {"OK", [](QWidget& window) { press(window, "OkBtn"); }, true},
-        {"cancel", [](QWidget& window) { press(window, "CancelBtn"); }, false},
-        {"the close box", [](QWidget& window) { window.close(); }, false},
-    };
-    for (const auto& way : ways) {
-        SCOPED_TRACE(way.remark);
-        ModalDriver editor({}, [&](QWidget& window) {
-            EXPECT_EQ(editorsAlive(), 1u);
-            way.leave(window);
-        });
-        EXPECT_EQ(item_.Execute("DODAK,SABLONA", &dataSet_, nullptr), way.result);
-        EXPECT_EQ(editorsAlive(), 0u);
-    }
+    leaveInEachWay("DODAK,SABLONA");
 }
 
 TEST_F(LibraryItem, AnErrorOfTheEditorReachesTheHostAndTheEditorIsFreed) {
@@ -221,17 +227,8 @@ TEST_F(OrderWorkflow, TheTemplatesEditorIsOpenedWithASourceThatItsMenuNeverOffer
 }
 
 TEST_F(OrderWorkflow, OnlyOkIsTrueAndTheEditorIsFreedInAnyCase) {
-    for (const char* params : {"DODOBJ,SABLONA", "DODOBJVZOR,SABLONA"}) {
-        const std::pair<const char*, bool> ways[] = {{"OkBtn", true}, {"CancelBtn", false}};
-        for (const auto& [button, result] : ways) {
-            ModalDriver editor({}, [&, name = button](QWidget& window) {
-                EXPECT_EQ(editorsAlive(), 1u);
-                press(window, name);
-            });
-            EXPECT_EQ(item_.Execute(params, &dataSet_, nullptr), result) << params << ' ' << button;
-            EXPECT_EQ(editorsAlive(), 0u);
-        }
-    }
+    leaveInEachWay("DODOBJ,SABLONA");
+    leaveInEachWay("DODOBJVZOR,SABLONA");
 }
 
 TEST_F(OrderWorkflow, AMissingFieldIsTheDatasetsError) {
@@ -254,13 +251,26 @@ TEST_F(OrderWorkflow, AMissingFieldIsTheDatasetsError) {
     EXPECT_THAT(host_.connection.calls(), IsEmpty());
 }
 
-TEST_F(OrderWorkflow, ACancelledSourceIsQuietAndARefusedDocumentIsTheHostsError) {
-    ModalDriver dialog({}, [](QWidget& window) { press(window, "CancelBtn"); });
-    EXPECT_FALSE(item_.Execute("DODOBJ,SKUPSKLADPOL", &dataSet_, nullptr));
+TEST_F(OrderWorkflow, ACancelledSourceIsQuietAndNoEditorIsLeft) {
+    for (const char* params : {"DODOBJ,SKUPSKLADPOL", "DODOBJVZOR,SKUPSKLADPOL", "DODOBJVZOR,OBJEDNAVKA"}) {
+        SCOPED_TRACE(params);
+        ModalDriver dialog({}, [](QWidget& window) { press(window, "CancelBtn"); });
+        EXPECT_FALSE(item_.Execute(params, &dataSet_, nullptr));
+        EXPECT_TRUE(dialog.hasActed());
+        EXPECT_EQ(editorsAlive(), 0u);
+    }
     EXPECT_THAT(manager_.boxes(), IsEmpty());
-    host_.connection.procedure("MELVARKEDITORDodObjCheckMaster").refusesCall(2, "Objednávka je uzavřená.");
-    EXPECT_THROW(item_.Execute("DODOBJ,SABLONA", &dataSet_, nullptr), EDatabaseError);
-    EXPECT_EQ(editorsAlive(), 0u);
+    EXPECT_THAT(manager_.messages(), IsEmpty());
+}
+
+TEST_F(OrderWorkflow, ARefusedDocumentIsTheHostsErrorAndNoEditorIsLeft) {
+    const AnsiString refusal = "Objednávka je uzavřená.";
+    host_.connection.procedure("MELVARKEDITORDodObjCheckMaster").refusesCall(1, refusal).refusesCall(2, refusal);
+    for (const char* params : {"DODOBJ,SABLONA", "DODOBJVZOR,SABLONA"}) {
+        SCOPED_TRACE(params);
+        EXPECT_THROW(item_.Execute(params, &dataSet_, nullptr), EDatabaseError);
+        EXPECT_EQ(editorsAlive(), 0u);
+    }
 }
 
 TEST_F(OrderWorkflow, AnUnknownSourceIsTheEditorsRefusal) {
