@@ -70,9 +70,20 @@ void SyncNames(const std::filesystem::path& path) {
     }
 }
 
+bool IsThere(const std::filesystem::path& path) {
+    struct stat status {};
+    if (Retried([&] { return stat(path.c_str(), &status); }) == 0) {
+        return true;
+    }
+    if (errno != ENOENT && errno != ENOTDIR) {
+        Refused();
+    }
+    return false;
+}
+
 void MakeDirectory(const std::filesystem::path& path) {
     const std::filesystem::path parent = path.has_parent_path() ? path.parent_path() : ".";
-    if (!std::filesystem::exists(parent)) {
+    if (!IsThere(parent)) {
         MakeDirectory(parent);
     }
     if (Retried([&] { return mkdir(path.c_str(), c_OwnersDirectory); }) == 0) {

@@ -10,4 +10,16 @@ void failAt(int call, int error, Lasting lasting);
 /// All calls succeed again. Whether any has failed.
 bool stopFailing();
 
+/// While it lives, each read and write takes only half of what it could.
+class ShortCalls {
+public:
+    ShortCalls();
+    ShortCalls(const ShortCalls&) = delete;
+    ShortCalls& operator=(const ShortCalls&) = delete;
+    ~ShortCalls();
+
+    /// How many took less than was asked for.
+    int count() const;
+};
+
 } // namespace failingsystem

@@ -147,6 +147,20 @@ TEST_F(FailingWrite, ACallThatASignalInterruptsIsMadeAgain) {
     EXPECT_GE(interruptions, 20);
 }
 
+TEST_F(FailingWrite, ACallThatTakesOnlyAPartIsGoneOnWith) {
+    AnsiString numbers;
+    for (int number = 0; number < 40'000; ++number) {
+        numbers += std::to_string(number) + ' ';
+    }
+    leave("", c_Old);
+    KeptFile file(path());
+    const failingsystem::ShortCalls shortCalls;
+    EXPECT_EQ(restored(file), c_Old);
+    write(file, numbers);
+    EXPECT_EQ(restored(file), numbers);
+    EXPECT_GE(shortCalls.count(), 20);
+}
+
 TEST_F(FailingWrite, SettingAsideLosesNothing) {
     prepare = [this] { leave("", c_Old); };
     failEverywhere(
