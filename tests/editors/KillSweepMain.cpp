@@ -18,8 +18,11 @@ int main(int argc, char** argv) {
     const int moments = argc > 1 ? std::atoi(argv[1]) : 500;
     const unsigned seed = argc > 2 ? static_cast<unsigned>(std::strtoul(argv[2], nullptr, 10)) : 1;
     const KilledSessions sessions = killSessions(moments, seed);
-    std::printf("killed at %d random moments of a session (seed %u); after %d the next start found unsaved work\n",
-                sessions.Moments, seed, sessions.WithWork);
+    std::printf(
+        "killed at %d random moments of a session (seed %u): %d on work that was left, %d while it opened (%d of "
+        "them on left work), %d while it closed; after %d the next start found unsaved work\n",
+        sessions.Moments, seed, sessions.OnLeftWork, sessions.WhileOpening, sessions.WhileRestoring,
+        sessions.WhileClosing, sessions.WithWork);
     if (!sessions.Failure.empty()) {
         std::printf("torn: %s\n", sessions.Failure.c_str());
         return 1;

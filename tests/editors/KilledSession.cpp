@@ -25,19 +25,26 @@ namespace {
 constexpr int c_Rows = 50;
 /// Layouts are applied again so often, which sets the file aside.
 constexpr int c_StatesForALayout = 3;
-constexpr std::chrono::microseconds c_Longest{120'000};
+/// A session that is to be killed while it closes keeps at most so many states before.
+constexpr int c_MostStatesToClose = 4;
 
 /// How far the session is, seen from both processes.
 struct Progress {
     std::atomic<bool> isOpen{false};
+    std::atomic<bool> isClosing{false};
+    std::atomic<bool> isClosed{false};
     std::atomic<int> begun{0}; ///< The state that is being kept.
     std::atomic<int> kept{0};  ///< The last one whose keeping has ended.
 };
 
 struct SharedProgress {
-    SharedProgress()
+    /// Of a session that begins with the state that one before it has left, or with none.
+    explicit SharedProgress(int state)
         : memory(mmap(nullptr, sizeof(Progress), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)),
-          progress(new(memory) Progress) {}
+          progress(new(memory) Progress) {
+        progress->begun = state;
+        progress->kept = state;
+    }
     SharedProgress(const SharedProgress&) = delete;
     SharedProgress& operator=(const SharedProgress&) = delete;
     ~SharedProgress() { munmap(memory, sizeof(Progress)); }
@@ -45,6 +52,15 @@ struct SharedProgress {
     void* memory;
     Progress* progress;
 };
+
+/// From when on the moment is counted, and the latest moment.
+struct Stretch {
+    std::atomic<bool> Progress::*from;
+    std::chrono::microseconds longest;
+};
+constexpr Stretch c_FromTheStart{nullptr, std::chrono::microseconds(12'000)};
+constexpr Stretch c_FromTheFirstCell{&Progress::isOpen, std::chrono::microseconds(120'000)};
+constexpr Stretch c_FromTheClosing{&Progress::isClosing, std::chrono::microseconds(800)};
 
 /// An editor on a host of its own.
 class Session {
@@ -56,11 +72,13 @@ public:
 
     std::filesystem::path directory() const { return std::filesystem::path(editor_->TempFileName()).parent_path(); }
 
-    /// Goes on until the process is killed: every cell of the quantity tells the state.
-    [[noreturn]] void work(Progress& progress) {
+    /// Goes on until the process is killed, or keeps so many states and closes: every cell of the quantity tells the
+    /// state.
+    void work(Progress& progress, std::optional<int> states) {
         const int column = editor_->GetColumnSettings("MNOZSTVI").DataColumn;
+        const int first = progress.begun + 1;
         progress.isOpen = true;
-        for (int state = 1;; ++state) {
+        for (int state = first; !states || state < first + *states; ++state) {
             for (int row = 0; row < c_Rows; ++row) {
                 editor_->Cells().WriteTyped(column, row, std::to_string(state));
             }
@@ -71,6 +89,9 @@ public:
                 editor_->ApplyColumnsSettingsToGrid();
             }
         }
+        progress.isClosing = true;
+        editor_.reset();
+        progress.isClosed = true;
     }
 
     /// The state that the editor shows; -1 when its lines are of several, or not all there.
@@ -92,19 +113,21 @@ private:
     std::optional<TDodakEditBox> editor_;
 };
 
-/// Kills a session so long after it was opened.
-void killSession(Progress& progress, std::chrono::microseconds moment) {
+/// Kills a session at the moment of the stretch.
+void killSession(Progress& progress, const Stretch& stretch, std::chrono::microseconds moment,
+                 std::optional<int> states) {
     const pid_t process = fork();
     if (process == 0) {
         try {
-            Session().work(progress);
+            Session().work(progress, states);
+            pause();
         } catch (...) {
             _exit(1);
         }
     }
-    while (!progress.isOpen) {
+    while (stretch.from && !(progress.*stretch.from)) {
         if (waitpid(process, nullptr, WNOHANG) == process) {
-            throw std::runtime_error("the session did not open");
+            throw std::runtime_error("the session ended by itself");
         }
         std::this_thread::yield();
     }
@@ -113,27 +136,61 @@ void killSession(Progress& progress, std::chrono::microseconds moment) {
     waitpid(process, nullptr, 0);
 }
 
+/// What the next start finds in the directory, which stays as it is: an editor that is closed removes its file.
+int stateIn(const std::filesystem::path& directory) {
+    const std::filesystem::path copy = directory.string() + ".copy";
+    if (!std::filesystem::exists(directory)) {
+        return 0;
+    }
+    std::filesystem::copy(directory, copy, std::filesystem::copy_options::recursive);
+    const int state = Session().state();
+    std::filesystem::remove_all(directory);
+    std::filesystem::rename(copy, directory);
+    return state;
+}
+
+/// Whether a start may find this state.
+bool isPossible(const Progress& progress, int found) {
+    if (progress.isClosed) {
+        return found == 0;
+    }
+    return (found >= progress.kept && found <= progress.begun) || (progress.isClosing && found == 0);
+}
+
 } // namespace
 
 KilledSessions killSessions(int moments, unsigned seed) {
     std::mt19937 random(seed);
-    std::uniform_int_distribution<int> microseconds(0, static_cast<int>(c_Longest.count()));
+    const auto upTo = [&](auto most) {
+        return static_cast<int>(std::uniform_int_distribution<long>(0, static_cast<long>(most))(random));
+    };
+    const Stretch stretches[] = {c_FromTheStart, c_FromTheFirstCell, c_FromTheClosing};
+    const std::filesystem::path directory = Session().directory();
+    std::filesystem::remove_all(directory);
     KilledSessions sessions;
-    while (sessions.Moments < moments && sessions.Failure.empty()) {
-        std::filesystem::remove_all(Session().directory());
-        const SharedProgress shared;
-        const std::chrono::microseconds moment(microseconds(random));
-        killSession(*shared.progress, moment);
-        const int found = Session().state();
-        const int kept = shared.progress->kept;
-        const int begun = shared.progress->begun;
-        if (found < kept || found > begun) {
-            sessions.Failure = "killed after " + std::to_string(moment.count()) + " us: found state " +
-                               std::to_string(found) + ", kept was " + std::to_string(kept) + ", begun " +
-                               std::to_string(begun);
+    for (int left = 0; sessions.Moments < moments && sessions.Failure.empty(); ++sessions.Moments) {
+        const SharedProgress shared(left);
+        const Progress& progress = *shared.progress;
+        const Stretch& stretch = stretches[upTo(std::size(stretches) - 1)];
+        const std::chrono::microseconds moment(upTo(stretch.longest.count()));
+        const bool isClosed = stretch.from == &Progress::isClosing;
+        const std::optional<int> states = isClosed ? std::optional(upTo(c_MostStatesToClose)) : std::nullopt;
+        killSession(*shared.progress, stretch, moment, states);
+        const int found = stateIn(directory);
+        if (!isPossible(progress, found)) {
+            sessions.Failure = "killed " + std::to_string(moment.count()) + " us after " +
+                               (isClosed       ? "it began to close"
+                                : stretch.from ? "it was open"
+                                               : "its start") +
+                               ": found state " + std::to_string(found) + ", kept was " +
+                               std::to_string(progress.kept) + ", begun " + std::to_string(progress.begun);
         }
-        ++sessions.Moments;
+        sessions.OnLeftWork += left > 0 ? 1 : 0;
+        sessions.WhileOpening += progress.isOpen ? 0 : 1;
+        sessions.WhileRestoring += left > 0 && !progress.isOpen ? 1 : 0;
+        sessions.WhileClosing += progress.isClosing && !progress.isClosed ? 1 : 0;
         sessions.WithWork += found > 0 ? 1 : 0;
+        left = found;
     }
     return sessions;
 }
