@@ -311,4 +311,67 @@ TEST_F(RestoringAnOrder, DeclinedWorkIsGoneAndTheSourceFills) {
     EXPECT_EQ(listing(), "");
 }
 
+TEST_F(RestoringAnOrder, AnUnreadableFileIsToldOnceAndGoneAndTheSourceFills) {
+    std::size_t told = 0;
+    for (const bool isTemplate : {false, true}) {
+        leave(fileOf(isTemplate ? "DODOBJVZOR" : "DODOBJ", "SABLONA"), fileText(12, dodakKeys(), {}));
+        for (int opening = 1; opening <= 2; ++opening) {
+            const TDodObjEditBox editor(qApp, &manager_, isTemplate, "SABLONA", 12, 3, 5, "Praha", "Lípa", {});
+            EXPECT_EQ(stored(editor, 1, "SKLADPOL"), "Mouka");
+            EXPECT_EQ(listing(), "");
+        }
+        ASSERT_THAT(manager_.boxes(), SizeIs(++told));
+        EXPECT_EQ(manager_.boxes().back(), c_Unreadable);
+    }
+    EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjObnovData"), IsEmpty());
+}
+
+TEST_F(RestoringAnOrder, AQuestionWithoutAnAnswerKeepsTheWorkForTheNextTime) {
+    for (const bool isTemplate : {false, true}) {
+        SCOPED_TRACE(isTemplate);
+        const AnsiString copy = fileOf(isTemplate ? "DODOBJVZOR" : "DODOBJ", "SABLONA").filename().string() + ".kept";
+        const auto open = [&] {
+            return std::make_unique<TDodObjEditBox>(qApp, &manager_, isTemplate, "SABLONA", 12, 3, 5, "Praha", "Lípa",
+                                                    TDateTime());
+        };
+        leaveWork(isTemplate, "SABLONA", 12);
+        const int asked = isTemplate ? 3 : 0;
+        host_.connection.procedure("MELVARKEDITORDodObjObnovData")
+            .breaksAtCall(asked + 1, "Spojení je přerušeno.")
+            .failsCall(asked + 2);
+        EXPECT_THROW(open(), EDatabaseError);
+        EXPECT_EQ(listing(), copy);
+        const DirectoryContent left = content();
+        {
+            const auto editor = open();
+            EXPECT_EQ(stored(*editor, 1, "SKLADPOL"), "Mouka") << "a failure without an error";
+            EXPECT_EQ(listing(), copy);
+        }
+        putBack(left);
+        EXPECT_EQ(stored(*open(), 1, "SKLADPOL"), "Sůl");
+    }
+}
+
+TEST_F(RestoringAnOrder, WorkThatAnotherEditorHoldsIsNeitherTakenNorTouched) {
+    for (const bool isTemplate : {false, true}) {
+        SCOPED_TRACE(isTemplate);
+        const std::size_t told = manager_.messages().size();
+        TDodObjEditBox first(qApp, &manager_, isTemplate, "SABLONA", 12, 3, 5, "Praha", "Lípa", {});
+        first.AutoSave(nullptr);
+        const DirectoryContent before = content();
+        host_.connection.takeCalls();
+        TDodObjEditBox second(qApp, &manager_, isTemplate, "SABLONA", 12, 3, 5, "Praha", "Lípa", {});
+        EXPECT_THAT(host_.connection.callsOf("MELVARKEDITORDodObjObnovData"), IsEmpty());
+        EXPECT_EQ(stored(second, 1, "SKLADPOL"), "Mouka");
+        showAnd(second, [&] {
+            ASSERT_TRUE(QTest::qWaitFor([&] { return manager_.messages().size() > told; }));
+            second.AutoSave(nullptr);
+            EXPECT_EQ(content(), before);
+        });
+        ASSERT_THAT(manager_.messages(), SizeIs(told + 1));
+        EXPECT_THAT(manager_.messages().back(),
+                    StartsWith("O#: Rozepsanou práci z tohoto zdroje průběžně ukládá jiné"));
+    }
+}
+
 } // namespace
