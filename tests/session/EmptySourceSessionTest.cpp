@@ -140,8 +140,8 @@ QString params(bool isTemplate, const char* code) {
     return (isTemplate ? QStringLiteral("DODOBJVZOR,%1") : QStringLiteral("DODOBJ,%1")).arg(QLatin1String(code));
 }
 
-QString editorOf(bool isTemplate) {
-    return QString::fromUtf8(isTemplate ? c_Czech.TemplateEditor : c_Czech.OrderEditor);
+QString editorOf(bool isTemplate, const SessionWords& words) {
+    return QString::fromUtf8(isTemplate ? words.TemplateEditor : words.OrderEditor);
 }
 
 class EmptySourceSession : public testing::TestWithParam<std::tuple<Engine, EmptySource>> {};
@@ -154,7 +154,7 @@ TEST_P(EmptySourceSession, GivesOneEmptyRowAndSavingItChangesNothing) {
     if (source.choose) {
         source.choose(session, c_Czech);
     }
-    session.waitForWindow(editorOf(source.isTemplate));
+    session.waitForWindow(editorOf(source.isTemplate, c_Czech));
     session.press({QStringLiteral("ctrl+Return")});
     EXPECT_EQ(session.finish(), 0);
 
@@ -182,7 +182,8 @@ struct RefusedSource {
     const char* SessionWords::*dialog;
     Choice choose;
     const char* sentence; ///< Or how it begins: the moment of a template is now.
-    const char* instead;  ///< Typed over it.
+    const char* english;
+    const char* instead; ///< Typed over it.
     std::string reading;
 };
 
@@ -191,56 +192,79 @@ void PrintTo(const RefusedSource& source, std::ostream* out) {
 }
 
 std::vector<RefusedSource> refusedSources() {
+    constexpr const char* c_NoPriceList = "Supplier “Čajovna Říp” has no price list that is valid on that day.";
+    constexpr const char* c_NoGroup = "Není zadána žádná skupina. Zadejte skupinu aspoň jedné úrovně.";
+    constexpr const char* c_NoGroupInEnglish = "No stock group is given. Enter a group of at least one level.";
+    constexpr const char* c_NotTogether =
+        "Skupina 2. úrovně „Mouky“ neleží pod skupinou „Nápoje“. Vyberte skupiny, které k sobě patří.";
+    constexpr const char* c_NotTogetherInEnglish =
+        "Stock group “Mouky” does not lie under group “Nápoje”. Choose groups that belong together.";
+    constexpr const char* c_FirstDrinks = R"(["a_SSP1ID",2],["a_SSP2ID",null],["a_SSP3ID",null])";
+    constexpr const char* c_FlourOfFood = R"(["a_SSP1ID",1],["a_SSP2ID",1],["a_SSP3ID",null])";
+    const auto noList = typed(&SessionWords::Supplier, "čajovna říp");
+    const auto noGroup = confirmed(&SessionWords::Groups);
+    const Choice flourOfDrinks = [](HostSession& session, const SessionWords& words) {
+        session.waitForWindow(QString::fromUtf8(words.Groups));
+        session.type(QStringLiteral("nápoje"));
+        session.press({QStringLiteral("Tab")});
+        session.type(QStringLiteral("mouky"));
+        session.press({QStringLiteral("Return")}); // after the refusal the cursor is in the first line again
+    };
     return {
-        {"ASupplierWithoutAPriceList", false, 5, "DODAVATEL", &SessionWords::Supplier,
-         typed(&SessionWords::Supplier, "čajovna říp"),
-         "Dodavatel „Čajovna Říp“ nemá k datu 12.2.2026 žádný platný ceník. Vyberte jiného dodavatele.", "nápoje švec",
-         fill("DodCenik", 5, R"(["a_DODVID",2])", 1)},
-        {"ASupplierWithoutDeliveries", false, 5, "DODAVKY", &SessionWords::Supplier,
-         typed(&SessionWords::Supplier, "čajovna říp"),
-         "Dodavatel „Čajovna Říp“ v posledních měsících nic nedodal. Vyberte jiného dodavatele.", "mlýn lípa",
+        {"ASupplierWithoutAPriceList", false, 5, "DODAVATEL", &SessionWords::Supplier, noList,
+         "Dodavatel „Čajovna Říp“ nemá k datu 12.2.2026 žádný platný ceník. Vyberte jiného dodavatele.", c_NoPriceList,
+         "nápoje švec", fill("DodCenik", 5, R"(["a_DODVID",2])", 1)},
+        {"ASupplierWithoutDeliveries", false, 5, "DODAVKY", &SessionWords::Supplier, noList,
+         "Dodavatel „Čajovna Říp“ v posledních měsících nic nedodal. Vyberte jiného dodavatele.",
+         "Supplier “Čajovna Říp” has delivered nothing in recent months. Choose another supplier.", "mlýn lípa",
          fill("Dodavky", 5, R"(["a_DODVID",1],["a_PRENESMNOZSTVI",false])", 3)},
-        {"NoGroupAtAll", false, 1, "SKUPSKLADPOL", &SessionWords::Groups, confirmed(&SessionWords::Groups),
-         "Není zadána žádná skupina. Zadejte skupinu aspoň jedné úrovně.", "nápoje",
-         fill("SkupSkladPol", 1, R"(["a_SSP1ID",2],["a_SSP2ID",null],["a_SSP3ID",null])", 2)},
+        {"NoGroupAtAll", false, 1, "SKUPSKLADPOL", &SessionWords::Groups, noGroup, c_NoGroup, c_NoGroupInEnglish,
+         "nápoje", fill("SkupSkladPol", 1, c_FirstDrinks, 2)},
+        {"GroupsThatDoNotBelongTogether", false, 1, "SKUPSKLADPOL", &SessionWords::Groups, flourOfDrinks, c_NotTogether,
+         c_NotTogetherInEnglish, "potraviny", fill("SkupSkladPol", 1, c_FlourOfFood, 2)},
         {"NoOrderAtAll", false, 1, "OBJEDNAVKA", &SessionWords::Order, confirmed(&SessionWords::Order),
-         "Zdroj není zadán. Zapište jej, nebo jej vyberte ze seznamu.", "OBJ-10",
+         "Zdroj není zadán. Zapište jej, nebo jej vyberte ze seznamu.",
+         "No source is given. Type it, or choose it from the list.", "OBJ-10",
          fill("Objednavka", 1, R"(["a_DDOBID",10])", 3)},
-        {"ASupplierWithoutAPriceListForATemplate", true, 9, "DODAVATEL", &SessionWords::Supplier,
-         typed(&SessionWords::Supplier, "čajovna říp"), "Dodavatel „Čajovna Říp“ nemá k datu ", "mlýn lípa",
+        {"ASupplierWithoutAPriceListForATemplate", true, 9, "DODAVATEL", &SessionWords::Supplier, noList,
+         "Dodavatel „Čajovna Říp“ nemá k datu ", c_NoPriceList, "mlýn lípa",
          fill("DodCenik", 9, R"(["a_DODVID",1])", 3)},
-        {"NoGroupAtAllForATemplate", true, 7, "SKUPSKLADPOL", &SessionWords::Groups, confirmed(&SessionWords::Groups),
-         "Není zadána žádná skupina. Zadejte skupinu aspoň jedné úrovně.", "nápoje",
-         fill("SkupSkladPol", 7, R"(["a_SSP1ID",2],["a_SSP2ID",null],["a_SSP3ID",null])", 2)},
+        {"NoGroupAtAllForATemplate", true, 7, "SKUPSKLADPOL", &SessionWords::Groups, noGroup, c_NoGroup,
+         c_NoGroupInEnglish, "nápoje", fill("SkupSkladPol", 7, c_FirstDrinks, 2)},
+        {"GroupsThatDoNotBelongTogetherForATemplate", true, 7, "SKUPSKLADPOL", &SessionWords::Groups, flourOfDrinks,
+         c_NotTogether, c_NotTogetherInEnglish, "potraviny", fill("SkupSkladPol", 7, c_FlourOfFood, 2)},
     };
 }
 
-class RefusedSourceSession : public testing::TestWithParam<std::tuple<Engine, RefusedSource>> {};
+class RefusedSourceSession : public testing::TestWithParam<std::tuple<Engine, const SessionWords*, RefusedSource>> {};
 
 TEST_P(RefusedSourceSession, IsToldAndCorrectedInTheOpenDialog) {
-    const auto& [engine, source] = GetParam();
+    const auto& [engine, language, source] = GetParam();
+    const SessionWords& words = *language;
     HostSession session(companyOn(engine));
     const Lines before = allStored(session);
-    session.startEditor(params(source.isTemplate, source.code), source.document);
-    source.choose(session, c_Czech);
-    session.waitForWindow(QString::fromUtf8(c_Czech.Error));
+    session.startEditor(params(source.isTemplate, source.code), source.document, words.arguments());
+    source.choose(session, words);
+    session.waitForWindow(QString::fromUtf8(words.Error));
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(QString::fromUtf8(c_Czech.*source.dialog));
+    session.waitForWindow(QString::fromUtf8(words.*source.dialog));
     session.press({QStringLiteral("ctrl+a")});
-    typed(source.dialog, source.instead)(session, c_Czech);
-    session.waitForWindow(editorOf(source.isTemplate));
+    typed(source.dialog, source.instead)(session, words);
+    session.waitForWindow(editorOf(source.isTemplate, words));
     session.press({QStringLiteral("alt+F4")});
     EXPECT_EQ(session.finish(), 1);
-    EXPECT_THAT(session.trace(), Contains(HasSubstr(R"({"error":")" + std::string(source.sentence))));
+    const std::string told = language == &c_Czech ? source.sentence : source.english;
+    EXPECT_THAT(session.trace(), Contains(HasSubstr(R"({"error":")" + told)));
     EXPECT_THAT(session.trace(), Contains(source.reading));
     EXPECT_EQ(allStored(session), before);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sources, RefusedSourceSession,
                          testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                                          testing::ValuesIn(refusedSources())),
+                                          testing::Values(&c_Czech, &c_English), testing::ValuesIn(refusedSources())),
                          [](const auto& row) {
-                             return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param).name;
+                             return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param)->Language +
+                                    std::get<2>(row.param).name;
                          });
 
 class NoDeliveriesSession : public testing::TestWithParam<Engine> {};

@@ -4,6 +4,7 @@
 #include "refhost/WindowedHost.h"
 #include "tests/database/ContractCompany.h"
 #include "tests/database/Engines.h"
+#include "tests/session/SessionWords.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -90,10 +91,11 @@ bool isMenuOpen() {
     return QApplication::activePopupWidget() != nullptr;
 }
 
-bool isEditorOpen() {
-    const QWidget* const window = QApplication::activeModalWidget();
-    return window && window->isActiveWindow() &&
-           window->windowTitle() == QStringLiteral("Vložení položek do objednávky zboží");
+std::function<bool()> editorOpen(const SessionWords& words) {
+    return [title = QString::fromUtf8(words.OrderEditor)] {
+        const QWidget* const window = QApplication::activeModalWidget();
+        return window && window->isActiveWindow() && window->windowTitle() == title;
+    };
 }
 
 void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
@@ -127,11 +129,11 @@ struct Told {
 };
 
 /// OBJ-1 is filled from the template VZ-1, whose third line is of a third supplier, and saved.
-Told fillFromTheTemplate(Database& database, const std::function<void()>& beforeTheSave) {
+Told fillFromTheTemplate(Database& database, const TFormatSettings& settings, const SessionWords& words,
+                         const std::function<void()>& beforeTheSave) {
     database.runScript("insert into DODOBJPOL (ID, DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI) "
                        "values (703, 7, 3, 4, 41, 1, 3, '2')");
-    const TFormatSettings settings = TFormatSettings::Czech();
-    const refhost::Languages languages("cs");
+    const refhost::Languages languages(words.Language);
     refhost::Trace trace;
     const refhost::CommandLine commandLine{};
     refhost::WindowedHost host(commandLine, database, settings, languages, trace);
@@ -154,7 +156,7 @@ Told fillFromTheTemplate(Database& database, const std::function<void()>& before
         type("VZ-1");
         press(Qt::Key_Return);
     });
-    clerk.when(isEditorOpen, [&] {
+    clerk.when(editorOpen(words), [&] {
         beforeTheSave();
         press(Qt::Key_Return, Qt::ControlModifier);
     });
@@ -177,21 +179,33 @@ class NewOrdersSession : public testing::TestWithParam<Engine> {
 protected:
     NewOrdersSession() { refhost::addContractCompany(*database_); }
 
+    Told fillInCzech(const std::function<void()>& beforeTheSave) const {
+        return fillFromTheTemplate(*database_, TFormatSettings::Czech(), c_Czech, beforeTheSave);
+    }
+
     const std::string url_ = refhost::newDatabaseUrl(GetParam());
     const std::unique_ptr<Database> database_ = refhost::openAs(url_, "novakova");
 };
 
 TEST_P(NewOrdersSession, OfThreeSuppliersAreNamedInTheStatusLineAndAnotherClerksIsNot) {
     const auto others = refhost::openAs(url_, "dvorak");
-    const Told told = fillFromTheTemplate(*database_, [&] { saveAsAnotherClerk(*others); }); // OV2026-000011
+    const Told told = fillInCzech([&] { saveAsAnotherClerk(*others); }); // OV2026-000011
     EXPECT_EQ(told.Status, QStringLiteral("Nové doklady: OV2026-000012, OV2026-000013"));
     EXPECT_EQ(told.Hint, told.Status);
     EXPECT_EQ(newOrders(*database_), 3U);
 }
 
+TEST_P(NewOrdersSession, AreNamedInEnglish) {
+    const TFormatSettings settings = TFormatSettings::English();
+    const auto english = refhost::openAs(url_, "novakova", settings);
+    const Told told = fillFromTheTemplate(*english, settings, c_English, [] {});
+    EXPECT_EQ(told.Status, QStringLiteral("New documents: OV2026-000011, OV2026-000012"));
+    EXPECT_EQ(newOrders(*database_), 2U);
+}
+
 TEST_P(NewOrdersSession, OfADatabaseThatCannotTellThemAreMadeAndNotNamed) {
     database_->runScript("drop view SCREEN_DODOBJ_CREATED_V");
-    const Told told = fillFromTheTemplate(*database_, [] {});
+    const Told told = fillInCzech([] {});
     EXPECT_EQ(told.Status, QString());
     EXPECT_EQ(newOrders(*database_), 2U);
 }

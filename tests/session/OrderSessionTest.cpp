@@ -4,7 +4,7 @@
 #include "tests/session/OrderTrace.h"
 
 #include <gmock/gmock.h>
-#include <vector>
+#include <ostream>
 
 namespace {
 
@@ -87,25 +87,90 @@ INSTANTIATE_TEST_SUITE_P(Sources, OrderSession,
                                     std::get<2>(row.param).name;
                          });
 
-class OrderSessionOn : public testing::TestWithParam<Engine> {};
+class OrderSessionIn : public testing::TestWithParam<std::tuple<Engine, const SessionWords*>> {};
 
-TEST_P(OrderSessionOn, RowsOfThreeSuppliersAreSavedFromOneOrderIntoThree) {
+TEST_P(OrderSessionIn, RowsOfThreeSuppliersAreSavedFromOneOrderIntoThree) {
+    const auto& [engine, words] = GetParam();
     // The template's third line is of a third supplier.
-    HostSession session(
-        companyOn(GetParam(), "insert into DODOBJPOL (ID, DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI) "
-                              "values (703, 7, 3, 4, 41, 1, 3, '2')"));
-    session.startEditor(QStringLiteral("DODOBJ,OBJEDNAVKAVZOR"), 1);
-    typed(&SessionWords::Template, "VZ-1")(session, c_Czech);
-    session.waitForWindow(c_OrderTitle);
+    HostSession session(companyOn(engine, "insert into DODOBJPOL (ID, DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, "
+                                          "MNOZSTVI) values (703, 7, 3, 4, 41, 1, 3, '2')"));
+    session.startEditor(QStringLiteral("DODOBJ,OBJEDNAVKAVZOR"), 1, words->arguments());
+    typed(&SessionWords::Template, "VZ-1")(session, *words);
+    session.waitForWindow(QString::fromUtf8(words->OrderEditor));
+    session.type(QString::fromLatin1(words->TwoAndAHalf)); // over the first line's 50
     session.press({QStringLiteral("ctrl+Return")});
     EXPECT_EQ(session.finish(), 0);
+    EXPECT_THAT(withoutStoredPlacement(session.trace(), 10),
+                ElementsAreArray(
+                    joined(ordertrace::opening(1, 12),
+                           Lines{ordersources::typedCheck("ObjednavkaVzor", 1, "a_CISLO", "VZ-1", "a_DDOBID"),
+                                 fill("Objednavka", 1, R"(["a_DDOBID",7])", 3), ordertrace::placement(10), saveBegun(),
+                                 ordertrace::rowInsert({.item = "Mouka hladká", .main = "2.5"}),
+                                 ordertrace::rowInsert({.item = "Sirup", .main = "5", .supplier = "Nápoje Švec"}),
+                                 ordertrace::rowInsert({.item = "Čaj černý", .main = "2", .supplier = "Čajovna Říp"}),
+                                 ordertrace::closing(1, "null", "7", "null")})));
     EXPECT_THAT(storedOrderLines(session),
-                ElementsAre(stored(1, 4, "Mouka hladká", "50", "kg"), stored(11, 1, "Sirup", "5", "l", "Nápoje Švec"),
+                ElementsAre(stored(1, 4, "Mouka hladká", "2,5", "kg"), stored(11, 1, "Sirup", "5", "l", "Nápoje Švec"),
                             stored(12, 1, "Čaj černý", "2", "ks", "Čajovna Říp")));
     EXPECT_THAT(session.ask({QStringLiteral("--documents"), QStringLiteral("DODOBJ")}),
                 AllOf(Contains(HasSubstr(R"("id":11,"number":"OV2026-000011","supplier":"Nápoje Švec")")),
                       Contains(HasSubstr(R"("id":12,"number":"OV2026-000012","supplier":"Čajovna Říp")"))));
 }
+
+TEST_P(OrderSessionIn, AClosedDocumentIsRefusedInWordsBeforeAnythingIsAsked) {
+    const auto& [engine, words] = GetParam();
+    const bool isCzech = words == &c_Czech;
+    const struct {
+        const char* params;
+        int document;
+        const char* sentence;
+    } cases[] = {
+        {"DODOBJ,OBJEDNAVKA", 6,
+         isCzech ? "Objednávka „OBJ-6“ je uzavřená. Otevřete ji, nebo vyberte jinou."
+                 : "Order “OBJ-6” is closed. Open it, or choose another one."},
+        {"DODOBJVZOR,OBJEDNAVKA", 8,
+         isCzech ? "Vzor objednávky „VZ-2“ je uzavřený. Otevřete jej, nebo vyberte jiný."
+                 : "Order template “VZ-2” is closed. Open it, or choose another one."},
+    };
+    const std::string company = companyOn(engine);
+    for (const auto& [params, document, sentence] : cases) {
+        HostSession session(company);
+        session.startEditor(QString::fromLatin1(params), document, words->arguments());
+        EXPECT_EQ(session.finish(), 2);
+        EXPECT_THAT(session.standardError(), HasSubstr(sentence));
+        EXPECT_THAT(session.trace(), Not(Contains(HasSubstr("CheckZdroj"))));
+    }
+}
+
+TEST_P(OrderSessionIn, ALoadedDecimalIsShownAndTypedOnAsTheLanguageWritesIt) {
+    const auto& [engine, words] = GetParam();
+    HostSession session(companyOn(engine));
+    session.startEditor(QStringLiteral("DODOBJ,OBJEDNAVKA"), 10, words->arguments());
+    typed(&SessionWords::Order, "OBJ-1")(session, *words);
+    session.waitForWindow(QString::fromUtf8(words->OrderEditor));
+    // Over three units of the flour and two of the coarse one to 7.5 kg of sugar; behind them a 5.
+    session.press(QStringList(5, QStringLiteral("Return")) + QStringList{QStringLiteral("End")});
+    session.type(QStringLiteral("5"));
+    session.press({QStringLiteral("ctrl+Return")});
+    EXPECT_EQ(session.finish(), 0);
+    EXPECT_THAT(session.trace(), Contains(ordertrace::rowInsert({.item = "Cukr krystal",
+                                                                 .main = "7.55",
+                                                                 .warehouse = "Pobočka Čáslav",
+                                                                 .description = "krystal jemný",
+                                                                 .comment = "spěchá"})));
+    EXPECT_THAT(storedOrderLines(session),
+                ElementsAre(stored(10, 4, "Mouka hladká", "4", "pytel"), stored(10, 5, "Mouka hrubá", "10", "kg"),
+                            stored(10, 6, "Cukr krystal", "7,55", "kg")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, OrderSessionIn,
+                         testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
+                                          testing::Values(&c_Czech, &c_English)),
+                         [](const auto& row) {
+                             return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param)->Language;
+                         });
+
+class OrderSessionOn : public testing::TestWithParam<Engine> {};
 
 TEST_P(OrderSessionOn, SecondaryQuantitiesAreTypedOnlyWhereTheItemHasThem) {
     HostSession session(companyOn(GetParam()));
@@ -127,106 +192,92 @@ TEST_P(OrderSessionOn, SecondaryQuantitiesAreTypedOnlyWhereTheItemHasThem) {
                             stored(1, 8, "Cukr krystal", "1,5", "karton")));
 }
 
-TEST_P(OrderSessionOn, AnOrderClosedMeanwhileIsRefusedAndTheWorkIsStillThere) {
-    HostSession session(companyOn(GetParam()));
-    session.startEditor(QStringLiteral("DODOBJ,DODAVATEL"), 1);
-    session.waitForWindow(c_OrderTitle);
-    session.type(QStringLiteral("8"));
-    session.changeDatabase("update DODOBJEDNAVKA set OTEVRENO = 0 where ID = 1");
-    session.press({QStringLiteral("ctrl+Return")});
-    session.waitForWindow(c_ErrorTitle);
-    session.press({QStringLiteral("Return")}); // the message is read
-    session.waitForWindow(c_OrderTitle);
-    EXPECT_THAT(storedOrderLines(session), IsEmpty());
-    session.changeDatabase("update DODOBJEDNAVKA set OTEVRENO = 1 where ID = 1");
-    session.press({QStringLiteral("ctrl+Return")});
-    EXPECT_EQ(session.finish(), 0);
-    EXPECT_THAT(storedOrderLines(session), ElementsAre(stored(1, 4, "Cukr krystal", "8", "kg")));
-}
-
-TEST_P(OrderSessionOn, GroupsThatDoNotBelongTogetherAreToldAndCorrectedInTheOpenDialog) {
-    HostSession session(companyOn(GetParam()));
-    session.startEditor(QStringLiteral("DODOBJ,SKUPSKLADPOL"), 1);
-    const QString title = QString::fromUtf8(c_Czech.Groups);
-    session.waitForWindow(title);
-    session.type(QStringLiteral("nápoje"));
-    session.press({QStringLiteral("Tab")});
-    session.type(QStringLiteral("mouky"));
-    session.press({QStringLiteral("Return")});
-    session.waitForWindow(c_ErrorTitle);
-    session.press({QStringLiteral("Return")});
-    session.waitForWindow(title);
-    // The cursor is in the first line again.
-    session.press({QStringLiteral("ctrl+a")});
-    session.type(QStringLiteral("potraviny"));
-    session.press({QStringLiteral("Return")});
-    session.waitForWindow(c_OrderTitle);
-    session.press({QStringLiteral("alt+F4")});
-    EXPECT_EQ(session.finish(), 1);
-    const std::string refusal =
-        "Skupina 2. úrovně „Mouky“ neleží pod skupinou „Nápoje“. Vyberte skupiny, které k sobě patří.";
-    EXPECT_THAT(session.trace(), Contains(shownError(refusal)));
-    EXPECT_THAT(session.trace(),
-                Contains(fill("SkupSkladPol", 1, R"(["a_SSP1ID",1],["a_SSP2ID",1],["a_SSP3ID",null])", 2)));
-}
-
-TEST_P(OrderSessionOn, AUnitDeletedMeanwhileIsRefusedInWordsAtItsLineAndTheWorkIsStillThere) {
-    HostSession session(companyOn(GetParam()));
-    session.startEditor(QStringLiteral("DODOBJ,DODAVATEL"), 1);
-    session.waitForWindow(c_OrderTitle);
-    session.press({QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return"),
-                   QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return"),
-                   QStringLiteral("Return")}); // to the flakes in the last row
-    session.type(QStringLiteral("3"));
-    session.press({QStringLiteral("shift+Return"), QStringLiteral("shift+Return")}); // to a line above
-    session.changeDatabase("delete from SKPL where ID = 81");
-    session.press({QStringLiteral("ctrl+Return")});
-    session.waitForWindow(c_ErrorTitle);
-    session.press({QStringLiteral("Return")});
-    session.waitForWindow(c_OrderTitle);
-    EXPECT_THAT(session.trace(),
-                Contains(HasSubstr("Jednotka „kg“ nepatří k položce „Ovesné vločky“. Načtěte řádek znovu.")));
-    EXPECT_THAT(storedOrderLines(session), IsEmpty());
-    session.changeDatabase("insert into SKPL (ID, SKLPID, PORADI, NAZEV, FAKTOR) values (81, 8, 0, 'kg', '1')");
-    session.press({QStringLiteral("End")});
-    session.type(QStringLiteral("5")); // behind the 3 that is still there, in the line that was refused
-    session.press({QStringLiteral("ctrl+Return")});
-    EXPECT_EQ(session.finish(), 0);
-    EXPECT_THAT(storedOrderLines(session), ElementsAre(stored(1, 4, "Ovesné vločky", "35", "kg")));
-}
-
-TEST_P(OrderSessionOn, AnOrderThatIsClosedIsRefusedInWordsBeforeAnythingIsAsked) {
-    HostSession session(companyOn(GetParam()));
-    session.startEditor(QStringLiteral("DODOBJ,OBJEDNAVKA"), 6);
-    EXPECT_EQ(session.finish(), 2);
-    EXPECT_THAT(session.standardError(), HasSubstr("Objednávka „OBJ-6“ je uzavřená. Otevřete ji, nebo vyberte jinou."));
-    EXPECT_THAT(session.trace(), Not(Contains(HasSubstr("CheckZdroj"))));
-}
-
-TEST_P(OrderSessionOn, ALoadedDecimalIsShownAndTypedOnAsTheLanguageWritesIt) {
-    for (const SessionWords* const words : {&c_Czech, &c_English}) {
-        SCOPED_TRACE(words->Language);
-        HostSession session(companyOn(GetParam()));
-        session.startEditor(QStringLiteral("DODOBJ,OBJEDNAVKA"), 10, words->arguments());
-        typed(&SessionWords::Order, "OBJ-1")(session, *words);
-        session.waitForWindow(QString::fromUtf8(words->OrderEditor));
-        // Over three units of the flour and two of the coarse one to 7.5 kg of sugar; behind them a 5.
-        session.press(QStringList(5, QStringLiteral("Return")) + QStringList{QStringLiteral("End")});
-        session.type(QStringLiteral("5"));
-        session.press({QStringLiteral("ctrl+Return")});
-        EXPECT_EQ(session.finish(), 0);
-        EXPECT_THAT(session.trace(), Contains(ordertrace::rowInsert({.item = "Cukr krystal",
-                                                                     .main = "7.55",
-                                                                     .warehouse = "Pobočka Čáslav",
-                                                                     .description = "krystal jemný",
-                                                                     .comment = "spěchá"})));
-        EXPECT_THAT(storedOrderLines(session),
-                    ElementsAre(stored(10, 4, "Mouka hladká", "4", "pytel"), stored(10, 5, "Mouka hrubá", "10", "kg"),
-                                stored(10, 6, "Cukr krystal", "7,55", "kg")));
-    }
-}
-
 INSTANTIATE_TEST_SUITE_P(Engines, OrderSessionOn, testing::Values(Engine::SQLite, Engine::PostgreSQL),
                          [](const auto& row) { return refhost::engineName(row.param); });
+
+/// An order or a template that is filled from the price list of its supplier.
+struct PricedDocument {
+    const char* name;
+    const char* params;
+    int document;
+    const char* title;
+    const char* firstItem;
+    int stopsBeforeFlakes; ///< Quantities in the lines above the flakes, which are last.
+    int storedPlace;
+};
+
+void PrintTo(const PricedDocument& document, std::ostream* out) {
+    *out << document.name;
+}
+
+// The sugar's list of the order's day is over today, for which a template is filled.
+constexpr PricedDocument c_PricedDocuments[] = {
+    {"Order", "DODOBJ,DODAVATEL", 1, c_Czech.OrderEditor, "Cukr krystal", 7, 4},
+    {"Template", "DODOBJVZOR,DODAVATEL", 7, c_Czech.TemplateEditor, "Mouka hladká", 5, 3},
+};
+
+class ChangedMeanwhile : public testing::TestWithParam<std::tuple<Engine, PricedDocument>> {
+protected:
+    static const PricedDocument& document() { return std::get<1>(GetParam()); }
+    static QString title() { return QString::fromUtf8(document().title); }
+
+    void open() {
+        session_.startEditor(QString::fromLatin1(document().params), document().document);
+        session_.waitForWindow(title());
+    }
+    /// Saves, which is refused in words that the clerk reads.
+    void saveInVain() {
+        session_.press({QStringLiteral("ctrl+Return")});
+        session_.waitForWindow(c_ErrorTitle);
+        session_.press({QStringLiteral("Return")});
+        session_.waitForWindow(title());
+        EXPECT_THAT(lines(), IsEmpty());
+    }
+    void save() {
+        session_.press({QStringLiteral("ctrl+Return")});
+        EXPECT_EQ(session_.finish(), 0);
+    }
+    Lines lines() const { return storedOrderLines(session_, document().document == 7); }
+
+    HostSession session_{companyOn(std::get<0>(GetParam()))};
+};
+
+TEST_P(ChangedMeanwhile, AClosedDocumentIsRefusedAndTheWorkIsStillThere) {
+    const auto setOpen = [&](const char* value) {
+        session_.changeDatabase("update DODOBJEDNAVKA set OTEVRENO = " + std::string(value) +
+                                " where ID = " + std::to_string(document().document));
+    };
+    open();
+    session_.type(QStringLiteral("8"));
+    setOpen("0");
+    saveInVain();
+    setOpen("1");
+    save();
+    EXPECT_THAT(lines(),
+                ElementsAre(stored(document().document, document().storedPlace, document().firstItem, "8", "kg")));
+}
+
+TEST_P(ChangedMeanwhile, ADeletedUnitIsRefusedInWordsAtItsLineAndTheWorkIsStillThere) {
+    open();
+    session_.press(QStringList(document().stopsBeforeFlakes, QStringLiteral("Return")));
+    session_.type(QStringLiteral("3"));
+    session_.press({QStringLiteral("shift+Return"), QStringLiteral("shift+Return")}); // to a line above
+    session_.changeDatabase("delete from SKPL where ID = 81");
+    saveInVain();
+    EXPECT_THAT(session_.trace(),
+                Contains(HasSubstr("Jednotka „kg“ nepatří k položce „Ovesné vločky“. Načtěte řádek znovu.")));
+    session_.changeDatabase("insert into SKPL (ID, SKLPID, PORADI, NAZEV, FAKTOR) values (81, 8, 0, 'kg', '1')");
+    session_.press({QStringLiteral("End")});
+    session_.type(QStringLiteral("5")); // behind the 3 that is still there, in the line that was refused
+    save();
+    EXPECT_THAT(lines(), ElementsAre(stored(document().document, document().storedPlace, "Ovesné vločky", "35", "kg")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Documents, ChangedMeanwhile,
+                         testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
+                                          testing::ValuesIn(c_PricedDocuments)),
+                         [](const auto& row) {
+                             return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param).name;
+                         });
 
 } // namespace
