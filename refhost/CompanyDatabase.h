@@ -18,8 +18,7 @@ std::string defaultDatabaseFile();
 using UpgradeListener = std::function<void(const UpgradeReport&)>;
 
 /// Connects to the database that the command line names. The user's own one is created with the sample company when it
-/// is not there yet, and upgraded when it is of an older version: nobody else looks after it. Throws EDatabaseError or
-/// EInOutError.
+/// is not there yet, and upgraded when it is of an older version: nobody else looks after it. Throws EDatabaseError.
 std::unique_ptr<Database> openCompanyDatabase(const CommandLine& commandLine, const TFormatSettings& settings,
                                               const UpgradeListener& upgraded);
 
@@ -28,7 +27,7 @@ std::unique_ptr<Database> openCompanyDatabase(const CommandLine& commandLine, co
 /// All in one transaction. Throws EDatabaseError when there is a schema already.
 void createCompanyDatabase(const CommandLine& commandLine, const TFormatSettings& settings);
 
-/// Brings the database to this program's version. Throws EDatabaseError or EInOutError with nothing changed.
+/// Brings the database to this program's version. Throws EDatabaseError with nothing changed.
 UpgradeReport upgradeCompanyDatabase(const CommandLine& commandLine);
 
 /// The database as people call it: the file's path, or the server's connection words without a password.

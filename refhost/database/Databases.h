@@ -30,8 +30,8 @@ std::unique_ptr<DatabaseInspector> inspectDatabase(const std::string& url, const
 std::int64_t schemaVersionOf(const std::string& url);
 
 /// Brings the database that the address names to this program's version; nothing when it has that already.
-/// SQLiteUpgrade.h and PostgreSQLUpgrade.h tell what that means on each engine. Throws EDatabaseError or EInOutError
-/// with nothing changed.
+/// SQLiteUpgrade.h and PostgreSQLUpgrade.h tell what that means on each engine. Throws EDatabaseError with nothing
+/// changed.
 UpgradeReport upgradeDatabase(const std::string& url);
 
 } // namespace refhost

@@ -88,12 +88,16 @@ bool EPostgreSQLError::isConflict() const {
 }
 
 bool EPostgreSQLError::isNoReadingStatement() const {
-    const bool isSeveral = sqlState_ == "42601" && place_ == "exec_parse_message"; // else a mistake in the one
+    const bool isSeveral = sqlState_ == "42601" && place_.Function == "exec_parse_message"; // else a mistake in the one
     return sqlState_ == "25006" || isSeveral;
 }
 
 bool EPostgreSQLError::isMissingTable() const {
     return sqlState_ == "42P01";
+}
+
+bool EPostgreSQLError::isBrokenRule() const {
+    return sqlState_.starts_with("23");
 }
 
 EPostgreSQLError statementError(const PGresult* result, std::string_view database, std::string_view statement) {
@@ -104,12 +108,13 @@ EPostgreSQLError statementError(const PGresult* result, std::string_view databas
         const std::string detail = field(result, PG_DIAG_MESSAGE_DETAIL);
         return {aboutNamedRow(EDatabaseError(std::move(words), sqlState, more), detail), sqlState};
     }
+    const EPostgreSQLError::Place place{field(result, PG_DIAG_SOURCE_FUNCTION), field(result, PG_DIAG_TABLE_NAME)};
     if (const auto* constraint =
             std::ranges::find(c_Constraints, field(result, PG_DIAG_CONSTRAINT_NAME), &Constraint::Name);
         constraint != std::end(c_Constraints)) {
-        return {refusal(constraint->Refusal, {}, more), sqlState};
+        return {refusal(constraint->Refusal, {}, more), sqlState, place};
     }
-    return {failure(sqlState, database, more), sqlState, field(result, PG_DIAG_SOURCE_FUNCTION)};
+    return {failure(sqlState, database, more), sqlState, place};
 }
 
 EPostgreSQLError openingError(std::string_view words, std::string_view database, std::string_view host) {

@@ -12,8 +12,13 @@ namespace refhost {
 /// what to do about it.
 class EPostgreSQLError : public EDatabaseError {
 public:
-    /// `place` is the server's function that reported it; empty when it was not the server.
-    EPostgreSQLError(const EDatabaseError& error, std::string sqlState, std::string place = {})
+    /// Where the server says that it failed; empty when it does not, or was not the one that did.
+    struct Place {
+        std::string Function; ///< Of the server, which reported it.
+        std::string Table;    ///< Whose rule a row broke.
+    };
+
+    EPostgreSQLError(const EDatabaseError& error, std::string sqlState, Place place = {})
         : EDatabaseError(error), sqlState_(std::move(sqlState)), place_(std::move(place)) {}
     EPostgreSQLError(const EPostgreSQLError&) = default;
     EPostgreSQLError& operator=(const EPostgreSQLError&) = default;
@@ -25,10 +30,14 @@ public:
     bool isNoReadingStatement() const;
     /// Whether a statement names a table that is not there.
     bool isMissingTable() const;
+    /// Whether a row breaks a rule of its table.
+    bool isBrokenRule() const;
+    /// The table whose rule was broken, as the server spells it.
+    const std::string& table() const { return place_.Table; }
 
 private:
     std::string sqlState_;
-    std::string place_;
+    Place place_;
 };
 
 /// The error for a failed statement: a refusal of ours as it stands, else a sentence for the user about the database,

@@ -1,7 +1,9 @@
 #include "refhost/database/PostgreSQLUpgrade.h"
 
+#include "host/AsciiCase.h"
 #include "host/Exceptions.h"
 #include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/PostgreSQLErrors.h"
 #include "refhost/database/PostgreSQLSchema.h"
 #include "refhost/database/PostgreSQLShipped.h"
 #include "refhost/database/RefusalTable.h"
@@ -30,6 +32,18 @@ bool isOlder(const PostgreSQLSession& session, std::int64_t version) {
         throw otherVersionError(session.database(), version);
     }
     return version < c_SchemaVersion;
+}
+
+/// Alters the tables. Rows that break the new rules are named by their table, as on the other engine.
+void takeSteps(PostgreSQLSession& session, std::int64_t from) {
+    try {
+        session.execute(upgradeSteps(postgresqlFiles(), from));
+    } catch (const EPostgreSQLError& error) {
+        if (!error.isBrokenRule()) {
+            throw;
+        }
+        throw refusal("ML927", {melvark::UpperAscii(error.table())}, error.Details());
+    }
 }
 
 void putBackReplaced(PostgreSQLSession& session, const std::vector<ReplacedRoutine>& replaced, UpgradeReport& report) {
@@ -63,7 +77,7 @@ UpgradeReport upgradePostgreSQLSchema(PostgreSQLSession& session) {
     session.execute(folderText(postgresqlFiles(), "upgrades/shipped-" + std::to_string(report.From) + ".sql"));
     const std::vector<ReplacedRoutine> replaced = replacedRoutines(session);
     dropShipped(session, replaced);
-    session.execute(upgradeSteps(postgresqlFiles(), report.From));
+    takeSteps(session, report.From);
     createPostgreSQLRoutines(session);
     putBackReplaced(session, replaced, report);
     finishPostgreSQLSchema(session);

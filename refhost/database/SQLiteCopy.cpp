@@ -1,10 +1,12 @@
 #include "refhost/database/SQLiteCopy.h"
 
 #include "refhost/database/PrivateFile.h"
+#include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteSession.h"
 
 #include <cerrno>
 #include <filesystem>
+#include <system_error>
 
 namespace refhost {
 
@@ -15,8 +17,7 @@ std::string makeEmptyFile(const std::string& wanted) {
     std::string name = wanted;
     for (int number = 2; !makePrivateFile(name); ++number) {
         if (errno != EEXIST) {
-            throw EInOutError("Kopii databáze „" + name +
-                              "“ nelze založit. Zkontrolujte místo na disku a oprávnění ke složce.");
+            throw refusal("ML934", {name}, std::generic_category().message(errno), TDatabaseCause::Failure);
         }
         name = wanted + "-" + std::to_string(number);
     }

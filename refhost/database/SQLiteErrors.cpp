@@ -25,12 +25,18 @@ constexpr std::string_view c_OtherFailure = "ML930";
 
 } // namespace
 
-EDatabaseError sqliteError(int code, sqlite3* database, std::string_view file, std::string_view statement) {
+ESQLiteError::~ESQLiteError() = default;
+
+bool ESQLiteError::isBrokenRule() const {
+    return (code_ & 0xFF) == SQLITE_CONSTRAINT;
+}
+
+ESQLiteError sqliteError(int code, sqlite3* database, std::string_view file, std::string_view statement) {
     const std::string words = database != nullptr ? sqlite3_errmsg(database) : sqlite3_errstr(code);
     std::string details = "SQLite " + std::to_string(code) + ": " + words;
     details.append("\n").append(statement);
     if (code == SQLITE_CONSTRAINT_TRIGGER) {
-        return refusal(words, {}, details); // our triggers say the key of a refusal and nothing else
+        return {refusal(words, {}, details), code}; // our triggers say the key of a refusal and nothing else
     }
     std::string_view key = c_OtherFailure;
     for (const Failure& candidate : c_Failures) {
@@ -38,7 +44,7 @@ EDatabaseError sqliteError(int code, sqlite3* database, std::string_view file, s
             key = candidate.Refusal;
         }
     }
-    return refusal(key, {std::string(file)}, std::move(details), TDatabaseCause::Failure);
+    return {refusal(key, {std::string(file)}, std::move(details), TDatabaseCause::Failure), code};
 }
 
 } // namespace refhost

@@ -1,6 +1,7 @@
 #include "refhost/database/SQLiteTableRebuild.h"
 
 #include "refhost/database/RefusalTable.h"
+#include "refhost/database/SQLiteErrors.h"
 #include "refhost/database/SQLiteFunctions.h"
 #include "refhost/database/SQLiteSchema.h"
 #include "refhost/database/SQLiteStatement.h"
@@ -94,8 +95,11 @@ void takeRowsOver(SQLiteSession& session, const std::string& table) {
     }
     try {
         session.execute("insert into " + table + " (" + names + ") select " + names + " from " + old);
-    } catch (const EDatabaseError& error) {
-        throw refusal("ML927", {table}, error.Details());
+    } catch (const ESQLiteError& error) {
+        if (error.isBrokenRule()) {
+            throw refusal("ML927", {table}, error.Details());
+        }
+        throw;
     }
     // Identifiers that were given once are never given again, also when their rows have gone.
     session.execute("delete from sqlite_sequence where name = '" + table + "'");

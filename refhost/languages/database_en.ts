@@ -451,5 +451,9 @@
         <source>Databáze „%1“ má kódování …, ale potřebuje UTF8. Založte ji znovu s tímto kódováním.</source>
         <translation>The encoding of database “%1” is not UTF8. Create the database again with that encoding.</translation>
     </message>
+    <message id="MELVARKHOST\REFUSAL\ML934">
+        <source>Kopii databáze „%1“ nelze založit. Zkontrolujte místo na disku a oprávnění ke složce.</source>
+        <translation>The copy of the database “%1” cannot be made. Check the space on the disk and the permissions of the folder.</translation>
+    </message>
 </context>
 </TS>

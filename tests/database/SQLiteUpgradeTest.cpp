@@ -140,6 +140,47 @@ TEST(SQLiteUpgrade, AFullDiskIsToldChangesNothingAndLeavesNoCopy) {
     EXPECT_EQ(contentsOf(url), rows);
 }
 
+/// A company that does not fit the engine's cache is written while its rows are still being taken over.
+TEST(SQLiteUpgrade, ADiskThatIsFullBeforeTheRowsAreOverIsNoFaultOfTheRows) {
+    constexpr int c_Told = 31;
+    constexpr int c_OfTheRows = 32;
+    const std::string url = versionOneUrl(Engine::SQLite);
+    BareConnection(url).run("update DODOBJPOL set KOMENTAR = hex(zeroblob(2000000)) where DDOBID = 940");
+    int copied = 0;
+    for (int point = 1; point < 100'000 && copied < 3; point = point * 3 / 2 + 1) {
+        std::filesystem::remove(pathOf(url) + ".version-1");
+        const int status = statusOnFullDisk(point, [&] {
+            const EDatabaseError error = failureOf(url);
+            const bool isTakeOver = error.Details().find("insert into DODOBJPOL") != std::string::npos;
+            return error.Code() != "ML923" ? c_OfTheRows : isTakeOver ? c_Told : 0;
+        });
+        if (schemaVersionOf(url) == c_SchemaVersion) {
+            break;
+        }
+        EXPECT_NE(status, c_OfTheRows) << point;
+        copied += status == c_Told ? 1 : 0;
+    }
+    EXPECT_GT(copied, 0) << "the disk was never full among the rows";
+}
+
+TEST(SQLiteUpgrade, ACopyThatCannotBeMadeIsToldAndNothingChanges) {
+    const std::string url = versionOneUrl(Engine::SQLite);
+    const std::filesystem::path file = pathOf(url);
+    // The journal's name still fits the system, the copy's does not.
+    const std::filesystem::path longName = file.parent_path() / std::string(246, 'd');
+    std::filesystem::rename(file, longName);
+    const std::string longUrl = "sqlite:" + longName.string();
+    const auto schema = schemaOf(longUrl);
+
+    const EDatabaseError error = failureOf(longUrl);
+
+    EXPECT_EQ(error.Code(), "ML934");
+    EXPECT_EQ(error.Message(), "Kopii databáze „" + longName.string() +
+                                   ".version-1“ nelze založit. Zkontrolujte místo na disku a oprávnění ke složce.");
+    EXPECT_EQ(schemaOf(longUrl), schema);
+    std::filesystem::remove(longName);
+}
+
 TEST(SQLiteUpgrade, AnEmptyFileIsNoCompany) {
     const std::string url = newSQLiteUrl();
     BareConnection(url).rows("pragma user_version");

@@ -92,6 +92,47 @@ TEST_P(Upgrade, ACompanyOfVersionTwoGetsThisProgramsViewsAndFunctionsAndKeepsIts
     EXPECT_EQ(contentsOf(url), rows);
 }
 
+TEST_P(Upgrade, ARowThatBreaksTheNewRulesNamesItsTableAndNothingChanges) {
+    const std::string url = versionOneUrl(GetParam());
+    const std::string schema = GetParam() == Engine::SQLite ? "" : "melvark.";
+    BareConnection(url).run("update " + schema + "DODAKPOL set SLEVA = '150' where DODKID = 1087");
+    const auto schemaBefore = schemaOf(url);
+    const auto rows = contentsOf(url);
+
+    try {
+        upgradeDatabase(url);
+        FAIL() << "the upgrade took a discount that no line may have";
+    } catch (const EDatabaseError& error) {
+        EXPECT_EQ(error.Code(), "ML927");
+        EXPECT_EQ(error.Message(),
+                  "Údaje v tabulce „DODAKPOL“ neodpovídají pravidlům nové verze. Opravte je a převod zopakujte.");
+        EXPECT_THAT(error.Details(), HasSubstr("constraint"));
+    }
+
+    EXPECT_EQ(schemaOf(url), schemaBefore);
+    EXPECT_EQ(contentsOf(url), rows);
+}
+
+TEST_P(Upgrade, PricesThatOverlapAreNamedByTheirTable) {
+    const std::string url = versionOneUrl(GetParam());
+    const bool isServer = GetParam() == Engine::PostgreSQL;
+    const std::string prices = isServer ? "melvark.DODCENIK" : "DODCENIK";
+    BareConnection database(url);
+    database.run(isServer ? "alter table melvark.dodcenik disable trigger user"
+                          : "drop trigger DODCENIK_PREKRYV; drop trigger DODCENIK_PREKRYV_ZMENA");
+    const std::string first = " where ID = (select min(ID) from " + prices + ")";
+    database.run("update " + prices + " set PLATIDO = null" + first + "; insert into " + prices +
+                 " (DODVID, SKLPID, PLATIOD, CENA) select DODVID, SKLPID, '2030-01-01', CENA from " + prices + first);
+
+    try {
+        upgradeDatabase(url);
+        FAIL() << "the upgrade took two prices of one day";
+    } catch (const EDatabaseError& error) {
+        EXPECT_EQ(error.Code(), "ML927");
+        EXPECT_THAT(error.Message(), HasSubstr("„DODCENIK“"));
+    }
+}
+
 TEST_P(Upgrade, ASecondUpgradeHasNothingToDo) {
     const std::string url = versionOneUrl(GetParam());
     upgraded(url);
