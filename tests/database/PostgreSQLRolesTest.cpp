@@ -105,6 +105,27 @@ TEST(PostgreSQLRoles, ARoleThatMakesRolesAndOwnsTheDatabaseMakesTheCompany) {
     EXPECT_EQ(failure([&] { clerk.runScript("create temporary table X (A integer)"); }).Code(), "ML924");
 }
 
+TEST(PostgreSQLRoles, ASecondAdministratorNeedsNoGrantForRolesThatSomebodyElseMade) {
+    PrivateServer& server = PrivateServer::instance();
+    const ServerCompany other; // its making made the roles
+    const std::string name = server.newEmptyDatabase();
+    PostgreSQLSession administrator = server.administrator("postgres");
+    if (PQserverVersion(administrator.handle()) >= 160000) {
+        administrator.execute("create role vedouci login createrole; grant melvark_owner to vedouci;"
+                              "grant melvark_clerk to vedouci with admin option");
+    } else {
+        administrator.execute("create role vedouci login createrole");
+    }
+    administrator.execute("alter database " + name + " owner to vedouci");
+
+    PostgreSQLConnection company(server.address(name, "vedouci"), TFormatSettings::Czech());
+    company.createSchema();
+    company.runScript("create role vyborny login in role melvark_clerk");
+
+    PostgreSQLConnection clerk(server.address(name, "vyborny"), TFormatSettings::Czech());
+    EXPECT_EQ(rowsOf(clerk, "select NAZEV from SKLAD_V"), "");
+}
+
 TEST(PostgreSQLRoles, AClerksOwnTablesDoNotReachIntoProcedures) {
     const ServerCompany company;
     PrivateServer::instance()

@@ -13,9 +13,14 @@ begin
     if to_regrole('melvark_clerk') is null then
         create role melvark_clerk nologin;
     end if;
-    -- Who makes the schema for melvark_owner has to be able to act as that role.
-    if not pg_has_role('melvark_owner', 'member') then
-        grant melvark_owner to current_user;
+    -- Who makes the schema for melvark_owner has to be able to act as that role. From version 16 on the server makes a
+    -- creator a member who may hand the role on but not act as it.
+    if current_setting('server_version_num')::integer < 160000 then
+        if not pg_has_role('melvark_owner', 'member') then
+            grant melvark_owner to current_user;
+        end if;
+    elsif not (pg_has_role('melvark_owner', 'set') and pg_has_role('melvark_owner', 'usage')) then
+        execute 'grant melvark_owner to current_user with set true, inherit true';
     end if;
 end
 $$;
