@@ -17,7 +17,7 @@ constexpr std::string_view c_PostgreSQL = "postgresql:";
 class BareSQLite : public BareSession {
 public:
     explicit BareSQLite(const std::string& file)
-        : session_(file, "novakova", TFormatSettings::Czech(), false, std::chrono::seconds(5)) {
+        : session_(file, "novakova", TFormatSettings::Czech(), refhost::OpenMode::Existing, std::chrono::seconds(5)) {
         refhost::registerValueFunctions(session_); // the tables' own checks
         refhost::registerCzech(session_);          // the names' collation
     }

@@ -20,6 +20,15 @@ constexpr const char* c_ListForEver =
     "update DODCENIK set PLATIDO = null where DODVID = 1 and PLATIDO is not null and not exists "
     "(select 1 from DODCENIK c where c.DODVID = 1 and c.SKLPID = DODCENIK.SKLPID and c.PLATIOD > DODCENIK.PLATIOD)";
 
+/// Documents of the lists are older than those that the fills take.
+constexpr const char* c_LongAgo = "2020-05-04 09:30:00";
+/// The supplier and the warehouse that all of them have.
+constexpr std::int64_t c_First = 1;
+
+std::string listNumber(std::int64_t i) {
+    return "LIST-" + std::to_string(i);
+}
+
 } // namespace
 
 TResultTable call(refhost::Database& database, const char* procedure, std::vector<TDbParam> params) {
@@ -58,14 +67,49 @@ void Company::addOrders() {
     std::vector<std::vector<TDbValue>> orders;
     std::vector<std::vector<TDbValue>> lines;
     for (std::int64_t i = 0; i < lines_; ++i) {
-        orders.push_back({first + i, std::int64_t{0}, "LIST-" + std::to_string(i), "2026-05-04 09:30:00", i % 3 + 1,
-                          std::int64_t{1}, std::int64_t{1}});
-        lines.push_back({firstLine + i, first + i, std::int64_t{1}, item, unit, std::int64_t{1}, "3"});
+        orders.push_back({first + i, std::int64_t{0}, listNumber(i), c_LongAgo, c_First, c_First, std::int64_t{1}});
+        lines.push_back({firstLine + i, first + i, std::int64_t{1}, item, unit, c_First, "3"});
     }
-    const std::vector<std::string> orderColumns{"ID", "VZOR", "CISLO", "OBJEDNANIDC", "DODVID", "SKLDID", "OTEVRENO"};
-    const std::vector<std::string> lineColumns{"ID", "DDOBID", "PORADI", "SKLPID", "SKPLID", "SKLDID", "MNOZSTVI"};
-    measured_->insertRows("DODOBJEDNAVKA", orderColumns, orders);
-    measured_->insertRows("DODOBJPOL", lineColumns, lines);
+    insert("DODOBJEDNAVKA", {"ID", "VZOR", "CISLO", "OBJEDNANIDC", "DODVID", "SKLDID", "OTEVRENO"}, orders);
+    insert("DODOBJPOL", {"ID", "DDOBID", "PORADI", "SKLPID", "SKPLID", "SKLDID", "MNOZSTVI"}, lines);
+}
+
+void Company::addListedDocuments() {
+    const std::int64_t firstTemplate = number("select max(ID) + 1 from DODOBJEDNAVKA");
+    const std::int64_t firstNote = number("select max(ID) + 1 from DODAK");
+    std::vector<std::vector<TDbValue>> templates;
+    std::vector<std::vector<TDbValue>> notes;
+    for (std::int64_t i = 0; i < lines_; ++i) {
+        templates.push_back({firstTemplate + i, std::int64_t{1}, listNumber(i), listNumber(i), c_First, c_First});
+        notes.push_back({firstNote + i, listNumber(i), "2020-05-04", c_First, c_First});
+    }
+    insert("DODOBJEDNAVKA", {"ID", "VZOR", "CISLO", "NAZEV", "DODVID", "SKLDID"}, templates);
+    insert("DODAK", {"ID", "CISLO", "DATUM", "DODVID", "SKLDID"}, notes);
+    bare_->refreshStatistics();
+}
+
+void Company::addListedItems() {
+    const std::int64_t first = number("select max(ID) + 1 from SKLADPOL");
+    const std::int64_t firstUnit = number("select max(ID) + 1 from SKPL");
+    const std::int64_t group =
+        number("select min(g3.ID) from SKUPSPOL3 g3 join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID where g2.SSP1ID = "
+               "(select min(ID) from SKUPSPOL1)");
+    const std::int64_t rate = number("select min(DPHID) from SKLADPOL");
+    std::vector<std::vector<TDbValue>> items;
+    std::vector<std::vector<TDbValue>> units;
+    for (std::int64_t i = 0; i < lines_; ++i) {
+        items.push_back({first + i, listNumber(i), group, rate});
+        units.push_back({firstUnit + i, first + i, std::int64_t{0}, "ks", "1"});
+    }
+    insert("SKLADPOL", {"ID", "NAZEV", "SSP3ID", "DPHID"}, items);
+    insert("SKPL", {"ID", "SKLPID", "PORADI", "NAZEV", "FAKTOR"}, units);
+    bare_->script(c_ListEveryItem);
+    bare_->refreshStatistics();
+}
+
+void Company::insert(const char* table, const std::vector<std::string>& columns,
+                     const std::vector<std::vector<TDbValue>>& rows) {
+    measured_->insertRows(table, columns, rows);
 }
 
 std::int64_t Company::newNote() {

@@ -13,13 +13,14 @@
 namespace benchmark {
 
 /// The sample company with long documents in a new database, and two connections to it: the measured one and the bare
-/// one. Its first supplier lists every item.
+/// one. Its first supplier lists every item. Beside the long documents stand as many orders of one line that the first
+/// supplier has still to deliver.
 class Company {
 public:
     static constexpr const char* c_User = "novakova";
     static constexpr int c_Supplier = 1; ///< Of the long documents and of new ones.
 
-    /// `lines` of the long order, note and template; so many more orders of one line stand in the list of orders.
+    /// `lines` of the long order, note and template.
     Company(refhost::Engine engine, int lines, CostClock::Kind clock);
 
     refhost::Database& measured() { return *measured_; }
@@ -36,6 +37,11 @@ public:
     /// A new open document of the first supplier without lines.
     std::int64_t newNote();
     std::int64_t newOrder();
+    /// As many templates and notes without lines as there are lines of the long documents, all of the first supplier
+    /// and warehouse.
+    void addListedDocuments();
+    /// As many items in the first group, which the first supplier lists.
+    void addListedItems();
     /// Nothing of the long order has come.
     void forgetDeliveries();
 
@@ -50,6 +56,8 @@ public:
 
 private:
     void addOrders();
+    void insert(const char* table, const std::vector<std::string>& columns,
+                const std::vector<std::vector<TDbValue>>& rows);
 
     CostClock clock_;
     int lines_;

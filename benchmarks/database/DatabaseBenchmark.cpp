@@ -4,6 +4,7 @@
 //   database_benchmark [OPTION…]     see Options.h
 
 #include "benchmarks/BenchmarkRun.h"
+#include "benchmarks/database/ListWork.h"
 #include "benchmarks/database/NoteWork.h"
 #include "benchmarks/database/OrderWork.h"
 
@@ -13,9 +14,12 @@ void measure(const benchmark::Options& options, benchmark::Report& report) {
     for (const int size : options.Sizes) {
         for (const refhost::Engine engine : options.engines()) {
             benchmark::Company company(engine, size, options.Clock);
-            benchmark::measureNotes(company, options.Rounds, report);
-            benchmark::measureOrders(company, options.Rounds, report);
+            benchmark::measureNoteFills(company, options.Rounds, report);
+            benchmark::measureOrderFills(company, options.Rounds, report);
+            benchmark::measureNoteSaving(company, options.Rounds, report);
+            benchmark::measureOrderSaving(company, options.Rounds, report);
             benchmark::measureLists(company, options.Rounds, report);
+            benchmark::measureAssortment(company, options.Rounds, report); // last, for it makes all items many
         }
     }
 }

@@ -15,6 +15,56 @@ std::string prices(const std::string& table = {}) {
     return list;
 }
 
+/// The lines of notes that meet a condition, as they are stored, for the note $1: 26 columns.
+std::string noteLines(const std::string& condition) {
+    return "select p.DOBSID, g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, p.MNOZSTVI, r.NAZEV, p.SLEVA, " +
+           prices("p.") +
+           ", d.DATUM "
+           "from DODAKPOL p join DODAK d on d.ID = $1 join SKLADPOL i on i.ID = p.SKLPID "
+           "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
+           "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID "
+           "left join DPH r on r.ID = p.DPHID where " +
+           condition;
+}
+
+/// Lines as they are stored, for the order $1: 16 columns. `supplier` is what their supplier comes from.
+std::string orderLines(const std::string& lines, const std::string& supplier, const std::string& remarks) {
+    return "select g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, v.JMENO, p.MNOZSTVI, hl.NAZEV, hl.ID, v1.NAZEV, "
+           "v1.ID, v2.NAZEV, v2.ID, " +
+           remarks + ", p.PORADI from " + lines +
+           " join DODOBJEDNAVKA o on o.ID = $1 join SKLADPOL i on i.ID = p.SKLPID "
+           "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
+           "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID "
+           "left join DODAVATEL v on v.ID = " +
+           supplier +
+           ".DODVID "
+           "left join SKPL hl on hl.SKLPID = i.ID and hl.PORADI = 0 "
+           "left join SKPL v1 on v1.SKLPID = i.ID and v1.PORADI = 1 "
+           "left join SKPL v2 on v2.SKLPID = i.ID and v2.PORADI = 2 ";
+}
+
+/// Items as the order $1 takes them, likewise.
+std::string orderItems(const std::string& items, const std::string& supplier) {
+    return "select g1.NAZEV as G1, g2.NAZEV as G2, g3.NAZEV as G3, i.NAZEV, s.NAZEV, v.JMENO, null, hl.NAZEV, hl.ID, "
+           "v1.NAZEV, v1.ID, v2.NAZEV, v2.ID, null, null, i.ID from " +
+           items +
+           " join DODOBJEDNAVKA o on o.ID = $1 "
+           "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
+           "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = o.SKLDID "
+           "left join DODAVATEL v on v.ID = " +
+           supplier +
+           ".DODVID "
+           "left join SKPL hl on hl.SKLPID = i.ID and hl.PORADI = 0 "
+           "left join SKPL v1 on v1.SKLPID = i.ID and v1.PORADI = 1 "
+           "left join SKPL v2 on v2.SKLPID = i.ID and v2.PORADI = 2 ";
+}
+
+/// Of the lines p, one for each item of the three documents that come first.
+std::string latestOfEachItem(const std::string& lines, const std::string& document, const std::string& documents) {
+    return "p.ID in (select max(q.ID) from " + lines + " q where q." + document +
+           " in (select l.ID from (select ID from " + documents + ", ID desc limit 3) l) group by q.SKLPID)";
+}
+
 } // namespace
 
 const std::string c_NoteFromOrder =
@@ -28,35 +78,29 @@ const std::string c_NoteFromOrder =
     "and (c.PLATIDO is null or d.DATUM <= c.PLATIDO) "
     "where p.DDOBID = $2 order by p.PORADI";
 
-const std::string c_NoteFromNote =
-    "select p.DOBSID, g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, p.MNOZSTVI, r.NAZEV, p.SLEVA, " + prices("p.") +
-    ", d.DATUM "
-    "from DODAKPOL p join DODAK d on d.ID = $1 join SKLADPOL i on i.ID = p.SKLPID "
-    "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
-    "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID left join DPH r on r.ID = p.DPHID "
-    "where p.DODKID = $2 order by p.PORADI";
+const std::string c_NoteFromNote = noteLines("p.DODKID = $2") + " order by p.PORADI";
+const std::string c_NoteFromLatest =
+    noteLines(latestOfEachItem("DODAKPOL", "DODKID", "DODAK where DODVID = $2 and ID <> $1 order by DATUM desc")) +
+    " order by p.ID";
 
 const std::string c_OrderFromOrder =
-    "select g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, v.JMENO, p.MNOZSTVI, hl.NAZEV, hl.ID, v1.NAZEV, v1.ID, "
-    "v2.NAZEV, v2.ID, p.POPIS, p.KOMENTAR, p.PORADI "
-    "from DODOBJPOL p join DODOBJEDNAVKA o on o.ID = $1 join SKLADPOL i on i.ID = p.SKLPID "
-    "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
-    "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID "
-    "left join DODAVATEL v on v.ID = coalesce(p.DODVID, o.DODVID) "
-    "left join SKPL hl on hl.SKLPID = i.ID and hl.PORADI = 0 left join SKPL v1 on v1.SKLPID = i.ID and v1.PORADI = 1 "
-    "left join SKPL v2 on v2.SKLPID = i.ID and v2.PORADI = 2 "
-    "where p.DDOBID = $2 order by p.PORADI";
+    orderLines("DODOBJPOL p", "o", "p.POPIS, p.KOMENTAR") + "where p.DDOBID = $2 order by p.PORADI";
+const std::string c_OrderFromLatest =
+    orderLines("DODOBJPOL p", "o", "p.POPIS, p.KOMENTAR") + "where " +
+    latestOfEachItem("DODOBJPOL", "DDOBID",
+                     "DODOBJEDNAVKA where DODVID = $2 and ID <> $1 and VZOR = 0 order by OBJEDNANIDC desc") +
+    " order by p.ID";
+const std::string c_OrderFromNote =
+    orderLines("DODAKPOL p join DODAK d on d.ID = p.DODKID", "d", "null, null") + "where d.ID = $2 order by p.PORADI";
+const std::string c_OrderFromDeliveries =
+    orderLines("DODAKPOL p join DODAK d on d.ID = p.DODKID", "d", "null, null") +
+    "where d.DODVID = $2 and p.ID in (select max(q.ID) from DODAKPOL q join DODAK n on n.ID = q.DODKID "
+    "where n.DODVID = $2 group by q.SKLPID) order by p.ID";
 
-const std::string c_OrderFromPriceList =
-    "select g1.NAZEV as G1, g2.NAZEV as G2, g3.NAZEV as G3, i.NAZEV, s.NAZEV, v.JMENO, null, hl.NAZEV, hl.ID, "
-    "v1.NAZEV, "
-    "v1.ID, v2.NAZEV, v2.ID, null, null, i.ID "
-    "from DODCENIK c join DODOBJEDNAVKA o on o.ID = $1 join SKLADPOL i on i.ID = c.SKLPID "
-    "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
-    "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = o.SKLDID join DODAVATEL v on v.ID = c.DODVID "
-    "left join SKPL hl on hl.SKLPID = i.ID and hl.PORADI = 0 left join SKPL v1 on v1.SKLPID = i.ID and v1.PORADI = 1 "
-    "left join SKPL v2 on v2.SKLPID = i.ID and v2.PORADI = 2 "
-    "where c.DODVID = $2 and c.PLATIDO is null order by 1, 2, 3, i.NAZEV, i.ID";
+const std::string c_OrderFromPriceList = orderItems("DODCENIK c join SKLADPOL i on i.ID = c.SKLPID", "c") +
+                                         "where c.DODVID = $2 and c.PLATIDO is null order by 1, 2, 3, i.NAZEV, i.ID";
+const std::string c_OrderFromGroup =
+    orderItems("SKLADPOL i", "o") + "where g1.ID = $2 and i.AKTIVNI = 1 order by 1, 2, 3, i.NAZEV, i.ID";
 
 const std::string c_Echo = "select $1 as A, $2 as B, $3 as C, $4 as D";
 
@@ -109,6 +153,18 @@ const std::string c_OrderList =
     "select o.CISLO, o.OBJEDNANIDC, v.JMENO, s.NAZEV, o.ID, o.SKLDID, o.DODVID "
     "from DODOBJEDNAVKA o join DODAVATEL v on v.ID = o.DODVID join SKLAD s on s.ID = o.SKLDID "
     "where o.VZOR = 0 and o.SKLDID = $1 and o.DODVID = $2 "
-    "and exists (select 1 from DODOBJPOL p where p.DDOBID = o.ID and p.KOMPLETNI = 0) limit $3";
+    "and exists (select 1 from DODOBJPOL p where p.DDOBID = o.ID and p.KOMPLETNI = 0)";
+const std::string c_TemplateList =
+    "select o.CISLO, o.NAZEV, v.JMENO, s.NAZEV, o.ID, o.SKLDID, o.DODVID "
+    "from DODOBJEDNAVKA o join DODAVATEL v on v.ID = o.DODVID join SKLAD s on s.ID = o.SKLDID "
+    "where o.VZOR = 1 and o.SKLDID = $1 and o.DODVID = $2";
+const std::string c_NoteList = "select d.CISLO, d.DATUM, v.JMENO, s.NAZEV, d.ID, d.SKLDID, d.DODVID "
+                               "from DODAK d join DODAVATEL v on v.ID = d.DODVID join SKLAD s on s.ID = d.SKLDID "
+                               "where d.SKLDID = $1 and d.DODVID = $2";
+const std::string c_ListedSuppliers = "select v.JMENO, v.MESTO, v.ID from DODAVATEL v "
+                                      "where exists (select 1 from DODCENIK c where c.DODVID = v.ID)";
+const std::string c_DeliveringSuppliers =
+    "select v.JMENO, v.MESTO, v.ID from DODAVATEL v where exists "
+    "(select 1 from DODAK d join DODAKPOL p on p.DODKID = d.ID where d.DODVID = v.ID and p.SKLDID = $1)";
 
 } // namespace benchmark::floors

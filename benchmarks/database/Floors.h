@@ -12,10 +12,19 @@ namespace benchmark::floors {
 extern const std::string c_NoteFromOrder;
 /// $1 the note, $2 the source: its lines as they are stored, in 26 columns.
 extern const std::string c_NoteFromNote;
+/// $1 the note, $2 its supplier: the last line of each item in his latest three notes, likewise.
+extern const std::string c_NoteFromLatest;
 /// $1 the document, $2 the template: its lines as they are stored, in 16 columns.
 extern const std::string c_OrderFromOrder;
+/// $1 the order, $2 the note: its lines.
+extern const std::string c_OrderFromNote;
+/// $1 the order, $2 its supplier: the last line of each item in his latest three orders, in all that he delivered.
+extern const std::string c_OrderFromLatest;
+extern const std::string c_OrderFromDeliveries;
 /// $1 the document, $2 the supplier: the items that he lists, in 16 columns.
 extern const std::string c_OrderFromPriceList;
+/// $1 the document, $2 the group of the first level: its active items.
+extern const std::string c_OrderFromGroup;
 
 /// Gives its four parameters back.
 extern const std::string c_Echo;
@@ -35,7 +44,12 @@ extern const std::string c_CloseOrderLines;
 
 /// $1 the number.
 extern const std::string c_OrderByNumber;
-/// $1 the warehouse, $2 the supplier, $3 how many at most: the columns of the list of orders.
+/// $1 the warehouse, $2 the supplier: the columns of the lists of documents.
 extern const std::string c_OrderList;
+extern const std::string c_TemplateList;
+extern const std::string c_NoteList;
+/// The suppliers who list something; $1 the warehouse: those who delivered something into it.
+extern const std::string c_ListedSuppliers;
+extern const std::string c_DeliveringSuppliers;
 
 } // namespace benchmark::floors

@@ -114,6 +114,12 @@ void NoteWork::measureFills() {
                 {target_, company_.longNote()});
     measureFill("note from note, list prices, a line", [&] { fromNote(true, false); }, floors::c_NoteFromNote,
                 {target_, company_.longNote()});
+    const auto fromLatest = [&] {
+        call(company_.measured(), "MELVARKEDITORDodakGetPolozkyByDodak",
+             {{"a_DODKID", target_}, {"a_PRENESMNOZSTVI", true}, {"a_PRENESCENY", true}});
+    };
+    measureFill("note from the latest, a line read", fromLatest, floors::c_NoteFromLatest,
+                {target_, std::int64_t{Company::c_Supplier}});
 }
 
 void NoteWork::recalculate() {
@@ -155,6 +161,7 @@ void NoteWork::measureSaving() {
                                   for (const std::vector<TDbParam>& row : rows.Sent) {
                                       measured.Execute({"MELVARKEDITORDodakInsertToTemp", row, false});
                                   }
+                                  measured.awaitAnswers();
                               });
                               const std::int64_t note = company_.newNote();
                               closings.push_back(company_.microseconds([&] {
@@ -190,11 +197,14 @@ void NoteWork::measureSaving() {
 
 } // namespace
 
-void measureNotes(Company& company, int rounds, Report& report) {
+void measureNoteFills(Company& company, int rounds, Report& report) {
     NoteWork work(company, rounds, report);
     work.measureFills();
     work.measureRecalculation();
-    work.measureSaving();
+}
+
+void measureNoteSaving(Company& company, int rounds, Report& report) {
+    NoteWork(company, rounds, report).measureSaving();
 }
 
 } // namespace benchmark

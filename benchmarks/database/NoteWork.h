@@ -5,7 +5,10 @@
 
 namespace benchmark {
 
-/// Filling, recalculating and saving a delivery note as long as the company's long documents.
-void measureNotes(Company& company, int rounds, Report& report);
+/// Filling a delivery note from documents as long as the company's long ones, and recalculating a line.
+void measureNoteFills(Company& company, int rounds, Report& report);
+
+/// Saving a delivery note as long as they are.
+void measureNoteSaving(Company& company, int rounds, Report& report);
 
 } // namespace benchmark

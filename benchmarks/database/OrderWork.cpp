@@ -14,9 +14,22 @@ public:
     OrderWork(Company& company, int rounds, Report& report) : company_(company), rounds_(rounds), report_(report) {}
 
     void measureFills();
+    void measureAssortment();
     void measureSaving();
 
 private:
+    /// One way to fill the order.
+    struct Fill {
+        const char* Name;
+        const char* Procedure;
+        std::vector<TDbParam> Parameters; ///< Beside the order.
+        std::string Floor;
+        std::int64_t Source; ///< The floor's second parameter.
+        /// Whether the cost is told for each line of the long document, which brings each of its items once.
+        bool IsEachLineRead = false;
+    };
+
+    void measureFill(const Fill& fill);
     TResultTable fillFromTemplate() {
         return call(company_.measured(), "MELVARKEDITORDodObjGetPolozkyByObjednavka",
                     {{"a_DDOBIDMASTER", target_}, {"a_DDOBID", company_.longTemplate()}});
@@ -31,29 +44,66 @@ private:
     std::int64_t target_ = company_.newOrder();
 };
 
-void OrderWork::measureFills() {
-    const auto bareRun = [&](const std::string& sql, const std::vector<TDbValue>& parameters) {
-        return company_.microseconds([&] { company_.bare().run(sql, parameters); });
-    };
-    const Contest fromTemplate{[&] { return company_.microseconds([&] { fillFromTemplate(); }); },
-                               [&] {
-                                   return bareRun(floors::c_OrderFromOrder, {target_, company_.longTemplate()});
-                               }};
-    add("order from template, a line", company_.lines(), compete(fromTemplate, rounds_));
+void OrderWork::measureFill(const Fill& fill) {
+    std::vector<TDbParam> parameters{{"a_DDOBIDMASTER", target_}};
+    parameters.insert(parameters.end(), fill.Parameters.begin(), fill.Parameters.end());
+    std::size_t rows = 1;
+    const Contest contest{
+        [&] {
+            return company_.microseconds(
+                [&] { rows = call(company_.measured(), fill.Procedure, parameters).Rows.size(); });
+        },
+        [&] { return company_.microseconds([&] {
+                  company_.bare().run(fill.Floor, {target_, fill.Source});
+              }); }};
+    const Medians medians = compete(contest, rounds_);
+    add(fill.Name, fill.IsEachLineRead ? company_.lines() : static_cast<double>(rows), medians);
+}
 
-    std::size_t listed = 1;
-    const Contest fromPriceList{[&] {
-                                    return company_.microseconds([&] {
-                                        listed = call(company_.measured(), "MELVARKEDITORDodObjGetPolozkyByDodCenik",
-                                                      {{"a_DDOBIDMASTER", target_}, {"a_DODVID", std::int64_t{1}}})
-                                                     .Rows.size();
-                                    });
-                                },
-                                [&] {
-                                    return bareRun(floors::c_OrderFromPriceList, {target_, std::int64_t{1}});
-                                }};
-    const Medians medians = compete(fromPriceList, rounds_);
-    add("order from price list, a line", static_cast<double>(listed), medians);
+void OrderWork::measureFills() {
+    const std::int64_t supplier = Company::c_Supplier;
+    const Fill fills[] = {
+        {"order from template, a line",
+         "MELVARKEDITORDodObjGetPolozkyByObjednavka",
+         {{"a_DDOBID", company_.longTemplate()}},
+         floors::c_OrderFromOrder,
+         company_.longTemplate()},
+        {"order from note, a line",
+         "MELVARKEDITORDodObjGetPolozkyByDodak",
+         {{"a_DODKID", company_.longNote()}},
+         floors::c_OrderFromNote,
+         company_.longNote()},
+        {"order from the latest, a line read",
+         "MELVARKEDITORDodObjGetPolozkyByObjednavka",
+         {},
+         floors::c_OrderFromLatest,
+         supplier,
+         true},
+        {"order from deliveries, a line read",
+         "MELVARKEDITORDodObjGetPolozkyByDodavky",
+         {{"a_DODVID", supplier}, {"a_PRENESMNOZSTVI", true}},
+         floors::c_OrderFromDeliveries,
+         supplier,
+         true},
+    };
+    for (const Fill& fill : fills) {
+        measureFill(fill);
+    }
+}
+
+void OrderWork::measureAssortment() {
+    const std::int64_t supplier = Company::c_Supplier;
+    const std::int64_t group = company_.number("select min(ID) from SKUPSPOL1");
+    measureFill({"order from price list, a line",
+                 "MELVARKEDITORDodObjGetPolozkyByDodCenik",
+                 {{"a_DODVID", supplier}},
+                 floors::c_OrderFromPriceList,
+                 supplier});
+    measureFill({"order from a group, a line",
+                 "MELVARKEDITORDodObjGetPolozkyBySkupSkladPol",
+                 {{"a_SSP1ID", group}},
+                 floors::c_OrderFromGroup,
+                 group});
 }
 
 void OrderWork::measureSaving() {
@@ -87,6 +137,7 @@ void OrderWork::measureSaving() {
                                        {"a_JEDNOTKY", row[unitName]}},
                                       false});
                 }
+                measured.awaitAnswers();
             });
             const std::int64_t order = company_.newOrder();
             closings.push_back(company_.microseconds([&] {
@@ -120,40 +171,17 @@ void OrderWork::measureSaving() {
 
 } // namespace
 
-void measureOrders(Company& company, int rounds, Report& report) {
-    OrderWork work(company, rounds, report);
-    work.measureFills();
-    work.measureSaving();
+void measureOrderFills(Company& company, int rounds, Report& report) {
+    OrderWork(company, rounds, report).measureFills();
 }
 
-void measureLists(Company& company, int rounds, Report& report) {
-    const std::int64_t note = company.newNote();
-    const auto add = [&](const char* name, const Medians& medians) {
-        report.add({company.engineName(), name, company.lines(), medians.Work, medians.Floor});
-    };
-    const Contest byNumber{
-        [&] {
-            return company.microseconds([&] {
-                call(company.measured(), "MELVARKEDITORDodakCheckZdrojObjednavka",
-                     {{"a_DODKIDMASTER", note}, {"a_CISLO", "LIST-0"}});
-            });
-        },
-        [&] { return company.microseconds([&] { company.bare().run(floors::c_OrderByNumber, {"LIST-0"}); }); }};
-    add("order's check by number", compete(byNumber, 20));
+void measureOrderSaving(Company& company, int rounds, Report& report) {
+    OrderWork(company, rounds, report).measureSaving();
+}
 
-    const std::string list = "select * from DODOBJEDNAVKA_NORMAL_V where V_MELVARKEDITORDodakCheckZdrojObjednavka(_ID, "
-                             "_SKLDID, _DODVID, " +
-                             std::to_string(note) + ", 1, _DODANO)=1";
-    const auto contest = [&](const std::string& sql, std::int64_t most) {
-        return Contest{[&, sql] { return company.microseconds([&] { company.measured().Query(sql); }); },
-                       [&, most] {
-                           return company.microseconds([&] {
-                               company.bare().run(floors::c_OrderList, {std::int64_t{1}, std::int64_t{1}, most});
-                           });
-                       }};
-    };
-    add("list of orders, first 100", compete(contest(list + " limit 100", 100), rounds));
-    add("list of orders, whole", compete(contest(list, company.lines() * 2), rounds));
+void measureAssortment(Company& company, int rounds, Report& report) {
+    company.addListedItems();
+    OrderWork(company, rounds, report).measureAssortment();
 }
 
 } // namespace benchmark

@@ -5,10 +5,15 @@
 
 namespace benchmark {
 
-/// Filling and saving an order as long as the company's long documents.
-void measureOrders(Company& company, int rounds, Report& report);
+/// Filling an order from documents as long as the company's long ones, which are all that its first supplier has of
+/// late.
+void measureOrderFills(Company& company, int rounds, Report& report);
 
-/// Finding an order among the company's: its check as a source, and the lookup list of orders for a delivery note.
-void measureLists(Company& company, int rounds, Report& report);
+/// Saving an order as long as they are.
+void measureOrderSaving(Company& company, int rounds, Report& report);
+
+/// Filling an order with all that a supplier lists and all that a group holds: as many items more as the long documents
+/// have lines.
+void measureAssortment(Company& company, int rounds, Report& report);
 
 } // namespace benchmark

@@ -60,11 +60,11 @@ public:
     std::size_t run(const TProcedureCall& call) override {
         const std::vector<TDbValue> values = plainValues(call);
         std::size_t bytes = 0;
-        sqlite3_exec(handle_, "begin", nullptr, nullptr, nullptr);
+        control("begin");
         for (const Step& step : procedure(call)) {
             bytes += runStep(step, values);
         }
-        sqlite3_exec(handle_, "commit", nullptr, nullptr, nullptr);
+        control("commit");
         return bytes;
     }
     void save(std::span<const TProcedureCall> calls) override {
@@ -91,8 +91,20 @@ private:
         if (!steps.empty()) {
             return steps;
         }
-        const std::string script =
-            refhost::builtInScript("procedures/" + call.Name + ".sql", refhost::sqliteFiles()).Text;
+        steps = prepared(refhost::builtInScript("procedures/" + call.Name + ".sql", refhost::sqliteFiles()).Text, call);
+        return steps;
+    }
+
+    void control(const char* sql) {
+        std::vector<Step>& steps = procedures_[sql];
+        if (steps.empty()) {
+            steps = prepared(sql, {});
+        }
+        runStep(steps.front(), {});
+    }
+
+    std::vector<Step> prepared(const std::string& script, const TProcedureCall& call) {
+        std::vector<Step> steps;
         for (const char* sql = script.c_str(); *sql != '\0';) {
             sqlite3_stmt* statement = nullptr;
             if (sqlite3_prepare_v3(handle_, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, &sql) != SQLITE_OK) {
@@ -178,13 +190,13 @@ public:
         run(calls.front());
         const std::span<const TProcedureCall> rows = calls.subspan(1, calls.size() - 2);
         const std::string& statement = prepared(rows.front());
-        PQclear(PQexec(session_.handle(), "begin"));
+        session_.execute("begin");
         PQenterPipelineMode(session_.handle());
         for (std::size_t first = 0; first < rows.size(); first += c_Together) {
             sendTogether(statement, rows.subspan(first, std::min(c_Together, rows.size() - first)));
         }
         PQexitPipelineMode(session_.handle());
-        PQclear(PQexec(session_.handle(), "commit"));
+        session_.execute("commit");
         run(calls.back());
     }
     std::int64_t process() const override { return PQbackendPID(session_.handle()); }
