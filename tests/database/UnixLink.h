@@ -1,0 +1,33 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace refhost {
+
+/// Ends of links on unix sockets, as a server and its clients make them, for tests that stand between the two.
+
+/// A socket that waits for clients at the path under which a server's folder has its own; the caller closes it. Throws
+/// std::runtime_error.
+int listenIn(const std::filesystem::path& folder);
+/// The next client, or -1 when none comes for a while.
+int acceptAt(int listening);
+/// A link to the server of the folder; -1 when there is none.
+int connectTo(const std::filesystem::path& folder);
+
+/// Waits a while for bytes of either side, and for room on a side that has to take some; false when nothing happens.
+struct LinkSides {
+    bool IsSilent = false;
+    bool HasFirst = false; ///< The first side can be read, or has ended.
+    bool HasSecond = false;
+};
+LinkSides awaitSides(int first, bool firstTakes, int second, bool secondTakes);
+
+/// Appends what has come; false at the end of the link.
+bool takeBytes(int socket, std::vector<char>& bytes);
+/// Hands over what the other side takes at once: waiting for it, while it waits for its answers to be taken, would
+/// never end. False at the end of the link.
+bool handBytes(int socket, std::vector<char>& bytes);
+
+} // namespace refhost
