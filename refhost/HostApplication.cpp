@@ -38,11 +38,15 @@ void HostApplication::ShowError(std::exception_ptr error) noexcept {
     }
 }
 
-// Half of the digest's characters are enough that no two addresses meet.
 AnsiString HostApplication::DatabaseDigest() const {
+    return databaseDigest(parts_.databaseAddress);
+}
+
+// Half of the digest's characters are enough that no two addresses meet.
+AnsiString databaseDigest(const std::string& address) {
     constexpr qsizetype c_Characters = 32;
-    const QByteArray address = QByteArray::fromStdString(parts_.databaseAddress);
-    return QCryptographicHash::hash(address, QCryptographicHash::Sha256).toHex().first(c_Characters).toStdString();
+    const QByteArray text = QByteArray::fromStdString(address);
+    return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex().first(c_Characters).toStdString();
 }
 
 } // namespace refhost

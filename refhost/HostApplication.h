@@ -17,6 +17,9 @@ class Trace;
 using Clock = std::function<TDateTime()>;
 TDateTime systemNow();
 
+/// Letters and digits that stand for a database: the same for its one address, others for another one.
+AnsiString databaseDigest(const std::string& address);
+
 /// The services that this host gives to a module. It owns none of its parts: who starts the host makes them and
 /// installs this with TScopedHost.
 class HostApplication : public THostServices {

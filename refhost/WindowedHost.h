@@ -6,6 +6,7 @@
 #include "refhost/ErrorDialog.h"
 #include "refhost/HostApplication.h"
 #include "refhost/HostLibraryManager.h"
+#include "refhost/IdentifiedSaves.h"
 #include "refhost/PackageLoader.h"
 
 #include <memory>
@@ -45,6 +46,7 @@ private:
     TFormatSettings settings_;
     const Languages& languages_;
     DialogErrorDisplay errors_;
+    IdentifiedSaves saves_;
     HostApplication services_;
     TScopedHost scope_;
     HostLibraryManager manager_;

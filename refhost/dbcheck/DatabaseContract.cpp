@@ -78,8 +78,16 @@ ProcedureDeclaration declarationOf(const std::vector<std::string>& row, const st
 DatabaseContract readPage() {
     DatabaseContract contract;
     contract.PriceColumns = priceColumns();
+    const auto add = [&](const std::vector<std::string>& row) {
+        std::string name = std::string(c_Prefix) + codeOf(row[0]).front();
+        contract.Procedures[name] = declarationOf(row, contract.PriceColumns);
+        return name;
+    };
     for (const auto& row : pageTable("procedure")) {
-        contract.Procedures[std::string(c_Prefix) + codeOf(row[0]).front()] = declarationOf(row, contract.PriceColumns);
+        add(row);
+    }
+    for (const auto& row : pageTable("procedure of an identity")) {
+        contract.OfIdentity.insert(add(row));
     }
     for (const auto& row : pageTable("view")) {
         contract.Views[codeOf(row[0]).front()] = namesOf(row[1], contract.PriceColumns, "");

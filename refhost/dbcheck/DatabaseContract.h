@@ -3,6 +3,7 @@
 #include "refhost/database/DatabaseInspector.h"
 
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,7 @@ struct DatabaseContract {
     };
 
     std::map<std::string, ProcedureDeclaration> Procedures;
+    std::set<std::string> OfIdentity; ///< Those of them that a database may do without.
     std::map<std::string, DeclaredNames> Views;
     std::vector<FixedQuery> Queries;
     std::vector<ListCondition> Conditions;

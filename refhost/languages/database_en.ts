@@ -224,6 +224,22 @@
         <source>Zdrojový doklad s identifikátorem … neexistuje. Zvolte zdroj znovu.</source>
         <translation>The source document does not exist any more. Choose the source again.</translation>
     </message>
+    <message id="MELVARKHOST\REFUSAL\ML056">
+        <source>Označení ukládání „%1“ nemá 32 šestnáctkových číslic. Obraťte se na správce.</source>
+        <translation>The identity “%1” of a save is not 32 hexadecimal digits. Ask your administrator.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML057">
+        <source>Databáze neodpověděla, zda je doklad uložený. Uložte jej znovu, nic se nezapíše dvakrát.</source>
+        <translation>The database did not answer whether the document is saved. Save it again; nothing will be written twice.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML057|Databáze neodpověděla, zda je doklad uložený. Podívejte se do něj, než jej uložíte znovu.">
+        <source>Databáze neodpověděla, zda je doklad uložený. Podívejte se do něj, než jej uložíte znovu.</source>
+        <translation>The database did not answer whether the document is saved. Look into it before you save it again.</translation>
+    </message>
+    <message id="MELVARKHOST\REFUSAL\ML058">
+        <source>Doklad se už uložil s jinými řádky, než má editor. Zavřete editor a doplňte do dokladu jen to, co v něm chybí.</source>
+        <translation>The document was saved already, with other lines than the editor has. Close the editor and add to the document only what it lacks.</translation>
+    </message>
     <!-- Column layouts -->
     <message id="MELVARKHOST\REFUSAL\ML060">
         <source>Nastavení s identifikátorem … neexistuje nebo není sdílené. Vyberte jiné.</source>

@@ -40,7 +40,7 @@ TEST(PostgreSQLRoles, AClerkIsRefusedEveryTable) {
     const TResultTable tables =
         owner->Query("select relname from pg_class where relnamespace = 'melvark'::regnamespace "
                      "and relkind = 'r' order by relname");
-    EXPECT_EQ(tables.Rows.size(), 20U);
+    EXPECT_EQ(tables.Rows.size(), 21U);
     for (const std::vector<TDbValue>& table : tables.Rows) {
         const AnsiString& name = std::get<AnsiString>(table[0]);
         const EDatabaseError reading = failure([&] { clerk->Query("select * from " + name); });

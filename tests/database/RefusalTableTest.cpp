@@ -34,10 +34,10 @@ std::string statements(std::span<const SqlFile> files) {
     return text;
 }
 
-/// The program's own sources of the database.
+/// The program's own sources.
 std::string programText() {
     std::string text;
-    for (const auto& file : std::filesystem::directory_iterator(MELVARK_SOURCE_DIR "/refhost/database")) {
+    for (const auto& file : std::filesystem::recursive_directory_iterator(MELVARK_SOURCE_DIR "/refhost")) {
         if (file.path().extension() == ".cpp") {
             text.append(std::istreambuf_iterator<char>(std::ifstream(file.path()).rdbuf()), {});
         }

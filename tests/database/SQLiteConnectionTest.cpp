@@ -20,7 +20,7 @@ TEST(SQLiteConnection, EveryProcedureIsPreparedAndDeclaresItsParametersAndResult
         ++procedures;
         EXPECT_NO_THROW(database->Describe(std::string(sqlObjectName(script)))) << script.Path;
     }
-    EXPECT_EQ(procedures, 41);
+    EXPECT_EQ(procedures, 43);
 }
 
 TEST(SQLiteConnection, NamesOfProceduresAndParametersAreMatchedInAnyCase) {

@@ -81,8 +81,10 @@ TEST_P(Upgrade, ACompanyOfVersionTwoGetsThisProgramsViewsAndFunctionsAndKeepsIts
     const std::string url = newDatabaseUrl(GetParam()) + (GetParam() == Engine::SQLite ? "" : " user=postgres");
     const auto schema = schemaOf(url);
     const auto rows = contentsOf(url);
-    BareConnection(url).run(GetParam() == Engine::SQLite ? "drop view DODAVATEL_V"
-                                                         : "drop function melvark.next_order_id");
+    // What that version lacked, and something that its upgrade has to bring back.
+    BareConnection(url).run(GetParam() == Engine::SQLite
+                                ? "drop table ULOZENI; drop view DODAVATEL_V"
+                                : "drop table melvark.ULOZENI; drop function melvark.next_order_id");
     setVersion(GetParam(), url, 2);
     ASSERT_NE(schemaOf(url), schema);
 

@@ -133,7 +133,7 @@ std::vector<BehaviourFault> serverFaults() {
          {c_MissingSaved}},
         {"WorkOnAMissingNoteIsTakenUp",
          c_Server,
-         {{c_ObnovData, "exists (select from DODAK where ID = a_DODKID and OTEVRENO = 1)::integer", "1"}},
+         {{c_ObnovData, "exists (select from DODAK where ID = a_DODKID and OTEVRENO = 1)", "true"}},
          "DODAK",
          {c_Recovered}},
         {"ASettingIsNotDeleted",

@@ -227,3 +227,16 @@ create table EDITOROKNO (
     DATA text,
     primary key (UZIVID, TYPEDITACE)
 );
+
+-- Closing calls of saves that bore an identity, written in the same transaction as what they saved. One without a kind
+-- was given up before its closing call had come: it never saves anything. Rows of a month ago are dropped by later saves.
+create table ULOZENI (
+    IDENTITA text primary key check (IDENTITA ~ '^[0-9a-f]{32}$'),
+    UZIVATEL text not null,
+    DRUH text check (DRUH in ('DODAK', 'DODOBJEDNAVKA')),
+    DOKLAD integer,
+    KDY timestamp not null default timezone('UTC', now()),
+    check ((DRUH is null) = (DOKLAD is null))
+);
+
+create index ULOZENI_KDY on ULOZENI (KDY);

@@ -252,3 +252,16 @@ create table EDITOROKNO (
     DATA text,
     primary key (UZIVID, TYPEDITACE)
 ) strict;
+
+-- Closing calls of saves that bore an identity, written in the same transaction as what they saved. One without a kind
+-- was given up before its closing call had come: it never saves anything. Rows of a month ago are dropped by later saves.
+create table ULOZENI (
+    IDENTITA text not null primary key check (length(IDENTITA) = 32 and IDENTITA not glob '*[^0-9a-f]*'),
+    UZIVATEL text not null,
+    DRUH text check (DRUH in ('DODAK', 'DODOBJEDNAVKA')),
+    DOKLAD integer,
+    KDY text not null default (datetime('now')),
+    check ((DRUH is null) = (DOKLAD is null))
+) strict;
+
+create index ULOZENI_KDY on ULOZENI (KDY);

@@ -24,6 +24,7 @@ declare
     last_line integer;
 begin
     perform refuse_closed_staging();
+    perform note_save('DODOBJEDNAVKA', a_DDOBID);
 
     -- Saves of the same document follow one another.
     perform from DODOBJEDNAVKA o where o.ID = a_DDOBID for no key update;

@@ -20,6 +20,7 @@ declare
     last_line integer;
 begin
     perform refuse_closed_staging();
+    perform note_save('DODAK', a_DODKID);
 
     -- Saves of the same note, and of notes from the same order lines, follow one another. Always in this order, so that no
     -- two of them wait for each other.

@@ -17,6 +17,15 @@
 
 select refuse_closed_staging() as refusal;
 
+-- A save that was given up, or has come before, is over.
+select refuse('ML041') as refusal
+where exists (select 1 from ULOZENI u join SAVE_IDENTITY s on s.IDENTITA = u.IDENTITA);
+
+insert into ULOZENI (IDENTITA, UZIVATEL, DRUH, DOKLAD)
+select IDENTITA, current_user_name(), 'DODOBJEDNAVKA', coalesce(:a_DDOBID, 0) from SAVE_IDENTITY where IDENTITA is not null;
+
+-- include: note-save
+
 select refuse_closed_order(:a_DDOBID) as refusal;
 select refuse_own_order(:a_DDOBID, :a_DDOBID_ZDROJ) as refusal;
 select refuse_own_order(:a_DDOBID, :a_DDOBIDVZOR_ZDROJ) as refusal;

@@ -15,6 +15,15 @@
 
 select refuse_closed_staging() as refusal;
 
+-- A save that was given up, or has come before, is over.
+select refuse('ML041') as refusal
+where exists (select 1 from ULOZENI u join SAVE_IDENTITY s on s.IDENTITA = u.IDENTITA);
+
+insert into ULOZENI (IDENTITA, UZIVATEL, DRUH, DOKLAD)
+select IDENTITA, current_user_name(), 'DODAK', coalesce(:a_DODKID, 0) from SAVE_IDENTITY where IDENTITA is not null;
+
+-- include: note-save
+
 select refuse_closed_note(:a_DODKID) as refusal;
 select refuse_own_note(:a_DODKID, :a_DODKID_ZDROJ) as refusal;
 

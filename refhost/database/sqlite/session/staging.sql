@@ -5,6 +5,10 @@
 create temp table STAGING (STATE text not null, LASTROW integer not null);
 insert into STAGING (STATE, LASTROW) values ('closed', -1);
 
+-- One row: the identity of the save that the session is about, null for none.
+create temp table SAVE_IDENTITY (IDENTITA text);
+insert into SAVE_IDENTITY (IDENTITA) values (null);
+
 -- The row of a delivery note as it was sent: blanks are gone, empty texts are null. The identifiers are those of its
 -- names, null for a name that does not exist.
 create temp table NOTE_SENT (

@@ -1,2 +1,2 @@
--- From version 2 to 3: nothing in tables, constraints, indices and data. What is new are procedures, functions and views,
+-- From version 2 to 3: nothing in the tables that there were. What is new are a table, procedures, functions and views,
 -- which every upgrade makes anew from their own files.
