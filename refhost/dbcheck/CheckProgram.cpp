@@ -45,10 +45,16 @@ bool isConfirmed(const CheckCommandLine& commandLine, const CheckStreams& stream
     return melvark::LowerAscii(answer) == languages.text(c_Yes);
 }
 
+/// Without identities everything else can still be tried.
+bool mayBeTried(const Findings& findings) {
+    return std::ranges::all_of(findings,
+                               [](const Finding& finding) { return finding.Kind == FindingKind::SavesUnidentified; });
+}
+
 /// False, with the reason on the errors, when they were not tried.
 bool tryProcedures(const CheckCommandLine& commandLine, const CheckStreams& streams, const Languages& languages,
                    CheckReport& report) {
-    if (!report.findings.empty()) {
+    if (!mayBeTried(report.findings)) {
         streams.errors << languages.text(c_MendFirst) << std::endl;
         return true; // that it does not fit is known
     }
@@ -68,7 +74,7 @@ bool tryProcedures(const CheckCommandLine& commandLine, const CheckStreams& stre
     const auto second = open();
     ExerciseOutcome outcome;
     const auto take = [&] {
-        report.findings = outcome.Found;
+        std::ranges::copy(outcome.Found, std::back_inserter(report.findings));
         report.written = outcome.Left;
     };
     report.isExercised = true;

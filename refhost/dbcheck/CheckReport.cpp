@@ -19,6 +19,9 @@ struct WrittenText {
 
 constexpr WrittenText c_Written[] = {
     {Written::What::Lines, "lines", {"MELVARKHOST\\DBCHECK\\WRITTENLINES", "Zapsáno: doklad %1, nové řádky: %2"}},
+    {Written::What::Identities,
+     "identities",
+     {"MELVARKHOST\\DBCHECK\\WRITTENIDENTITIES", "Zapsáno: doklad %1, označení ukládání: %2"}},
     {Written::What::Setting,
      "setting",
      {"MELVARKHOST\\DBCHECK\\WRITTENSETTING", "Zapsáno: nastavení sloupců „%1“, nakonec zase smazané"}},

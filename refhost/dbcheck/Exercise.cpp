@@ -1,5 +1,6 @@
 #include "refhost/dbcheck/Exercise.h"
 
+#include "refhost/dbcheck/IdentityExercise.h"
 #include "refhost/dbcheck/SavingExercise.h"
 #include "refhost/dbcheck/SettingsExercise.h"
 
@@ -81,6 +82,10 @@ const ExerciseKind* exerciseKind(std::string_view screen) {
     return kind == std::end(c_Kinds) ? nullptr : kind;
 }
 
+std::string ExerciseContext::document() const {
+    return std::string(Kind.Screen) + " " + std::to_string(Document);
+}
+
 void ExerciseContext::note(FindingKind kind, const std::string& procedure, std::string member, std::string expected,
                            std::string found) const {
     Outcome.Found.push_back({kind, procedureName(procedure), std::move(member), std::move(expected), std::move(found)});
@@ -100,6 +105,7 @@ void exercise(const DatabaseContract& contract, const ExerciseKind& kind, std::i
     const ExerciseContext context{kind, document, settings, firstSession, secondSession, outcome};
     exerciseOpening(context);
     exerciseSaving(context);
+    exerciseIdentity(context);
     exerciseSettings(context);
     if (kind.IsRecalculated) {
         exerciseRecalculation(context);

@@ -30,11 +30,11 @@ const ExerciseKind* exerciseKind(std::string_view screen);
 
 /// What an exercise has left in the database.
 struct Written {
-    enum class What { Lines, Setting, Placement };
+    enum class What { Lines, Identities, Setting, Placement };
 
     What Kind;
     std::string Object; ///< The screen and document, the setting's name, the kind of editor.
-    int Count = 1;      ///< Lines that were added.
+    int Count = 1;      ///< Lines or identities that were added.
 
     bool operator==(const Written&) const = default;
 };
@@ -54,6 +54,8 @@ struct ExerciseContext {
     ExercisedSession& Second;
     ExerciseOutcome& Outcome;
 
+    /// The screen and the document, as the list of what was written names them.
+    std::string document() const;
     /// Notes a finding about a procedure of this kind of document, or of all when the name is whole.
     void note(FindingKind kind, const std::string& procedure, std::string member = {}, std::string expected = {},
               std::string found = {}) const;

@@ -12,6 +12,7 @@ namespace refhost {
 enum class FindingKind {
     CompanyMissing,
     ProcedureMissing,
+    SavesUnidentified,
     ProcedureUnusable,
     ProcedureAmbiguous,
     ParameterMissing,
@@ -46,6 +47,7 @@ enum class FindingKind {
     UnknownItemAccepted,
     ClosedAfterRefusal,
     SavedInPart,
+    GivenUpAccepted,
     SessionsMixed,
     SessionLost,
     TakenNameAccepted,

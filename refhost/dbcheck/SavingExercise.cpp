@@ -108,7 +108,7 @@ private:
     }
 
     void addWritten(int count) const {
-        const std::string document = std::string(context_.Kind.Screen) + " " + std::to_string(context_.Document);
+        const std::string document = context_.document();
         for (Written& written : context_.Outcome.Left) {
             if (written.Object == document) {
                 written.Count += count;

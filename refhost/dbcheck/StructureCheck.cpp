@@ -96,7 +96,7 @@ private:
         try {
             const std::optional<ProcedureDeclaration> found = database_.procedure(name);
             if (!found) {
-                findings_.push_back({FindingKind::ProcedureMissing, name, {}, {}, {}});
+                findings_.push_back({missingKind(name), name, {}, {}, {}});
             } else if (found->Namesakes > 1) {
                 findings_.push_back({FindingKind::ProcedureAmbiguous, name, {}, "1", std::to_string(found->Namesakes)});
             } else {
@@ -105,6 +105,10 @@ private:
         } catch (const EDatabaseError& error) {
             note(FindingKind::ProcedureUnusable, name, {}, error);
         }
+    }
+
+    FindingKind missingKind(const std::string& name) const {
+        return contract_.OfIdentity.contains(name) ? FindingKind::SavesUnidentified : FindingKind::ProcedureMissing;
     }
 
     void compareProcedure(const std::string& name, const ProcedureDeclaration& expected,

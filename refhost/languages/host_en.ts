@@ -403,6 +403,14 @@
         <source>Procedura %1 chybí. Vytvořte ji.</source>
         <translation>The procedure %1 is missing. Create it.</translation>
     </message>
+    <message id="MELVARKHOST\DBCHECK\SAVESUNIDENTIFIED">
+        <source>Procedura %1 chybí: když se spojení při ukládání přeruší, nepozná se, zda je doklad uložený. Vytvořte ji.</source>
+        <translation>The procedure %1 is missing: when the link is lost in a save, nobody can tell whether the document is saved. Create it.</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\GIVENUPACCEPTED">
+        <source>Procedura %1 uzavřela ukládání, které bylo předtím vzdáno. Odmítněte je.</source>
+        <translation>The procedure %1 closed a save that had been given up before. Refuse it.</translation>
+    </message>
     <message id="MELVARKHOST\DBCHECK\PROCEDUREUNUSABLE">
         <source>Procedura %1 nemůže běžet. Opravte ji. (%4)</source>
         <translation>The procedure %1 cannot run. Mend it. (%4)</translation>
@@ -558,6 +566,10 @@
     <message id="MELVARKHOST\DBCHECK\WRITTENLINES">
         <source>Zapsáno: doklad %1, nové řádky: %2</source>
         <translation>Written: document %1, new lines: %2</translation>
+    </message>
+    <message id="MELVARKHOST\DBCHECK\WRITTENIDENTITIES">
+        <source>Zapsáno: doklad %1, označení ukládání: %2</source>
+        <translation>Written: document %1, identities of saves: %2</translation>
     </message>
     <message id="MELVARKHOST\DBCHECK\WRITTENSETTING">
         <source>Zapsáno: nastavení sloupců „%1“, nakonec zase smazané</source>

@@ -16,6 +16,7 @@ constexpr const char* c_Close = "MELVARKEDITORDodakTempUloz";
 constexpr const char* c_Insert = "MELVARKEDITORDodakInsertToTemp";
 constexpr const char* c_CheckMaster = "MELVARKEDITORDodakCheckMaster";
 constexpr const char* c_ObnovData = "MELVARKEDITORDodakObnovData";
+constexpr const char* c_Ask = "MELVARKEDITORUlozeniOver";
 constexpr const char* c_Placement = "MELVARKEDITORNASTAVENIUlozNastaveniOkna";
 
 const std::string c_Doubled = "Opakované volání MELVARKEDITORDodakTempUloz uložilo řádky znovu (1; 2,5; 3). Po úspěchu "
@@ -37,8 +38,27 @@ const std::string c_ClosedAfterRefusal = "Procedura MELVARKEDITORDodakTempUloz u
 const std::string c_InPart = "Procedura MELVARKEDITORDodakTempUloz uložila část odmítnutého ukládání (4). Uložte vše, "
                              "nebo nic.";
 
+const std::string c_Unknown = "Procedura MELVARKEDITORUlozeniOver dala v a_ULOZENO hodnotu „0“ místo „1“. Opravte ji.";
+const std::string c_TakenUp = "Procedura MELVARKEDITORDodakObnovData dala v a_OBNOVDATA hodnotu „1“ místo „0“. Opravte "
+                              "ji.";
+const std::string c_GivenUp = "Procedura MELVARKEDITORDodakTempUloz uzavřela ukládání, které bylo předtím vzdáno. "
+                              "Odmítněte je.";
+
 std::vector<BehaviourFault> fileFaults() {
     return {
+        {"AnIdentityIsNotWrittenDown",
+         c_File,
+         {{c_Close, "from SAVE_IDENTITY where IDENTITA is not null", "from SAVE_IDENTITY where false"}},
+         "DODAK",
+         {c_Unknown, c_TakenUp}},
+        {"ASaveThatWasGivenUpComes",
+         c_File,
+         {{c_Ask,
+           "insert into ULOZENI (IDENTITA, UZIVATEL) values (:a_ULOZENI, current_user_name()) on conflict do "
+           "nothing;",
+           ""}},
+         "DODAK",
+         {c_GivenUp}},
         {"ClosingTwiceDoubles", c_File, {{c_Close, "delete from NOTE_STAGED;\n", ""}}, "DODAK", {c_Doubled}},
         {"LinesComeInReverse",
          c_File,
@@ -120,6 +140,16 @@ std::vector<BehaviourFault> serverFaults() {
          {{c_Close, "row_number() over (order by s.PLACE)", "row_number() over (order by s.PLACE desc)"}},
          "DODAK",
          {c_Reversed}},
+        {"AnIdentityIsNotWrittenDown",
+         c_Server,
+         {{c_Close, "perform note_save('DODAK', a_DODKID);", ""}},
+         "DODAK",
+         {c_Unknown, c_TakenUp, c_GivenUp}},
+        {"WorkOnASaveThatHasComeIsTakenUp",
+         c_Server,
+         {{c_ObnovData, "not is_saved('DODAK', a_DODKID)", "true"}},
+         "DODAK",
+         {c_TakenUp}},
         {"AMissingNoteIsOpened",
          c_Server,
          {{c_CheckMaster, "select refuse_closed_note(a_DODKID)",

@@ -115,6 +115,13 @@ std::vector<Fault> serverFaults() {
          nullptr,
          nullptr,
          {"Procedura MELVARKEDITORResetTemp chybí. Vytvořte ji."}},
+        {"SavesHaveNoIdentity",
+         c_Server,
+         "drop function MELVARKEDITORUlozeniOver",
+         nullptr,
+         nullptr,
+         {"Procedura MELVARKEDITORUlozeniOver chybí: když se spojení při ukládání přeruší, nepozná se, zda je doklad "
+          "uložený. Vytvořte ji."}},
         {"TwoProceduresBearOneName",
          c_Server,
          "create function MELVARKEDITORDodakCheckMaster(a_CISLO text default null) returns void language sql as ''",
