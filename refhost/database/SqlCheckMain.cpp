@@ -31,7 +31,8 @@ std::map<std::string, SqlScript::SaveRole> readAll(std::span<const SqlFile> file
         require(isEmbedded || (script.Inputs.empty() && script.Outputs.empty() && script.Results.empty()), file,
                 "the server's own declaration says what it takes and brings");
         if (isProcedure) {
-            const bool isStep = script.Text.find("refuse_closed_staging(") != std::string::npos;
+            const bool isStep = script.Text.find("refuse_closed_staging(") != std::string::npos ||
+                                script.Text.find("refuse_wrong_identity(") != std::string::npos;
             require(isStep == script.Save.FailureRefusesStaging, file, "a step of a save says what its failure does");
             require(!script.Save.AnswerMayComeLater || (isStep && script.Outputs.empty() && script.Results.empty()),
                     file, "an answer may come later only when it brings nothing and its failure closes the save");
