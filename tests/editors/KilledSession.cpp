@@ -161,7 +161,7 @@ bool isPossible(const Progress& progress, int found) {
 
 KilledSessions killSessions(int moments, unsigned seed) {
     std::mt19937 random(seed);
-    const auto upTo = [&](auto most) {
+    const auto atMost = [&](auto most) {
         return static_cast<int>(std::uniform_int_distribution<long>(0, static_cast<long>(most))(random));
     };
     const Stretch stretches[] = {c_FromTheStart, c_FromTheFirstCell, c_FromTheClosing};
@@ -171,10 +171,10 @@ KilledSessions killSessions(int moments, unsigned seed) {
     for (int left = 0; sessions.Moments < moments && sessions.Failure.empty(); ++sessions.Moments) {
         const SharedProgress shared(left);
         const Progress& progress = *shared.progress;
-        const Stretch& stretch = stretches[upTo(std::size(stretches) - 1)];
-        const std::chrono::microseconds moment(upTo(stretch.longest.count()));
+        const Stretch& stretch = stretches[atMost(std::size(stretches) - 1)];
+        const std::chrono::microseconds moment(atMost(stretch.longest.count()));
         const bool isClosed = stretch.from == &Progress::isClosing;
-        const std::optional<int> states = isClosed ? std::optional(upTo(c_MostStatesToClose)) : std::nullopt;
+        const std::optional<int> states = isClosed ? std::optional(atMost(c_MostStatesToClose)) : std::nullopt;
         killSession(*shared.progress, stretch, moment, states);
         const int found = stateIn(directory);
         if (!isPossible(progress, found)) {
