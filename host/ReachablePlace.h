@@ -1,3 +1,5 @@
+/// \file
+/// Where a window stands, and where it can be taken hold of.
 #pragma once
 
 #include <optional>
@@ -8,21 +10,22 @@ namespace melvark {
 /// Where a window stands. Edges and sizes of the normal rectangle, the one that a maximised window returns to, in
 /// screen pixels.
 struct WindowPlacement {
-    int Left = 0;
-    int Top = 0;
-    int Width = 0;
-    int Height = 0;
+    int Left = 0;                       ///< From the left edge of the first screen.
+    int Top = 0;                        ///< From its top edge, below the title bar.
+    int Width = 0;                      ///< Without the frame.
+    int Height = 0;                     ///< Without the frame and the title bar.
     std::optional<bool> Maximized = {}; ///< Nothing when whoever remembers the window does not say.
 
+    /// Whether both say the same.
     bool operator==(const WindowPlacement&) const = default;
 };
 
 /// A rectangle of the desktop, in screen pixels.
 struct ScreenArea {
-    int Left = 0;
-    int Top = 0;
-    int Width = 0;
-    int Height = 0;
+    int Left = 0;   ///< From the left edge of the first screen.
+    int Top = 0;    ///< From its top edge.
+    int Width = 0;  ///< What windows may use of it.
+    int Height = 0; ///< What windows may use of it.
 };
 
 /// The placement at which the user can take hold of the window. One whose title bar, the strip of `titleHeight` pixels

@@ -81,17 +81,18 @@ const std::vector<NumberOptionRow>& numberOptions() {
     return rows;
 }
 
-/// An option that is there or not and belongs to some commands only.
+/// An option that is there or not; it belongs to some commands only, or to all when none is named.
 struct FlagOptionRow {
     const char* option;
     bool CommandLine::*field;
     std::vector<Command> commands;
-    const char* excludes;
+    const char* excludes; ///< None for an option that goes with all others.
     const char* meaning;
 };
 
 const std::vector<FlagOptionRow>& flagOptions() {
     static const std::vector<FlagOptionRow> rows{
+        {"--log-values", &CommandLine::logValues, {}, nullptr, "writes the values into the log, too"},
         {"--empty", &CommandLine::empty, {Command::CreateDatabase}, "--lines", "a company without sample data"},
     };
     return rows;
@@ -165,6 +166,11 @@ private:
         addTextOption(app_, "--trace", result_.traceFile, "appends one JSON line for each service call")
             ->option_text("FILE")
             ->check(anyText());
+        addTextOption(app_, "--log", result_.logFile,
+                      "appends the same without values, with the time, to a log that is\nrotated; only its owner can "
+                      "read it")
+            ->option_text("FILE")
+            ->check(anyText());
     }
 
     void declareNumbers() {
@@ -187,7 +193,10 @@ private:
     void declareFlags() {
         for (const FlagOptionRow& row : flagOptions()) {
             // Without a text of its own the usage would list what the flag excludes.
-            addFlag(row.option, row.meaning)->option_text(" ")->excludes(app_.get_option(row.excludes));
+            CLI::Option* option = addFlag(row.option, row.meaning)->option_text(" ");
+            if (row.excludes != nullptr) {
+                option->excludes(app_.get_option(row.excludes));
+            }
         }
     }
 
@@ -246,7 +255,8 @@ private:
     template <typename Rows>
     void checkBelonging(const Rows& rows) const {
         for (const auto& row : rows) {
-            if (isGiven(row.option) && std::ranges::find(row.commands, result_.command) == row.commands.end()) {
+            const bool isLimited = !row.commands.empty() && isGiven(row.option);
+            if (isLimited && std::ranges::find(row.commands, result_.command) == row.commands.end()) {
                 refuse(row.option, "belongs to " + namesOf(row.commands));
             }
         }
@@ -274,8 +284,12 @@ std::string usageText() {
     return Reader().usage();
 }
 
+std::string programVersion() {
+    return MELVARK_VERSION;
+}
+
 std::string versionText(const std::string& program) {
-    return program + " " MELVARK_VERSION "\ncontract " + std::to_string(c_ContractVersion) + "\ndatabase " +
+    return program + " " + programVersion() + "\ncontract " + std::to_string(c_ContractVersion) + "\ndatabase " +
            std::to_string(c_SchemaVersion) + "\n";
 }
 

@@ -29,7 +29,9 @@ enum class Command {
 struct CommandLine : CompanyOptions {
     Command command = Command::OpenHost;
     std::string traceFile; ///< Empty for no trace.
-    std::string subject;   ///< What the command works on: parameters, procedure, SQL text or screen.
+    std::string logFile;   ///< Empty when the settings are to say.
+    bool logValues = false;
+    std::string subject; ///< What the command works on: parameters, procedure, SQL text or screen.
     std::vector<std::pair<std::string, std::string>> arguments; ///< NAME=VALUE of a call, in order.
     std::int32_t document = 0;
     std::int32_t lines = 0;
@@ -48,6 +50,9 @@ CommandLine parseCommandLine(const std::vector<std::string>& words);
 /// How the program is used, ready to be printed. Options and their explanations are English like the options
 /// themselves: they are for scripts and administrators, not for clerks.
 std::string usageText();
+
+/// The version of the programs.
+std::string programVersion();
 
 /// A program's name and version, that of the contract that modules must have, and that of the databases that fit.
 std::string versionText(const std::string& program);

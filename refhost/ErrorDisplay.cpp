@@ -25,7 +25,7 @@ std::string fillIn(const Languages& languages, const HostText& text, const std::
 }
 
 ErrorReport describeDatabaseError(const EDatabaseError& error, const Languages& languages) {
-    ErrorReport report{.sentence = error.Message(), .details = {}};
+    ErrorReport report{.sentence = error.Message(), .details = {}, .code = error.Code()};
     if (!error.Code().empty()) {
         if (const auto translated = translateRefusal(error, languages)) {
             report.sentence = *translated;

@@ -11,7 +11,8 @@ class Languages;
 /// An error as it is shown: a sentence for the clerk, and what an administrator needs.
 struct ErrorReport {
     std::string sentence;
-    std::string details; ///< Lines; empty when there is nothing to add.
+    std::string details;   ///< Lines; empty when there is nothing to add.
+    std::string code = {}; ///< The database's code of a refusal or failure; empty when there is none.
 };
 
 /// Puts an exception into words. A database refusal is shown in the user's language when the catalogues have it

@@ -30,7 +30,7 @@ std::string_view HostApplication::ImageData(std::string_view image, std::string_
 void HostApplication::ShowError(std::exception_ptr error) noexcept {
     try {
         const ErrorReport report = describeError(error, parts_.languages);
-        parts_.trace.error(report.sentence);
+        parts_.trace.error(report.sentence, report.code);
         parts_.errors.show(report);
     } catch (...) {
         // Without memory or a display there is only one place left to say it.

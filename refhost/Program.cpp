@@ -6,7 +6,7 @@
 #include "refhost/Json.h"
 #include "refhost/Languages.h"
 #include "refhost/Palette.h"
-#include "refhost/Trace.h"
+#include "refhost/RunRecords.h"
 #include "refhost/WindowedHost.h"
 #include "refhost/commands/DataCommands.h"
 #include "refhost/database/SchemaVersion.h"
@@ -15,6 +15,7 @@
 
 #include <exception>
 #include <iostream>
+#include <optional>
 
 namespace refhost {
 
@@ -31,12 +32,15 @@ std::string upgradeNote(const UpgradeReport& report, const Languages& languages)
     return languages.label(texts::databaseUpgraded).arg(QString::fromStdString(report.Copy)).toStdString();
 }
 
-int runInWindows(const CommandLine& commandLine, const Languages& languages, Trace& trace) {
+int runInWindows(const CommandLine& commandLine, const Languages& languages, RunRecords& records) {
+    if (const auto log = chosenLog(commandLine)) {
+        records.startLog(*log);
+    }
     const TFormatSettings settings = formatSettingsOf(commandLine.locale);
     std::string note;
     const auto database = openCompanyDatabase(
         commandLine, settings, [&](const UpgradeReport& report) { note = upgradeNote(report, languages); });
-    WindowedHost host(commandLine, *database, settings, languages, trace);
+    WindowedHost host(commandLine, *database, settings, languages, records.trace());
     if (!note.empty() && commandLine.command == Command::OpenHost) {
         host.tell(note);
     } else if (!note.empty()) {
@@ -79,8 +83,11 @@ void runWithoutWindows(const CommandLine& commandLine, const Languages& language
 }
 
 /// A host that cannot even open was started by a click as often as from a terminal, so that it says why in both places.
-int reportFailure(const CommandLine& commandLine, const Languages& languages) {
+int reportFailure(const CommandLine& commandLine, const Languages& languages, RunRecords* records) {
     const ErrorReport report = describeError(std::current_exception(), languages);
+    if (records != nullptr) {
+        records->failed(report);
+    }
     StreamErrorDisplay(std::cerr).show(report);
     if (commandLine.command == Command::OpenHost) {
         DialogErrorDisplay(languages).show(report);
@@ -91,15 +98,16 @@ int reportFailure(const CommandLine& commandLine, const Languages& languages) {
 } // namespace
 
 int runCommand(const CommandLine& commandLine, const Languages& languages) {
+    std::optional<RunRecords> records;
     try {
-        Trace trace(commandLine.traceFile.empty() ? nullptr : openTraceFile(commandLine.traceFile));
+        records.emplace(commandLine);
         if (hasWindows(commandLine.command)) {
-            return runInWindows(commandLine, languages, trace);
+            return runInWindows(commandLine, languages, *records);
         }
         runWithoutWindows(commandLine, languages);
         return 0;
     } catch (...) {
-        return reportFailure(commandLine, languages);
+        return reportFailure(commandLine, languages, records ? &*records : nullptr);
     }
 }
 

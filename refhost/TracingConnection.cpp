@@ -20,6 +20,7 @@ double millisecondsSince(Clock::time_point start) {
 TracedOutcome outcomeOf(const std::exception& error, Clock::time_point start) {
     const auto* refusal = dynamic_cast<const EDatabaseError*>(&error);
     return {.error = error.what(),
+            .code = refusal == nullptr ? std::string() : refusal->Code(),
             .row = refusal == nullptr ? std::nullopt : refusal->Row(),
             .milliseconds = millisecondsSince(start)};
 }

@@ -1,6 +1,7 @@
 #include "refhost/WindowedHost.h"
 
 #include "host/Exceptions.h"
+#include "host/widgets/Guard.h"
 #include "host/widgets/MessageBox.h"
 #include "refhost/CompanyDatabase.h"
 #include "refhost/HostTexts.h"
@@ -66,12 +67,12 @@ int WindowedHost::openMainWindow() {
         parts.moduleMissing = error.Message();
     }
     MainWindow window(std::move(parts));
-    QObject::connect(&window, &MainWindow::closed, qApp, [&window] {
+    melvark::ConnectGuarded(&window, &MainWindow::closed, &window, [&window] {
         if (!writeWindowLook(windowLookFile(), window.look())) {
             std::cerr << "The window's place and widths cannot be kept.\n";
         }
-        QCoreApplication::quit();
     });
+    QObject::connect(&window, &MainWindow::closed, qApp, &QCoreApplication::quit);
     window.start();
     window.show();
     return QApplication::exec();

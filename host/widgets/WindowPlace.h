@@ -1,3 +1,5 @@
+/// \file
+/// How a window tells where it stands, and comes back to it.
 #pragma once
 
 #include "host/ReachablePlace.h"
@@ -18,9 +20,10 @@ public:
     /// The window outlives this object or ends with it as its owner.
     explicit WindowPlace(QWidget& window);
 
-    /// A minimised window counts as not maximised.
+    /// Where the window stands now. A minimised window counts as not maximised.
     WindowPlacement Current() const;
 
+    /// Watches the window; lets every event pass.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -34,7 +34,7 @@ struct MainWindowParts {
     /// Why there is no module: one sentence; empty when there is one.
     std::string moduleMissing;
     /// How the window was left the last time.
-    WindowLook look;
+    WindowLook look = {};
 };
 
 /// The host's window: three document screens as tabs, a menu, a tool bar and a status bar. Everything has a key.

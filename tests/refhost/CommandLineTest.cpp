@@ -123,17 +123,22 @@ TEST(CommandLine, HasTheLocaleAndLanguageOfTheCompanyUntilToldOtherwise) {
     EXPECT_EQ(line.database, "");
     EXPECT_EQ(line.user, "");
     EXPECT_EQ(line.traceFile, "");
+    EXPECT_EQ(line.logFile, "");
+    EXPECT_FALSE(line.logValues);
 }
 
 TEST(CommandLine, TakesTheOptionsThatGoWithEveryCommand) {
-    const CommandLine line = parseCommandLine({"--database", "sqlite:a b.db", "--user", "novakova", "--locale", "en_GB",
-                                               "--language", "en", "--trace", "t.jsonl", "--query", "select 1"});
+    const CommandLine line =
+        parseCommandLine({"--database", "sqlite:a b.db", "--user", "novakova", "--locale", "en_GB", "--language", "en",
+                          "--trace", "t.jsonl", "--log", "l.jsonl", "--log-values", "--query", "select 1"});
 
     EXPECT_EQ(line.database, "sqlite:a b.db");
     EXPECT_EQ(line.user, "novakova");
     EXPECT_EQ(line.locale, "en_GB");
     EXPECT_EQ(line.language, "en");
     EXPECT_EQ(line.traceFile, "t.jsonl");
+    EXPECT_EQ(line.logFile, "l.jsonl");
+    EXPECT_TRUE(line.logValues);
 }
 
 TEST(CommandLine, TakesAFolderOfProceduresAndTheWishForAnEmptyCompany) {
@@ -150,9 +155,10 @@ TEST(CommandLine, KeepsTheValuesOfACallInOrderAndPartsThemAtTheFirstEqualsSign) 
 }
 
 TEST(CommandLine, UsageNamesEveryCommand) {
-    for (const char* option : {"--execute", "--document", "--call", "--batch", "--query", "--documents", "--show",
-                               "--create-database", "--upgrade-database", "--lines", "--empty", "--procedures",
-                               "--database", "--user", "--locale", "--language", "--trace", "--version"}) {
+    for (const char* option :
+         {"--execute",         "--document",         "--call",  "--batch", "--query",      "--documents", "--show",
+          "--create-database", "--upgrade-database", "--lines", "--empty", "--procedures", "--database",  "--user",
+          "--locale",          "--language",         "--trace", "--log",   "--log-values", "--version"}) {
         EXPECT_THAT(usageText(), HasSubstr(option));
     }
     EXPECT_THAT(usageText(), Not(HasSubstr("Excludes")));

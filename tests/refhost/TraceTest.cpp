@@ -3,6 +3,7 @@
 #include "host/Exceptions.h"
 #include "host/HostServices.h"
 #include "host/LiveData.h"
+#include "refhost/Json.h"
 #include "refhost/TracingConnection.h"
 #include "tests/support/RecordingHost.h"
 
@@ -70,7 +71,7 @@ TEST_F(TraceTest, WritesLookupsMessagesBoxesAndErrors) {
     trace_.lookup("Kordan3:DODAK.Normal", "CISLO", "_ID", "", std::nullopt);
     trace_.message("Nepodporovaný typ", "O#");
     trace_.box("Obnovit?", 36, 6);
-    trace_.error("Doklad je uzavřený.");
+    trace_.error("Doklad je uzavřený.", "ML003");
 
     EXPECT_THAT(
         lines(),
@@ -154,9 +155,64 @@ TEST_F(TraceTest, DoesNotRecordTheQuestionWhichParametersAProcedureHas) {
     EXPECT_THAT(lines(), ElementsAre());
 }
 
+/// The lines that a record without values gets of what is done with a trace.
+std::vector<std::string> hiddenLines(const std::function<void(Trace& trace)>& work) {
+    std::vector<std::string> lines;
+    Trace trace;
+    trace.addRecord({.write = [&](const std::string& line) { lines.push_back(line); },
+                     .values = Values::Hidden,
+                     .stamp = [](JsonObject& line) { line.add("at", "noon"); }});
+    work(trace);
+    return lines;
+}
+
+TEST(HiddenTrace, NamesTheCallItsParametersItsRefusalAndItsDuration) {
+    TProcedureCall call{.Name = "MELVARKEDITORDodakInit", .Params = {}, .Open = true};
+    call.Params = {{"a_DODKID", std::int64_t{12}}, {"a_TEXT", AnsiString("1,5")}, {"a_ID", {}}};
+    const auto lines = hiddenLines([&](Trace& trace) {
+        trace.procedure(call, {.error = "Doklad „DL1“ je uzavřený.", .code = "ML003", .row = 4, .milliseconds = 1.5});
+        trace.procedure(call, {.error = "std::bad_alloc", .milliseconds = 2});
+        trace.query("select NAZEV from SKLAD_V where ID = 12", {.rows = 3, .milliseconds = 0.5});
+    });
+    EXPECT_THAT(lines,
+                ElementsAre(R"({"at":"noon","call":"MELVARKEDITORDodakInit","open":true,)"
+                            R"("params":["a_DODKID","a_TEXT","a_ID"],"rows":0,"error":"ML003","row":4,"ms":1.5})",
+                            R"({"at":"noon","call":"MELVARKEDITORDodakInit","open":true,)"
+                            R"("params":["a_DODKID","a_TEXT","a_ID"],"rows":0,"error":"?","ms":2})",
+                            R"({"at":"noon","call":"select NAZEV from SKLAD_V where ID = ?","open":true,)"
+                            R"("params":[],"rows":3,"error":null,"ms":0.5})"));
+}
+
+TEST(HiddenTrace, TellsThatSomethingWasPickedAskedAndShownAndNotWhat) {
+    const auto lines = hiddenLines([](Trace& trace) {
+        trace.lookup("Kordan3:DODAK.Normal", "CISLO", "_ID", "_DODVID=3", TLookupPick{"DL-7", "7"});
+        trace.lookup("Kordan3:DODAK.Normal", "CISLO", "_ID", "", std::nullopt);
+        trace.message("Nepodporovaný typ", "O#");
+        trace.box("Obnovit?", 36, 6);
+        trace.error("Doklad je uzavřený.", "ML003");
+        trace.error("Bez kódu.", "");
+    });
+    const std::string lookup = R"({"at":"noon","lookup":"Kordan3:DODAK.Normal","display":"CISLO","key":"_ID",)";
+    EXPECT_THAT(lines, ElementsAre(lookup + R"("condition":"_DODVID=?","picked":true})",
+                                   lookup + R"("condition":"","picked":false})",
+                                   R"({"at":"noon","message":null,"style":"O#"})",
+                                   R"({"at":"noon","box":null,"flags":36,"result":6})",
+                                   R"({"at":"noon","error":"ML003"})", R"({"at":"noon","error":"?"})"));
+}
+
+TEST(HiddenTrace, KnowsTheCodeOfARefusalThatAConnectionRaises) {
+    RecordingConnection database;
+    database.procedure("X").refusesCall(1, "Doklad je uzavřený.", "ML003");
+    const auto lines = hiddenLines([&](Trace& trace) {
+        TracingConnection traced(database, trace);
+        EXPECT_THROW(traced.Execute({.Name = "X", .Params = {}, .Open = true}), EDatabaseError);
+    });
+    EXPECT_THAT(lines, ElementsAre(HasSubstr(R"("error":"ML003")")));
+}
+
 TEST(Trace, WithoutAFileRecordsNothing) {
     Trace trace;
-    EXPECT_NO_THROW(trace.error("x"));
+    EXPECT_NO_THROW(trace.error("x", ""));
 }
 
 TEST(TraceFile, IsAppendedToAndWrittenThroughAtOnce) {
@@ -165,7 +221,7 @@ TEST(TraceFile, IsAppendedToAndWrittenThroughAtOnce) {
     std::ofstream(path) << "before\n";
     Trace trace(openTraceFile(path));
 
-    trace.error("x");
+    trace.error("x", "");
 
     std::ostringstream content; // read while the trace still has the file open
     content << std::ifstream(path).rdbuf();
@@ -187,8 +243,8 @@ TEST(TraceFile, ThatCannotBeWrittenAnyFurtherDoesNotStopTheWork) {
     output->setstate(std::ios::badbit);
     Trace trace(std::move(output));
 
-    EXPECT_NO_THROW(trace.error("first"));
-    EXPECT_NO_THROW(trace.error("second"));
+    EXPECT_NO_THROW(trace.error("first", ""));
+    EXPECT_NO_THROW(trace.error("second", ""));
 }
 
 } // namespace
