@@ -6,6 +6,7 @@
 #include "refhost/Json.h"
 #include "refhost/Languages.h"
 #include "refhost/Palette.h"
+#include "refhost/ProgramStyle.h"
 #include "refhost/RunRecords.h"
 #include "refhost/WindowedHost.h"
 #include "refhost/commands/DataCommands.h"
@@ -117,7 +118,7 @@ int runProgram(const CommandLine& commandLine, int& argc, char** argv) {
         return runCommand(commandLine, languages);
     }
 
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new ProgramStyle); // which the application owns
     QApplication application(argc, argv);
     QApplication::setPalette(completePalette(QApplication::palette()));
     // A dialog may be the only window for a while; closing it must not end the program.
