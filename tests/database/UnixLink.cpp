@@ -49,7 +49,7 @@ int listenIn(const std::filesystem::path& folder) {
 
 int acceptAt(int listening) {
     pollfd waiting{listening, POLLIN, 0};
-    return poll(&waiting, 1, c_Silence) > 0 ? accept(listening, nullptr, nullptr) : -1;
+    return poll(&waiting, 1, c_Silence) > 0 ? accept4(listening, nullptr, nullptr, SOCK_CLOEXEC) : -1;
 }
 
 int connectTo(const std::filesystem::path& folder) {

@@ -11,7 +11,7 @@ namespace refhost {
 /// A socket that waits for clients at the path under which a server's folder has its own; the caller closes it. Throws
 /// std::runtime_error.
 int listenIn(const std::filesystem::path& folder);
-/// The next client, or -1 when none comes for a while.
+/// The next client, or -1 when none comes for a while. A program that the test starts meanwhile does not hold it open.
 int acceptAt(int listening);
 /// A link to the server of the folder; -1 when there is none.
 int connectTo(const std::filesystem::path& folder);

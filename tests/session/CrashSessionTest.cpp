@@ -136,6 +136,25 @@ TEST_P(CrashSession, WhatWasTypedBeforeTheLastTickIsSavedByTheNextStart) {
     EXPECT_THAT(session.traceSinceCrash(), Not(Contains(HasSubstr(editor().fill))));
 }
 
+TEST_P(CrashSession, WorkThatWasSavedAtTheMomentOfTheCrashIsNotOfferedAgain) {
+    storedWithoutACrash();
+    CrashableSession session(company_.address());
+    CrashableSession::dieAtAnswers();
+    workAndTick(session);
+    session.press({QStringLiteral("ctrl+Return")});
+    session.waitForDeath();
+    EXPECT_EQ(stored(session), storedWithoutACrash());
+    EXPECT_THAT(session.unsavedWork(), Contains(editor().file));
+
+    open(session);
+    EXPECT_THAT(session.traceSinceCrash(), Contains(HasSubstr(editor().question)));
+    EXPECT_THAT(session.traceSinceCrash(), Contains(HasSubstr(editor().fill)));
+    EXPECT_THAT(session.unsavedWork(), IsEmpty());
+    session.press({QStringLiteral("Escape"), QStringLiteral("alt+F4")});
+    EXPECT_EQ(session.finish(), 1);
+    EXPECT_EQ(stored(session), storedWithoutACrash());
+}
+
 const auto nameOf = [](const auto& row) {
     return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param).name;
 };

@@ -57,7 +57,7 @@ std::vector<std::string> CrashableSession::unsavedWork() {
         return files;
     }
     for (const auto& entry : std::filesystem::recursive_directory_iterator(stateFolder())) {
-        if (entry.is_regular_file() && entry.path().extension() != ".lock") {
+        if (entry.is_regular_file() && entry.path().extension() != ".lock" && entry.path().extension() != ".save") {
             files.push_back(entry.path().filename());
         }
     }
@@ -68,6 +68,18 @@ void CrashableSession::waitForUnsavedWork(const std::vector<std::string>& files)
     if (!QTest::qWaitFor([&] { return unsavedWork() == files; }, c_LimitMs)) {
         throw std::runtime_error("the unsaved work never was " + files.front());
     }
+}
+
+void CrashableSession::dieAtAnswers() {
+    qputenv("LD_PRELOAD", MOVED_CLOCK_LIBRARY ":" KILLED_AT_ANSWER_LIBRARY);
+}
+
+void CrashableSession::waitForDeath() {
+    if (!QTest::qWaitFor([this] { return !isRunning(); }, c_LimitMs)) {
+        throw std::runtime_error("the host never ended");
+    }
+    qputenv("LD_PRELOAD", MOVED_CLOCK_LIBRARY);
+    crash();
 }
 
 void CrashableSession::crash() {

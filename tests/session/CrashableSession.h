@@ -17,9 +17,14 @@ public:
 
     /// Moves the clock by more than a minute and waits until this file of unsaved work is there.
     void passAMinute(const std::string& file);
-    /// The files of unsaved work, without locks.
+    /// The files of unsaved work, without locks and without saves that wait for their answer.
     static std::vector<std::string> unsavedWork();
     static void waitForUnsavedWork(const std::vector<std::string>& files);
+
+    /// Hosts that are started from now on end at the moment in which a save is answered.
+    static void dieAtAnswers();
+    /// Waits until the host has ended in that way; the trace begins anew, and the next host lives.
+    void waitForDeath();
 
     /// Kills the host; the trace begins anew.
     void crash();

@@ -1,0 +1,67 @@
+#include "tests/database/CutLink.h"
+
+#include "tests/database/UnixLink.h"
+
+#include <algorithm>
+#include <unistd.h>
+
+namespace refhost {
+
+CutLink::CutLink(const std::filesystem::path& serverFolder, std::string statement)
+    : statement_(std::move(statement)),
+      listening_(listenIn(folder())),
+      thread_([this, serverFolder] { serve(serverFolder); }) {}
+
+CutLink::~CutLink() {
+    isEnding_ = true;
+    thread_.join();
+    close(listening_);
+}
+
+void CutLink::serve(const std::filesystem::path& serverFolder) {
+    while (!isEnding_) {
+        const int client = acceptAt(listening_);
+        if (client < 0) {
+            continue;
+        }
+        const int server = connectTo(serverFolder);
+        if (server >= 0) {
+            isPrepared_ = false;
+            isCalled_ = false;
+            carry(client, server);
+            close(server);
+        }
+        close(client);
+    }
+}
+
+// The client waits for the statement to be prepared before it calls it, so the two never come together.
+bool CutLink::isCutAt(const std::vector<char>& asked) {
+    if (isPrepared_) {
+        isPrepared_ = false;
+        isCalled_ = place_ == At::Answer;
+        return place_ == At::Request;
+    }
+    isPrepared_ = place_ != At::Nowhere && !std::ranges::search(asked, statement_).empty();
+    return false;
+}
+
+void CutLink::carry(int client, int server) {
+    std::vector<char> asked;
+    std::vector<char> answered;
+    while (!isEnding_) {
+        const LinkSides sides = awaitSides(client, !answered.empty(), server, !asked.empty());
+        if ((sides.HasFirst && !takeBytes(client, asked)) || (sides.HasSecond && !takeBytes(server, answered))) {
+            return;
+        }
+        if ((sides.HasFirst && isCutAt(asked)) || (sides.HasSecond && isCalled_)) {
+            place_ = At::Nowhere;
+            return;
+        }
+        if (!handBytes(server, asked) || !handBytes(client, answered)) {
+            return;
+        }
+    }
+}
+
+} // namespace refhost

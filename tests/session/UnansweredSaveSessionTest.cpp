@@ -1,0 +1,112 @@
+#include "tests/database/ContractCompany.h"
+#include "tests/database/CutLink.h"
+#include "tests/database/Engines.h"
+#include "tests/database/PrivateServer.h"
+#include "tests/session/DeliveryNoteTrace.h"
+#include "tests/session/HostSession.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+
+/// A save whose answer never comes, as a clerk has it: real keys, a real server, and a link that is cut at the closing
+/// call.
+namespace {
+
+using refhost::CutLink;
+using refhost::Engine;
+using testing::Contains;
+using testing::HasSubstr;
+
+const QString c_Title = QStringLiteral("Vložení položek dodacího listu");
+const QString c_ErrorTitle = QStringLiteral("Chyba");
+constexpr const char* c_Close = "\"call\":\"MELVARKEDITORDodakTempUloz\"";
+constexpr const char* c_Unknown =
+    "Databáze neodpověděla, zda je doklad uložený. Uložte jej znovu, nic se nezapíše dvakrát.";
+constexpr const char* c_OtherLines = "Doklad se už uložil s jinými řádky, než má editor. Zavřete editor a doplňte do "
+                                     "dokladu jen to, co v něm chybí.";
+
+class UnansweredSaveSession : public testing::Test {
+protected:
+    UnansweredSaveSession() { refhost::addContractCompany(*refhost::openAs(url_, "novakova")); }
+
+    /// The company behind the link that will be cut.
+    std::string addressOfLink() const {
+        std::string address = url_ + " user=novakova";
+        const std::string server = refhost::PrivateServer::instance().folder();
+        return address.replace(address.find(server), server.size(), link_.folder());
+    }
+    /// The template's lines with a quantity in the first one's cell, three editable cells behind the one that is open.
+    void work(const QString& quantity) {
+        session_.startEditor(QStringLiteral("DODAK,SABLONA"), refhost::c_OpenNote);
+        session_.waitForWindow(c_Title);
+        session_.press({QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return")});
+        session_.type(quantity);
+        session_.press({QStringLiteral("Return")});
+        session_.waitForTrace("MELVARKEDITORDodakVypocetCen");
+    }
+    void saveAndReadError() {
+        session_.press({QStringLiteral("ctrl+Return")});
+        session_.waitForWindow(c_ErrorTitle);
+        session_.press({QStringLiteral("Return")});
+        session_.waitForWindow(c_Title);
+    }
+    void save() {
+        session_.press({QStringLiteral("ctrl+Return")});
+        EXPECT_EQ(session_.finish(), 0);
+    }
+    /// How many lines with this quantity the note has.
+    std::string linesWith(const std::string& quantity) const {
+        const auto table = refhost::openAs(url_, "svoboda")
+                               ->Query("select count(*) from DODAKPOL where DODKID = 2 and MNOZSTVI = " + quantity);
+        return std::to_string(std::get<std::int64_t>(table.Rows.front().front()));
+    }
+    long closings() const {
+        const Lines trace = session_.trace();
+        return std::ranges::count_if(trace, [](const auto& line) { return line.find(c_Close) != line.npos; });
+    }
+
+    const std::string url_ = refhost::newDatabaseUrl(Engine::PostgreSQL);
+    CutLink link_{refhost::PrivateServer::instance().folder(), "melvarkeditordodaktempuloz("};
+    HostSession session_{addressOfLink()};
+};
+
+TEST_F(UnansweredSaveSession, ASaveWhoseAnswerIsLostIsToldAndTheNextOneFindsItDone) {
+    work(QStringLiteral("2,5"));
+    link_.cut(CutLink::At::Answer);
+    saveAndReadError();
+    EXPECT_TRUE(link_.isCut());
+    EXPECT_EQ(linesWith("2.5"), "1") << "the server has done it";
+    save();
+    EXPECT_EQ(linesWith("2.5"), "1");
+    EXPECT_EQ(closings(), 2);
+    EXPECT_THAT(session_.trace(), Contains(shownError(c_Unknown)));
+}
+
+TEST_F(UnansweredSaveSession, LinesThatWereChangedAfterALostAnswerAreRefusedAndTheEarlierOnesStand) {
+    work(QStringLiteral("2,5"));
+    link_.cut(CutLink::At::Answer);
+    saveAndReadError();
+    session_.press({QStringLiteral("shift+Return")});
+    session_.type(QStringLiteral("7"));
+    session_.press({QStringLiteral("Return")});
+    session_.waitForTrace("MELVARKEDITORDodakVypocetCen", 2);
+    saveAndReadError();
+    saveAndReadError();
+    session_.press({QStringLiteral("Escape"), QStringLiteral("alt+F4")});
+    EXPECT_EQ(session_.finish(), 1);
+    EXPECT_EQ(linesWith("2.5"), "1");
+    EXPECT_EQ(linesWith("7"), "0");
+    EXPECT_THAT(session_.trace(), Contains(shownError(c_OtherLines)).Times(2));
+}
+
+TEST_F(UnansweredSaveSession, ASaveWhoseRequestIsLostIsToldAndTheNextOneSavesOnce) {
+    work(QStringLiteral("2,5"));
+    link_.cut(CutLink::At::Request);
+    saveAndReadError();
+    EXPECT_EQ(linesWith("2.5"), "0");
+    save();
+    EXPECT_EQ(linesWith("2.5"), "1");
+    EXPECT_THAT(session_.trace(), Contains(shownError(c_Unknown)));
+}
+
+} // namespace
