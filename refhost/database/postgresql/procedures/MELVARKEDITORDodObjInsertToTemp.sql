@@ -25,7 +25,11 @@ create function MELVARKEDITORDodObjInsertToTemp(
 returns void
 language plpgsql as $$
 declare
-    unit_ids constant text[] := array[typed_id(a_SKPLID), typed_id(a_SKPLIDV1), typed_id(a_SKPLIDV2)];
+    -- Mostly one slot has something: no function is called for what is empty.
+    unit_ids constant text[] := array[
+        case when a_SKPLID is not null then typed_id(a_SKPLID) end,
+        case when a_SKPLIDV1 is not null then typed_id(a_SKPLIDV1) end,
+        case when a_SKPLIDV2 is not null then typed_id(a_SKPLIDV2) end];
     unit_names constant text[] := array[typed(a_JEDNOTKY), typed(a_JEDNOTKYV1), typed(a_JEDNOTKYV2)];
     quantities numeric[];
     fitting_units integer;
@@ -54,9 +58,12 @@ begin
         perform refuse_unknown_supplier_name(typed(a_DODAVATEL));
     end if;
 
-    quantities := array[parse_number(typed(a_MNOZSTVI), 'Množství', 6),
-                        parse_number(typed(a_MNOZSTVIV1), 'Množství ve vedlejší jednotce 1', 6),
-                        parse_number(typed(a_MNOZSTVIV2), 'Množství ve vedlejší jednotce 2', 6)];
+    quantities := array[
+        case when a_MNOZSTVI is not null then parse_number(typed(a_MNOZSTVI), 'Množství', 6) end,
+        case when a_MNOZSTVIV1 is not null
+             then parse_number(typed(a_MNOZSTVIV1), 'Množství ve vedlejší jednotce 1', 6) end,
+        case when a_MNOZSTVIV2 is not null
+             then parse_number(typed(a_MNOZSTVIV2), 'Množství ve vedlejší jednotce 2', 6) end];
     -- Mostly each slot that has something names a unit of the item in full; only the others need the closer look.
     select count(*) into fitting_units
     from SKPL u

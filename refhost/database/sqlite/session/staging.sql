@@ -63,9 +63,11 @@ select ORDINAL, SKLPID, MNOZSTVI, TOLERANCE,
 from NOTE_LAST cross join PAIR;
 
 -- The row of an order or template as it was sent, likewise.
-create temp table ORDER_SENT (SKLADPOL text, SKLAD text, DODAVATEL text, POPIS text, KOMENTAR text);
+create temp table ORDER_SENT (
+    SKLPID integer, SKLDID integer, DODVID integer, SKLADPOL text, SKLAD text, DODAVATEL text, POPIS text, KOMENTAR text
+);
 
--- Its three quantities with their units, in the order of the editor's columns.
+-- Its quantities with their units, in the order of the editor's columns; none for a slot without a text.
 create temp table ORDER_SENT_QUANTITY (
     SLOT integer primary key, LABEL text, MNOZSTVI text, SKPLID text, JEDNOTKY text
 );
