@@ -214,7 +214,8 @@ TEST_F(LogFileTest, ThatTheSystemTakesNoFurtherIsToldOnce) {
     std::signal(SIGXFSZ, before);
     log.write("the disk has room again");
 
-    EXPECT_EQ(content(), "before\nin ");
+    EXPECT_EQ(content(), "before\n"
+                         "in ");
     const std::string told = errors_.str();
     EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1) << told;
 }
