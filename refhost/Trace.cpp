@@ -3,10 +3,13 @@
 #include "host/Exceptions.h"
 #include "refhost/HiddenValues.h"
 #include "refhost/Json.h"
+#include "refhost/database/RefusalTable.h"
 
+#include <cerrno>
 #include <cmath>
 #include <fstream>
 #include <iostream>
+#include <system_error>
 
 namespace refhost {
 
@@ -144,7 +147,7 @@ void Trace::writeLine(const std::function<void(JsonObject& line, Values values)>
 std::unique_ptr<std::ostream> openTraceFile(const std::string& path) {
     auto file = std::make_unique<std::ofstream>(path, std::ios::app | std::ios::binary);
     if (!file->is_open()) {
-        throw EInOutError("Soubor pro záznam volání „" + path + "“ nelze otevřít k zápisu.");
+        throw refusal("ML935", {path}, std::generic_category().message(errno), TDatabaseCause::Failure);
     }
     return file;
 }

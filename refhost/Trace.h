@@ -62,7 +62,7 @@ private:
     std::vector<TraceRecord> records_;
 };
 
-/// Opens the file for appending. Throws EInOutError naming the file when that fails.
+/// Opens the file for appending. Throws the refusal ML935, which names the file, when that fails.
 std::unique_ptr<std::ostream> openTraceFile(const std::string& path);
 
 } // namespace refhost

@@ -471,5 +471,9 @@
         <source>Kopii databáze „%1“ nelze založit. Zkontrolujte místo na disku a oprávnění ke složce.</source>
         <translation>The copy of the database “%1” cannot be made. Check the space on the disk and the permissions of the folder.</translation>
     </message>
+    <message id="MELVARKHOST\REFUSAL\ML935">
+        <source>Soubor pro záznam volání „%1“ nelze otevřít k zápisu. Zkontrolujte oprávnění ke složce.</source>
+        <translation>The file “%1” for the trace of the calls cannot be opened for writing. Check the permissions of the folder.</translation>
+    </message>
 </context>
 </TS>

@@ -233,7 +233,8 @@ TEST(TraceFile, ThatCannotBeOpenedIsNamed) {
     try {
         openTraceFile(testing::TempDir() + "no-such-folder/trace.jsonl");
         FAIL() << "opened";
-    } catch (const EInOutError& error) {
+    } catch (const EDatabaseError& error) {
+        EXPECT_EQ(error.Code(), "ML935");
         EXPECT_THAT(error.Message(), HasSubstr("no-such-folder/trace.jsonl"));
     }
 }
