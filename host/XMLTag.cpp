@@ -129,8 +129,9 @@ bool IsXMLName(const AnsiString& name) {
     return tag != nullptr && tag->GetName() == name;
 }
 
+/// Whether the character can stand in a text as it is; the three that become references have been taken out before.
 bool IsXMLCharacter(char32_t code) {
-    return code >= 0x20 ? code != 0xFFFE && code != 0xFFFF : code == '\t' || code == '\n' || code == '\r';
+    return code >= 0x20 && code != 0xFFFE && code != 0xFFFF;
 }
 
 /// Line breaks and tabs become references: a reader would turn a bare CR into LF, and editors change the others.

@@ -49,6 +49,7 @@ TEST(Field, ReadsAsInteger) {
               std::numeric_limits<std::int32_t>::min());
     EXPECT_EQ(field(7.0).AsInteger(), 7);
     EXPECT_EQ(field(true).AsInteger(), 1);
+    EXPECT_EQ(field(false).AsInteger(), 0);
     EXPECT_EQ(field(text(" 12 ")).AsInteger(), 12);
 }
 
@@ -60,12 +61,14 @@ TEST(Field, NamesItselfWhenItIsNoInteger) {
     EXPECT_THROW(field(integer(-2147483649)).AsInteger(), EConvertError);
     EXPECT_THROW(field(7.5).AsInteger(), EConvertError);
     EXPECT_THROW(field(1e12).AsInteger(), EConvertError);
+    EXPECT_THROW(field(-1e12).AsInteger(), EConvertError);
 }
 
 TEST(Field, ReadsAsFloat) {
     EXPECT_EQ(field(integer(7)).AsFloat(), 7.0);
     EXPECT_EQ(field(0.25).AsFloat(), 0.25);
     EXPECT_EQ(field(true).AsFloat(), 1.0);
+    EXPECT_EQ(field(false).AsFloat(), 0.0);
     EXPECT_EQ(field(text("12,5")).AsFloat(), 12.5);
     EXPECT_EQ(messageOf<EConvertError>([] { field(text("12.5")).AsFloat(); }),
               "Hodnota „12.5“ pole MNOZSTVI není desetinné číslo.");

@@ -157,6 +157,14 @@ TEST_F(LiveStoredProcTest, AnOutputThatDidNotComeIsNull) {
     EXPECT_TRUE(proc.ParamByName("a_OBNOVDATA").IsNull());
 }
 
+TEST_F(LiveStoredProcTest, AnOutputThatIsNotDeclaredIsPassedOver) {
+    connection().answer.Outputs = {{"a_NAVIC", text("1")}, {"a_OBNOVDATA", true}};
+    TLiveStoredProc proc("Uloz");
+    EXPECT_TRUE(proc.Exec(false));
+    EXPECT_FALSE(proc.HasParam("a_NAVIC"));
+    EXPECT_TRUE(proc.ParamByName("a_OBNOVDATA").AsBoolean());
+}
+
 TEST_F(LiveStoredProcTest, ReadsRowByRow) {
     connection().answer.Sets = {Table{{"ID", "NAZEV"}, {{integer(1), text("Šroub")}, {integer(2), {}}}}};
     TLiveStoredProc proc("Uloz");

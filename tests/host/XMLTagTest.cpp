@@ -325,6 +325,14 @@ TEST(OutputXMLStr, ABlankTextBesideChildrenComesBackWhenKept) {
     EXPECT_EQ(parsed(OutputXMLStr(root), TXMLBlanks::Keep), shown(&root));
 }
 
+TEST(OutputXMLStr, WritesEveryPlainNameAsItIs) {
+    for (const char* name : {"a", "Z", "_x", "Sloupec", "a-b", "a.b", "a_b", "A0", "a9"}) {
+        TXMLTag root("settings");
+        root.CreateTag(name);
+        EXPECT_EQ(OutputXMLStr(root), declaration + "<settings><" + name + "/></settings>");
+    }
+}
+
 TEST(OutputXMLStr, RefusesANameThatXmlDoesNotKnow) {
     for (const char* name :
          {"", "1a", "-a", "a b", "a>", "a/", "a/><b", "a b='1'", "<a", "&amp;", "a\n", "×", "\xC5", "a "}) {
