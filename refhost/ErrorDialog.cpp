@@ -1,5 +1,6 @@
 #include "refhost/ErrorDialog.h"
 
+#include "host/widgets/Guard.h"
 #include "refhost/Languages.h"
 
 #include <QAction>
@@ -53,8 +54,9 @@ QPlainTextEdit* createDetails(const std::string& text, const QString& name, QWid
 
 } // namespace
 
-ErrorDialog::ErrorDialog(const ErrorReport& report, const Languages& languages, QWidget* parent)
-    : QDialog(parent), report_(report) {
+ErrorDialog::ErrorDialog(const ErrorReport& report, const Languages& languages, QWidget* parent,
+                         std::function<void()> writeReport)
+    : QDialog(parent), report_(report), writeReport_(std::move(writeReport)) {
     setObjectName(u"errorDialog");
     setWindowTitle(languages.label(texts::errorCaption));
 
@@ -94,6 +96,13 @@ void ErrorDialog::buildButtons(const Languages& languages) {
     }
     buttons->addStretch(1);
 
+    if (writeReport_) {
+        auto* reportButton = new QPushButton(languages.label(texts::errorReport), this);
+        reportButton->setObjectName(u"reportButton");
+        reportButton->setAutoDefault(false);
+        melvark::ConnectGuarded(reportButton, &QPushButton::clicked, this, [this] { writeReport_(); });
+        buttons->addWidget(reportButton);
+    }
     auto* copyButton = new QPushButton(languages.label(texts::errorCopy), this);
     copyButton->setObjectName(u"copyButton");
     copyButton->setAutoDefault(false);
@@ -121,10 +130,11 @@ void ErrorDialog::copy() const {
     QApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
-DialogErrorDisplay::DialogErrorDisplay(const Languages& languages) : languages_(languages) {}
+DialogErrorDisplay::DialogErrorDisplay(const Languages& languages, std::function<void()> writeReport)
+    : languages_(languages), writeReport_(std::move(writeReport)) {}
 
 void DialogErrorDisplay::show(const ErrorReport& report) {
-    ErrorDialog(report, languages_, QApplication::activeWindow()).exec();
+    ErrorDialog(report, languages_, QApplication::activeWindow(), writeReport_).exec();
 }
 
 } // namespace refhost

@@ -18,6 +18,11 @@ inline constexpr HostText fileMenu{"MELVARKHOST\\MAIN\\FILE", "&Soubor"};
 inline constexpr HostText documentMenu{"MELVARKHOST\\MAIN\\DOCUMENT", "&Doklad"};
 inline constexpr HostText viewMenu{"MELVARKHOST\\MAIN\\VIEW", "&Zobrazit"};
 inline constexpr HostText refresh{"MELVARKHOST\\MAIN\\REFRESH", "&Obnovit"};
+inline constexpr HostText report{"MELVARKHOST\\MAIN\\REPORT", "&Hlášení o chybě"};
+inline constexpr HostText reportWritten{
+    "MELVARKHOST\\MAIN\\REPORTWRITTEN",
+    "Hlášení o chybě je v souboru „%1“. Pošlete je svému správci. Jsou v něm verze, "
+    "nastavení a poslední volání, nejsou v něm hesla, připojení ani obsah dokladů."};
 inline constexpr HostText quit{"MELVARKHOST\\MAIN\\QUIT", "&Konec"};
 inline constexpr HostText insertLines{"MELVARKHOST\\MAIN\\INSERTLINES", "&Vložit položky"};
 inline constexpr HostText insertLinesHint{"MELVARKHOST\\MAIN\\INSERTLINESHINT",
@@ -63,6 +68,7 @@ inline constexpr HostText noteCaption{"MELVARKHOST\\BOX\\NOTE", "Upozornění"};
 
 inline constexpr HostText errorDetails{"MELVARKHOST\\ERROR\\DETAILS", "&Podrobnosti"};
 inline constexpr HostText errorDetailsName{"MELVARKHOST\\ERROR\\DETAILSNAME", "Podrobnosti chyby"};
+inline constexpr HostText errorReport{"MELVARKHOST\\ERROR\\REPORT", "&Hlášení o chybě"};
 inline constexpr HostText errorCopy{"MELVARKHOST\\ERROR\\COPY", "&Kopírovat"};
 inline constexpr HostText errorClose{"MELVARKHOST\\ERROR\\CLOSE", "&Zavřít"};
 inline constexpr HostText errorUnexpected{"MELVARKHOST\\ERROR\\UNEXPECTED",

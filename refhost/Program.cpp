@@ -41,7 +41,7 @@ int runInWindows(const CommandLine& commandLine, const Languages& languages, Run
     std::string note;
     const auto database = openCompanyDatabase(
         commandLine, settings, [&](const UpgradeReport& report) { note = upgradeNote(report, languages); });
-    WindowedHost host(commandLine, *database, settings, languages, records.trace());
+    WindowedHost host(commandLine, *database, settings, languages, records);
     if (!note.empty() && commandLine.command == Command::OpenHost) {
         host.tell(note);
     } else if (!note.empty()) {

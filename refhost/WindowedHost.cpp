@@ -6,6 +6,8 @@
 #include "refhost/CompanyDatabase.h"
 #include "refhost/HostTexts.h"
 #include "refhost/Languages.h"
+#include "refhost/ProblemReport.h"
+#include "refhost/RunRecords.h"
 #include "refhost/screens/DocumentDataSet.h"
 #include "refhost/screens/MainWindow.h"
 #include "refhost/screens/Screens.h"
@@ -23,26 +25,37 @@ constexpr const char* c_itemClass = "TMelvarkEditor";
 } // namespace
 
 WindowedHost::WindowedHost(const CommandLine& commandLine, Database& database, const TFormatSettings& settings,
-                           const Languages& languages, Trace& trace)
+                           const Languages& languages, RunRecords& records)
     : commandLine_(commandLine),
       database_(database),
       settings_(settings),
       languages_(languages),
-      errors_(languages),
+      records_(records),
+      engine_(engineLabel(database, commandLine)),
+      errors_(languages, [this] { writeReport(); }),
       saves_(database, pendingSavesFolder(databaseDigest(database.address()))),
       services_({.connection = saves_,
                  .databaseAddress = database.address(),
                  .settings = settings,
                  .languages = languages,
-                 .trace = trace,
+                 .trace = records.trace(),
                  .errors = errors_,
                  .clock = systemNow}),
       scope_(services_),
-      manager_({.connection = database, .settings = settings, .languages = languages, .trace = trace}) {}
+      manager_({.connection = database, .settings = settings, .languages = languages, .trace = records.trace()}) {}
 
 void WindowedHost::loadModule() {
     package_.emplace(findPackage(QApplication::applicationDirPath().toStdString()), languages_);
     item_ = package_->createItem(c_itemClass, services_.Classes(), &manager_);
+}
+
+void WindowedHost::writeReport() const {
+    const std::string file = writeProblemReport(reportFolder(), problemReport({.commandLine = commandLine_,
+                                                                               .engine = engine_,
+                                                                               .hasModule = item_ != nullptr,
+                                                                               .hasLog = records_.hasLog(),
+                                                                               .calls = records_.recentCalls()}));
+    tell(languages_.label(texts::reportWritten).arg(QString::fromStdString(file)).toStdString());
 }
 
 void WindowedHost::tell(const std::string& text) const {
@@ -57,7 +70,8 @@ int WindowedHost::openMainWindow() {
                           .database = databaseLabel(commandLine_),
                           .insertLines = {},
                           .moduleMissing = {},
-                          .look = readWindowLook(windowLookFile())};
+                          .look = readWindowLook(windowLookFile()),
+                          .writeReport = [this] { writeReport(); }};
     try {
         loadModule();
         parts.insertLines = [this](const std::string& params, TDataSet& dataSet) {

@@ -17,14 +17,14 @@ namespace refhost {
 
 class Database;
 class Languages;
-class Trace;
+class RunRecords;
 
 /// The running host of the commands with windows: installs its services, loads the module, and opens the main window or
 /// the item editor alone. Qt's application object exists before it and outlives it.
 class WindowedHost {
 public:
     WindowedHost(const CommandLine& commandLine, Database& database, const TFormatSettings& settings,
-                 const Languages& languages, Trace& trace);
+                 const Languages& languages, RunRecords& records);
 
     /// Tells the user something before the first window.
     void tell(const std::string& text) const;
@@ -40,11 +40,15 @@ public:
 private:
     /// Throws EHostError, naming the reason, when the module cannot be loaded.
     void loadModule();
+    /// Writes a report on a problem and tells the user where it lies.
+    void writeReport() const;
 
     const CommandLine& commandLine_;
     Database& database_;
     TFormatSettings settings_;
     const Languages& languages_;
+    RunRecords& records_;
+    std::string engine_; ///< Asked for while the database answers.
     DialogErrorDisplay errors_;
     IdentifiedSaves saves_;
     HostApplication services_;

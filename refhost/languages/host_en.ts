@@ -23,6 +23,14 @@
         <source>&amp;Obnovit</source>
         <translation>&amp;Refresh</translation>
     </message>
+    <message id="MELVARKHOST\MAIN\REPORT">
+        <source>&amp;Hlášení o chybě</source>
+        <translation>Re&amp;port a problem</translation>
+    </message>
+    <message id="MELVARKHOST\MAIN\REPORTWRITTEN">
+        <source>Hlášení o chybě je v souboru „%1“. Pošlete je svému správci. Jsou v něm verze, nastavení a poslední volání, nejsou v něm hesla, připojení ani obsah dokladů.</source>
+        <translation>The report on the problem is in the file “%1”. Send it to your administrator. It has versions, settings and the last calls, and no passwords, connections or contents of documents.</translation>
+    </message>
     <message id="MELVARKHOST\MAIN\QUIT">
         <source>&amp;Konec</source>
         <translation>&amp;Quit</translation>
@@ -158,6 +166,10 @@
     <message id="MELVARKHOST\ERROR\DETAILSNAME">
         <source>Podrobnosti chyby</source>
         <translation>Details of the error</translation>
+    </message>
+    <message id="MELVARKHOST\ERROR\REPORT">
+        <source>&amp;Hlášení o chybě</source>
+        <translation>Re&amp;port a problem</translation>
     </message>
     <message id="MELVARKHOST\ERROR\COPY">
         <source>&amp;Kopírovat</source>

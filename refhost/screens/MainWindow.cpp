@@ -130,11 +130,15 @@ void MainWindow::buildActions() {
     melvark::ConnectGuarded(refresh, &QAction::triggered, this, [this] { currentScreen().refresh(); });
     QAction* search = createAction(this, u"searchAction", languages.label(texts::search), QKeySequence::Find);
     melvark::ConnectGuarded(search, &QAction::triggered, this, [this] { currentScreen().startSearch(); });
+    QAction* report = createAction(this, u"reportAction", languages.label(texts::report),
+                                   QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_H));
+    report->setEnabled(static_cast<bool>(parts_.writeReport));
+    melvark::ConnectGuarded(report, &QAction::triggered, this, [this] { parts_.writeReport(); });
     QAction* quit = createAction(this, u"quitAction", languages.label(texts::quit), QKeySequence(Qt::CTRL | Qt::Key_Q));
     connect(quit, &QAction::triggered, this, &QWidget::close);
 
     QMenu* file = menuBar()->addMenu(languages.label(texts::fileMenu));
-    file->addActions({refresh, quit});
+    file->addActions({refresh, report, quit});
     file->insertSeparator(quit);
     menuBar()->addMenu(languages.label(texts::documentMenu))->addActions({insert, search});
 

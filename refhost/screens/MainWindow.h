@@ -35,6 +35,8 @@ struct MainWindowParts {
     std::string moduleMissing;
     /// How the window was left the last time.
     WindowLook look = {};
+    /// Writes a report on a problem and tells the user where it lies. Empty when nobody does.
+    std::function<void()> writeReport = nullptr;
 };
 
 /// The host's window: three document screens as tabs, a menu, a tool bar and a status bar. Everything has a key.

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace refhost {
@@ -18,8 +19,8 @@ namespace {
 
 class ErrorDialogTest : public testing::Test {
 protected:
-    void open(const ErrorReport& report) {
-        dialog_ = std::make_unique<ErrorDialog>(report, languages_, nullptr);
+    void open(const ErrorReport& report, std::function<void()> writeReport = nullptr) {
+        dialog_ = std::make_unique<ErrorDialog>(report, languages_, nullptr, std::move(writeReport));
         dialog_->show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
     }
@@ -42,6 +43,21 @@ TEST_F(ErrorDialogTest, ShowsTheSentenceLetterForLetterAndFoldsTheDetailsAway) {
     EXPECT_EQ(find<QLabel>(u"errorSentence")->text(), u"Doklad je <uzavřený>.");
     EXPECT_EQ(find<QLabel>(u"errorSentence")->textFormat(), Qt::PlainText);
     EXPECT_FALSE(find<QPlainTextEdit>(u"errorDetails")->isVisible());
+}
+
+TEST_F(ErrorDialogTest, AReportIsWrittenByKeyAndTheErrorStays) {
+    int reports = 0;
+    open(c_report, [&] { ++reports; });
+
+    QTest::keyClick(focusedWidget(), Qt::Key_H, Qt::AltModifier);
+
+    EXPECT_TRUE(QTest::qWaitFor([&] { return reports == 1; }));
+    EXPECT_TRUE(dialog_->isVisible());
+}
+
+TEST_F(ErrorDialogTest, WithoutSomebodyWhoWritesReportsThereIsNoButtonForThem) {
+    open(c_report);
+    EXPECT_EQ(find<QPushButton>(u"reportButton"), nullptr);
 }
 
 TEST_F(ErrorDialogTest, EnterClosesIt) {

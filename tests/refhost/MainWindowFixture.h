@@ -75,7 +75,8 @@ protected:
                 .database = "/data/firma.sqlite",
                 .insertLines = moduleMissing.empty() ? insertLines_ : nullptr,
                 .moduleMissing = moduleMissing,
-                .look = look_};
+                .look = look_,
+                .writeReport = writeReport_};
     }
 
     void open(const std::string& moduleMissing = {}) {
@@ -105,6 +106,7 @@ protected:
     std::function<void()> whileInserting_ = [] {};
     bool changed_ = false;
     WindowLook look_;
+    std::function<void()> writeReport_;
     std::unique_ptr<MainWindow> window_;
 };
 

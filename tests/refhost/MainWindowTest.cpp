@@ -290,6 +290,29 @@ TEST_F(MainWindowTest, NothingIsReadAgainWhenNothingChanged) {
     EXPECT_THAT(host_.connection.takeCalls(), ElementsAre());
 }
 
+TEST_F(MainWindowTest, AReportOnAProblemIsWrittenByKeyAndFromTheMenu) {
+    int reports = 0;
+    writeReport_ = [&] { ++reports; };
+    open();
+
+    press(Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(reports, 1);
+
+    press(Qt::Key_S, Qt::AltModifier); // opens the menu "Soubor"
+    ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_H);
+    EXPECT_EQ(reports, 2);
+}
+
+TEST_F(MainWindowTest, AReportThatCannotBeWrittenIsToldAndTheWindowGoesOn) {
+    writeReport_ = [] { throw EInOutError("Hlášení nelze zapsat."); };
+    open();
+    press(Qt::Key_H, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_THAT(host_.errors(), ElementsAre("Hlášení nelze zapsat."));
+    press(Qt::Key_Down);
+    EXPECT_EQ(documents().currentKey(), "103");
+}
+
 TEST_F(MainWindowTest, AnErrorOfTheItemIsShownAndTheWindowGoesOn) {
     insertLines_ = [](const std::string&, TDataSet&) -> bool { throw EDatabaseError("Doklad je uzavřený."); };
     open();

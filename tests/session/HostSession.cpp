@@ -50,7 +50,8 @@ HostSession::HostSession() : HostSession(std::string()) {
 
 HostSession::HostSession(std::string database, QString user) : database_(std::move(database)), user_(std::move(user)) {
     host_.setProcessChannelMode(QProcess::SeparateChannels);
-    // How one session leaves the window is nothing to the next one.
+    // How one session leaves the window, and what it reports, is nothing to the next one.
+    environment_.insert(QStringLiteral("HOME"), folder_.path());
     environment_.insert(QStringLiteral("XDG_CONFIG_HOME"), folder_.path());
     host_.setProcessEnvironment(environment_);
 }

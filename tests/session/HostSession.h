@@ -68,6 +68,8 @@ public:
     std::vector<std::string> ask(const QStringList& arguments) const;
     std::string standardError() const { return standardError_; }
 
+    /// Where the session's user has his files.
+    std::string home() const { return folder_.path().toStdString(); }
     /// A file of the session's own configuration directory; empty when it is not there.
     std::string configuration(const std::string& file) const;
     /// Before the host starts: puts such a file there.
