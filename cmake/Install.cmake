@@ -22,7 +22,7 @@ install(FILES packaging/desktop/melvark.desktop DESTINATION ${CMAKE_INSTALL_DATA
 install(FILES packaging/desktop/melvark.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps
   COMPONENT program)
 install(FILES packaging/manual/melvark-host.1 packaging/manual/melvark-dbcheck.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT program)
-install(FILES docs/database.md docs/procedures.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/melvark COMPONENT program)
+install(FILES docs/database.md docs/procedures.md docs/server.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/melvark COMPONENT program)
 
 # What only the libraries themselves include; nobody else is promised anything of it.
 set(melvark_inner_headers ContractTexts.h DecimalDigits.h FormTexts.h GridCellDelegate.h GridHeader.h StringGridModel.h)
