@@ -44,7 +44,7 @@ endfunction()
 # LONG: takes more than ten seconds; has the label "long" besides. What has it not and needs neither display nor server
 #   runs in ./test --fast.
 macro(melvark_parse_test)
-  cmake_parse_arguments(ARG "DISPLAY;DATABASE;GUI;LONG" "TIMEOUT" "SOURCES;LIBRARIES;COMMAND" ${ARGN})
+  cmake_parse_arguments(ARG "DISPLAY;DATABASE;GUI;LONG" "PARTS;TIMEOUT" "SOURCES;LIBRARIES;COMMAND" ${ARGN})
   set(labels fast)
   foreach(kind GUI DATABASE DISPLAY)
     if(ARG_${kind})
@@ -87,7 +87,8 @@ function(melvark_command_test name)
 endfunction()
 
 # One test program: melvark_test(name SOURCES files... LIBRARIES targets... [DISPLAY] [DATABASE] [GUI] [LONG]
-# [TIMEOUT seconds]). One with GUI or DISPLAY has a main of its own from tests/support (GuiMain.cpp).
+# [PARTS n] [TIMEOUT seconds]). One with GUI or DISPLAY has a main of its own from tests/support (GuiMain.cpp).
+# PARTS: one with DISPLAY runs in so many parts at once, each on a display of its own.
 # The target tests_without_display builds all that need no display, tests_fast what ./test --fast runs.
 function(melvark_test target)
   melvark_parse_test(${ARGN})
@@ -102,7 +103,9 @@ function(melvark_test target)
   else()
     target_link_libraries(${target} PRIVATE GTest::gmock GTest::gtest GTest::gtest_main)
   endif()
-  if(ARG_DISPLAY)
+  if(ARG_PARTS)
+    add_test(NAME ${target} COMMAND ${PROJECT_SOURCE_DIR}/tests/run-on-displays ${ARG_PARTS} $<TARGET_FILE:${target}>)
+  elseif(ARG_DISPLAY)
     add_test(NAME ${target} COMMAND ${PROJECT_SOURCE_DIR}/tests/run-on-display $<TARGET_FILE:${target}>)
   else()
     add_test(NAME ${target} COMMAND ${target})
