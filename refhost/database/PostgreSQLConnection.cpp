@@ -137,7 +137,7 @@ const PostgreSQLProcedure& PostgreSQLConnection::procedure(const AnsiString& nam
 }
 
 TProcedureInfo PostgreSQLConnection::Describe(const AnsiString& name) {
-    if (!rows_.isOpen()) { // else the caller is about to send a row or to close the save
+    if (!saveRole(name).FailureRefusesStaging) { // else the caller is about to go on with a save, which a new link ends
         restoreLink();
     }
     return procedure(name).info();

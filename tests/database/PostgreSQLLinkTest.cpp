@@ -65,6 +65,28 @@ TEST(PostgreSQLLink, ASaveIsNotCarriedOnInANewSession) {
     EXPECT_EQ(rowsOf(*database, "select count(*) from DODAKPOL"), "1");
 }
 
+/// Whoever calls a procedure asks first what it declares.
+TEST(PostgreSQLLink, ALinkThatIsLostBeforeTheFirstRowIsNotOpenedAnewForIt) {
+    const ServerCompany company;
+    const auto database = company.open();
+    const auto row = serverCall("MELVARKEDITORDodakInsertToTemp", {{"a_SKLADPOL", "Mléko"}, {"a_MNOZSTVI", "1"}});
+    const auto call = [&](const TProcedureCall& procedure) {
+        database->Describe(procedure.Name);
+        database->Execute(procedure);
+    };
+    call(serverCall("MELVARKEDITORResetTemp"));
+    call(row);
+    call(serverCall("MELVARKEDITORResetTemp"));
+    company.cutLinks();
+
+    EXPECT_EQ(failure([&] { call(row); }).Code(), "ML916");
+    EXPECT_EQ(failure([&] { call(row); }).Code(), "ML916") << "no new session, in which no save was begun";
+    call(serverCall("MELVARKEDITORResetTemp"));
+    call(row);
+    call(serverCall("MELVARKEDITORDodakTempUloz", {{"a_DODKID", std::int64_t{1}}}));
+    EXPECT_EQ(rowsOf(*database, "select count(*) from DODAKPOL"), "1");
+}
+
 /// A minute of a real session is a moment here.
 TEST(PostgreSQLLink, WhoStopsInTheMiddleOfACallLosesHisLocksAndBeginsAnew) {
     const ServerCompany company;
