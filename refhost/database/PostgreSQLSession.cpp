@@ -1,5 +1,6 @@
 #include "refhost/database/PostgreSQLSession.h"
 
+#include "host/ValueText.h"
 #include "refhost/database/ParameterValues.h"
 #include "refhost/database/PostgreSQLErrors.h"
 #include "refhost/database/RefusalTable.h"
@@ -8,6 +9,7 @@
 #include <array>
 #include <chrono>
 #include <new>
+#include <optional>
 #include <poll.h>
 #include <vector>
 
@@ -18,7 +20,9 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr milliseconds c_OpeningTime{10000};
+constexpr std::chrono::seconds c_OpeningTime{10};
+/// In seconds, for each server of an address that names several, unless the address says otherwise.
+constexpr const char* c_TimeOfEach = "5";
 
 /// What every session needs beside the user's formats: unqualified names are the company's, another user's save is
 /// waited for as long as on the embedded engine, a program that stops in the middle of a call loses its locks after a
@@ -51,6 +55,19 @@ std::string addressWord(const PQconninfoOption* options, std::string_view keywor
         }
     }
     return {};
+}
+
+/// How long each server of the address may take when it names several; nothing when it names one.
+std::optional<std::chrono::seconds> timeOfEach(PGconn* connection) {
+    const std::unique_ptr<PQconninfoOption, PostgreSQLDeleter> options(PQconninfo(connection));
+    if (!options) {
+        throw std::bad_alloc();
+    }
+    const std::string servers = addressWord(options.get(), "host") + addressWord(options.get(), "hostaddr");
+    if (servers.find(',') == std::string::npos) {
+        return std::nullopt;
+    }
+    return std::chrono::seconds(TextToInt(addressWord(options.get(), "connect_timeout")).value_or(0));
 }
 
 /// Waits until the link can be read or written; false when the time is over.
@@ -145,9 +162,14 @@ std::string PostgreSQLSession::place() const {
 
 void PostgreSQLSession::open() {
     // Words of the address come after ours and win. An idle link that is cut is noticed within a minute or two.
-    constexpr std::array<const char*, 6> c_Words{"application_name", "keepalives_idle", "keepalives_interval",
-                                                 "dbname",           "client_encoding", nullptr};
-    const std::array<const char*, 6> values{"melvark", "30", "10", address_.c_str(), "UTF8", nullptr};
+    constexpr std::array<const char*, 7> c_Words{"application_name",
+                                                 "keepalives_idle",
+                                                 "keepalives_interval",
+                                                 "connect_timeout",
+                                                 "dbname",
+                                                 "client_encoding",
+                                                 nullptr};
+    const std::array<const char*, 7> values{"melvark", "30", "10", c_TimeOfEach, address_.c_str(), "UTF8", nullptr};
     prepared_.clear();
     handle_.reset(PQconnectStartParams(c_Words.data(), values.data(), 1));
     if (!handle_) {
@@ -156,11 +178,19 @@ void PostgreSQLSession::open() {
     // With all its words, among which is the server's code: an opening that fails leaves nothing else.
     PQsetErrorVerbosity(handle(), PQERRORS_VERBOSE);
 
-    const auto deadline = steady_clock::now() + c_OpeningTime;
+    const auto time = timeOfEach(handle());
+    const auto deadline = steady_clock::now() + time.value_or(c_OpeningTime);
+    bool isTimeOver = false;
     PostgresPollingStatusType status =
         PQstatus(handle()) == CONNECTION_BAD ? PGRES_POLLING_FAILED : PGRES_POLLING_WRITING;
     while (status != PGRES_POLLING_OK && status != PGRES_POLLING_FAILED) {
-        status = waitForLink(handle(), status, deadline) ? PQconnectPoll(handle()) : PGRES_POLLING_FAILED;
+        isTimeOver = !waitForLink(handle(), status, deadline);
+        status = isTimeOver ? PGRES_POLLING_FAILED : PQconnectPoll(handle());
+    }
+    if (isTimeOver && time) {
+        // One that never answers hides those behind it. This way each has its time, though a refusal has no code.
+        handle_.reset(PQconnectdbParams(c_Words.data(), values.data(), 1));
+        status = PQstatus(handle()) == CONNECTION_OK ? PGRES_POLLING_OK : PGRES_POLLING_FAILED;
     }
     if (status == PGRES_POLLING_FAILED) {
         const char* host = PQhost(handle());
@@ -169,6 +199,7 @@ void PostgreSQLSession::open() {
         }
         throw openingError(PQerrorMessage(handle()), database_, host == nullptr ? "" : host);
     }
+    PQsetErrorVerbosity(handle(), PQERRORS_VERBOSE);
     setUp();
 }
 

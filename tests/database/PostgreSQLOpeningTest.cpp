@@ -1,9 +1,12 @@
 #include "refhost/database/Databases.h"
 #include "tests/database/PrivateServer.h"
 #include "tests/database/ServerCompany.h"
+#include "tests/database/UnixLink.h"
+#include "tests/support/TemporaryFolder.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace refhost {
 namespace {
@@ -22,6 +25,18 @@ TEST(PostgreSQLOpening, AServerThatDoesNotRunIsNamed) {
     const EDatabaseError error = openingFailure("host=/nonexistent dbname=x user=y");
     EXPECT_EQ(error.Code(), "ML916");
     EXPECT_EQ(error.Message(), "Server databáze „/nonexistent“ není dostupný. Zkontrolujte jeho adresu a zda běží.");
+}
+
+/// A machine that is gone refuses nothing.
+TEST(PostgreSQLOpening, AServerThatNeverAnswersDoesNotHideTheOneBehindItInTheList) {
+    const ServerCompany company;
+    const TemporaryFolder silent("silent");
+    const int listening = listenIn(silent.path());
+    std::string address = PrivateServer::instance().address(company.name(), "postgres") + " connect_timeout=2";
+    address.insert(address.find("host=") + 5, silent.path().string() + ",");
+    PostgreSQLConnection database(address, TFormatSettings::Czech());
+    EXPECT_EQ(rowsOf(database, "select 1"), "1");
+    close(listening);
 }
 
 TEST(PostgreSQLOpening, AnAddressThatIsNoneIsRefusedWithoutItsPassword) {
