@@ -105,7 +105,8 @@ TCallResult IdentifiedSaves::Execute(const TProcedureCall& call) {
     const Call known = callOf(call.Name);
     switch (known.Is) {
     case Step::Begin:
-        areIdentified(); // asked while no save is under way
+        database_.Describe(call.Name); // opens a lost link anew, which the next question must not
+        areIdentified();               // asked while no save is under way
         sent_.reset();
         break;
     case Step::Row:

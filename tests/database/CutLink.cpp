@@ -3,14 +3,13 @@
 #include "tests/database/UnixLink.h"
 
 #include <algorithm>
+#include <string_view>
 #include <unistd.h>
 
 namespace refhost {
 
-CutLink::CutLink(const std::filesystem::path& serverFolder, std::string statement)
-    : statement_(std::move(statement)),
-      listening_(listenIn(folder())),
-      thread_([this, serverFolder] { serve(serverFolder); }) {}
+CutLink::CutLink(const std::filesystem::path& serverFolder)
+    : listening_(listenIn(folder())), thread_([this, serverFolder] { serve(serverFolder); }) {}
 
 CutLink::~CutLink() {
     isEnding_ = true;
@@ -37,12 +36,14 @@ void CutLink::serve(const std::filesystem::path& serverFolder) {
 
 // The client waits for the statement to be prepared before it calls it, so the two never come together.
 bool CutLink::isCutAt(const std::vector<char>& asked) {
-    if (isPrepared_) {
+    const bool isLastBunch = place_ != At::Nowhere && bunchesLeft_ > 0 && --bunchesLeft_ == 0;
+    if (isPrepared_ || isLastBunch) {
         isPrepared_ = false;
         isCalled_ = place_ == At::Answer;
         return place_ == At::Request;
     }
-    isPrepared_ = place_ != At::Nowhere && !std::ranges::search(asked, statement_).empty();
+    isPrepared_ =
+        place_ != At::Nowhere && bunchesLeft_ == 0 && !std::ranges::search(asked, std::string_view(statement_)).empty();
     return false;
 }
 

@@ -17,9 +17,8 @@ class CutLink {
 public:
     enum class At { Nowhere, Request, Answer };
 
-    /// `serverFolder` holds the server's socket. The call is that of the statement in which `statement` stands when it
-    /// is prepared.
-    CutLink(const std::filesystem::path& serverFolder, std::string statement);
+    /// `serverFolder` holds the server's socket.
+    explicit CutLink(const std::filesystem::path& serverFolder);
     CutLink(const CutLink&) = delete;
     CutLink& operator=(const CutLink&) = delete;
     ~CutLink();
@@ -27,8 +26,17 @@ public:
     /// What a client gives as its host.
     const std::filesystem::path& folder() const { return folder_.path(); }
 
-    /// From now on, the next call for which the statement is prepared is the one.
-    void cut(At place) { place_ = place; }
+    /// The call is the first one of the statement in which `statement` stands when it is prepared from now on.
+    void cut(At place, const char* statement) {
+        statement_ = statement;
+        place_ = place;
+    }
+    /// The call is the bunch of bytes that the client sends as the so many-th from now on.
+    void cutAtBunch(At place, int bunch) {
+        bunchesLeft_ = bunch;
+        place_ = place;
+    }
+    void leaveAlone() { place_ = At::Nowhere; }
     /// Whether the link was cut since.
     bool isCut() const { return place_ == At::Nowhere; }
 
@@ -39,9 +47,10 @@ private:
     bool isCutAt(const std::vector<char>& asked);
 
     TemporaryFolder folder_{"cut-link"};
-    std::string statement_;
+    std::atomic<const char*> statement_{""};
     int listening_;
     std::atomic<At> place_{At::Nowhere};
+    std::atomic<int> bunchesLeft_{0}; ///< 0 when a statement is waited for.
     std::atomic<bool> isEnding_{false};
     bool isPrepared_ = false; ///< The next bytes of the client are the call.
     bool isCalled_ = false;
