@@ -1,0 +1,241 @@
+#include "tests/refhost/SaveSweep.h"
+
+#include "host/Exceptions.h"
+#include "refhost/IdentifiedSaves.h"
+#include "refhost/database/PostgreSQLSession.h"
+#include "tests/database/ContractCompany.h"
+#include "tests/database/CutLink.h"
+#include "tests/database/PrivateServer.h"
+#include "tests/refhost/UnansweredDatabase.h"
+
+#include <chrono>
+#include <csignal>
+#include <future>
+#include <random>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace refhost {
+
+namespace {
+
+/// So often presses a clerk OK before he gives up.
+constexpr int c_MostTries = 500;
+
+/// A connection whose program is killed at one of its calls.
+class KilledDatabase : public UnansweredDatabase {
+public:
+    KilledDatabase(Database& database, int call, bool isBefore)
+        : UnansweredDatabase(database), left_(call), isBefore_(isBefore) {}
+
+    TCallResult Execute(const TProcedureCall& call) override {
+        const bool isTheOne = --left_ == 0;
+        if (isTheOne && isBefore_) {
+            raise(SIGKILL);
+        }
+        TCallResult result = UnansweredDatabase::Execute(call);
+        if (isTheOne) {
+            raise(SIGKILL);
+        }
+        return result;
+    }
+
+private:
+    int left_;
+    bool isBefore_;
+};
+
+/// A company whose open note takes the saves, each with a quantity of its own.
+class Sweep {
+public:
+    Sweep(Engine engine, int rows) : rows_(rows), url_(newDatabaseUrl(engine)) {
+        addContractCompany(*openAs(url_, "novakova"));
+    }
+
+    const std::string& url() const { return url_; }
+    std::string folder() const { return state_.path() / "saves"; }
+
+    /// The module's calls of a save.
+    void save(IdentifiedSaves& program) const {
+        program.Execute({"MELVARKEDITORResetTemp", {}, false});
+        for (int row = 0; row < rows_; ++row) {
+            program.Execute(
+                {"MELVARKEDITORDodakInsertToTemp",
+                 {{"a_SKLADPOL", AnsiString("Sirup")}, {"a_MNOZSTVI", AnsiString(std::to_string(quantity_))}},
+                 false});
+        }
+        program.Execute({"MELVARKEDITORDodakTempUloz", {{"a_DODKID", std::int64_t{c_OpenNote}}}, false});
+    }
+    /// Presses OK until the save is acknowledged; false when it never is.
+    bool saveAgainAndAgain(IdentifiedSaves& program) const {
+        for (int attempt = 0; attempt < c_MostTries; ++attempt) {
+            try {
+                save(program);
+                return true;
+            } catch (const EDatabaseError&) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(10));
+            }
+        }
+        return false;
+    }
+    /// The next point has the next quantity.
+    void begin() {
+        ++quantity_;
+        ++result_.Points;
+    }
+    void expect(bool isRight, const std::string& point, const std::string& what) {
+        if (!isRight) {
+            result_.Wrong.push_back(point + " of " + std::to_string(rows_) + " rows: " + what);
+        }
+    }
+    int stored(Database& database) const {
+        const auto table = database.Query("select count(*) from DODAKPOL where DODKID = 2 and PORADI > 1 and "
+                                          "MNOZSTVI = '" +
+                                          std::to_string(quantity_) + "'");
+        return static_cast<int>(std::get<std::int64_t>(table.Rows.front().front()));
+    }
+    void expectOldOrNew(Database& database, const std::string& point) {
+        const int lines = stored(database);
+        expect(lines == 0 || lines == rows_, point, std::to_string(lines) + " lines after the break");
+    }
+    void expectNew(Database& database, const std::string& point) {
+        expect(stored(database) == rows_, point, std::to_string(stored(database)) + " lines in the end");
+    }
+    SweepResult result() const { return result_; }
+
+private:
+    const TemporaryFolder state_{"save-sweep"};
+    int rows_;
+    std::string url_;
+    int quantity_ = 0;
+    SweepResult result_;
+};
+
+/// In a process of its own: false when that was not killed.
+bool isKilledSaving(const Sweep& sweep, int call, bool isBefore) {
+    const pid_t child = fork();
+    if (child == 0) {
+        const auto database = openAs(sweep.url(), "novakova");
+        KilledDatabase killed(*database, call, isBefore);
+        IdentifiedSaves program(killed, sweep.folder());
+        sweep.save(program);
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+}
+
+bool mayBeTakenUp(IdentifiedSaves& program) {
+    const TCallResult answer =
+        program.Execute({"MELVARKEDITORDodakObnovData", {{"a_DODKID", std::int64_t{c_OpenNote}}}, false});
+    return std::get<std::int64_t>(answer.Outputs.front().Value) == 1;
+}
+
+PostgreSQLSession administratorOf(const std::string& url) {
+    return PostgreSQLSession(url.substr(std::string_view("postgresql:").size()) + " user=postgres", TFormatSettings{});
+}
+
+/// The tests' server is set up for speed; here it has to behave as a server of people.
+void keepWhatIsAcknowledged(const std::string& url) {
+    PostgreSQLSession administrator = administratorOf(url);
+    administrator.execute("alter database " + administrator.database() + " set synchronous_commit = on");
+    administrator.execute("checkpoint");
+}
+
+/// Kills the server's process of a clerk, if there is one.
+void crashServer(const std::string& url, std::chrono::microseconds after) {
+    std::this_thread::sleep_for(after);
+    PostgreSQLSession administrator = administratorOf(url);
+    const PostgreSQLResult found = administrator.execute("select pid from pg_stat_activity where usename = 'novakova' "
+                                                         "and datname = current_database() limit 1");
+    if (PQntuples(found.get()) == 1) {
+        kill(std::stoi(PQgetvalue(found.get(), 0, 0)), SIGKILL);
+    }
+}
+
+} // namespace
+
+SweepResult sweepKills(Engine engine, int rows) {
+    Sweep sweep(engine, rows);
+    openAs(sweep.url(), "novakova"); // his role is made before the processes divide
+    const int calls = rows + 3;      // the emptying, the identity and the closing call
+    for (int call = 1; call <= calls; ++call) {
+        for (const bool isBefore : {true, false}) {
+            const std::string point =
+                engineName(engine) + ", killed " + (isBefore ? "before" : "after") + " call " + std::to_string(call);
+            sweep.begin();
+            sweep.expect(isKilledSaving(sweep, call, isBefore), point, "it was not killed");
+            const auto database = openAs(sweep.url(), "novakova");
+            sweep.expectOldOrNew(*database, point);
+            IdentifiedSaves program(*database, sweep.folder());
+            if (mayBeTakenUp(program)) {
+                sweep.expect(sweep.saveAgainAndAgain(program), point, "never saved");
+            }
+            sweep.expectNew(*database, point);
+        }
+    }
+    return sweep.result();
+}
+
+SweepResult sweepCuts(int rows) {
+    Sweep sweep(Engine::PostgreSQL, rows);
+    const std::string server = PrivateServer::instance().folder();
+    CutLink link(server);
+    std::string address = sweep.url();
+    address.replace(address.find(server), server.size(), link.folder());
+    const auto observer = openAs(sweep.url(), "svoboda");
+    for (const CutLink::At place : {CutLink::At::Request, CutLink::At::Answer}) {
+        bool isCut = true;
+        for (int bunch = 1; isCut; ++bunch) {
+            const std::string point = std::string("the link cut at ") +
+                                      (place == CutLink::At::Request ? "request " : "answer ") + std::to_string(bunch);
+            const auto database = openAs(address, "novakova");
+            IdentifiedSaves program(*database, sweep.folder());
+            sweep.begin();
+            link.cutAtBunch(place, bunch);
+            try {
+                sweep.save(program);
+            } catch (const EDatabaseError&) {
+                sweep.expectOldOrNew(*observer, point);
+            }
+            isCut = link.isCut();
+            link.leaveAlone();
+            if (isCut) {
+                sweep.expect(sweep.saveAgainAndAgain(program), point, "never saved");
+            }
+            sweep.expectNew(*observer, point);
+        }
+    }
+    return sweep.result();
+}
+
+SweepResult sweepServerCrashes(int rows, int moments, unsigned seed) {
+    Sweep sweep(Engine::PostgreSQL, rows);
+    keepWhatIsAcknowledged(sweep.url());
+    std::mt19937 random(seed);
+    std::uniform_int_distribution<int> microseconds(0, 100 * rows);
+    for (int moment = 0; moment < moments; ++moment) {
+        const auto database = openAs(sweep.url(), "novakova");
+        IdentifiedSaves program(*database, sweep.folder());
+        const std::chrono::microseconds after(microseconds(random));
+        const std::string point = "the server crashed after " + std::to_string(after.count()) + " microseconds";
+        sweep.begin();
+        auto crash = std::async(std::launch::async, [&] { crashServer(sweep.url(), after); });
+        const bool isSaved = sweep.saveAgainAndAgain(program);
+        crash.get();
+        sweep.expect(isSaved, point, "never saved");
+        for (int attempt = 0; attempt < c_MostTries; ++attempt) { // a crash may have come after the save
+            try {
+                sweep.expectNew(*openAs(sweep.url(), "novakova"), point);
+                break;
+            } catch (const EDatabaseError&) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(10));
+            }
+        }
+    }
+    return sweep.result();
+}
+
+} // namespace refhost
