@@ -1,0 +1,78 @@
+#include "tests/refhost/StandbyPair.h"
+
+#include "refhost/database/Databases.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+#include <unistd.h>
+
+namespace refhost {
+
+namespace {
+
+constexpr const char* c_First = "first";
+constexpr const char* c_Second = "second";
+
+} // namespace
+
+StandbyPair::StandbyPair() {
+    std::filesystem::permissions(folder_.path(), std::filesystem::perms(0755)); // the servers' user has to pass
+    run("start '" + folderOf(c_First) + "' --standby '" + folderOf(c_Second) + "' --without-fsync --until-exit-of " +
+        std::to_string(getpid()));
+    const auto database = open();
+    database->createSchema();
+    database->runScript("insert into SKLAD (NAZEV) values ('Hlavní sklad');"
+                        "insert into DODAVATEL (JMENO) values ('Mlékárna');"
+                        "insert into DPH (NAZEV, SAZBA, PLATIOD) values ('12 %', 12, '2024-01-01');"
+                        "insert into SKUPSPOL1 (NAZEV) values ('Potraviny');"
+                        "insert into SKUPSPOL2 (SSP1ID, NAZEV) values (1, 'Mléčné výrobky');"
+                        "insert into SKUPSPOL3 (SSP2ID, NAZEV) values (1, 'Mléka');"
+                        "insert into SKLADPOL (NAZEV, SSP3ID, DPHID) values ('Mléko', 1, 1);"
+                        "insert into SKPL (SKLPID, PORADI, NAZEV, FAKTOR) values (1, 0, 'ks', 1);"
+                        "insert into DODAK (CISLO, DATUM, DODVID, SKLDID) values ('DL1', '2026-03-10', 1, 1)");
+}
+
+StandbyPair::~StandbyPair() {
+    try {
+        run("stop '" + folderOf(c_Second) + "'");
+        if (hasFirst_) {
+            run("stop '" + folderOf(c_First) + "'");
+        }
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+    }
+}
+
+std::string StandbyPair::address() const {
+    return "postgresql:host=" + folderOf(c_First) + "," + folderOf(c_Second) +
+           " dbname=postgres user=postgres target_session_attrs=read-write";
+}
+
+std::unique_ptr<Database> StandbyPair::open() const {
+    return openDatabase(address(), {}, TFormatSettings::Czech(), OpenMode::Existing);
+}
+
+void StandbyPair::killFirst() {
+    pid_t server = 0;
+    std::ifstream(folderOf(c_First) + "/data/postmaster.pid") >> server;
+    if (server <= 0 || kill(server, SIGKILL) != 0) {
+        throw std::runtime_error("the first server is not there");
+    }
+    hasFirst_ = false;
+}
+
+void StandbyPair::promoteSecond() const {
+    run("promote '" + folderOf(c_Second) + "'");
+}
+
+void StandbyPair::run(const std::string& command) const {
+    const std::string line = "'" MELVARK_SOURCE_DIR "/packaging/private-server' " + command + " >/dev/null";
+    if (std::system(line.c_str()) != 0) {
+        throw std::runtime_error("failed: " + line);
+    }
+}
+
+} // namespace refhost
