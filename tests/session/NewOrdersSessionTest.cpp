@@ -1,6 +1,6 @@
 #include "refhost/CommandLine.h"
 #include "refhost/Languages.h"
-#include "refhost/Trace.h"
+#include "refhost/RunRecords.h"
 #include "refhost/WindowedHost.h"
 #include "tests/database/ContractCompany.h"
 #include "tests/database/Engines.h"
@@ -134,9 +134,9 @@ Told fillFromTheTemplate(Database& database, const TFormatSettings& settings, co
     database.runScript("insert into DODOBJPOL (ID, DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI) "
                        "values (703, 7, 3, 4, 41, 1, 3, '2')");
     const refhost::Languages languages(words.Language);
-    refhost::Trace trace;
     const refhost::CommandLine commandLine{};
-    refhost::WindowedHost host(commandLine, database, settings, languages, trace);
+    refhost::RunRecords records(commandLine);
+    refhost::WindowedHost host(commandLine, database, settings, languages, records);
 
     Told told;
     Clerk clerk;
