@@ -51,9 +51,8 @@ HostSession::HostSession() : HostSession(std::string()) {
 HostSession::HostSession(std::string database, QString user) : database_(std::move(database)), user_(std::move(user)) {
     host_.setProcessChannelMode(QProcess::SeparateChannels);
     // How one session leaves the window, and what it reports, is nothing to the next one.
-    environment_.insert(QStringLiteral("HOME"), folder_.path());
-    environment_.insert(QStringLiteral("XDG_CONFIG_HOME"), folder_.path());
-    host_.setProcessEnvironment(environment_);
+    own_.insert(QStringLiteral("HOME"), folder_.path());
+    own_.insert(QStringLiteral("XDG_CONFIG_HOME"), folder_.path());
 }
 
 HostSession::~HostSession() {
@@ -69,11 +68,17 @@ QStringList HostSession::withDatabase(const QStringList& arguments) const {
 }
 
 void HostSession::useDisplay(const QString& name) {
-    environment_.insert(QStringLiteral("DISPLAY"), name);
-    host_.setProcessEnvironment(environment_);
+    own_.insert(QStringLiteral("DISPLAY"), name);
+}
+
+QProcessEnvironment HostSession::environment() const {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(own_);
+    return environment;
 }
 
 void HostSession::start(const QStringList& arguments) {
+    host_.setProcessEnvironment(environment());
     host_.start(
         hostProgram(),
         withDatabase(QStringList{QStringLiteral("--trace"), folder_.filePath(QStringLiteral("trace"))} + arguments));
@@ -107,7 +112,7 @@ bool HostSession::isRunning() const {
 
 void HostSession::runTool(const QStringList& arguments) const {
     QProcess tool;
-    tool.setProcessEnvironment(environment_);
+    tool.setProcessEnvironment(environment());
     tool.start(QStringLiteral("xdotool"), arguments);
     if (!tool.waitForFinished(c_LimitMs) || tool.exitCode() != 0) {
         fail(QStringLiteral("xdotool ") + arguments.join(u' ') + QStringLiteral(": ") +
@@ -174,7 +179,7 @@ void HostSession::waitForWindowWidth(int width) {
     const QByteArray wanted = "WIDTH=" + QByteArray::number(width) + '\n';
     const auto isSo = [&] {
         QProcess tool;
-        tool.setProcessEnvironment(environment_);
+        tool.setProcessEnvironment(environment());
         tool.start(QStringLiteral("xdotool"),
                    {QStringLiteral("getactivewindow"), QStringLiteral("getwindowgeometry"), QStringLiteral("--shell")});
         tool.waitForFinished(c_LimitMs);
@@ -187,7 +192,7 @@ void HostSession::waitForWindowWidth(int width) {
 
 QStringList HostSession::visibleWindows() const {
     QProcess tool;
-    tool.setProcessEnvironment(environment_);
+    tool.setProcessEnvironment(environment());
     tool.start(QStringLiteral("xdotool"),
                {QStringLiteral("search"), QStringLiteral("--onlyvisible"), QStringLiteral("--pid"),
                 QString::number(host_.processId()), QStringLiteral("--name"), QString()});

@@ -80,6 +80,8 @@ public:
 
 private:
     QStringList withDatabase(const QStringList& arguments) const;
+    /// The test's, as it is at this moment, with what is the session's own.
+    QProcessEnvironment environment() const;
     void runTool(const QStringList& arguments) const;
     /// Runs the input tool on the active window, whose place is its first argument.
     void runToolAt(QPoint place, const QStringList& arguments) const;
@@ -90,8 +92,8 @@ private:
     QTemporaryDir folder_;
     std::string database_;
     QString user_;
-    QProcessEnvironment environment_ = QProcessEnvironment::systemEnvironment();
-    QStringList menu_; ///< The windows of the menu that was opened last.
+    QProcessEnvironment own_; ///< What the session sets beside the test's environment.
+    QStringList menu_;        ///< The windows of the menu that was opened last.
     QProcess host_;
     std::string standardError_;
 };
