@@ -140,6 +140,34 @@ TEST_F(DeletedPicture, ADraggedWidthIsTheOnlyOneThatIsKept) {
     EXPECT_EQ(grid().ColWidths(c_PriceCol), 80) << "66 was the deleted layout's";
 }
 
+TEST_F(DeletedPicture, AnOpenValueGoesToItsPicturedColumnBeforeADraggedWidthIsKept) {
+    start();
+    choose(item(3));
+    openCell(1, 2);
+    type(QStringLiteral("77"));
+    deleteSetting();
+    grid().horizontalHeader()->resizeSection(3, 131); // POCET
+    Q_EMIT grid().MouseUp(4, 0);
+    settle();
+    EXPECT_EQ(stored(6, 1), "77") << "the price";
+    EXPECT_EQ(rowText(0), c_BuiltInTitles);
+    EXPECT_EQ(grid().ColWidths(c_CountCol), 130);
+}
+
+TEST_F(DeletedPicture, ADraggedWidthOverARefusedValueIsReportedOnceAndThePictureStays) {
+    start();
+    choose(item(3));
+    openCell(1, 2);
+    type(QStringLiteral("x"));
+    deleteSetting();
+    grid().horizontalHeader()->resizeSection(3, 131);
+    Q_EMIT grid().MouseUp(4, 0);
+    settle();
+    EXPECT_THAT(manager.boxes(), ElementsAre("36: Smazat zvolené nastavení?", "16: Hodnota x není desetinné číslo"));
+    EXPECT_EQ(rowText(0), "Kč|Sleva|Název|Počet|Datum|Sklad|Kód|Poznámka|Typ");
+    EXPECT_EQ(sharedEdit().text(), QStringLiteral("x"));
+}
+
 TEST_F(DeletedPicture, ADragOverARefusedValueIsReportedOnce) {
     start();
     choose(item(3));
