@@ -20,7 +20,8 @@ namespace melvark {
 /// directory or another user's file under one of the names is left as it is.
 ///
 /// Content that the object finds is replaced, set aside and removed only after the system has given it to a reader:
-/// what cannot be had now may be all that is left of a day's work.
+/// what cannot be had now may be all that is left of a day's work. A copy that stands beside it is older and goes with
+/// it unread.
 class KeptFile {
 public:
     /// `path` is absolute. Nothing is touched yet.
