@@ -209,6 +209,7 @@ bool IdentifiedSaves::cameBefore(const SaveMark& mark) {
     if (come->mark().Content != mark.Content) {
         throw refusal("ML058");
     }
+    database_.Execute(callAboutSave(c_MarkSaveProcedure, {})); // other work on this document may be taken up
     come->settle();
     unknown_.erase(come);
     return true;

@@ -112,6 +112,7 @@ TEST_P(IdentifiedSavesTest, AfterALostAnswerTheSameRowsAreDoneAndStandThereOnce)
     EXPECT_EQ(save("2"), "");
     EXPECT_EQ(added(), "2");
     EXPECT_EQ(files(), 0U);
+    EXPECT_EQ(mayWorkBeTakenUp(), "a_OBNOVDATA = 1") << "other work on it may be";
     EXPECT_EQ(save("2"), "") << "and the next save is one of its own";
     EXPECT_EQ(added(), "2\n2");
 }
