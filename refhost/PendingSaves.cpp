@@ -1,5 +1,7 @@
 #include "refhost/PendingSaves.h"
 
+#include "refhost/database/SaveIdentity.h"
+
 #include <QDir>
 
 #include <array>
@@ -91,18 +93,23 @@ PendingSave PendingSaves::keep(SaveMark mark) const {
 
 std::vector<PendingSave> PendingSaves::leftBehind(const std::string& place) const {
     std::vector<PendingSave> found;
-    std::error_code none;
-    for (const auto& entry : std::filesystem::directory_iterator(folder_, none)) {
-        const int descriptor = open(entry.path().c_str(), O_RDWR | c_Guarded);
+    std::error_code refused; // what a folder does not tell is not there
+    for (std::filesystem::directory_iterator entry(folder_, refused), end; !refused && entry != end;
+         entry.increment(refused)) {
+        const std::filesystem::path& path = entry->path();
+        if (path.extension() != c_Ending || !isSaveIdentity(path.stem().native())) {
+            continue; // somebody's copy, perhaps
+        }
+        const int descriptor = open(path.c_str(), O_RDWR | c_Guarded);
         if (descriptor < 0) {
             continue;
         }
-        PendingSave pending({.Identity = entry.path().stem(), .Place = {}, .Content = {}});
-        pending.path_ = entry.path();
+        PendingSave pending({.Identity = path.stem(), .Place = {}, .Content = {}});
+        pending.path_ = path;
         pending.file_.reset(fdopen(descriptor, "r+"));
         struct stat status {};
         // One that was settled between its opening and its lock has no name any more.
-        const bool isLeft = entry.path().extension() == c_Ending && flock(descriptor, LOCK_EX | LOCK_NB) == 0 &&
+        const bool isLeft = pending.file_ && flock(descriptor, LOCK_EX | LOCK_NB) == 0 &&
                             fstat(descriptor, &status) == 0 && isOwn(status, S_IFREG) && status.st_nlink == 1;
         if (!isLeft || readLine(pending.file_.get()) + "\n" != c_Heading) {
             continue;

@@ -3,6 +3,7 @@
 #include "host/Connection.h"
 
 #include <string>
+#include <string_view>
 
 namespace refhost {
 
@@ -12,6 +13,9 @@ inline constexpr const char* c_AskAboutSaveProcedure = "MELVARKEDITORUlozeniOver
 
 /// 32 hexadecimal digits that no other save has.
 std::string newSaveIdentity();
+
+/// Whether the text is of the form of one.
+bool isSaveIdentity(std::string_view text);
 
 /// The call of one of them; null is no identity.
 TProcedureCall callAboutSave(const char* procedure, TDbValue identity);

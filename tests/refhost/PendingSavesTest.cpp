@@ -66,6 +66,12 @@ TEST_F(PendingSavesFolder, OneThatIsNotWholeBelongsToACallThatWasNeverSent) {
     EXPECT_THAT(PendingSaves(folder()).leftBehind("here"), IsEmpty());
 }
 
+TEST_F(PendingSavesFolder, ACopyUnderAnotherNameIsNoSave) {
+    leave(mark("here"));
+    std::filesystem::rename(fileOf(mark("here")), folder() + "/" + std::string(32, 'a') + " (copy).save");
+    EXPECT_THAT(PendingSaves(folder()).leftBehind("here"), IsEmpty());
+}
+
 TEST_F(PendingSavesFolder, ALinkIsNotFollowed) {
     leave(mark("here"));
     const std::string elsewhere = temporary_.path() / "elsewhere";
