@@ -161,15 +161,13 @@ std::string PostgreSQLSession::place() const {
 }
 
 void PostgreSQLSession::open() {
-    // Words of the address come after ours and win. An idle link that is cut is noticed within a minute or two.
-    constexpr std::array<const char*, 7> c_Words{"application_name",
-                                                 "keepalives_idle",
-                                                 "keepalives_interval",
-                                                 "connect_timeout",
-                                                 "dbname",
-                                                 "client_encoding",
-                                                 nullptr};
-    const std::array<const char*, 7> values{"melvark", "30", "10", c_TimeOfEach, address_.c_str(), "UTF8", nullptr};
+    // Words of the address come after ours and win. A link that is cut is noticed within a minute or two, whether it
+    // was idle or something had been sent.
+    constexpr std::array<const char*, 8> c_Words{
+        "application_name", "keepalives_idle", "keepalives_interval", "tcp_user_timeout",
+        "connect_timeout",  "dbname",          "client_encoding",     nullptr};
+    const std::array<const char*, 8> values{"melvark",        "30",   "10",   "60000", c_TimeOfEach,
+                                            address_.c_str(), "UTF8", nullptr};
     prepared_.clear();
     handle_.reset(PQconnectStartParams(c_Words.data(), values.data(), 1));
     if (!handle_) {
