@@ -3,6 +3,7 @@
 #include "host/Exceptions.h"
 #include "refhost/CommandLine.h"
 #include "refhost/RecentCalls.h"
+#include "refhost/database/RefusalTable.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -43,9 +44,15 @@ std::string versions() {
 /// Writes the whole text into a file that was not there before.
 bool writeNew(const QString& path, const std::string& text) {
     QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner) &&
-           file.write(text.data(), static_cast<qint64>(text.size())) == static_cast<qint64>(text.size()) &&
-           file.flush();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFileDevice::ReadOwner | QFileDevice::WriteOwner)) {
+        return false; // perhaps somebody else's by now
+    }
+    const auto size = static_cast<qint64>(text.size());
+    if (file.write(text.data(), size) != size || !file.flush()) {
+        file.remove();
+        return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -80,10 +87,9 @@ std::string writeProblemReport(const std::string& folder, const std::string& rep
         if (writeNew(path, report)) {
             return path.toStdString();
         }
-        QFile::remove(path);
         break;
     }
-    throw EInOutError("Hlášení o chybě nelze zapsat do složky „" + folder + "“.");
+    throw refusal("ML936", {folder}, {}, TDatabaseCause::Failure);
 }
 
 } // namespace refhost

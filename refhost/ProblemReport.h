@@ -24,7 +24,7 @@ std::string problemReport(const ProblemFacts& facts);
 std::string reportFolder();
 
 /// Puts the report into a new file of the folder that only its owner can read, and returns the file's path. Throws
-/// EInOutError naming the folder when that fails.
+/// the refusal ML936, which names the folder, when that fails.
 std::string writeProblemReport(const std::string& folder, const std::string& report);
 
 } // namespace refhost

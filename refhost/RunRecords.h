@@ -16,7 +16,7 @@ struct ErrorReport;
 /// one, and the last calls for a report on a problem, which never hold a value.
 class RunRecords {
 public:
-    /// Opens the trace. Throws EInOutError when that fails.
+    /// Opens the trace. Throws the refusal ML935 when that fails.
     explicit RunRecords(const CommandLine& commandLine);
     RunRecords(const RunRecords&) = delete;
     RunRecords& operator=(const RunRecords&) = delete;

@@ -475,5 +475,9 @@
         <source>Soubor pro záznam volání „%1“ nelze otevřít k zápisu. Zkontrolujte oprávnění ke složce.</source>
         <translation>The file “%1” for the trace of the calls cannot be opened for writing. Check the permissions of the folder.</translation>
     </message>
+    <message id="MELVARKHOST\REFUSAL\ML936">
+        <source>Hlášení o chybě nelze zapsat do složky „%1“. Zkontrolujte místo na disku a oprávnění ke složce.</source>
+        <translation>The report on the problem cannot be written to the folder “%1”. Check the space on the disk and the permissions of the folder.</translation>
+    </message>
 </context>
 </TS>

@@ -84,8 +84,9 @@ TEST(ProblemReport, AFolderThatTakesNoneIsNamed) {
     try {
         writeProblemReport("/proc", "one\n");
         FAIL() << "written";
-    } catch (const EInOutError& error) {
-        EXPECT_EQ(error.Message(), "Hlášení o chybě nelze zapsat do složky „/proc“.");
+    } catch (const EDatabaseError& error) {
+        EXPECT_EQ(error.Code(), "ML936");
+        EXPECT_THAT(error.Message(), StartsWith("Hlášení o chybě nelze zapsat do složky „/proc“."));
     }
 }
 
