@@ -57,7 +57,11 @@ void writeAll(int file, const std::string& text) {
 } // namespace
 
 LogFile::LogFile(std::string path, LogLimits limits, std::ostream& errors)
-    : path_(std::filesystem::absolute(path).string()), limits_(limits), errors_(errors) {
+    : path_(std::move(path)), limits_(limits), errors_(errors) {
+    std::error_code refused; // where there is no current directory, a relative name cannot be opened either
+    if (const auto whole = std::filesystem::absolute(path_, refused); !refused) {
+        path_ = whole.string();
+    }
     write({});
 }
 
