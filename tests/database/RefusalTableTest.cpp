@@ -117,7 +117,7 @@ TEST(RefusalTable, IsTheOnlyPlaceOfItsSentences) {
 /// Nobody makes an error of the database or of a file without the table, but who passes on what the server itself said.
 /// Other classes are about a start that has no language yet and about lines that a script was given.
 TEST(RefusalTable, IsAskedForEveryErrorOfTheProgram) {
-    static const std::regex made("\\bE(Database|InOut)Error[({]\\s*\"");
+    static const std::regex made("\\b(EDatabaseError|EInOutError)[({]\\s*\"");
     const std::string text = programText();
     std::smatch found;
     EXPECT_FALSE(std::regex_search(text, found, made)) << found.str();
