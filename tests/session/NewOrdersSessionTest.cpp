@@ -129,12 +129,13 @@ struct Told {
 };
 
 /// OBJ-1 is filled from the template VZ-1, whose third line is of a third supplier, and saved.
-Told fillFromTheTemplate(Database& database, const TFormatSettings& settings, const SessionWords& words,
-                         const std::function<void()>& beforeTheSave) {
+Told fillFromTheTemplate(const std::string& url, Database& database, const TFormatSettings& settings,
+                         const SessionWords& words, const std::function<void()>& beforeTheSave) {
     database.runScript("insert into DODOBJPOL (ID, DDOBID, PORADI, SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI) "
                        "values (703, 7, 3, 4, 41, 1, 3, '2')");
     const refhost::Languages languages(words.Language);
-    const refhost::CommandLine commandLine{};
+    refhost::CommandLine commandLine{};
+    commandLine.database = url;
     refhost::RunRecords records(commandLine);
     refhost::WindowedHost host(commandLine, database, settings, languages, records);
 
@@ -180,7 +181,7 @@ protected:
     NewOrdersSession() { refhost::addContractCompany(*database_); }
 
     Told fillInCzech(const std::function<void()>& beforeTheSave) const {
-        return fillFromTheTemplate(*database_, TFormatSettings::Czech(), c_Czech, beforeTheSave);
+        return fillFromTheTemplate(url_, *database_, TFormatSettings::Czech(), c_Czech, beforeTheSave);
     }
 
     const std::string url_ = refhost::newDatabaseUrl(GetParam());
@@ -198,7 +199,7 @@ TEST_P(NewOrdersSession, OfThreeSuppliersAreNamedInTheStatusLineAndAnotherClerks
 TEST_P(NewOrdersSession, AreNamedInEnglish) {
     const TFormatSettings settings = TFormatSettings::English();
     const auto english = refhost::openAs(url_, "novakova", settings);
-    const Told told = fillFromTheTemplate(*english, settings, c_English, [] {});
+    const Told told = fillFromTheTemplate(url_, *english, settings, c_English, [] {});
     EXPECT_EQ(told.Status, QStringLiteral("New documents: OV2026-000011, OV2026-000012"));
     EXPECT_EQ(newOrders(*database_), 2U);
 }
