@@ -2,6 +2,7 @@
 
 #include "refhost/CommandLine.h"
 #include "refhost/Json.h"
+#include "refhost/OwnFolder.h"
 
 #include <QSettings>
 #include <QStandardPaths>
@@ -20,12 +21,6 @@ QString homeFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::HomeLocation);
 }
 
-/// The user's directory for the state of programs, of which Qt's own list of places knows nothing yet.
-QString stateFolder() {
-    const QString folder = qEnvironmentVariable("XDG_STATE_HOME");
-    return folder.startsWith(u'/') ? folder : homeFolder() + QStringLiteral("/.local/state");
-}
-
 /// A setting serves all users, so that "~/" is the home of each of them.
 std::string filed(const QString& named) {
     if (named.isEmpty()) {
@@ -37,7 +32,7 @@ std::string filed(const QString& named) {
 } // namespace
 
 std::string defaultLogFile() {
-    return (stateFolder() + QStringLiteral("/melvark/host.log")).toStdString();
+    return stateFolder() + "/host.log";
 }
 
 std::optional<LogChoice> chosenLog(const CommandLine& commandLine) {

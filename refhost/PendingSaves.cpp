@@ -1,8 +1,7 @@
 #include "refhost/PendingSaves.h"
 
+#include "refhost/OwnFolder.h"
 #include "refhost/database/SaveIdentity.h"
-
-#include <QDir>
 
 #include <array>
 #include <fcntl.h>
@@ -63,9 +62,7 @@ void PendingSave::settle() noexcept {
 }
 
 bool PendingSaves::makeFolder() const {
-    std::error_code refused; // then the folder is missing
-    std::filesystem::create_directories(std::filesystem::path(folder_).parent_path(), refused);
-    mkdir(folder_.c_str(), S_IRWXU);
+    makeOwnFolder(folder_);
     struct stat found {};
     return lstat(folder_.c_str(), &found) == 0 && isOwn(found, S_IFDIR);
 }
@@ -124,9 +121,7 @@ std::vector<PendingSave> PendingSaves::leftBehind(const std::string& place) cons
 }
 
 std::string pendingSavesFolder(const std::string& databaseDigest) {
-    const QString state = qEnvironmentVariable("XDG_STATE_HOME");
-    const QString base = QDir::isAbsolutePath(state) ? state : QDir::homePath() + QStringLiteral("/.local/state");
-    return base.toStdString() + "/melvark/saves-" + databaseDigest;
+    return stateFolder() + "/saves-" + databaseDigest;
 }
 
 } // namespace refhost
