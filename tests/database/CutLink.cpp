@@ -9,29 +9,14 @@
 namespace refhost {
 
 CutLink::CutLink(const std::filesystem::path& serverFolder)
-    : listening_(listenIn(folder())), thread_([this, serverFolder] { serve(serverFolder); }) {}
+    : listening_(listenIn(folder())), thread_([this, serverFolder] {
+          serveClients(listening_, serverFolder, isEnding_, [this](int client, int server) { carry(client, server); });
+      }) {}
 
 CutLink::~CutLink() {
     isEnding_ = true;
     thread_.join();
     close(listening_);
-}
-
-void CutLink::serve(const std::filesystem::path& serverFolder) {
-    while (!isEnding_) {
-        const int client = acceptAt(listening_);
-        if (client < 0) {
-            continue;
-        }
-        const int server = connectTo(serverFolder);
-        if (server >= 0) {
-            isPrepared_ = false;
-            isCalled_ = false;
-            carry(client, server);
-            close(server);
-        }
-        close(client);
-    }
 }
 
 // The client waits for the statement to be prepared before it calls it, so the two never come together.
@@ -48,6 +33,8 @@ bool CutLink::isCutAt(const std::vector<char>& asked) {
 }
 
 void CutLink::carry(int client, int server) {
+    isPrepared_ = false;
+    isCalled_ = false;
     std::vector<char> asked;
     std::vector<char> answered;
     while (!isEnding_) {

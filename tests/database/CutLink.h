@@ -41,7 +41,6 @@ public:
     bool isCut() const { return place_ == At::Nowhere; }
 
 private:
-    void serve(const std::filesystem::path& serverFolder);
     void carry(int client, int server);
     /// Whether the link has to end before these bytes of the client go on.
     bool isCutAt(const std::vector<char>& asked);

@@ -8,27 +8,14 @@
 namespace refhost {
 
 LongLink::LongLink(const std::filesystem::path& serverFolder)
-    : listening_(listenIn(folder())), thread_([this, serverFolder] { serve(serverFolder); }) {}
+    : listening_(listenIn(folder())), thread_([this, serverFolder] {
+          serveClients(listening_, serverFolder, isEnding_, [this](int client, int server) { carry(client, server); });
+      }) {}
 
 LongLink::~LongLink() {
     isEnding_ = true;
     thread_.join();
     close(listening_);
-}
-
-void LongLink::serve(const std::filesystem::path& serverFolder) {
-    while (!isEnding_) {
-        const int client = acceptAt(listening_);
-        if (client < 0) {
-            continue;
-        }
-        const int server = connectTo(serverFolder);
-        if (server >= 0) {
-            carry(client, server);
-            close(server);
-        }
-        close(client);
-    }
 }
 
 void LongLink::carry(int client, int server) {

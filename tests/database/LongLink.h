@@ -25,7 +25,6 @@ public:
     int turns() const { return turns_; }
 
 private:
-    void serve(const std::filesystem::path& serverFolder);
     void carry(int client, int server);
 
     TemporaryFolder folder_{"link"};

@@ -1,5 +1,6 @@
 #include "tests/database/ServerCompany.h"
 
+#include "tests/database/OneItemRows.h"
 #include "tests/database/PrivateServer.h"
 
 #include <chrono>
@@ -22,16 +23,10 @@ std::string text(const TDbValue& value) {
 } // namespace
 
 ServerCompany::ServerCompany() : name_(PrivateServer::instance().newDatabase()) {
-    open()->runScript("insert into SKLAD (NAZEV) values ('Hlavní sklad');"
-                      "insert into DODAVATEL (JMENO) values ('Mlékárna');"
-                      "insert into DPH (NAZEV, SAZBA, PLATIOD) values ('12 %', 12, '2024-01-01');"
-                      "insert into SKUPSPOL1 (NAZEV) values ('Potraviny');"
-                      "insert into SKUPSPOL2 (SSP1ID, NAZEV) values (1, 'Mléčné výrobky');"
-                      "insert into SKUPSPOL3 (SSP2ID, NAZEV) values (1, 'Mléka');"
-                      "insert into SKLADPOL (NAZEV, SSP3ID, DPHID) values ('Mléko', 1, 1);"
-                      "insert into SKPL (SKLPID, PORADI, NAZEV, FAKTOR) values (1, 0, 'ks', 1);"
-                      "insert into DODAK (CISLO, DATUM, DODVID, SKLDID)"
-                      "values ('DL1', '2026-03-10', 1, 1), ('DL2', '2026-03-10', 1, 1)");
+    const auto database = open();
+    database->runScript(c_OneItemRows);
+    database->runScript("insert into DODAK (CISLO, DATUM, DODVID, SKLDID)"
+                        "values ('DL1', '2026-03-10', 1, 1), ('DL2', '2026-03-10', 1, 1)");
 }
 
 std::unique_ptr<PostgreSQLConnection> ServerCompany::openWith(const TFormatSettings& settings) const {

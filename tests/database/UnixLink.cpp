@@ -62,6 +62,22 @@ int connectTo(const std::filesystem::path& folder) {
     return server;
 }
 
+void serveClients(int listening, const std::filesystem::path& serverFolder, const std::atomic<bool>& isEnding,
+                  const std::function<void(int client, int server)>& carry) {
+    while (!isEnding) {
+        const int client = acceptAt(listening);
+        if (client < 0) {
+            continue;
+        }
+        const int server = connectTo(serverFolder);
+        if (server >= 0) {
+            carry(client, server);
+            close(server);
+        }
+        close(client);
+    }
+}
+
 LinkSides awaitSides(int first, bool firstTakes, int second, bool secondTakes) {
     pollfd sides[] = {{first, wanted(firstTakes), 0}, {second, wanted(secondTakes), 0}};
     const bool isSilent = poll(sides, 2, c_Silence) == 0;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <atomic>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -15,6 +17,10 @@ int listenIn(const std::filesystem::path& folder);
 int acceptAt(int listening);
 /// A link to the server of the folder; -1 when there is none.
 int connectTo(const std::filesystem::path& folder);
+
+/// Serves one client after the other until it is told to end: `carry` has each with a link to the server of the folder.
+void serveClients(int listening, const std::filesystem::path& serverFolder, const std::atomic<bool>& isEnding,
+                  const std::function<void(int client, int server)>& carry);
 
 /// Waits a while for bytes of either side, and for room on a side that has to take some; false when nothing happens.
 struct LinkSides {

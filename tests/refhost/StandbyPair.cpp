@@ -1,6 +1,7 @@
 #include "tests/refhost/StandbyPair.h"
 
 #include "refhost/database/Databases.h"
+#include "tests/database/OneItemRows.h"
 
 #include <csignal>
 #include <cstdio>
@@ -24,15 +25,8 @@ StandbyPair::StandbyPair() {
         std::to_string(getpid()));
     const auto database = open();
     database->createSchema();
-    database->runScript("insert into SKLAD (NAZEV) values ('Hlavní sklad');"
-                        "insert into DODAVATEL (JMENO) values ('Mlékárna');"
-                        "insert into DPH (NAZEV, SAZBA, PLATIOD) values ('12 %', 12, '2024-01-01');"
-                        "insert into SKUPSPOL1 (NAZEV) values ('Potraviny');"
-                        "insert into SKUPSPOL2 (SSP1ID, NAZEV) values (1, 'Mléčné výrobky');"
-                        "insert into SKUPSPOL3 (SSP2ID, NAZEV) values (1, 'Mléka');"
-                        "insert into SKLADPOL (NAZEV, SSP3ID, DPHID) values ('Mléko', 1, 1);"
-                        "insert into SKPL (SKLPID, PORADI, NAZEV, FAKTOR) values (1, 0, 'ks', 1);"
-                        "insert into DODAK (CISLO, DATUM, DODVID, SKLDID) values ('DL1', '2026-03-10', 1, 1)");
+    database->runScript(c_OneItemRows);
+    database->runScript("insert into DODAK (CISLO, DATUM, DODVID, SKLDID) values ('DL1', '2026-03-10', 1, 1)");
 }
 
 StandbyPair::~StandbyPair() {
