@@ -27,6 +27,15 @@ std::string noteLines(const std::string& condition) {
            condition;
 }
 
+/// The joins of what an order's line names beside its item.
+std::string supplierAndUnits(const std::string& supplier) {
+    return "left join DODAVATEL v on v.ID = " + supplier +
+           ".DODVID "
+           "left join SKPL hl on hl.SKLPID = i.ID and hl.PORADI = 0 "
+           "left join SKPL v1 on v1.SKLPID = i.ID and v1.PORADI = 1 "
+           "left join SKPL v2 on v2.SKLPID = i.ID and v2.PORADI = 2 ";
+}
+
 /// Lines as they are stored, for the order $1: 16 columns. `supplier` is what their supplier comes from.
 std::string orderLines(const std::string& lines, const std::string& supplier, const std::string& remarks) {
     return "select g1.NAZEV, g2.NAZEV, g3.NAZEV, i.NAZEV, s.NAZEV, v.JMENO, p.MNOZSTVI, hl.NAZEV, hl.ID, v1.NAZEV, "
@@ -34,13 +43,8 @@ std::string orderLines(const std::string& lines, const std::string& supplier, co
            remarks + ", p.PORADI from " + lines +
            " join DODOBJEDNAVKA o on o.ID = $1 join SKLADPOL i on i.ID = p.SKLPID "
            "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
-           "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID "
-           "left join DODAVATEL v on v.ID = " +
-           supplier +
-           ".DODVID "
-           "left join SKPL hl on hl.SKLPID = i.ID and hl.PORADI = 0 "
-           "left join SKPL v1 on v1.SKLPID = i.ID and v1.PORADI = 1 "
-           "left join SKPL v2 on v2.SKLPID = i.ID and v2.PORADI = 2 ";
+           "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = p.SKLDID " +
+           supplierAndUnits(supplier);
 }
 
 /// Items as the order $1 takes them, likewise.
@@ -50,13 +54,8 @@ std::string orderItems(const std::string& items, const std::string& supplier) {
            items +
            " join DODOBJEDNAVKA o on o.ID = $1 "
            "join SKUPSPOL3 g3 on g3.ID = i.SSP3ID join SKUPSPOL2 g2 on g2.ID = g3.SSP2ID "
-           "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = o.SKLDID "
-           "left join DODAVATEL v on v.ID = " +
-           supplier +
-           ".DODVID "
-           "left join SKPL hl on hl.SKLPID = i.ID and hl.PORADI = 0 "
-           "left join SKPL v1 on v1.SKLPID = i.ID and v1.PORADI = 1 "
-           "left join SKPL v2 on v2.SKLPID = i.ID and v2.PORADI = 2 ";
+           "join SKUPSPOL1 g1 on g1.ID = g2.SSP1ID join SKLAD s on s.ID = o.SKLDID " +
+           supplierAndUnits(supplier);
 }
 
 /// Of the lines p, one for each item of the three documents that come first.
