@@ -1,10 +1,11 @@
 #include "editwin/AutosavePlace.h"
 
+#include "host/StateFolder.h"
+
 #include <QCryptographicHash>
 
 #include <cstdlib>
 #include <filesystem>
-#include <pwd.h>
 #include <string_view>
 #include <unistd.h>
 
@@ -47,29 +48,12 @@ AnsiString Digest(const AnsiString& text) {
     return QCryptographicHash::hash(QByteArray::fromStdString(text), QCryptographicHash::Sha256).toHex().toStdString();
 }
 
-/// The variable's value when it is an absolute path; the desktop's rule is to pass over others.
-std::filesystem::path PathFrom(const char* variable) {
-    const char* const value = std::getenv(variable);
-    std::filesystem::path path = value ? value : "";
-    return path.is_absolute() ? path : std::filesystem::path();
-}
-
-std::filesystem::path Home() {
-    const std::filesystem::path home = PathFrom("HOME");
-    if (!home.empty()) {
-        return home;
-    }
-    const passwd* const user = getpwuid(geteuid());
-    return user ? user->pw_dir : "/";
-}
-
 std::filesystem::path Base() {
     const char* const temporary = std::getenv("TMPDIR");
     if (temporary && *temporary != '\0') {
         return std::filesystem::absolute(temporary);
     }
-    const std::filesystem::path state = PathFrom("XDG_STATE_HOME");
-    return (state.empty() ? Home() / ".local" / "state" : state) / "melvark";
+    return StateFolder();
 }
 
 } // namespace

@@ -1,8 +1,8 @@
 #include "refhost/LogChoice.h"
 
+#include "host/StateFolder.h"
 #include "refhost/CommandLine.h"
 #include "refhost/Json.h"
-#include "refhost/OwnFolder.h"
 
 #include <QSettings>
 #include <QStandardPaths>
@@ -32,7 +32,7 @@ std::string filed(const QString& named) {
 } // namespace
 
 std::string defaultLogFile() {
-    return stateFolder() + "/host.log";
+    return melvark::StateFolder() + "/host.log";
 }
 
 std::optional<LogChoice> chosenLog(const CommandLine& commandLine) {

@@ -1,16 +1,11 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 
 namespace refhost {
 
 /// Makes the folder and those above it; the folder is its owner's alone when it is new. One that cannot be made is no
 /// error here: what is to lie in it is refused with a sentence.
 void makeOwnFolder(const std::filesystem::path& folder);
-
-/// Melvark's folder in the user's directory for the state of programs, of which Qt's own list of places knows nothing
-/// yet.
-std::string stateFolder();
 
 } // namespace refhost

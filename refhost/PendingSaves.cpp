@@ -1,5 +1,6 @@
 #include "refhost/PendingSaves.h"
 
+#include "host/StateFolder.h"
 #include "refhost/OwnFolder.h"
 #include "refhost/database/SaveIdentity.h"
 
@@ -121,7 +122,7 @@ std::vector<PendingSave> PendingSaves::leftBehind(const std::string& place) cons
 }
 
 std::string pendingSavesFolder(const std::string& databaseDigest) {
-    return stateFolder() + "/saves-" + databaseDigest;
+    return melvark::StateFolder() + "/saves-" + databaseDigest;
 }
 
 } // namespace refhost
