@@ -2,9 +2,9 @@
 
 #include "host/StateFolder.h"
 #include "refhost/CommandLine.h"
+#include "refhost/HostSettings.h"
 #include "refhost/Json.h"
 
-#include <QSettings>
 #include <QStandardPaths>
 
 #include <array>
@@ -36,8 +36,7 @@ std::string defaultLogFile() {
 }
 
 std::optional<LogChoice> chosenLog(const CommandLine& commandLine) {
-    const QSettings settings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("melvark"),
-                             QStringLiteral("host"));
+    const HostSettings settings;
     const bool isWithValues = commandLine.logValues || settings.value(QStringLiteral("log/values")).toBool();
     const Values values = isWithValues ? Values::Shown : Values::Hidden;
     if (!commandLine.logFile.empty()) {

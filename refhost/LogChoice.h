@@ -18,8 +18,8 @@ struct LogChoice {
     bool operator==(const LogChoice&) const = default;
 };
 
-/// The log that the command line asks for, else the settings of the user or of the system: the group "log" of
-/// melvark/host.conf in the configuration directories, with "enabled", "file" and "values". Nothing when neither does.
+/// The log that the command line asks for, else the settings: the group "log" of HostSettings, with "enabled", "file"
+/// and "values". Nothing when neither does.
 std::optional<LogChoice> chosenLog(const CommandLine& commandLine);
 
 /// Where the log lies when the settings name no other place: in the user's directory for the state of programs.

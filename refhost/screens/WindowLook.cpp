@@ -1,6 +1,7 @@
 #include "refhost/screens/WindowLook.h"
 
 #include "host/ValueText.h"
+#include "refhost/HostSettings.h"
 #include "refhost/OwnFolder.h"
 #include "refhost/screens/Screens.h"
 
@@ -14,8 +15,7 @@ namespace refhost {
 
 namespace {
 
-/// More than this is no file of ours, and more pixels than this no table.
-constexpr qint64 c_largestFile = 65536;
+/// More pixels than this are no table.
 constexpr int c_mostPixels = 20000;
 
 const QString c_descending = QStringLiteral("descending");
@@ -114,9 +114,7 @@ std::string windowLookFile() {
 
 WindowLook readWindowLook(const std::string& file) {
     const QString path = QString::fromStdString(file);
-    const QFileInfo info(path);
-    // Reading a pipe would wait for somebody to write into it.
-    if (!info.isFile() || info.size() > c_largestFile) {
+    if (!isSettingsFile(path)) {
         return {};
     }
     QSettings settings(path, QSettings::IniFormat);
