@@ -167,8 +167,8 @@ private:
             ->option_text("FILE")
             ->check(anyText());
         addTextOption(app_, "--log", result_.logFile,
-                      "appends the same without values, with the time, to a log that is\nrotated; only its owner can "
-                      "read it")
+                      "appends the same without values, with the time, and the calls of\ncommands, to a log that is "
+                      "rotated; only its owner can read it")
             ->option_text("FILE")
             ->check(anyText());
     }

@@ -8,6 +8,7 @@
 #include "refhost/Palette.h"
 #include "refhost/ProgramStyle.h"
 #include "refhost/RunRecords.h"
+#include "refhost/TracingConnection.h"
 #include "refhost/WindowedHost.h"
 #include "refhost/commands/DataCommands.h"
 #include "refhost/database/SchemaVersion.h"
@@ -34,9 +35,6 @@ std::string upgradeNote(const UpgradeReport& report, const Languages& languages)
 }
 
 int runInWindows(const CommandLine& commandLine, const Languages& languages, RunRecords& records) {
-    if (const auto log = chosenLog(commandLine)) {
-        records.startLog(*log);
-    }
     const TFormatSettings settings = formatSettingsOf(commandLine.locale);
     std::string note;
     const auto database = openCompanyDatabase(
@@ -63,7 +61,7 @@ std::string upgradeJson(const UpgradeReport& report) {
         .text();
 }
 
-void runWithoutWindows(const CommandLine& commandLine, const Languages& languages) {
+void runWithoutWindows(const CommandLine& commandLine, const Languages& languages, RunRecords& records) {
     const TFormatSettings settings = formatSettingsOf(commandLine.locale);
     if (commandLine.command == Command::CreateDatabase) {
         createCompanyDatabase(commandLine, settings);
@@ -76,11 +74,10 @@ void runWithoutWindows(const CommandLine& commandLine, const Languages& language
     const auto database = openCompanyDatabase(commandLine, settings, [&](const UpgradeReport& report) {
         std::cerr << upgradeNote(report, languages) << '\n';
     });
-    runDataCommand(commandLine, {.connection = *database,
-                                 .settings = settings,
-                                 .languages = languages,
-                                 .input = std::cin,
-                                 .output = std::cout});
+    TracingConnection logged(*database, records.commands());
+    runDataCommand(
+        commandLine,
+        {.connection = logged, .settings = settings, .languages = languages, .input = std::cin, .output = std::cout});
 }
 
 /// A host that cannot even open was started by a click as often as from a terminal, so that it says why in both places.
@@ -102,10 +99,13 @@ int runCommand(const CommandLine& commandLine, const Languages& languages) {
     std::optional<RunRecords> records;
     try {
         records.emplace(commandLine);
+        if (const auto log = chosenLog(commandLine)) {
+            records->startLog(*log);
+        }
         if (hasWindows(commandLine.command)) {
             return runInWindows(commandLine, languages, *records);
         }
-        runWithoutWindows(commandLine, languages);
+        runWithoutWindows(commandLine, languages, *records);
         return 0;
     } catch (...) {
         return reportFailure(commandLine, languages, records ? &*records : nullptr);

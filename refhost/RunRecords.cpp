@@ -28,9 +28,11 @@ RunRecords::RunRecords(const CommandLine& commandLine)
 void RunRecords::startLog(const LogChoice& choice) {
     log_.emplace(choice.file, LogLimits{}, std::cerr);
     log_->write(stampedLine().add("started", programVersion()).add("values", choice.values == Values::Shown).text());
-    trace_.addRecord({.write = [this](const std::string& line) { log_->write(line); },
-                      .values = choice.values,
-                      .stamp = stampLogLine});
+    const TraceRecord logRecord{.write = [this](const std::string& line) { log_->write(line); },
+                                .values = choice.values,
+                                .stamp = stampLogLine};
+    trace_.addRecord(logRecord);
+    commands_.addRecord(logRecord);
 }
 
 void RunRecords::failed(const ErrorReport& report) {

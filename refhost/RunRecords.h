@@ -24,7 +24,10 @@ public:
     /// Begins the log with the program's version; one that cannot be written is told on the standard error output.
     void startLog(const LogChoice& choice);
 
+    /// What a module asks the host for.
     Trace& trace() { return trace_; }
+    /// What a command without windows asks the database for. That is no call of a module: only the log has it.
+    Trace& commands() { return commands_; }
     const RecentCalls& recentCalls() const { return recentCalls_; }
     bool hasLog() const { return log_.has_value(); }
 
@@ -35,6 +38,7 @@ private:
     RecentCalls recentCalls_;
     std::optional<LogFile> log_;
     Trace trace_;
+    Trace commands_;
 };
 
 } // namespace refhost

@@ -264,4 +264,31 @@ TEST_F(ProgramTest, ATraceFileThatCannotBeOpenedStopsTheProgramBeforeItWorks) {
     EXPECT_THAT(outcome.errors, HasSubstr("no-folder/trace.jsonl"));
 }
 
+TEST_F(ProgramTest, ACommandWithoutWindowsLogsItsCallsAndWhatEndedIt) {
+    const QString path = file(QStringLiteral("host.log"));
+    const Outcome outcome = run({QStringLiteral("--log"), path, QStringLiteral("--call"),
+                                 QStringLiteral("MELVARKEDITORDodakCheckMaster"), QStringLiteral("a_DODKID=999999")});
+
+    EXPECT_EQ(outcome.status, 2);
+    QFile log(path);
+    ASSERT_TRUE(log.open(QFile::ReadOnly)) << outcome.errors;
+    const QList<QByteArray> lines = log.readAll().split('\n');
+    ASSERT_EQ(lines.size(), 4) << "started, called, failed, and the last line's end";
+    EXPECT_THAT(lines[0].toStdString(), HasSubstr("\"started\":"));
+    const QJsonObject call = QJsonDocument::fromJson(lines[1]).object();
+    EXPECT_EQ(call.value(u"call").toString(), QStringLiteral("MELVARKEDITORDodakCheckMaster"));
+    EXPECT_TRUE(call.value(u"ms").isDouble());
+    EXPECT_THAT(call.value(u"error").toString().toStdString(), StartsWith("ML"));
+    EXPECT_EQ(QJsonDocument::fromJson(lines[2]).object().value(u"failed"), call.value(u"error"));
+    EXPECT_FALSE(lines.join().contains("999999"));
+}
+
+TEST_F(ProgramTest, ALogThatCannotBeWrittenChangesNothingOfWhatACommandPrints) {
+    const QStringList command{QStringLiteral("--query"), QStringLiteral("select 1 as A")};
+    const Outcome outcome = run(QStringList{QStringLiteral("--log"), folder_->path()} + command); // a folder is no log
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.output, run(command).output);
+    EXPECT_THAT(outcome.errors, HasSubstr("Work goes on without it."));
+}
+
 } // namespace

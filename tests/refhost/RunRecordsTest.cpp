@@ -65,6 +65,19 @@ TEST_F(RunRecordsTest, TheLastCallsHideValuesAlsoWhenTheLogMayShowThem) {
     EXPECT_THAT(recent(records), ElementsAre(R"({"message":null,"style":""})"));
 }
 
+TEST_F(RunRecordsTest, WhatACommandAsksForIsInTheLogAloneAndNotInTheTraceOfAModule) {
+    CommandLine commandLine;
+    commandLine.traceFile = path("trace");
+    RunRecords records(commandLine);
+    records.startLog({.file = path("log"), .values = Values::Hidden});
+
+    records.commands().error("Doklad DL1 je uzavřen.", "ML001");
+
+    EXPECT_THAT(linesOf("trace"), ElementsAre());
+    EXPECT_THAT(linesOf("log"), ElementsAre(StartsWith(R"({"started":)"), R"({"error":"ML001"})"));
+    EXPECT_THAT(recent(records), ElementsAre());
+}
+
 TEST_F(RunRecordsTest, WhatEndedTheRunIsInTheLogByItsCodeAndNotInTheTrace) {
     CommandLine commandLine;
     commandLine.traceFile = path("trace");
