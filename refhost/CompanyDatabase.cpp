@@ -85,14 +85,6 @@ UpgradeReport upgradeCompanyDatabase(const CommandLine& commandLine) {
     return upgradeDatabase(urlOf(commandLine));
 }
 
-std::string engineLabel(Database& database, const CompanyOptions& options) {
-    const bool isFile = urlOf(options).starts_with(c_fileScheme);
-    const TResultTable version = database.Query(isFile ? "select sqlite_version() as VERZE"
-                                                       : "select current_setting('server_version') as VERZE");
-    const auto* const text = std::get_if<AnsiString>(&version.Rows.at(0).at(0));
-    return std::string(isFile ? "SQLite " : "PostgreSQL ") + (text == nullptr ? "?" : *text);
-}
-
 std::string databaseLabel(const CompanyOptions& options) {
     const std::string url = urlOf(options);
     if (url.starts_with(c_fileScheme)) {

@@ -30,9 +30,6 @@ void createCompanyDatabase(const CommandLine& commandLine, const TFormatSettings
 /// Brings the database to this program's version. Throws EDatabaseError with nothing changed.
 UpgradeReport upgradeCompanyDatabase(const CommandLine& commandLine);
 
-/// The engine of the database and its version.
-std::string engineLabel(Database& database, const CompanyOptions& options);
-
 /// The database as people call it: the file's path, or the server's connection words without a password.
 std::string databaseLabel(const CompanyOptions& options);
 

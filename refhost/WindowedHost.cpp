@@ -31,7 +31,7 @@ WindowedHost::WindowedHost(const CommandLine& commandLine, Database& database, c
       settings_(settings),
       languages_(languages),
       records_(records),
-      engine_(engineLabel(database, commandLine)),
+      engine_(database.engine()),
       errors_(languages, [this] { writeReport(); }),
       saves_(database, pendingSavesFolder(databaseDigest(database.address()))),
       services_({.connection = saves_,

@@ -48,7 +48,7 @@ private:
     TFormatSettings settings_;
     const Languages& languages_;
     RunRecords& records_;
-    std::string engine_; ///< Asked for while the database answers.
+    std::string engine_; ///< Asked for while the server is there.
     DialogErrorDisplay errors_;
     IdentifiedSaves saves_;
     HostApplication services_;

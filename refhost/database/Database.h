@@ -57,6 +57,9 @@ public:
     /// user and password. A server's is that of the words, so that a company that moves between servers of one list
     /// keeps it.
     virtual std::string address() const = 0;
+
+    /// The engine and its version ("SQLite 3.40.1"), as whoever looks for the cause of a problem wants to know it.
+    virtual std::string engine() const = 0;
 };
 
 /// Refuses a query that is not one reading statement.

@@ -38,6 +38,7 @@ public:
     void runBuiltInScript(std::string_view path) override;
     const std::string& user() const override { return session_.user(); }
     std::string address() const override { return "postgresql:" + session_.place(); }
+    std::string engine() const override { return "PostgreSQL " + session_.version(); }
 
 private:
     const PostgreSQLProcedure& procedure(const AnsiString& name);

@@ -160,6 +160,11 @@ std::string PostgreSQLSession::place() const {
     return place + database_;
 }
 
+std::string PostgreSQLSession::version() const {
+    const char* const version = PQparameterStatus(handle(), "server_version");
+    return version ? version : "?";
+}
+
 void PostgreSQLSession::open() {
     // Words of the address come after ours and win. A link that is cut is noticed within a minute or two, whether it
     // was idle or something had been sent.

@@ -29,6 +29,8 @@ public:
     const std::string& user() const { return user_; }
     /// The server, its port and the database, as the words of the address or their defaults have them.
     std::string place() const;
+    /// The server's version, as it said when the session was opened; "?" when the link has been lost for good.
+    std::string version() const;
 
     /// Whether another program has said on the channel of upgrades that it upgraded the database since this session was
     /// opened. Asks nothing of the server.

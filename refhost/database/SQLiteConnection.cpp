@@ -168,6 +168,10 @@ std::string SQLiteConnection::address() const {
     return "sqlite:" + (unresolved ? session_.file() : file.string());
 }
 
+std::string SQLiteConnection::engine() const {
+    return std::string("SQLite ") + sqlite3_libversion();
+}
+
 SQLiteProcedure& SQLiteConnection::procedure(const AnsiString& name) {
     const std::string key = melvark::LowerAscii(name);
     if (const auto prepared = procedures_.find(key); prepared != procedures_.end()) {

@@ -43,6 +43,7 @@ public:
     void runBuiltInScript(std::string_view path) override;
     const std::string& user() const override { return session_.user(); }
     std::string address() const override;
+    std::string engine() const override;
 
     /// The script of a procedure, prepared on this file. Throws EDatabaseError like Describe.
     const SqlScript& script(const AnsiString& name) { return procedure(name).script(); }

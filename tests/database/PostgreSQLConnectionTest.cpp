@@ -17,6 +17,13 @@ TEST(PostgreSQLConnection, TheUserIsTheConnectingRole) {
     EXPECT_EQ(std::get<AnsiString>(result.Sets[0].Rows.at(0).at(0)), "dvorak");
 }
 
+TEST(PostgreSQLConnection, TellsTheServersVersion) {
+    const ServerCompany company;
+    const auto database = company.open();
+    const TResultTable version = database->Query("select current_setting('server_version') as VERZE");
+    EXPECT_EQ(database->engine(), "PostgreSQL " + std::get<AnsiString>(version.Rows.at(0).at(0)));
+}
+
 TEST(PostgreSQLConnection, FetchesAllResultSetsInsideTheCall) {
     const ServerCompany company;
     const auto database = company.open();

@@ -23,6 +23,13 @@ TEST(SQLiteConnection, EveryProcedureIsPreparedAndDeclaresItsParametersAndResult
     EXPECT_EQ(procedures, 43);
 }
 
+TEST(SQLiteConnection, TellsTheEnginesVersion) {
+    const SQLiteFile file;
+    const auto database = file.createCompany();
+    const TResultTable version = database->Query("select sqlite_version() as VERZE");
+    EXPECT_EQ(database->engine(), "SQLite " + std::get<AnsiString>(version.Rows.at(0).at(0)));
+}
+
 TEST(SQLiteConnection, NamesOfProceduresAndParametersAreMatchedInAnyCase) {
     const SQLiteFile file;
     const auto database = file.createCompany();

@@ -41,6 +41,7 @@ public:
     void runBuiltInScript(std::string_view path) override { database_.runBuiltInScript(path); }
     const std::string& user() const override { return database_.user(); }
     std::string address() const override { return database_.address(); }
+    std::string engine() const override { return database_.engine(); }
 
 private:
     Database& database_;
