@@ -11,7 +11,7 @@
 /// The default columns of a document's lines as data: a table of rows and the one function that makes columns of them.
 namespace melvark {
 
-/// One default column. `Bindings` is what the editor ties its columns to: a structure whose members are the choice
+/// One default column. `Bindings` is what the editor binds its columns to: a structure whose members are the choice
 /// lists, the callbacks and the flags that rows name.
 template <class Bindings>
 struct ColumnRow {
@@ -26,9 +26,9 @@ struct ColumnRow {
     int Width = 100;
     TColumnsDataType DataType = cdtString;
     std::string_view DisplayFormat{};
-    const std::vector<AnsiString>* Bindings::*List = nullptr; ///< The choices, for a list column.
-    TColumnCallback Bindings::*Changed = nullptr;             ///< What a changed value calls.
-    bool Bindings::*OfferedWhen = nullptr;                    ///< While this flag is false the column is ctHidden.
+    std::vector<AnsiString> Bindings::*List = nullptr; ///< The choices, for a list column.
+    TColumnCallback Bindings::*Changed = nullptr;      ///< What a changed value calls.
+    bool Bindings::*OfferedWhen = nullptr;             ///< While this flag is false the column is ctHidden.
 };
 
 /// A column that says what the line is about: the clerk reads it only.
@@ -66,10 +66,11 @@ inline constexpr ColumnRow<Bindings> c_WarehouseColumn{
 AnsiString ColumnCaption(std::string_view keySuffix, std::string_view builtIn);
 AnsiString ColumnHint(std::string_view keySuffix, std::string_view builtIn);
 
-/// The columns of the table, in its order; a row's place is its column's data column. Needs a current host.
+/// The columns of the table, in its order; a row's place is its column's data column. They point to the lists of
+/// `bindings`, which outlive them. Needs a current host.
 template <class Bindings>
-std::vector<RColumn> BuildColumns(std::type_identity_t<std::span<const ColumnRow<Bindings>>> rows,
-                                  const Bindings& bindings) {
+std::vector<RColumn> LoadDefaultColumnsSettings(std::type_identity_t<std::span<const ColumnRow<Bindings>>> rows,
+                                                const Bindings& bindings) {
     std::vector<RColumn> columns;
     columns.reserve(rows.size());
     for (const ColumnRow<Bindings>& row : rows) {
@@ -77,7 +78,7 @@ std::vector<RColumn> BuildColumns(std::type_identity_t<std::span<const ColumnRow
         columns.push_back(ColumnProperties(
             AnsiString(row.Key), ColumnCaption(row.KeySuffix, row.Caption), ColumnHint(row.KeySuffix, row.Hint),
             row.Align, row.Visible, row.Editable, isOffered ? row.Type : ctHidden, row.Width, row.DataType,
-            static_cast<int>(columns.size()), AnsiString(row.DisplayFormat), row.List ? bindings.*row.List : nullptr,
+            static_cast<int>(columns.size()), AnsiString(row.DisplayFormat), row.List ? &(bindings.*row.List) : nullptr,
             nullptr, row.Changed ? bindings.*row.Changed : TColumnCallback(), nullptr));
     }
     return columns;

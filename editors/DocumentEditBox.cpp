@@ -1,6 +1,5 @@
 #include "editors/DocumentEditBox.h"
 
-#include "editors/DocumentOpening.h"
 #include "editors/UnsavedWork.h"
 #include "editwin/CellWriter.h"
 #include "editwin/model/AutosaveFile.h"
@@ -17,10 +16,12 @@
 using namespace melvark;
 
 TDocumentEditBox::TDocumentEditBox(TComponent* owner, TLibraryManager* libraryManager, const DocumentKind& kind,
-                                   const DocumentOpening& opening, std::span<const RColumn> columns)
+                                   const DocumentOpening& opening)
     : TEditBox(owner, libraryManager, kind.EditTypeNumber, kind.FirstNamePart, opening.SourceNumber, opening.EditType,
-               opening.UserName, columns),
+               opening.UserName, opening.Columns),
       FDocumentKind(kind),
+      FBindings(opening.Bindings),
+      FSourceNumber(opening.SourceNumber),
       FDocumentID(opening.DocumentID) {
     SetTopButtonPanelVisibility(kind.HasPrices);
     SetTitle(LangStr(kind.TitleKey, {}, kind.Title));

@@ -1,20 +1,20 @@
 #pragma once
 
 #include "editors/DocumentKind.h"
-#include "editors/EditTypes.h"
+#include "editors/DocumentOpening.h"
 #include "editwin/MelvarkEditorEditWin.h"
 #include "editwin/model/EditExceptions.h"
 
 #include <functional>
 #include <initializer_list>
-#include <span>
+#include <memory>
 #include <string_view>
 #include <type_traits>
 
 class TSelectBox;
 
 /// What the editors of all kinds of document do alike around their tables. An editor's constructor hands in its kind
-/// and its columns, has the document checked, installs its hooks, fills its lines and calls Filled() last.
+/// and its opening, has the document checked, installs its hooks, fills its lines and calls Filled() last.
 class TDocumentEditBox : public TEditBox {
     Q_OBJECT
 
@@ -34,7 +34,7 @@ public:
 protected:
     /// `kind` outlives the editor.
     TDocumentEditBox(TComponent* owner, TLibraryManager* libraryManager, const melvark::DocumentKind& kind,
-                     const melvark::DocumentOpening& opening, std::span<const RColumn> columns);
+                     const melvark::DocumentOpening& opening);
 
     /// Asks the database whether the document may be edited: false when it answers no. A refusal throws EDatabaseError.
     bool CheckDocument(int id) const;
@@ -59,6 +59,8 @@ protected:
     /// Empties the row store, then see melvark::SaveLines.
     bool SaveLines(std::initializer_list<melvark::IdParam> sources);
 
+    /// Where the lines come from: the edit type's number in its table.
+    int SourceNumber() const { return FSourceNumber; }
     int DocumentID() const { return FDocumentID; }
     melvark::DocumentColumns Columns() const;
 
@@ -72,6 +74,8 @@ private:
     bool MayBeRestored(int id);
 
     const melvark::DocumentKind& FDocumentKind;
+    const std::shared_ptr<const void> FBindings; ///< What the columns point to.
+    const int FSourceNumber;
     int FDocumentID;
     bool FIsHeldTold = false;
 };

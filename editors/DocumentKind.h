@@ -28,14 +28,6 @@ struct DocumentKind {
     const char* TakeOverProcedure; ///< The closing call.
 };
 
-/// What an editor knows of its document before its form is built.
-struct DocumentOpening {
-    AnsiString EditType;          ///< Where the lines come from.
-    int SourceNumber = 0;         ///< Of the edit type in its table.
-    int DocumentID = c_NullValue; ///< The document that is edited.
-    AnsiString UserName;
-};
-
 /// What the clerk chose in the source dialog.
 struct SourceChoice {
     int ID = c_NullValue;

@@ -1,6 +1,7 @@
 #include "editors/DodObjTables.h"
 
-#include "editors/ColumnTable.h"
+#include "editors/DocumentRows.h"
+#include "editors/EditTypes.h"
 #include "editwin/model/DataGrid.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ namespace melvark {
 
 namespace {
 
-using B = DodObjColumnBindings;
+using B = DodObjBindings;
 using Row = ColumnRow<B>;
 
 constexpr int c_MainWidth = 55;
@@ -103,17 +104,25 @@ constexpr DocumentKind KindOf(int editTypeNumber, const char* firstNamePart, con
             .TakeOverProcedure = "MELVARKEDITORDodObjTempUloz"};
 }
 
+std::vector<AnsiString> FillDodavatelList() {
+    return QueryTexts("select JMENO from DODAVATEL_V order by JMENO", "JMENO");
+}
+
+void Init(TLiveStoredProc&, DodObjBindings& bindings) {
+    bindings.Warehouses = FillSkladList();
+    bindings.Suppliers = FillDodavatelList();
+}
+
 } // namespace
+
+constinit const OpeningTable<DodObjBindings> c_DodObjOpening{
+    .EditTypes = c_DodObjEditType, .Procedure = "MELVARKEDITORDodObjInit", .Init = Init, .Columns = c_Rows};
 
 constinit const DocumentKind c_OrderKind =
     KindOf(10, "DODOBJ", R"(KORDAN30\MELVARKEDITOR\OBJEDNAVKYZBOZIAPPTITLE)", "Vložení položek do objednávky zboží");
 constinit const DocumentKind c_TemplateKind =
     KindOf(20, "DODOBJVZOR", R"(KORDAN30\MELVARKEDITOR\VZOROBJEDNAVKYZBOZIAPPTITLE)",
            "Vložení položek do vzorové objednávky zboží");
-
-std::vector<RColumn> DodObjColumns(const DodObjColumnBindings& bindings) {
-    return BuildColumns(c_Rows, bindings);
-}
 
 bool HasItsUnit(const DocumentColumns& columns, const TDataGrid& store, std::string_view key, int row) {
     const auto* const counted = std::ranges::find(c_Units, key, &UnitOfQuantity::Quantity);

@@ -1,6 +1,8 @@
 #include "editors/DodakTables.h"
 
-#include "editors/ColumnTable.h"
+#include "editors/DocumentRows.h"
+#include "editors/EditTypes.h"
+#include "host/LiveData.h"
 
 #include <array>
 #include <string_view>
@@ -9,7 +11,7 @@ namespace melvark {
 
 namespace {
 
-using B = DodakColumnBindings;
+using B = DodakBindings;
 using Row = ColumnRow<B>;
 
 // The language keys of a price spell out what its column key shortens.
@@ -127,7 +129,25 @@ constexpr std::array c_RowParams{
     RowParam{"a_TRVANLIVOST", "TRVANLIVOST", ParamForm::Text},
 };
 
+// The VAT rates, from the result set at which the procedure stands.
+std::vector<AnsiString> FillDPHList(TLiveStoredProc& initialisation) {
+    return ReadTexts(initialisation, "NAZEV");
+}
+
+// The first result set has the flag, the second the VAT rates. The warehouses have a query of their own, which runs
+// once the procedure stands behind the rates.
+void Init(TLiveStoredProc& initialisation, DodakBindings& bindings) {
+    bindings.LocalVat = initialisation.FieldByName("DPHBLIC").AsInteger() == 1;
+    initialisation.Resume();
+    bindings.VatRates = FillDPHList(initialisation);
+    initialisation.Resume();
+    bindings.Warehouses = FillSkladList();
+}
+
 } // namespace
+
+constinit const OpeningTable<DodakBindings> c_DodakOpening{
+    .EditTypes = c_DodakEditType, .Procedure = "MELVARKEDITORDodakInit", .Init = Init, .Columns = c_Rows};
 
 constinit const DocumentKind c_DodakKind{.EditTypeNumber = 0,
                                          .FirstNamePart = "DODAK",
@@ -140,9 +160,5 @@ constinit const DocumentKind c_DodakKind{.EditTypeNumber = 0,
                                          .InsertProcedure = "MELVARKEDITORDodakInsertToTemp",
                                          .RowParams = c_RowParams,
                                          .TakeOverProcedure = "MELVARKEDITORDodakTempUloz"};
-
-std::vector<RColumn> DodakColumns(const DodakColumnBindings& bindings) {
-    return BuildColumns(c_Rows, bindings);
-}
 
 } // namespace melvark

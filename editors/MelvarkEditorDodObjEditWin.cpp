@@ -6,38 +6,23 @@
 #include "select/MelvarkEditorMultiSelectWin.h"
 #include "select/MelvarkEditorSelectWin.h"
 
-#include <iterator>
-#include <utility>
-
 using namespace melvark;
+
+EDodObjEditBox::~EDodObjEditBox() = default;
 
 TDodObjEditBox::TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, bool aIsTemplate,
                                const AnsiString& aSourceKind, int aID, int aSkldID, int aDodvID,
                                const AnsiString& aSklad, const AnsiString& aDodavatel, TDateTime aMoment)
-    : TDodObjEditBox(aOwner, aLibraryManager,
-                     OpenDodObj(aSourceKind, {.DdobID = aID,
-                                              .IsTemplate = aIsTemplate,
-                                              .SkldID = aSkldID,
-                                              .DodvID = aDodvID,
-                                              .Sklad = aSklad,
-                                              .Dodavatel = aDodavatel,
-                                              .Moment = aMoment})) {}
-
-TDodObjEditBox::TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, DodObjOpening opening)
-    : TDocumentEditBox(aOwner, aLibraryManager, opening.Document.IsTemplate ? c_TemplateKind : c_OrderKind, opening,
-                       LoadDefaultColumnsSettings(opening)),
-      FOpening(std::move(opening)) {
+    : TDocumentEditBox(aOwner, aLibraryManager, aIsTemplate ? c_TemplateKind : c_OrderKind,
+                       OpenDocument<EDodObjEditBox>(c_DodObjOpening, aSourceKind, aID)),
+      FDocument{.SkldID = aSkldID, .DodvID = aDodvID, .Sklad = aSklad, .Dodavatel = aDodavatel, .Moment = aMoment} {
     Begin(CheckMaster(), [this] { return SaveData(); });
     SetOnIsEditable([this](int col, int row) { return IsEditable(col, row); });
-    FillGrid(FOpening.SourceNumber, Document().DodvID);
+    FillGrid(SourceNumber(), FDocument.DodvID);
     Filled();
 }
 
 TDodObjEditBox::~TDodObjEditBox() = default;
-
-std::vector<RColumn> TDodObjEditBox::LoadDefaultColumnsSettings(const DodObjOpening& opening) {
-    return DodObjColumns({.Warehouses = &opening.Lists->Warehouses, .Suppliers = &opening.Lists->Suppliers});
-}
 
 bool TDodObjEditBox::IsEditable(int aCol, int aRow) const {
     return HasItsUnit(Columns(), DataGrid(), GetVisibleColumn(aCol).Name, RowToDataGridRow(aRow));
@@ -53,14 +38,13 @@ void TDodObjEditBox::FillGrid(int aSourceKind, int aDodvID) {
         {&TDodObjEditBox::AskForPriceList, &TDodObjEditBox::FillFromChosenPriceList},
         {&TDodObjEditBox::AskForDeliveries, &TDodObjEditBox::FillFromChosenDeliveries},
     };
-    static_assert(std::size(c_Ways) == c_DodObjEditType.size());
     FChosen = {};
     FChosen.Supplier.ID = aDodvID;
-    FillFromSource(*this, c_Ways, aSourceKind);
+    FillFromSource<c_DodObjEditType>(*this, c_Ways, aSourceKind);
 }
 
 int TDodObjEditBox::AskForDocument(void (TSelectBox::*setUp)(int, int, int)) {
-    return AskForSource(setUp, DocumentID(), Document().SkldID, Document().DodvID).ID;
+    return AskForSource(setUp, DocumentID(), FDocument.SkldID, FDocument.DodvID).ID;
 }
 
 void TDodObjEditBox::AskForOrder() {
@@ -87,13 +71,13 @@ void TDodObjEditBox::AskForGroups() {
 
 void TDodObjEditBox::AskForPriceList() {
     if (FChosen.Supplier.ID <= 0) {
-        FChosen.Supplier = AskForSource(&TSelectBox::DodObjSelectFromDodCenik, DocumentID(), Document().Moment);
+        FChosen.Supplier = AskForSource(&TSelectBox::DodObjSelectFromDodCenik, DocumentID(), FDocument.Moment);
     }
 }
 
 void TDodObjEditBox::AskForDeliveries() {
     FChosen.Supplier =
-        AskForSource(&TSelectBox::DodObjSelectFromDodavky, DocumentID(), Document().Dodavatel, Document().Moment);
+        AskForSource(&TSelectBox::DodObjSelectFromDodavky, DocumentID(), FDocument.Dodavatel, FDocument.Moment);
 }
 
 void TDodObjEditBox::FillGridFromObjednavka(int aOrderID) {

@@ -1,17 +1,39 @@
 #pragma once
 
 #include "editors/DocumentEditBox.h"
-#include "editors/DodObjOpening.h"
+#include "host/Exceptions.h"
 #include "host/Identifier.h"
+#include "host/Types.h"
 
 #include <array>
-#include <vector>
+
+/// A failure of the supplier order's editor itself: a source that it does not know.
+class EDodObjEditBox : public Exception {
+public:
+    using Exception::Exception;
+    EDodObjEditBox(const EDodObjEditBox&) = default;
+    EDodObjEditBox& operator=(const EDodObjEditBox&) = default;
+    ~EDodObjEditBox() override;
+};
+
+namespace melvark {
+
+/// What a screen shows of the supplier order or order template that is edited.
+struct DodObjDocument {
+    int SkldID = c_NullValue; ///< Its warehouse.
+    int DodvID = c_NullValue; ///< Its supplier; 0 or below for none.
+    AnsiString Sklad;         ///< The warehouse as shown.
+    AnsiString Dodavatel;     ///< The supplier as shown; empty for none.
+    TDateTime Moment{};       ///< For which suppliers' price lists are taken.
+};
+
+} // namespace melvark
 
 /// The editor of the lines of a supplier order or of an order template: the base editor with the order's columns,
 /// filled from one of seven sources, with quantities in main and secondary units, saved through the row store.
 ///
 /// Constructed for one document, shown modally once by its workflow, and freed. It refreshes no screen. What the rules
-/// are stands beside it: DodObjTables, DodObjOpening.
+/// are stands beside it: DodObjTables.
 class TDodObjEditBox : public TDocumentEditBox {
     Q_OBJECT
 
@@ -27,14 +49,11 @@ public:
 
     /// Whether the cell (grid coordinates) takes a value: a quantity does only where the item has its unit.
     bool IsEditable(int aCol, int aRow) const;
+    const melvark::DodObjDocument& Document() const { return FDocument; }
     /// Stores all rows; false when the database reports failure. Throws EDatabaseError.
     bool SaveData();
 
 private:
-    /// Builds the form on what was read before it.
-    TDodObjEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, melvark::DodObjOpening opening);
-
-    static std::vector<RColumn> LoadDefaultColumnsSettings(const melvark::DodObjOpening& opening);
     bool CheckMaster() const { return CheckDocument(DocumentID()); }
 
     /// `aDodvID` is the document's supplier, whose price list is taken without a question; 0 or below for nobody. An
@@ -63,9 +82,7 @@ private:
     void FillFromChosenPriceList() { FillGridFromDodCenik(FChosen.Supplier.ID); }
     void FillFromChosenDeliveries() { FillGridFromDodavky(FChosen.Supplier.ID, FChosen.Supplier.WithQuantities); }
 
-    const melvark::DodObjDocument& Document() const { return FOpening.Document; }
-
-    melvark::DodObjOpening FOpening;
+    const melvark::DodObjDocument FDocument;
     /// The sources, once one was chosen; the document's own supplier is from the start.
     struct {
         int OrderID = c_NullValue;

@@ -10,33 +10,26 @@
 #include "select/MelvarkEditorSelectWin.h"
 
 #include <functional>
-#include <iterator>
-#include <utility>
 
 using namespace melvark;
 
+EDodakEditBox::~EDodakEditBox() = default;
+
+// The form is not built yet: its address goes into the callbacks, which are not called before it is.
 TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, const AnsiString& aEditType, int aID,
                              int aDodvID)
-    : TDodakEditBox(aOwner, aLibraryManager, OpenDodak(aEditType, aID, aDodvID)) {}
-
-TDodakEditBox::TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, DodakOpening opening)
-    : TDocumentEditBox(aOwner, aLibraryManager, c_DodakKind, opening, LoadDefaultColumnsSettings(opening, this)),
-      FOpening(std::move(opening)) {
+    : TDocumentEditBox(
+          aOwner, aLibraryManager, c_DodakKind,
+          OpenDocument<EDodakEditBox>(c_DodakOpening, aEditType, aID,
+                                      {.Recalculate = std::bind_front(&TDodakEditBox::PrepocetCen, this),
+                                       .CheckDiscount = std::bind_front(&TDodakEditBox::KontrolaSlevy, this)})),
+      FDodvID(aDodvID) {
     Begin(CheckMasterDodak(DocumentID()), [this] { return SaveData(); });
-    FillGrid(FOpening.SourceNumber);
+    FillGrid(SourceNumber());
     Filled();
 }
 
 TDodakEditBox::~TDodakEditBox() = default;
-
-// The form is not built yet: its address goes into the callbacks, which are not called before it is.
-std::vector<RColumn> TDodakEditBox::LoadDefaultColumnsSettings(const DodakOpening& opening, TDodakEditBox* form) {
-    return DodakColumns({.LocalVat = opening.LocalVat,
-                         .Warehouses = &opening.Lists->Warehouses,
-                         .VatRates = &opening.Lists->VatRates,
-                         .Recalculate = std::bind_front(&TDodakEditBox::PrepocetCen, form),
-                         .CheckDiscount = std::bind_front(&TDodakEditBox::KontrolaSlevy, form)});
-}
 
 void TDodakEditBox::FillGrid(int aFillMode) {
     static constexpr SourceStep<TDodakEditBox> c_Ways[] = {
@@ -44,17 +37,16 @@ void TDodakEditBox::FillGrid(int aFillMode) {
         {&TDodakEditBox::AskForDeliveryNote, &TDodakEditBox::FillFromChosenDeliveryNote},
         {nullptr, &TDodakEditBox::FillFromTemplate},
     };
-    static_assert(std::size(c_Ways) == c_DodakEditType.size());
     FChosen = {};
-    FillFromSource(*this, c_Ways, aFillMode);
+    FillFromSource<c_DodakEditType>(*this, c_Ways, aFillMode);
 }
 
 void TDodakEditBox::AskForOrder() {
-    FChosen.OrderID = AskForSource(&TSelectBox::DodakSelectFromObjednavka, DocumentID(), FOpening.DodvID).ID;
+    FChosen.OrderID = AskForSource(&TSelectBox::DodakSelectFromObjednavka, DocumentID(), FDodvID).ID;
 }
 
 void TDodakEditBox::AskForDeliveryNote() {
-    FChosen.Note = AskForSource(&TSelectBox::DodakSelectFromDodak, DocumentID(), FOpening.DodvID);
+    FChosen.Note = AskForSource(&TSelectBox::DodakSelectFromDodak, DocumentID(), FDodvID);
 }
 
 void TDodakEditBox::FillGridFromObjednavka() {

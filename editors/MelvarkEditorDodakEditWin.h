@@ -1,16 +1,23 @@
 #pragma once
 
 #include "editors/DocumentEditBox.h"
-#include "editors/DodakOpening.h"
+#include "host/Exceptions.h"
 #include "host/Identifier.h"
 
-#include <vector>
+/// A failure of the delivery note's editor itself: an edit type that it does not know.
+class EDodakEditBox : public Exception {
+public:
+    using Exception::Exception;
+    EDodakEditBox(const EDodakEditBox&) = default;
+    EDodakEditBox& operator=(const EDodakEditBox&) = default;
+    ~EDodakEditBox() override;
+};
 
 /// The editor of a delivery note's lines: the base editor with the delivery note's columns, filled from a source that
 /// the user names, each changed price recalculated by the database, saved through the row store.
 ///
 /// Constructed for one delivery note, shown modally once by its workflow, and freed. It refreshes no screen. What the
-/// rules are stands beside it: DodakTables, DodakOpening, DodakPrices.
+/// rules are stands beside it: DodakTables, DodakPrices.
 class TDodakEditBox : public TDocumentEditBox {
     Q_OBJECT
 
@@ -31,10 +38,6 @@ public:
     bool SaveData();
 
 private:
-    /// Builds the form on what was read before it.
-    TDodakEditBox(TComponent* aOwner, TLibraryManager* aLibraryManager, melvark::DodakOpening opening);
-
-    static std::vector<RColumn> LoadDefaultColumnsSettings(const melvark::DodakOpening& opening, TDodakEditBox* form);
     bool CheckMasterDodak(int aDodkID) const { return CheckDocument(aDodkID); }
 
     /// An unknown fill mode leaves one empty row.
@@ -47,7 +50,7 @@ private:
     void FillFromChosenDeliveryNote() { FillGridFromDodak(FChosen.Note.WithQuantities, FChosen.Note.WithPrices); }
     void FillFromTemplate() { FillGridFromSablona(true, true); }
 
-    melvark::DodakOpening FOpening;
+    const int FDodvID; ///< The note's supplier, whose documents alone are offered as sources.
     /// The sources, once one was chosen.
     struct {
         int OrderID = c_NullValue;

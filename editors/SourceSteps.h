@@ -2,8 +2,7 @@
 
 #include <cstddef>
 #include <functional>
-#include <span>
-#include <type_traits>
+#include <iterator>
 
 namespace melvark {
 
@@ -14,11 +13,12 @@ struct SourceStep {
     void (Editor::*Fill)();
 };
 
-/// Takes the way of that number, counted from 1, unless the editor gets its lines from unsaved work. A number that the
-/// table lacks asks nothing and fills nothing.
-template <class Editor>
-void FillFromSource(Editor& editor, std::type_identity_t<std::span<const SourceStep<Editor>>> ways, int number) {
-    if (number < 1 || static_cast<std::size_t>(number) > ways.size()) {
+/// Takes the way of that number, counted from 1, unless the editor gets its lines from unsaved work. There is one way
+/// for each of the edit types. A number that the table lacks asks nothing and fills nothing.
+template <const auto& EditTypes, class Editor, std::size_t Count>
+void FillFromSource(Editor& editor, const SourceStep<Editor> (&ways)[Count], int number) {
+    static_assert(Count == std::size(EditTypes), "each edit type has its way");
+    if (number < 1 || static_cast<std::size_t>(number) > Count) {
         return;
     }
     if (editor.RestoreData()) {

@@ -10,8 +10,8 @@ namespace {
 using melvark::ColumnRow;
 
 struct Bindings {
-    const std::vector<AnsiString>* Warehouses = nullptr;
-    const std::vector<AnsiString>* Colours = nullptr;
+    std::vector<AnsiString> Warehouses{};
+    std::vector<AnsiString> Colours{};
     TColumnCallback Changed{};
     bool OffersPrices = false;
 };
@@ -27,7 +27,7 @@ TEST_F(ColumnTable, ARowThatSaysNothingElseIsAVisiblePlainTextColumnThatNobodyEd
     host_.translations[R"(KORDAN30\MELVARKEDITOR\COLUMNBARVA)"] = "Colour";
     host_.translations[R"(KORDAN30\MELVARKEDITOR\COLUMNHINTBARVA)"] = "Colour of the goods";
     constexpr std::array rows{Row{.Key = "B", .KeySuffix = "BARVA", .Caption = "Barva", .Hint = "Barva zboží"}};
-    const RColumn column = melvark::BuildColumns(rows, Bindings{}).front();
+    const RColumn column = melvark::LoadDefaultColumnsSettings(rows, Bindings{}).front();
     EXPECT_EQ(column.Name, "B");
     EXPECT_EQ(column.Caption, "Colour");
     EXPECT_EQ(column.Hint, "Colour of the goods");
@@ -42,17 +42,15 @@ TEST_F(ColumnTable, ARowThatSaysNothingElseIsAVisiblePlainTextColumnThatNobodyEd
 }
 
 TEST_F(ColumnTable, ARowIsTiedToTheListAndTheCallbackThatItNames) {
-    const std::vector<AnsiString> warehouses{"Praha"};
-    const std::vector<AnsiString> colours{"modrá"};
     int called = 0;
-    const Bindings bindings{.Warehouses = &warehouses,
-                            .Colours = &colours,
-                            .Changed = [&](int, int, const AnsiString&) { return ++called > 0; }};
+    const Bindings bindings{.Warehouses = {"Praha"}, .Colours = {"modrá"}, .Changed = [&](int, int, const AnsiString&) {
+                                return ++called > 0;
+                            }};
     constexpr std::array rows{Row{.Key = "A", .List = &Bindings::Colours}, melvark::c_WarehouseColumn<Bindings>,
                               Row{.Key = "C", .Changed = &Bindings::Changed}};
-    const std::vector<RColumn> columns = melvark::BuildColumns(rows, bindings);
-    EXPECT_EQ(columns[0].Values, &colours);
-    EXPECT_EQ(columns[1].Values, &warehouses);
+    const std::vector<RColumn> columns = melvark::LoadDefaultColumnsSettings(rows, bindings);
+    EXPECT_EQ(columns[0].Values, &bindings.Colours);
+    EXPECT_EQ(columns[1].Values, &bindings.Warehouses);
     EXPECT_EQ(columns[2].Values, nullptr);
     EXPECT_FALSE(columns[0].Callback);
     ASSERT_TRUE(columns[2].Callback);
@@ -62,7 +60,7 @@ TEST_F(ColumnTable, ARowIsTiedToTheListAndTheCallbackThatItNames) {
 
 TEST_F(ColumnTable, ARowsPlaceIsItsDataColumn) {
     constexpr std::array rows{Row{.Key = "A"}, Row{.Key = "B"}, Row{.Key = "C"}};
-    const std::vector<RColumn> columns = melvark::BuildColumns(rows, Bindings{});
+    const std::vector<RColumn> columns = melvark::LoadDefaultColumnsSettings(rows, Bindings{});
     ASSERT_EQ(columns.size(), 3u);
     for (int place = 0; place < 3; ++place) {
         EXPECT_EQ(columns[static_cast<std::size_t>(place)].DataColumn, place);
@@ -71,8 +69,8 @@ TEST_F(ColumnTable, ARowsPlaceIsItsDataColumn) {
 
 TEST_F(ColumnTable, AColumnUnderAFlagCannotBeShownWhileTheFlagIsOff) {
     constexpr std::array rows{Row{.Key = "CENA", .Type = ctReadOnly, .OfferedWhen = &Bindings::OffersPrices}};
-    EXPECT_EQ(melvark::BuildColumns(rows, Bindings{}).front().ColumnType, ctHidden);
-    EXPECT_EQ(melvark::BuildColumns(rows, Bindings{.OffersPrices = true}).front().ColumnType, ctReadOnly);
+    EXPECT_EQ(melvark::LoadDefaultColumnsSettings(rows, Bindings{}).front().ColumnType, ctHidden);
+    EXPECT_EQ(melvark::LoadDefaultColumnsSettings(rows, Bindings{.OffersPrices = true}).front().ColumnType, ctReadOnly);
 }
 
 TEST_F(ColumnTable, AKeyColumnIsNeverTranslated) {
@@ -80,7 +78,7 @@ TEST_F(ColumnTable, AKeyColumnIsNeverTranslated) {
     host_.translations[R"(KORDAN30\MELVARKEDITOR\COLUMNHINT)"] = "translated";
     host_.translations[R"(KORDAN30\MELVARKEDITOR\COLUMNKLIC)"] = "translated";
     constexpr std::array rows{melvark::KeyColumn<Bindings>("KLIC", caRight, true)};
-    const RColumn column = melvark::BuildColumns(rows, Bindings{}).front();
+    const RColumn column = melvark::LoadDefaultColumnsSettings(rows, Bindings{}).front();
     EXPECT_EQ(column.Caption, "KLIC");
     EXPECT_EQ(column.Hint, "KLIC");
     EXPECT_EQ(column.ColumnType, ctHidden);

@@ -29,7 +29,8 @@ protected:
 
     RecordingHost host_;
     TScopedHost scope_{host_};
-    std::vector<RColumn> columns_ = melvark::DodObjColumns({});
+    melvark::DodObjBindings bindings_;
+    std::vector<RColumn> columns_ = melvark::LoadDefaultColumnsSettings(melvark::c_DodObjOpening.Columns, bindings_);
     TDataGrid store_;
 };
 

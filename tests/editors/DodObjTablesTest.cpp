@@ -1,12 +1,17 @@
 #include "editors/DodObjTables.h"
 
+#include "editwin/model/ColumnList.h"
 #include "editwin/model/DataGrid.h"
+#include "host/Exceptions.h"
 #include "tests/support/DodObjScripts.h"
 
 #include <gmock/gmock.h>
 #include <string>
 
 namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
 
 struct ExpectedColumn {
     const char* key;
@@ -45,27 +50,30 @@ const ExpectedColumn c_Expected[] = {
 
 class DodObjColumns : public testing::Test {
 protected:
+    std::vector<RColumn> build() const {
+        return melvark::LoadDefaultColumnsSettings(melvark::c_DodObjOpening.Columns, bindings_);
+    }
+
     AnsiString layoutOf(const RColumn& column) const {
         static const char* aligns[] = {"caLeft", "caCenter", "caRight"};
         static const char* editables[] = {"eNone", "eAuto", "eManual"};
         static const char* types[] = {"ctNormal", "ctReadOnly", "ctHidden"};
         static const char* dataTypes[] = {"cdtString", "cdtInt", "cdtFlt", "cdtType", "cdtDate"};
-        const char* list = column.Values == &warehouses_  ? "warehouses"
-                           : column.Values == &suppliers_ ? "suppliers"
-                           : column.Values                ? "another list"
-                                                          : "-";
+        const char* list = column.Values == &bindings_.Warehouses  ? "warehouses"
+                           : column.Values == &bindings_.Suppliers ? "suppliers"
+                           : column.Values                         ? "another list"
+                                                                   : "-";
         return AnsiString(aligns[column.Align]) + " " + editables[column.Editable] + " " + types[column.ColumnType] +
                " " + std::to_string(column.Width) + " " + dataTypes[column.DataType] + " " + list;
     }
 
     RecordingHost host_;
     TScopedHost scope_{host_};
-    std::vector<AnsiString> warehouses_;
-    std::vector<AnsiString> suppliers_;
+    melvark::DodObjBindings bindings_;
 };
 
 TEST_F(DodObjColumns, AreTheSeventeenOfTheTableInItsOrder) {
-    const std::vector<RColumn> columns = melvark::DodObjColumns({&warehouses_, &suppliers_});
+    const std::vector<RColumn> columns = build();
     ASSERT_EQ(columns.size(), std::size(c_Expected));
     for (std::size_t place = 0; place < columns.size(); ++place) {
         const ExpectedColumn& expected = c_Expected[place];
@@ -90,7 +98,7 @@ TEST_F(DodObjColumns, TakeCaptionAndHintFromTheirOwnLanguageKeys) {
         host_.translations[R"(KORDAN30\MELVARKEDITOR\COLUMN)" + suffix] = "caption of " + suffix;
         host_.translations[R"(KORDAN30\MELVARKEDITOR\COLUMNHINT)" + suffix] = "hint of " + suffix;
     }
-    const std::vector<RColumn> columns = melvark::DodObjColumns({});
+    const std::vector<RColumn> columns = build();
     for (std::size_t place = 0; place < columns.size(); ++place) {
         const AnsiString suffix = c_Expected[place].keySuffix;
         EXPECT_EQ(columns[place].Caption, suffix == "-" ? c_Expected[place].key : "caption of " + suffix);
@@ -99,7 +107,7 @@ TEST_F(DodObjColumns, TakeCaptionAndHintFromTheirOwnLanguageKeys) {
 }
 
 TEST_F(DodObjColumns, AQuantityTakesAValueOnlyWhereTheItemHasItsOwnUnit) {
-    const std::vector<RColumn> columns = melvark::DodObjColumns({});
+    const std::vector<RColumn> columns = build();
     const melvark::DocumentColumns lists{columns, columns};
     // Each line has exactly one unit; the others' quantities stay shut.
     const char* const units[] = {"SKPLIDHL", "SKPLIDV1", "SKPLIDV2"};
@@ -122,7 +130,7 @@ TEST_F(DodObjColumns, AQuantityTakesAValueOnlyWhereTheItemHasItsOwnUnit) {
 }
 
 TEST_F(DodObjColumns, TheUnitIsFoundByItsKeyWhateverColumnsASettingDropped) {
-    const std::vector<RColumn> defaults = melvark::DodObjColumns({});
+    const std::vector<RColumn> defaults = build();
     const std::vector<RColumn> active{defaults[12]}; // the second secondary quantity alone is left
     TDataGrid store;
     store.SetColCount(static_cast<int>(defaults.size()));
@@ -130,6 +138,54 @@ TEST_F(DodObjColumns, TheUnitIsFoundByItsKeyWhateverColumnsASettingDropped) {
     EXPECT_FALSE(melvark::HasItsUnit({active, defaults}, store, "MNOZSTVIV2", 0));
     store.SetCells(14, 0, "103");
     EXPECT_TRUE(melvark::HasItsUnit({active, defaults}, store, "MNOZSTVIV2", 0));
+}
+
+// ---- Opening ----
+
+class DodObjOpening : public testing::Test {
+protected:
+    DodObjOpening() { scriptDodObjEditor(host_.connection); }
+
+    static melvark::DocumentOpening open(const AnsiString& sourceKind) {
+        return melvark::OpenDocument<Exception>(melvark::c_DodObjOpening, sourceKind, 7);
+    }
+
+    RecordingHost host_;
+    TScopedHost scope_{host_};
+};
+
+TEST_F(DodObjOpening, AsksForTheUserThenTheWarehousesThenTheSuppliers) {
+    const melvark::DocumentOpening opening = open("DODAVKY");
+    EXPECT_THAT(host_.connection.calls(),
+                ElementsAre("MELVARKEDITORDodObjInit() open", "select NAZEV from SKLAD_V order by NAZEV",
+                            "select JMENO from DODAVATEL_V order by JMENO"));
+    EXPECT_EQ(opening.UserName, "novak");
+    const RColumn& warehouse = melvark::ColumnSettings(opening.Columns, {}, "SKLAD");
+    ASSERT_TRUE(warehouse.Values);
+    EXPECT_THAT(*warehouse.Values, ElementsAre("Brno", "Praha"));
+    const RColumn& supplier = melvark::ColumnSettings(opening.Columns, {}, "DODAVATEL");
+    ASSERT_TRUE(supplier.Values);
+    EXPECT_THAT(*supplier.Values, ElementsAre("Lípa", "Vrba"));
+}
+
+TEST_F(DodObjOpening, TheSourcesNumberIsItsPlaceInTheTable) {
+    int expected = 0;
+    for (const char* code :
+         {"OBJEDNAVKA", "OBJEDNAVKAVZOR", "SABLONA", "DODAK", "SKUPSKLADPOL", "DODAVATEL", "DODAVKY"}) {
+        EXPECT_EQ(open(code).SourceNumber, ++expected) << code;
+    }
+}
+
+TEST_F(DodObjOpening, AnUnknownSourceIsRefusedBeforeTheDatabaseIsAsked) {
+    for (const char* code : {"objednavka", "", "DODOBJ", "DODAVKY "}) {
+        try {
+            open(code);
+            ADD_FAILURE() << "no error for " << code;
+        } catch (const Exception& error) {
+            EXPECT_EQ(error.Message(), "Neplatný typ editace (" + AnsiString(code) + ")");
+        }
+    }
+    EXPECT_THAT(host_.connection.calls(), IsEmpty());
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "editors/DodakTables.h"
 
 #include "editwin/model/ColumnList.h"
+#include "host/Exceptions.h"
+#include "tests/support/DodakScripts.h"
 #include "tests/support/RecordingHost.h"
 
 #include <gmock/gmock.h>
@@ -10,6 +12,7 @@
 namespace {
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 struct ExpectedColumn {
     const char* key;
@@ -77,9 +80,8 @@ const std::vector<ExpectedColumn>& expectedColumns() {
 class DodakColumns : public testing::Test {
 protected:
     std::vector<RColumn> build(bool localVat) {
-        return melvark::DodakColumns({localVat, &warehouses_, &rates_,
-                                      [this](int, int, const AnsiString&) { return note("prices"); },
-                                      [this](int, int, const AnsiString&) { return note("discount"); }});
+        bindings_.LocalVat = localVat;
+        return melvark::LoadDefaultColumnsSettings(melvark::c_DodakOpening.Columns, bindings_);
     }
 
     AnsiString layoutOf(const RColumn& column, const AnsiString& type) const {
@@ -92,7 +94,10 @@ protected:
     }
 
     AnsiString boundTo(const RColumn& column) {
-        AnsiString list = column.Values == &warehouses_ ? "warehouses" : column.Values == &rates_ ? "rates" : "-";
+        AnsiString list = column.Values == &bindings_.Warehouses ? "warehouses"
+                          : column.Values == &bindings_.VatRates ? "rates"
+                          : column.Values                        ? "another list"
+                                                                 : "-";
         called_ = "-";
         if (column.Callback) {
             column.Callback(1, 1, "");
@@ -107,8 +112,8 @@ protected:
 
     RecordingHost host_;
     TScopedHost scope_{host_};
-    std::vector<AnsiString> warehouses_;
-    std::vector<AnsiString> rates_;
+    melvark::DodakBindings bindings_{.Recalculate = [this](int, int, const AnsiString&) { return note("prices"); },
+                                     .CheckDiscount = [this](int, int, const AnsiString&) { return note("discount"); }};
     AnsiString called_;
 };
 
@@ -170,6 +175,62 @@ TEST_F(DodakColumns, OfferTheLocalVatColumnsOnlyWhereTheCompanyHasLocalVat) {
     EXPECT_THAT(offered(build(false)), ElementsAre());
     EXPECT_THAT(offered(build(true)),
                 ElementsAre("JEDNDPHBSESLEVOU", "JEDNDPHBBEZSLEVY", "DPHBSESLEVOU", "DPHBBEZSLEVY"));
+}
+
+// ---- Opening ----
+
+class DodakOpening : public testing::Test {
+protected:
+    DodakOpening() { scriptDodakEditor(host_.connection); }
+
+    static melvark::DocumentOpening open(const AnsiString& editType) {
+        return melvark::OpenDocument<Exception>(melvark::c_DodakOpening, editType, 7);
+    }
+    static const RColumn& column(const melvark::DocumentOpening& opening, std::string_view key) {
+        return melvark::ColumnSettings(opening.Columns, {}, key);
+    }
+
+    RecordingHost host_;
+    TScopedHost scope_{host_};
+};
+
+TEST_F(DodakOpening, AsksTheProcedureAndThenTheWarehouses) {
+    const melvark::DocumentOpening opening = open("SABLONA");
+    EXPECT_THAT(host_.connection.calls(),
+                ElementsAre("MELVARKEDITORDodakInit() open", "select NAZEV from SKLAD_V order by NAZEV"));
+    EXPECT_EQ(opening.UserName, "novak");
+    ASSERT_TRUE(column(opening, "DPH").Values);
+    EXPECT_THAT(*column(opening, "DPH").Values, ElementsAre("21 %", "12 %", "0 %")) << "as returned, not sorted";
+    ASSERT_TRUE(column(opening, "SKLAD").Values);
+    EXPECT_THAT(*column(opening, "SKLAD").Values, ElementsAre("Brno", "Praha"));
+}
+
+TEST_F(DodakOpening, TheSourcesNumberIsThatOfTheEditType) {
+    EXPECT_EQ(open("DODOBJ").SourceNumber, 1);
+    EXPECT_EQ(open("DODAK").SourceNumber, 2);
+    EXPECT_EQ(open("SABLONA").SourceNumber, 3);
+}
+
+TEST_F(DodakOpening, AnUnknownEditTypeIsRefusedBeforeTheDatabaseIsAsked) {
+    for (const char* editType : {"dodak", "", "DODAK ", "OBJEDNAVKA"}) {
+        try {
+            open(editType);
+            ADD_FAILURE() << "no error for " << editType;
+        } catch (const Exception& error) {
+            EXPECT_EQ(error.Message(), "Neplatný typ editace (" + AnsiString(editType) + ")");
+        }
+    }
+    EXPECT_THAT(host_.connection.calls(), IsEmpty());
+}
+
+TEST_F(DodakOpening, LocalVatIsOnForOneAlone) {
+    const std::pair<TDbValue, bool> flags[] = {
+        {AnsiString("1"), true}, {AnsiString("0"), false}, {std::monostate{}, false}, {AnsiString("2"), false}};
+    for (const auto& [flag, isOn] : flags) {
+        host_.connection.procedure("MELVARKEDITORDodakInit")
+            .returns({TResultTable{{"UZIVATEL", "DPHBLIC"}, {{AnsiString("novak"), flag}}}});
+        EXPECT_EQ(column(open("SABLONA"), "DPHBSESLEVOU").ColumnType, isOn ? ctNormal : ctHidden) << flag.index();
+    }
 }
 
 } // namespace

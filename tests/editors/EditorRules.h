@@ -43,7 +43,8 @@ protected:
 
     RecordingHost host_;
     TScopedHost scope_{host_};
-    std::vector<RColumn> defaults_ = melvark::DodakColumns({});
+    melvark::DodakBindings bindings_;
+    std::vector<RColumn> defaults_ = melvark::LoadDefaultColumnsSettings(melvark::c_DodakOpening.Columns, bindings_);
     std::vector<RColumn> active_ = defaults_;
     TDataGrid store_;
 };

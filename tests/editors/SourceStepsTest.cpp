@@ -1,8 +1,10 @@
 #include "editors/SourceSteps.h"
 
+#include <array>
 #include <gmock/gmock.h>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -21,6 +23,8 @@ struct Editor {
     std::vector<std::string> done;
 };
 
+constexpr std::array<std::string_view, 3> c_EditTypes{"ORDER", "TEMPLATE", "NOTE"};
+
 constexpr melvark::SourceStep<Editor> c_Ways[] = {
     {&Editor::AskForOrder, &Editor::FillFromOrder},
     {nullptr, &Editor::FillFromTemplate},
@@ -29,26 +33,26 @@ constexpr melvark::SourceStep<Editor> c_Ways[] = {
 
 TEST(SourceSteps, AskBeforeTheyFill) {
     Editor editor;
-    melvark::FillFromSource(editor, c_Ways, 1);
+    melvark::FillFromSource<c_EditTypes>(editor, c_Ways, 1);
     EXPECT_THAT(editor.done, ElementsAre("ask for an order", "fill from the order"));
 }
 
 TEST(SourceSteps, AskNothingWhereNothingIsToBeAsked) {
     Editor editor;
-    melvark::FillFromSource(editor, c_Ways, 2);
+    melvark::FillFromSource<c_EditTypes>(editor, c_Ways, 2);
     EXPECT_THAT(editor.done, ElementsAre("fill from the template"));
 }
 
 TEST(SourceSteps, FillNothingOnceTheClerkHasCancelled) {
     Editor editor;
-    EXPECT_THROW(melvark::FillFromSource(editor, c_Ways, 3), std::runtime_error);
+    EXPECT_THROW(melvark::FillFromSource<c_EditTypes>(editor, c_Ways, 3), std::runtime_error);
     EXPECT_THAT(editor.done, IsEmpty());
 }
 
 TEST(SourceSteps, AskAndFillNothingWhereUnsavedWorkIsTakenUp) {
     for (const int number : {1, 2, 3}) {
         Editor editor{.hasUnsavedWork = true, .done = {}};
-        melvark::FillFromSource(editor, c_Ways, number);
+        melvark::FillFromSource<c_EditTypes>(editor, c_Ways, number);
         EXPECT_THAT(editor.done, IsEmpty()) << number;
     }
 }
@@ -56,7 +60,7 @@ TEST(SourceSteps, AskAndFillNothingWhereUnsavedWorkIsTakenUp) {
 TEST(SourceSteps, DoNothingForANumberThatTheTableLacks) {
     for (const int number : {-1, 0, 4}) {
         Editor editor;
-        melvark::FillFromSource(editor, c_Ways, number);
+        melvark::FillFromSource<c_EditTypes>(editor, c_Ways, number);
         EXPECT_THAT(editor.done, IsEmpty()) << number;
     }
 }

@@ -205,6 +205,20 @@ TEST_F(OrderWorkflow, TheDocumentsWarehouseAndSupplierReachTheEditor) {
     EXPECT_TRUE(deliveries.hasActed());
 }
 
+TEST_F(OrderWorkflow, TheEditorHasWhatTheScreenShows) {
+    ModalDriver editor({}, [](QWidget& window) {
+        const auto* const order = qobject_cast<TDodObjEditBox*>(&window);
+        ASSERT_TRUE(order);
+        EXPECT_EQ(order->Document().SkldID, 3);
+        EXPECT_EQ(order->Document().DodvID, 40);
+        EXPECT_EQ(order->Document().Sklad, "Praha");
+        EXPECT_EQ(order->Document().Dodavatel, "Vrba");
+        window.close();
+    });
+    item_.Execute("DODOBJ,SABLONA", &dataSet_, nullptr);
+    EXPECT_TRUE(editor.hasActed());
+}
+
 TEST_F(OrderWorkflow, AnOrdersPricesAreThoseOfTheMomentWhenItWasOrdered) {
     EXPECT_THAT(priceListAskedFor("DODOBJ,DODAVATEL"), HasSubstr("'5.3.2026 14:30:00'"));
 }
