@@ -174,7 +174,7 @@ TCallResult IdentifiedSaves::closeIdentified(SaveMark mark, const TProcedureCall
         return {};
     }
     database_.Execute(callAboutSave(c_MarkSaveProcedure, mark.Identity));
-    unknown_.push_back(pending_.keep(std::move(mark)));
+    unknown_.push_back({pending_.keep(std::move(mark)), true});
     try {
         TCallResult result = database_.Execute(call);
         settleLast();
@@ -189,7 +189,7 @@ TCallResult IdentifiedSaves::closeIdentified(SaveMark mark, const TProcedureCall
 }
 
 void IdentifiedSaves::settleLast() {
-    unknown_.back().settle();
+    unknown_.back().Save.settle();
     unknown_.pop_back();
 }
 
@@ -202,16 +202,19 @@ bool IdentifiedSaves::cameBefore(const SaveMark& mark) {
         }
         throw;
     }
-    const auto come = findUnknown(mark.Place);
-    if (come == unknown_.end()) {
+    const auto first = findUnknown(mark.Place);
+    if (first == unknown_.end()) {
         return false;
     }
-    if (come->mark().Content != mark.Content) {
+    // What this program saved last is what the editor's lines are held against. Of several that others left behind,
+    // each may be the one that is repeated.
+    const auto come = first->IsOwn ? first : findTheSame(mark);
+    if (come == unknown_.end() || come->Save.mark().Content != mark.Content) {
         throw refusal("ML058");
     }
     database_.Execute(callAboutSave(c_MarkSaveProcedure, {})); // other work on this document may be taken up
-    come->settle();
-    unknown_.erase(come);
+    come->Save.settle();
+    leaveBehind(mark.Place);
     return true;
 }
 
@@ -222,15 +225,26 @@ TCallResult IdentifiedSaves::answerAboutWork(std::string_view closing, const TPr
     if (come == unknown_.end()) {
         return database_.Execute(question);
     }
-    hasCome(come->mark()); // once more, for the session is about the last one that was asked about
+    hasCome(come->Save.mark()); // once more, for the session is about the last one that was asked about
     TCallResult answer = database_.Execute(question);
-    declined_ = std::move(*come);
+    declined_ = std::move(come->Save);
     unknown_.erase(come);
+    leaveBehind(place);
     return answer;
 }
 
-std::vector<PendingSave>::iterator IdentifiedSaves::findUnknown(const std::string& place) {
-    return std::ranges::find(unknown_, place, [](const PendingSave& save) { return save.mark().Place; });
+std::vector<IdentifiedSaves::Unknown>::iterator IdentifiedSaves::findUnknown(const std::string& place) {
+    return std::ranges::find(unknown_, place, [](const Unknown& save) { return save.Save.mark().Place; });
+}
+
+std::vector<IdentifiedSaves::Unknown>::iterator IdentifiedSaves::findTheSame(const SaveMark& mark) {
+    return std::ranges::find_if(unknown_, [&](const Unknown& save) {
+        return save.Save.mark().Place == mark.Place && save.Save.mark().Content == mark.Content;
+    });
+}
+
+void IdentifiedSaves::leaveBehind(const std::string& place) {
+    std::erase_if(unknown_, [&](const Unknown& save) { return save.Save.mark().Place == place; });
 }
 
 void IdentifiedSaves::askAbout(const std::string& place) {
@@ -238,13 +252,13 @@ void IdentifiedSaves::askAbout(const std::string& place) {
         return;
     }
     for (PendingSave& save : pending_.leftBehind(place)) {
-        unknown_.push_back(std::move(save));
+        unknown_.push_back({std::move(save), false});
     }
     for (auto save = unknown_.begin(); save != unknown_.end();) {
-        if (save->mark().Place != place || hasCome(save->mark())) {
+        if (save->Save.mark().Place != place || hasCome(save->Save.mark())) {
             ++save;
         } else {
-            save->settle();
+            save->Save.settle();
             save = unknown_.erase(save);
         }
     }
@@ -255,7 +269,7 @@ void IdentifiedSaves::giveUpUnknown() {
         return;
     }
     while (!unknown_.empty()) {
-        hasCome(unknown_.back().mark());
+        hasCome(unknown_.back().Save.mark());
         settleLast();
     }
     database_.Execute(callAboutSave(c_MarkSaveProcedure, {}));

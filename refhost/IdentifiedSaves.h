@@ -36,6 +36,12 @@ public:
     TResultTable Query(const AnsiString& sql) override;
 
 private:
+    /// A save whose outcome nobody has heard of.
+    struct Unknown {
+        PendingSave Save;
+        bool IsOwn; ///< Of this program; one at most of a place. Else another program left it behind.
+    };
+
     void forgetDeclined();
     void addSent(const TProcedureCall& call);
     /// A digest that tells this user's saves of the document from all others.
@@ -43,9 +49,14 @@ private:
     TCallResult close(std::string_view closing, const TProcedureCall& call);
     TCallResult closeIdentified(SaveMark mark, const TProcedureCall& call);
     TCallResult answerAboutWork(std::string_view closing, const TProcedureCall& question);
-    /// Whether this very save has come before. Throws EDatabaseError when another one of its place has.
+    /// Whether this very save has come before. Throws EDatabaseError when only another one of its place has.
     bool cameBefore(const SaveMark& mark);
-    std::vector<PendingSave>::iterator findUnknown(const std::string& place);
+    /// The first one of the place: this program's own, if there is one.
+    std::vector<Unknown>::iterator findUnknown(const std::string& place);
+    std::vector<Unknown>::iterator findTheSame(const SaveMark& mark);
+    /// Forgets those of the place. The files of those that are not settled stay: their rows may come again, too, or the
+    /// work on them be asked about.
+    void leaveBehind(const std::string& place);
     /// Asks about each save of the place whose outcome is unknown, also those that other programs left behind. Only
     /// those that have come stay.
     void askAbout(const std::string& place);
@@ -58,8 +69,8 @@ private:
     Database& database_;
     PendingSaves pending_;
     QCryptographicHash sent_{QCryptographicHash::Sha256}; ///< Of the save under way.
-    std::vector<PendingSave> unknown_;                    ///< Outcomes that nobody has heard of.
-    std::optional<PendingSave> declined_;                 ///< Has come; the module is about to drop the work on it.
+    std::vector<Unknown> unknown_;
+    std::optional<PendingSave> declined_; ///< Has come; the module is about to drop the work on it.
     std::optional<bool> areIdentified_;
 };
 

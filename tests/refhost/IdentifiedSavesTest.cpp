@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <utility>
 
 namespace refhost {
 namespace {
@@ -60,6 +61,18 @@ protected:
     std::string saveLosing(Loss loss, const std::string& quantity) {
         link_->lose(loss, c_Close);
         return save(quantity);
+    }
+    /// One more host of the same clerk, which ends at the end of its save as this one does at its kill().
+    void killAnotherOneSaving(const std::string& quantity) {
+        auto database = std::exchange(database_, nullptr);
+        auto link = std::exchange(link_, nullptr);
+        auto program = std::exchange(program_, nullptr);
+        start();
+        EXPECT_EQ(saveLosing(Loss::OfAnswer, quantity), c_Unknown);
+        kill();
+        database_ = std::move(database);
+        link_ = std::move(link);
+        program_ = std::move(program);
     }
     std::string mayWorkBeTakenUp(std::int64_t note = c_OpenNote) {
         return run("DodakObnovData", {{"a_DODKID", id(note)}});
@@ -207,6 +220,55 @@ TEST_P(IdentifiedSavesTest, ASaveThatWasLeftBehindByACrashIsAskedForByTheNextSav
     open();
     EXPECT_EQ(save("4"), "");
     EXPECT_EQ(added(), "2\n3\n4");
+}
+
+TEST_P(IdentifiedSavesTest, OfTwoSavesThatWereLeftBehindEachIsDoneWhenItsRowsComeAgain) {
+    saveLosing(Loss::OfAnswer, "2");
+    killAnotherOneSaving("3");
+    kill();
+    start();
+    EXPECT_EQ(files(), 2U);
+    EXPECT_EQ(save("2"), "");
+    open();
+    EXPECT_EQ(save("3"), "") << "the clerk has not been told of this one yet";
+    EXPECT_EQ(added(), "2\n3");
+    EXPECT_EQ(files(), 0U);
+}
+
+TEST_P(IdentifiedSavesTest, RowsOfNeitherOfTwoSavesThatWereLeftBehindAreRefusedUntilTheEditorIsOpenedAnew) {
+    saveLosing(Loss::OfAnswer, "2");
+    killAnotherOneSaving("3");
+    kill();
+    start();
+    EXPECT_EQ(save("4"), c_OtherLines);
+    EXPECT_EQ(save("4"), c_OtherLines);
+    open();
+    EXPECT_EQ(save("4"), "");
+    EXPECT_EQ(added(), "2\n3\n4");
+    EXPECT_EQ(files(), 0U);
+}
+
+TEST_P(IdentifiedSavesTest, WorkOnTwoSavesThatWereLeftBehindIsTakenUpForNeither) {
+    saveLosing(Loss::OfAnswer, "2");
+    killAnotherOneSaving("3");
+    kill();
+    start();
+    open();
+    EXPECT_EQ(mayWorkBeTakenUp(), "a_OBNOVDATA = 0");
+    open();
+    EXPECT_EQ(mayWorkBeTakenUp(), "a_OBNOVDATA = 0");
+    open();
+    EXPECT_EQ(mayWorkBeTakenUp(), "a_OBNOVDATA = 1");
+    EXPECT_EQ(files(), 0U);
+}
+
+// The editor's own lines stand in the note already, whatever somebody else's lines were.
+TEST_P(IdentifiedSavesTest, RowsThatWereChangedIntoThoseOfAnotherHostsSaveAreRefused) {
+    saveLosing(Loss::OfAnswer, "2");
+    killAnotherOneSaving("3");
+    EXPECT_EQ(save("3"), c_OtherLines);
+    EXPECT_EQ(save("2"), "");
+    EXPECT_EQ(files(), 1U) << "the other host's, to be asked about once more";
 }
 
 TEST_P(IdentifiedSavesTest, AnotherUsersSaveIsHisOwnAffair) {
