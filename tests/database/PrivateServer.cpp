@@ -2,6 +2,7 @@
 
 #include "host/Exceptions.h"
 #include "refhost/database/PostgreSQLSchema.h"
+#include "tests/database/KilledServer.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -25,7 +26,7 @@ PrivateServer& PrivateServer::instance() {
 // The folder is there when the other constructor has ended, so that the destructor stops the server also when this one
 // fails.
 PrivateServer::PrivateServer() : PrivateServer("server") {
-    run("start '" + folder().string() + "' --without-fsync --until-exit-of " + std::to_string(getpid()));
+    start();
     try {
         administrator("postgres").execute(std::string("create database ") + c_Model);
         PostgreSQLSession session = administrator(c_Model);
@@ -41,6 +42,16 @@ PrivateServer::~PrivateServer() {
     } catch (const std::exception& error) {
         std::fprintf(stderr, "%s\n", error.what());
     }
+}
+
+void PrivateServer::start() const {
+    run("start '" + folder().string() + "' --without-fsync --until-exit-of " + std::to_string(getpid()));
+}
+
+void PrivateServer::crash() const {
+    killServer(folder());
+    std::filesystem::remove(folder() / "data/postmaster.pid"); // else the next one doubts that it is gone
+    start();
 }
 
 void PrivateServer::run(const std::string& command) const {

@@ -33,9 +33,13 @@ public:
     PostgreSQLSession administrator(const std::string& database) const;
     const std::filesystem::path& folder() const { return folder_.path(); }
 
+    /// Kills the server in the middle of whatever it does, and starts it again: what was not committed is gone.
+    void crash() const;
+
 private:
     PrivateServer();
     explicit PrivateServer(const std::string& folderKind) : folder_(folderKind) {}
+    void start() const;
     void run(const std::string& command) const;
     std::string copyOf(const std::string& model);
 

@@ -2,10 +2,10 @@
 
 #include "host/Exceptions.h"
 #include "refhost/IdentifiedSaves.h"
-#include "refhost/database/PostgreSQLSession.h"
 #include "tests/database/ContractCompany.h"
 #include "tests/database/CutLink.h"
 #include "tests/database/PrivateServer.h"
+#include "tests/refhost/SweptNote.h"
 #include "tests/refhost/UnansweredDatabase.h"
 
 #include <chrono>
@@ -19,9 +19,6 @@
 namespace refhost {
 
 namespace {
-
-/// So often presses a clerk OK before he gives up.
-constexpr int c_MostTries = 500;
 
 /// A connection whose program is killed at one of its calls.
 class KilledDatabase : public UnansweredDatabase {
@@ -46,74 +43,8 @@ private:
     bool isBefore_;
 };
 
-/// A company whose open note takes the saves, each with a quantity of its own.
-class Sweep {
-public:
-    Sweep(Engine engine, int rows) : rows_(rows), url_(newDatabaseUrl(engine)) {
-        addContractCompany(*openAs(url_, "novakova"));
-    }
-
-    const std::string& url() const { return url_; }
-    std::string folder() const { return state_.path() / "saves"; }
-
-    /// The module's calls of a save.
-    void save(IdentifiedSaves& program) const {
-        program.Execute({"MELVARKEDITORResetTemp", {}, false});
-        for (int row = 0; row < rows_; ++row) {
-            program.Execute(
-                {"MELVARKEDITORDodakInsertToTemp",
-                 {{"a_SKLADPOL", AnsiString("Sirup")}, {"a_MNOZSTVI", AnsiString(std::to_string(quantity_))}},
-                 false});
-        }
-        program.Execute({"MELVARKEDITORDodakTempUloz", {{"a_DODKID", std::int64_t{c_OpenNote}}}, false});
-    }
-    /// Presses OK until the save is acknowledged; false when it never is.
-    bool saveAgainAndAgain(IdentifiedSaves& program) const {
-        for (int attempt = 0; attempt < c_MostTries; ++attempt) {
-            try {
-                save(program);
-                return true;
-            } catch (const EDatabaseError&) {
-                std::this_thread::sleep_for(std::chrono::milliseconds(10));
-            }
-        }
-        return false;
-    }
-    /// The next point has the next quantity.
-    void begin() {
-        ++quantity_;
-        ++result_.Points;
-    }
-    void expect(bool isRight, const std::string& point, const std::string& what) {
-        if (!isRight) {
-            result_.Wrong.push_back(point + " of " + std::to_string(rows_) + " rows: " + what);
-        }
-    }
-    int stored(Database& database) const {
-        const auto table = database.Query("select count(*) from DODAKPOL where DODKID = 2 and PORADI > 1 and "
-                                          "MNOZSTVI = '" +
-                                          std::to_string(quantity_) + "'");
-        return static_cast<int>(std::get<std::int64_t>(table.Rows.front().front()));
-    }
-    void expectOldOrNew(Database& database, const std::string& point) {
-        const int lines = stored(database);
-        expect(lines == 0 || lines == rows_, point, std::to_string(lines) + " lines after the break");
-    }
-    void expectNew(Database& database, const std::string& point) {
-        expect(stored(database) == rows_, point, std::to_string(stored(database)) + " lines in the end");
-    }
-    SweepResult result() const { return result_; }
-
-private:
-    const TemporaryFolder state_{"save-sweep"};
-    int rows_;
-    std::string url_;
-    int quantity_ = 0;
-    SweepResult result_;
-};
-
 /// In a process of its own: false when that was not killed.
-bool isKilledSaving(const Sweep& sweep, int call, bool isBefore) {
+bool isKilledSaving(const SweptNote& sweep, int call, bool isBefore) {
     const pid_t child = fork();
     if (child == 0) {
         const auto database = openAs(sweep.url(), "novakova");
@@ -133,17 +64,6 @@ bool mayBeTakenUp(IdentifiedSaves& program) {
     return std::get<std::int64_t>(answer.Outputs.front().Value) == 1;
 }
 
-PostgreSQLSession administratorOf(const std::string& url) {
-    return PostgreSQLSession(url.substr(std::string_view("postgresql:").size()) + " user=postgres", TFormatSettings{});
-}
-
-/// The tests' server is set up for speed; here it has to behave as a server of people.
-void keepWhatIsAcknowledged(const std::string& url) {
-    PostgreSQLSession administrator = administratorOf(url);
-    administrator.execute("alter database " + administrator.database() + " set synchronous_commit = on");
-    administrator.execute("checkpoint");
-}
-
 /// Kills the server's process of a clerk, if there is one.
 void crashServer(const std::string& url, std::chrono::microseconds after) {
     std::this_thread::sleep_for(after);
@@ -158,7 +78,7 @@ void crashServer(const std::string& url, std::chrono::microseconds after) {
 } // namespace
 
 SweepResult sweepKills(Engine engine, int rows) {
-    Sweep sweep(engine, rows);
+    SweptNote sweep(engine, rows);
     openAs(sweep.url(), "novakova"); // his role is made before the processes divide
     const int calls = rows + 3;      // the emptying, the identity and the closing call
     for (int call = 1; call <= calls; ++call) {
@@ -180,7 +100,7 @@ SweepResult sweepKills(Engine engine, int rows) {
 }
 
 SweepResult sweepCuts(int rows) {
-    Sweep sweep(Engine::PostgreSQL, rows);
+    SweptNote sweep(Engine::PostgreSQL, rows);
     const std::string server = PrivateServer::instance().folder();
     CutLink link(server);
     std::string address = sweep.url();
@@ -212,7 +132,7 @@ SweepResult sweepCuts(int rows) {
 }
 
 SweepResult sweepServerCrashes(int rows, int moments, unsigned seed) {
-    Sweep sweep(Engine::PostgreSQL, rows);
+    SweptNote sweep(Engine::PostgreSQL, rows);
     keepWhatIsAcknowledged(sweep.url());
     std::mt19937 random(seed);
     std::uniform_int_distribution<int> microseconds(0, 100 * rows);

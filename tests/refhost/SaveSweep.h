@@ -26,4 +26,8 @@ SweepResult sweepCuts(int rows);
 /// start anew. The clerk presses OK likewise.
 SweepResult sweepServerCrashes(int rows, int moments, unsigned seed);
 
+/// The server is killed while the closing call of a save of so many rows stops at one place after the other, up to the
+/// one where all is on the disk and the answer is not sent. The clerk presses OK likewise.
+SweepResult sweepClosingCrashes(int rows);
+
 } // namespace refhost

@@ -30,5 +30,11 @@ TEST(SaveSweepServer, AServerThatCrashesHasSavedAllOrNothingAndTheNextSaveDouble
     EXPECT_THAT(sweepServerCrashes(10, 2, 1).Wrong, IsEmpty());
 }
 
+TEST(SaveSweepServer, AServerThatIsKilledInTheClosingCallHasTheOldDocumentUntilTheCommitAndThenTheNewOne) {
+    const SweepResult result = sweepClosingCrashes(10);
+    EXPECT_THAT(result.Wrong, IsEmpty());
+    EXPECT_EQ(result.Points, 6);
+}
+
 } // namespace
 } // namespace refhost
