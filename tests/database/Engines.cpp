@@ -34,12 +34,16 @@ std::string newDatabaseUrl(Engine engine) {
     return std::string(c_PostgreSQL) + "host=" + server.folder().string() + " dbname=" + server.newDatabase();
 }
 
-std::unique_ptr<Database> openAs(const std::string& url, const std::string& user, const TFormatSettings& settings) {
+std::string addressAs(const std::string& url, const std::string& user) {
     if (!url.starts_with(c_PostgreSQL)) {
-        return openDatabase(url, user, settings, OpenMode::Existing);
+        return url;
     }
     PrivateServer::instance().addRole(user, "melvark_owner");
-    return openDatabase(url + " user=" + user, user, settings, OpenMode::Existing);
+    return url + " user=" + user;
+}
+
+std::unique_ptr<Database> openAs(const std::string& url, const std::string& user, const TFormatSettings& settings) {
+    return openDatabase(addressAs(url, user), user, settings, OpenMode::Existing);
 }
 
 std::unique_ptr<Database> newDatabase(Engine engine) {

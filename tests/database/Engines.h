@@ -22,7 +22,10 @@ std::string newSQLiteUrl();
 
 /// The address of such a database, for tests that open it more than once.
 std::string newDatabaseUrl(Engine engine);
-/// One more connection to it, as any user: on the server his role is made, with the right to prepare a test's data too.
+/// That address as a program takes it that is told of no other user than this one: on the server his role is made, with
+/// the right to prepare a test's data too.
+std::string addressAs(const std::string& url, const std::string& user);
+/// One more connection to it, as any user likewise.
 std::unique_ptr<Database> openAs(const std::string& url, const std::string& user,
                                  const TFormatSettings& settings = TFormatSettings::Czech());
 

@@ -2,6 +2,7 @@
 #include "tests/database/Engines.h"
 #include "tests/session/CrashableSession.h"
 #include "tests/session/DeliveryNoteTrace.h"
+#include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
 
 #include <QPoint>
@@ -56,15 +57,12 @@ constexpr Editor c_Editors[] = {
 
 /// The contract company in a database of its own.
 struct Company {
-    explicit Company(Engine databaseEngine) : engine(databaseEngine), url(refhost::newDatabaseUrl(databaseEngine)) {
-        refhost::addContractCompany(*open());
-    }
+    explicit Company(Engine engine) : url(refhost::newDatabaseUrl(engine)) { refhost::addContractCompany(*open()); }
 
     std::unique_ptr<refhost::Database> open() const { return refhost::openAs(url, "novakova"); }
     /// As the host's command line names it.
-    std::string address() const { return engine == Engine::PostgreSQL ? url + " user=novakova" : url; }
+    std::string address() const { return refhost::addressAs(url, "novakova"); }
 
-    Engine engine;
     std::string url;
 };
 
@@ -159,9 +157,7 @@ const auto nameOf = [](const auto& row) {
     return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param).name;
 };
 
-INSTANTIATE_TEST_SUITE_P(EnginesAndEditors, CrashSession,
-                         testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                                          testing::ValuesIn(c_Editors)),
+INSTANTIATE_TEST_SUITE_P(EnginesAndEditors, CrashSession, testing::Combine(c_BothEngines, testing::ValuesIn(c_Editors)),
                          nameOf);
 
 using CrashStory = CrashSession;
@@ -224,28 +220,19 @@ TEST_P(CrashStory, ASecondEditorIsToldAndTheFirstOnesWorkIsKept) {
 
 // A template is kept and taken up by the order's own code.
 INSTANTIATE_TEST_SUITE_P(EnginesAndEditors, CrashStory,
-                         testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                                          testing::Values(c_Editors[0], c_Editors[1])),
-                         nameOf);
+                         testing::Combine(c_BothEngines, testing::Values(c_Editors[0], c_Editors[1])), nameOf);
 
 // ------------------------------------------------------------------ the delivery note of the tiny company
 
 /// The template's lines with 7.5 as the first quantity: 7.5 × 10.00, and 5 × 20.00 less 10 %, with 21 % VAT.
 const Lines c_SevenAndAHalf = {
-    R"({"PORADI":"1","SKLPID":"1","MNOZSTVI":"7.5","JEDNCENABSESLEVOU":"10","CENASSESLEVOU":"90.75","DOBSID":null})",
-    R"({"PORADI":"2","SKLPID":"2","MNOZSTVI":"5","JEDNCENABSESLEVOU":"18","CENASSESLEVOU":"108.9","DOBSID":null})",
+    R"({"PORADI":"1","SKLPID":"1","MNOZSTVI":"7,5","JEDNCENABSESLEVOU":"10","CENASSESLEVOU":"90,75","DOBSID":null})",
+    R"({"PORADI":"2","SKLPID":"2","MNOZSTVI":"5","JEDNCENABSESLEVOU":"18","CENASSESLEVOU":"108,9","DOBSID":null})",
 };
 
 void startNote(CrashableSession& session, int document = tinycompany::c_OpenNote) {
     session.startEditor(c_FromTemplate, document);
     session.waitForWindow(c_NoteTitle);
-}
-
-/// A company of its own, as the host's command line names it.
-std::string tinyCompany() {
-    const std::string url = refhost::newSQLiteUrl();
-    tinycompany::create(url.substr(std::string_view("sqlite:").size()));
-    return url;
 }
 
 /// Types 7.5 as the first quantity and lets a minute pass.
@@ -257,8 +244,10 @@ void workAndTick(CrashableSession& session) {
     session.passAMinute(c_NoteFile);
 }
 
-TEST(NoteCrashSession, WhatWasTypedAfterTheLastTickIsLostAndNothingElse) {
-    CrashableSession session(tinyCompany());
+using NoteCrashSession = OnBothEngines;
+
+TEST_P(NoteCrashSession, WhatWasTypedAfterTheLastTickIsLostAndNothingElse) {
+    CrashableSession session(tinycompany::on(GetParam()));
     workAndTick(session);
     session.type(QStringLiteral("9"));
     session.press({QStringLiteral("Return")});
@@ -270,8 +259,8 @@ TEST(NoteCrashSession, WhatWasTypedAfterTheLastTickIsLostAndNothingElse) {
     EXPECT_THAT(storedLines(session), ElementsAreArray(c_SevenAndAHalf));
 }
 
-TEST(NoteCrashSession, WorkOfAnotherNoteIsToldAndSavedIntoThatNote) {
-    CrashableSession session(tinyCompany());
+TEST_P(NoteCrashSession, WorkOfAnotherNoteIsToldAndSavedIntoThatNote) {
+    CrashableSession session(tinycompany::on(GetParam()));
     workAndTick(session);
     session.crash();
     session.changeDatabase("update DODAK set OTEVRENO = 1 where ID = 3");
@@ -284,12 +273,14 @@ TEST(NoteCrashSession, WorkOfAnotherNoteIsToldAndSavedIntoThatNote) {
     EXPECT_THAT(storedLines(session), ElementsAreArray(c_SevenAndAHalf));
 }
 
-TEST(NoteCrashSession, CancelledWorkIsNotOfferedAgain) {
-    CrashableSession session(tinyCompany());
+TEST_P(NoteCrashSession, CancelledWorkIsNotOfferedAgain) {
+    CrashableSession session(tinycompany::on(GetParam()));
     workAndTick(session);
     session.press({QStringLiteral("Escape"), QStringLiteral("alt+F4")});
     EXPECT_EQ(session.finish(), 1);
     EXPECT_THAT(session.unsavedWork(), IsEmpty());
 }
+
+INSTANTIATE_TEST_SUITE_P(Engines, NoteCrashSession, c_BothEngines, engineOf);
 
 } // namespace

@@ -92,7 +92,9 @@ Lines withoutStoredPlacement(Lines trace, int placementType) {
 }
 
 Lines storedLines(const HostSession& session) {
-    return session.ask({QStringLiteral("--query"),
-                        QStringLiteral("select PORADI, SKLPID, MNOZSTVI, JEDNCENABSESLEVOU, CENASSESLEVOU, DOBSID "
-                                       "from DODAKPOL where DODKID = 2 order by PORADI")});
+    return session.ask(
+        {QStringLiteral("--query"), QStringLiteral("select PORADI, SKLPID, number_text(MNOZSTVI) as MNOZSTVI, "
+                                                   "number_text(JEDNCENABSESLEVOU) as JEDNCENABSESLEVOU, "
+                                                   "number_text(CENASSESLEVOU) as CENASSESLEVOU, DOBSID "
+                                                   "from DODAKPOL where DODKID = 2 order by PORADI")});
 }

@@ -1,4 +1,5 @@
 #include "tests/session/HostSession.h"
+#include "tests/session/OnBothEngines.h"
 #include "tests/session/OrderSources.h"
 #include "tests/session/OrderTrace.h"
 
@@ -167,9 +168,7 @@ TEST_P(EmptySourceSession, GivesOneEmptyRowAndSavingItChangesNothing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sources, EmptySourceSession,
-                         testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                                          testing::ValuesIn(emptySources())),
-                         [](const auto& row) {
+                         testing::Combine(c_BothEngines, testing::ValuesIn(emptySources())), [](const auto& row) {
                              return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param).name;
                          });
 
@@ -260,8 +259,8 @@ TEST_P(RefusedSourceSession, IsToldAndCorrectedInTheOpenDialog) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sources, RefusedSourceSession,
-                         testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                                          testing::Values(&c_Czech, &c_English), testing::ValuesIn(refusedSources())),
+                         testing::Combine(c_BothEngines, testing::Values(&c_Czech, &c_English),
+                                          testing::ValuesIn(refusedSources())),
                          [](const auto& row) {
                              return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param)->Language +
                                     std::get<2>(row.param).name;
@@ -284,7 +283,6 @@ TEST_P(NoDeliveriesSession, OfTheDocumentsOwnSupplierAreToldAndTheDialogCanOnlyB
     EXPECT_THAT(session.trace(), testing::Not(Contains(HasSubstr("GetPolozky"))));
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, NoDeliveriesSession, testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                         [](const auto& row) { return refhost::engineName(row.param); });
+INSTANTIATE_TEST_SUITE_P(Engines, NoDeliveriesSession, c_BothEngines, engineOf);
 
 } // namespace

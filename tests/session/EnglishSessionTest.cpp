@@ -1,5 +1,6 @@
 #include "tests/session/DeliveryNoteTrace.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
 
 #include <gmock/gmock.h>
@@ -16,8 +17,10 @@ void startInEnglish(HostSession& session, const char* params) {
                    QStringLiteral("--document"), QString::number(c_OpenNote)});
 }
 
-TEST(EnglishSession, ADecimalPointIsTypedAndTheDatabaseIsAskedAsInCzech) {
-    HostSession session;
+using EnglishSession = OnBothEngines;
+
+TEST_P(EnglishSession, ADecimalPointIsTypedAndTheDatabaseIsAskedAsInCzech) {
+    HostSession session(tinycompany::on(GetParam()));
     startInEnglish(session, "DODAK,SABLONA");
     session.waitForWindow(QStringLiteral("Insert delivery note lines"));
     session.type(QStringLiteral("7.5"));
@@ -43,13 +46,13 @@ TEST(EnglishSession, ADecimalPointIsTypedAndTheDatabaseIsAskedAsInCzech) {
     EXPECT_THAT(
         storedLines(session),
         ElementsAreArray({
-            R"({"PORADI":"1","SKLPID":"1","MNOZSTVI":"7.5","JEDNCENABSESLEVOU":"10","CENASSESLEVOU":"90.75","DOBSID":null})",
-            R"({"PORADI":"2","SKLPID":"2","MNOZSTVI":"5","JEDNCENABSESLEVOU":"18","CENASSESLEVOU":"108.9","DOBSID":null})",
+            R"({"PORADI":"1","SKLPID":"1","MNOZSTVI":"7,5","JEDNCENABSESLEVOU":"10","CENASSESLEVOU":"90,75","DOBSID":null})",
+            R"({"PORADI":"2","SKLPID":"2","MNOZSTVI":"5","JEDNCENABSESLEVOU":"18","CENASSESLEVOU":"108,9","DOBSID":null})",
         }));
 }
 
-TEST(EnglishSession, ARefusalOfTheDatabaseIsShownInEnglishWithTheThingThatItNames) {
-    HostSession session;
+TEST_P(EnglishSession, ARefusalOfTheDatabaseIsShownInEnglishWithTheThingThatItNames) {
+    HostSession session(tinycompany::on(GetParam()));
     startInEnglish(session, "DODAK,DODOBJ");
     session.waitForWindow(QStringLiteral("Select an order"));
     session.type(QStringLiteral("OV2027-000004"));
@@ -63,8 +66,8 @@ TEST(EnglishSession, ARefusalOfTheDatabaseIsShownInEnglishWithTheThingThatItName
                                                      "order with something left to deliver.")));
 }
 
-TEST(EnglishSession, AValueThatIsNoNumberIsToldInEnglish) {
-    HostSession session;
+TEST_P(EnglishSession, AValueThatIsNoNumberIsToldInEnglish) {
+    HostSession session(tinycompany::on(GetParam()));
     startInEnglish(session, "DODAK,SABLONA");
     session.waitForWindow(QStringLiteral("Insert delivery note lines"));
     session.type(QStringLiteral("x"));
@@ -76,5 +79,7 @@ TEST(EnglishSession, AValueThatIsNoNumberIsToldInEnglish) {
     EXPECT_EQ(session.finish(), 1);
     EXPECT_THAT(session.trace(), Contains(R"({"box":"The value x is not a decimal number","flags":16,"result":1})"));
 }
+
+INSTANTIATE_TEST_SUITE_P(Engines, EnglishSession, c_BothEngines, engineOf);
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "refhost/database/Databases.h"
 #include "tests/session/ContractTrace.h"
-#include "tests/session/TinyCompany.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -41,12 +40,6 @@ std::vector<std::string> linesOf(const QByteArray& text) {
 }
 
 } // namespace
-
-HostSession::HostSession() : HostSession(std::string()) {
-    const std::string file = folder_.filePath(QStringLiteral("tiny.db")).toStdString();
-    database_ = "sqlite:" + file;
-    tinycompany::create(file);
-}
 
 HostSession::HostSession(std::string database, QString user) : database_(std::move(database)), user_(std::move(user)) {
     host_.setProcessChannelMode(QProcess::SeparateChannels);

@@ -17,8 +17,6 @@
 /// Every wait has a limit; running into it fails the test at once.
 class HostSession {
 public:
-    /// Makes the tiny company.
-    HostSession();
     /// On a company that the test has made, as `user`: the address as the host's command line takes it.
     explicit HostSession(std::string database, QString user = QStringLiteral("novakova"));
     HostSession(const HostSession&) = delete;

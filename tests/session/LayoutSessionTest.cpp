@@ -4,6 +4,7 @@
 #include "tests/database/ServerCompany.h"
 #include "tests/session/DeliveryNoteTrace.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/OnBothEngines.h"
 #include "tests/session/SecondDisplay.h"
 
 #include <QTest>
@@ -125,13 +126,10 @@ class LayoutSession : public testing::TestWithParam<Engine> {
 protected:
     LayoutSession() : url_(refhost::newDatabaseUrl(GetParam())) {
         refhost::addContractCompany(*refhost::openAs(url_, "novakova"));
-        refhost::openAs(url_, "dvorak");
     }
 
     /// The database's address for a user.
-    std::string addressFor(const char* user) const {
-        return GetParam() == Engine::PostgreSQL ? url_ + " user=" + user : url_;
-    }
+    std::string addressFor(const char* user) const { return refhost::addressAs(url_, user); }
 
     static void openEditor(HostSession& session) {
         session.startEditor(QStringLiteral("DODAK,SABLONA"), 2);
@@ -451,8 +449,7 @@ TEST_P(LayoutSession, AMaximisedWindowComesBackMaximisedOverItsNormalPlace) {
     EXPECT_THAT(sentWith(second, "UlozNastaveniOkna"), HasSubstr(normal + "<maximized>0</maximized>"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, LayoutSession, testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                         [](const auto& row) { return refhost::engineName(row.param); });
+INSTANTIATE_TEST_SUITE_P(Engines, LayoutSession, c_BothEngines, engineOf);
 
 TEST(LayoutSessionLink, ALinkLostWhileThePlaceIsStoredIsToldAndTheWindowCloses) {
     const refhost::ServerCompany company;

@@ -1,5 +1,6 @@
 #include "tests/session/DeliveryNoteTrace.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
 
 #include <gmock/gmock.h>
@@ -31,8 +32,10 @@ std::vector<std::string> checkedNotes(const HostSession& session) {
     return calls;
 }
 
-TEST(MainWindowSession, ANoteIsFoundByTypingFilledByKeysAndStillCurrentAfterwards) {
-    HostSession session;
+using MainWindowSession = OnBothEngines;
+
+TEST_P(MainWindowSession, ANoteIsFoundByTypingFilledByKeysAndStillCurrentAfterwards) {
+    HostSession session(tinycompany::on(GetParam()));
     session.start({});
     session.waitForWindow(c_MainTitle); // on the latest note, DL3
     session.type(QStringLiteral("dl2"));
@@ -58,8 +61,8 @@ TEST(MainWindowSession, ANoteIsFoundByTypingFilledByKeysAndStillCurrentAfterward
     EXPECT_THAT(checkedNotes(session), ElementsAre(openNote, openNote));
 }
 
-TEST(MainWindowSession, AClosedNoteIsRefusedInWordsAndTheWindowGoesOn) {
-    HostSession session;
+TEST_P(MainWindowSession, AClosedNoteIsRefusedInWordsAndTheWindowGoesOn) {
+    HostSession session(tinycompany::on(GetParam()));
     session.start({});
     session.waitForWindow(c_MainTitle);
     session.type(QStringLiteral("dl1"));
@@ -87,8 +90,8 @@ void lookAround(HostSession& session) {
     EXPECT_EQ(session.standardError(), "");
 }
 
-TEST(MainWindowSession, TheWindowOpensInTheWayInWhichItWasLeft) {
-    HostSession session;
+TEST_P(MainWindowSession, TheWindowOpensInTheWayInWhichItWasLeft) {
+    HostSession session(tinycompany::on(GetParam()));
     session.start({});
     session.waitForWindow(c_MainTitle);
     session.placeWindow({120, 80, 900, 640});
@@ -106,15 +109,15 @@ TEST(MainWindowSession, TheWindowOpensInTheWayInWhichItWasLeft) {
     EXPECT_EQ(session.configuration("melvark/window.conf"), left);
 }
 
-TEST(MainWindowSession, ADamagedFileOfTheWindowsLookIsNoHindrance) {
-    HostSession session;
+TEST_P(MainWindowSession, ADamagedFileOfTheWindowsLookIsNoHindrance) {
+    HostSession session(tinycompany::on(GetParam()));
     session.configure("melvark/window.conf", "[window\n\x01=\nscreen=7\nleft=99999999999\n");
     lookAround(session);
     EXPECT_THAT(session.configuration("melvark/window.conf"), HasSubstr("screen=DODAK\n"));
 }
 
-TEST(MainWindowSession, ADismissedMenuAsksNothing) {
-    HostSession session;
+TEST_P(MainWindowSession, ADismissedMenuAsksNothing) {
+    HostSession session(tinycompany::on(GetParam()));
     session.start({});
     session.waitForWindow(c_MainTitle);
     session.openMenu(QStringLiteral("F8"));
@@ -122,5 +125,7 @@ TEST(MainWindowSession, ADismissedMenuAsksNothing) {
     EXPECT_EQ(session.finish(), 0);
     EXPECT_THAT(session.trace(), IsEmpty());
 }
+
+INSTANTIATE_TEST_SUITE_P(Engines, MainWindowSession, c_BothEngines, engineOf);
 
 } // namespace

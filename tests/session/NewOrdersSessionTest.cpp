@@ -4,6 +4,7 @@
 #include "refhost/WindowedHost.h"
 #include "tests/database/ContractCompany.h"
 #include "tests/database/Engines.h"
+#include "tests/session/OnBothEngines.h"
 #include "tests/session/SessionWords.h"
 
 #include <QApplication>
@@ -211,7 +212,6 @@ TEST_P(NewOrdersSession, OfADatabaseThatCannotTellThemAreMadeAndNotNamed) {
     EXPECT_EQ(newOrders(*database_), 2U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, NewOrdersSession, testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                         [](const auto& row) { return refhost::engineName(row.param); });
+INSTANTIATE_TEST_SUITE_P(Engines, NewOrdersSession, c_BothEngines, engineOf);
 
 } // namespace

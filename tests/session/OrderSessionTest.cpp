@@ -1,5 +1,6 @@
 #include "tests/database/Engines.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/OnBothEngines.h"
 #include "tests/session/OrderSources.h"
 #include "tests/session/OrderTrace.h"
 
@@ -79,8 +80,7 @@ TEST_P(OrderSession, FromEachSourceAsksAndStoresJustThis) {
 
 // What is asked and stored is the same in both languages.
 INSTANTIATE_TEST_SUITE_P(Sources, OrderSession,
-                         testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                                          testing::Values(&c_Czech, &c_English),
+                         testing::Combine(c_BothEngines, testing::Values(&c_Czech, &c_English),
                                           testing::ValuesIn(ordersources::sourceCases())),
                          [](const auto& row) {
                              return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param)->Language +
@@ -164,9 +164,7 @@ TEST_P(OrderSessionIn, ALoadedDecimalIsShownAndTypedOnAsTheLanguageWritesIt) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, OrderSessionIn,
-                         testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                                          testing::Values(&c_Czech, &c_English)),
-                         [](const auto& row) {
+                         testing::Combine(c_BothEngines, testing::Values(&c_Czech, &c_English)), [](const auto& row) {
                              return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param)->Language;
                          });
 
@@ -192,8 +190,7 @@ TEST_P(OrderSessionOn, SecondaryQuantitiesAreTypedOnlyWhereTheItemHasThem) {
                             stored(1, 8, "Cukr krystal", "1,5", "karton")));
 }
 
-INSTANTIATE_TEST_SUITE_P(Engines, OrderSessionOn, testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                         [](const auto& row) { return refhost::engineName(row.param); });
+INSTANTIATE_TEST_SUITE_P(Engines, OrderSessionOn, c_BothEngines, engineOf);
 
 /// An order or a template that is filled from the price list of its supplier.
 struct PricedDocument {
@@ -274,9 +271,7 @@ TEST_P(ChangedMeanwhile, ADeletedUnitIsRefusedInWordsAtItsLineAndTheWorkIsStillT
 }
 
 INSTANTIATE_TEST_SUITE_P(Documents, ChangedMeanwhile,
-                         testing::Combine(testing::Values(Engine::SQLite, Engine::PostgreSQL),
-                                          testing::ValuesIn(c_PricedDocuments)),
-                         [](const auto& row) {
+                         testing::Combine(c_BothEngines, testing::ValuesIn(c_PricedDocuments)), [](const auto& row) {
                              return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param).name;
                          });
 

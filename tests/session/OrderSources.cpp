@@ -35,7 +35,7 @@ std::string companyOn(refhost::Engine engine, const std::string& change) {
     if (!change.empty()) {
         database->runScript(change);
     }
-    return engine == refhost::Engine::PostgreSQL ? url + " user=novakova" : url;
+    return refhost::addressAs(url, "novakova");
 }
 
 Lines groups(int document, const std::vector<const char*>& names, const std::string& ids, int rows) {

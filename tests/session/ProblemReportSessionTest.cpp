@@ -1,6 +1,8 @@
 #include "tests/database/PrivateServer.h"
 #include "tests/database/ServerCompany.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/OnBothEngines.h"
+#include "tests/session/TinyCompany.h"
 
 #include <filesystem>
 #include <fstream>
@@ -59,8 +61,11 @@ TEST(ProblemReportSession, FromAnErrorHasNeitherPasswordNorConnectionNorWhatWasT
     }
 }
 
-TEST(ProblemReportSession, FromTheMainWindowIsWrittenByItsKeyAndNamesTheEngine) {
-    HostSession session;
+using ReportFromMainWindow = OnBothEngines;
+
+TEST_P(ReportFromMainWindow, IsWrittenByItsKeyAndNamesTheEngine) {
+    const std::string company = tinycompany::on(GetParam());
+    HostSession session(company);
     session.start({});
     session.waitForWindow(QStringLiteral("Melvark – nákup a sklad"));
     session.press({QStringLiteral("ctrl+shift+h")});
@@ -70,9 +75,11 @@ TEST(ProblemReportSession, FromTheMainWindowIsWrittenByItsKeyAndNamesTheEngine) 
     session.press({QStringLiteral("ctrl+q")});
     EXPECT_EQ(session.finish(), 0);
     const std::string report = onlyReport(session.home());
-    EXPECT_THAT(report, HasSubstr("engine SQLite 3."));
+    EXPECT_THAT(report, HasSubstr("engine " + refhost::engineName(GetParam()) + " "));
     EXPECT_THAT(report, HasSubstr("module yes\n"));
-    EXPECT_THAT(report, Not(HasSubstr("tiny.db")));
+    EXPECT_THAT(report, Not(HasSubstr(company.substr(company.find(':') + 1))));
 }
+
+INSTANTIATE_TEST_SUITE_P(Engines, ReportFromMainWindow, c_BothEngines, engineOf);
 
 } // namespace

@@ -1,11 +1,13 @@
 #include "tests/session/DeliveryNoteTrace.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
 
 #include <gmock/gmock.h>
 
 namespace {
 
+using refhost::Engine;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 using tinycompany::c_OpenNote;
@@ -80,11 +82,12 @@ const RefusalCase c_Refusals[] = {
     {"TheNoteItself", c_Note, "DL2", "Dodací list „DL2“ je právě upravovaný doklad. Vyberte jako zdroj jiný."},
 };
 
-class SourceSession : public testing::TestWithParam<RefusalCase> {};
+class SourceSession : public testing::TestWithParam<std::tuple<Engine, RefusalCase>> {};
 
 TEST_P(SourceSession, ARefusedSourceIsToldAndItsTextCorrectedInTheOpenDialog) {
-    const auto& [name, kind, typed, refusal] = GetParam();
-    HostSession session;
+    const auto& [engine, refused] = GetParam();
+    const auto& [name, kind, typed, refusal] = refused;
+    HostSession session(tinycompany::on(engine));
     session.startEditor(QString::fromUtf8(kind.params), c_OpenNote);
     session.waitForWindow(QString::fromUtf8(kind.title));
     session.type(QString::fromUtf8(typed));
@@ -108,11 +111,15 @@ TEST_P(SourceSession, ARefusedSourceIsToldAndItsTextCorrectedInTheOpenDialog) {
     EXPECT_THAT(storedLines(session), IsEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Refusals, SourceSession, testing::ValuesIn(c_Refusals),
-                         [](const auto& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Refusals, SourceSession, testing::Combine(c_BothEngines, testing::ValuesIn(c_Refusals)),
+                         [](const auto& row) {
+                             return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param).name;
+                         });
 
-TEST(SourceSessionOfNothing, NeitherTextNorPickIsRefusedAndAPickFromTheListThenHelps) {
-    HostSession session;
+using SourceSessionOfNothing = OnBothEngines;
+
+TEST_P(SourceSessionOfNothing, NeitherTextNorPickIsRefusedAndAPickFromTheListThenHelps) {
+    HostSession session(tinycompany::on(GetParam()));
     session.startEditor(QStringLiteral("DODAK,DODOBJ"), c_OpenNote);
     session.waitForWindow(QStringLiteral("Výběr objednávky"));
     session.press({QStringLiteral("Return")});
@@ -143,5 +150,7 @@ TEST(SourceSessionOfNothing, NeitherTextNorPickIsRefusedAndAPickFromTheListThenH
     };
     EXPECT_THAT(withoutStoredPlacement(session.trace()), ElementsAreArray(joined(openingCalls(1), checks)));
 }
+
+INSTANTIATE_TEST_SUITE_P(Engines, SourceSessionOfNothing, c_BothEngines, engineOf);
 
 } // namespace

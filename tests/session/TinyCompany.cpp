@@ -1,8 +1,5 @@
 #include "tests/session/TinyCompany.h"
 
-#include "refhost/database/Databases.h"
-
-#include <string>
 #include <vector>
 
 namespace tinycompany {
@@ -101,13 +98,13 @@ void addOrders(refhost::Database& database) {
 
 } // namespace
 
-void create(const std::filesystem::path& file) {
-    const auto database = refhost::openDatabase("sqlite:" + file.string(), "novakova", TFormatSettings::Czech(),
-                                                refhost::OpenMode::Create);
-    database->createSchema();
+std::string on(refhost::Engine engine) {
+    const std::string url = refhost::newDatabaseUrl(engine);
+    const auto database = refhost::openAs(url, "novakova");
     addGoods(*database);
     addNotes(*database);
     addOrders(*database);
+    return refhost::addressAs(url, "novakova");
 }
 
 } // namespace tinycompany

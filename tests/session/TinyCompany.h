@@ -1,6 +1,8 @@
 #pragma once
 
-#include <filesystem>
+#include "tests/database/Engines.h"
+
+#include <string>
 
 /// A company small enough to know by heart, so that what a session asks and stores can be worked out by hand:
 ///
@@ -23,7 +25,8 @@ inline constexpr int c_Order = 1;
 inline constexpr const char* c_OrderNumber = "OV2027-000001";
 inline constexpr const char* c_ClosedNoteNumber = "DL1";
 
-/// Makes the company in a new SQLite file.
-void create(const std::filesystem::path& file);
+/// Makes the company on the engine; its address for the host's command line, as "novakova". It disappears with the test
+/// program.
+std::string on(refhost::Engine engine);
 
 } // namespace tinycompany
