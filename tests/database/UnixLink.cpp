@@ -14,8 +14,9 @@ namespace refhost {
 namespace {
 
 constexpr const char* c_SocketName = ".s.PGSQL.5432";
-/// Much longer than either side needs between two calls.
-constexpr int c_Silence = 20;
+int pollTime(std::chrono::milliseconds patience) {
+    return static_cast<int>(patience.count());
+}
 
 sockaddr_un addressOf(const std::filesystem::path& path) {
     sockaddr_un address{};
@@ -49,7 +50,7 @@ int listenIn(const std::filesystem::path& folder) {
 
 int acceptAt(int listening) {
     pollfd waiting{listening, POLLIN, 0};
-    return poll(&waiting, 1, c_Silence) > 0 ? accept4(listening, nullptr, nullptr, SOCK_CLOEXEC) : -1;
+    return poll(&waiting, 1, pollTime(c_LinkSilence)) > 0 ? accept4(listening, nullptr, nullptr, SOCK_CLOEXEC) : -1;
 }
 
 int connectTo(const std::filesystem::path& folder) {
@@ -78,9 +79,9 @@ void serveClients(int listening, const std::filesystem::path& serverFolder, cons
     }
 }
 
-LinkSides awaitSides(int first, bool firstTakes, int second, bool secondTakes) {
+LinkSides awaitSides(int first, bool firstTakes, int second, bool secondTakes, std::chrono::milliseconds patience) {
     pollfd sides[] = {{first, wanted(firstTakes), 0}, {second, wanted(secondTakes), 0}};
-    const bool isSilent = poll(sides, 2, c_Silence) == 0;
+    const bool isSilent = poll(sides, 2, pollTime(patience)) == 0;
     return {.IsSilent = isSilent, .HasFirst = isReadable(sides[0]), .HasSecond = isReadable(sides[1])};
 }
 

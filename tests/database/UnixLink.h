@@ -1,6 +1,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -22,13 +23,17 @@ int connectTo(const std::filesystem::path& folder);
 void serveClients(int listening, const std::filesystem::path& serverFolder, const std::atomic<bool>& isEnding,
                   const std::function<void(int client, int server)>& carry);
 
-/// Waits a while for bytes of either side, and for room on a side that has to take some; false when nothing happens.
+/// Much longer than either side needs between two calls.
+inline constexpr std::chrono::milliseconds c_LinkSilence{20};
+
+/// Waits a while for bytes of either side, and for room on a side that has to take some.
 struct LinkSides {
-    bool IsSilent = false;
+    bool IsSilent = false; ///< Nothing happened.
     bool HasFirst = false; ///< The first side can be read, or has ended.
     bool HasSecond = false;
 };
-LinkSides awaitSides(int first, bool firstTakes, int second, bool secondTakes);
+LinkSides awaitSides(int first, bool firstTakes, int second, bool secondTakes,
+                     std::chrono::milliseconds patience = c_LinkSilence);
 
 /// Appends what has come; false at the end of the link.
 bool takeBytes(int socket, std::vector<char>& bytes);
