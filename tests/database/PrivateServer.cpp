@@ -45,7 +45,7 @@ PrivateServer::~PrivateServer() {
 }
 
 void PrivateServer::start() const {
-    run("start '" + folder().string() + "' --without-fsync --until-exit-of " + std::to_string(getpid()));
+    run("start '" + folder().string() + "' " + options_ + " --until-exit-of " + std::to_string(getpid()));
 }
 
 void PrivateServer::crash() const {

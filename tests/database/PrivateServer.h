@@ -15,6 +15,8 @@ class PostgreSQLSession;
 class PrivateServer {
 public:
     static PrivateServer& instance();
+    /// Before its first use: it waits for its disk, as a company's server does.
+    static void waitForDisk() { options_.clear(); }
     PrivateServer(const PrivateServer&) = delete;
     PrivateServer& operator=(const PrivateServer&) = delete;
     ~PrivateServer();
@@ -42,6 +44,8 @@ private:
     void start() const;
     void run(const std::string& command) const;
     std::string copyOf(const std::string& model);
+
+    inline static std::string options_ = "--without-fsync";
 
     TemporaryFolder folder_;
     int databases_ = 0;
