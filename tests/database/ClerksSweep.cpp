@@ -70,7 +70,7 @@ public:
 
     void workUntil(steady_clock::time_point end) {
         while (steady_clock::now() < end) {
-            switch (upTo(4)) {
+            switch (oneOf(4)) {
             case 0:
                 saveOrder();
                 break;
@@ -87,7 +87,7 @@ public:
     const std::map<std::string, int>& told() const { return told_; }
 
 private:
-    int upTo(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random_); }
+    int oneOf(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random_); }
 
     /// Whether the call was accepted.
     bool call(const std::string& procedure, Parameters parameters = {}) {
@@ -102,10 +102,10 @@ private:
 
     void saveNote() {
         std::vector<Parameters> rows;
-        for (int line = 0, lines = 1 + upTo(4); line < lines; ++line) {
-            const OrderLine& delivered = c_OrderLines[upTo(2)];
+        for (int line = 0, lines = 1 + oneOf(4); line < lines; ++line) {
+            const OrderLine& delivered = c_OrderLines[oneOf(2)];
             rows.push_back({{"a_SKLADPOL", AnsiString(delivered.Item)}});
-            if (upTo(2) == 0) {
+            if (oneOf(2) == 0) {
                 rows.back().push_back({"a_DOBSID", AnsiString(delivered.Id)});
             }
         }
@@ -113,19 +113,19 @@ private:
     }
 
     void saveOrder() {
-        const bool makesOrders = upTo(3) == 0;
+        const bool makesOrders = oneOf(3) == 0;
         std::vector<Parameters> rows;
-        for (int line = 0, lines = 1 + upTo(4); line < lines; ++line) {
+        for (int line = 0, lines = 1 + oneOf(4); line < lines; ++line) {
             rows.push_back({{"a_SKLADPOL", AnsiString("Chléb")}, {"a_SKPLID", AnsiString("51")}});
             if (makesOrders) {
-                rows.back().push_back({"a_DODAVATEL", AnsiString(c_Suppliers[upTo(2)])});
+                rows.back().push_back({"a_DODAVATEL", AnsiString(c_Suppliers[oneOf(2)])});
             }
         }
         save(c_OrderOrTemplate, std::move(rows), makesOrders);
     }
 
     void save(const Kind& kind, std::vector<Parameters> rows, bool makesOrders) {
-        const std::int64_t document = kind.Documents[static_cast<std::size_t>(upTo(3))];
+        const std::int64_t document = kind.Documents[static_cast<std::size_t>(oneOf(3))];
         const std::int64_t quantity = quantity_++;
         bool isAccepted = call("ResetTemp");
         for (Parameters& row : rows) {
@@ -139,17 +139,17 @@ private:
     /// Keeps a new one, or does something with one of those that he sees.
     void useSetting() {
         const TDbParam type{"a_TYPEDITACE", std::int64_t{1}};
-        const TDbParam name{"a_NAZEV", AnsiString(c_Names[upTo(3)])};
+        const TDbParam name{"a_NAZEV", AnsiString(c_Names[oneOf(3)])};
         const TCallResult list = database_->Execute({"MELVARKEDITORNASTAVENIGetList", {type}, true});
         const auto& seen = list.Sets.at(0).Rows;
-        if (seen.empty() || upTo(4) == 0) {
+        if (seen.empty() || oneOf(4) == 0) {
             call("NASTAVENIUlozNove", {name, type, {"a_SDILENE", true}});
             return;
         }
-        const TDbParam setting{"a_ID", seen.at(static_cast<std::size_t>(upTo(static_cast<int>(seen.size())))).at(1)};
-        switch (upTo(3)) {
+        const TDbParam setting{"a_ID", seen.at(static_cast<std::size_t>(oneOf(static_cast<int>(seen.size())))).at(1)};
+        switch (oneOf(3)) {
         case 0:
-            call("NASTAVENIPremenuj", {setting, name, {"a_SDILENE", upTo(2) == 0}});
+            call("NASTAVENIPremenuj", {setting, name, {"a_SDILENE", oneOf(2) == 0}});
             break;
         case 1:
             call("NASTAVENINacti", {setting});
