@@ -1,9 +1,9 @@
 #include "refhost/IdentifiedSaves.h"
 
-#include "host/AsciiCase.h"
 #include "host/Exceptions.h"
 #include "refhost/database/Database.h"
 #include "refhost/database/RefusalTable.h"
+#include "refhost/database/SaveCalls.h"
 #include "refhost/database/SaveIdentity.h"
 
 #include <QByteArray>
@@ -17,36 +17,6 @@ namespace {
 constexpr std::string_view c_MissingProcedure = "ML918";
 /// The database could not be heard any more; every other error is its answer.
 constexpr std::string_view c_NoAnswer = "ML916";
-
-/// What a module's call is in the life of a save. Each kind of document has procedures of its own.
-enum class Step { Other, Opening, Begin, Row, Closing, AboutWork };
-
-struct Call {
-    std::string_view Procedure;
-    Step Is;
-    std::string_view Closing; ///< The closing call of this kind of document.
-};
-
-constexpr std::string_view c_CloseNote = "MELVARKEDITORDodakTempUloz";
-constexpr std::string_view c_CloseOrder = "MELVARKEDITORDodObjTempUloz";
-
-constexpr Call c_Calls[] = {
-    {"MELVARKEDITORDodakInsertToTemp", Step::Row, c_CloseNote},
-    {"MELVARKEDITORDodObjInsertToTemp", Step::Row, c_CloseOrder},
-    {"MELVARKEDITORResetTemp", Step::Begin, {}},
-    {c_CloseNote, Step::Closing, c_CloseNote},
-    {c_CloseOrder, Step::Closing, c_CloseOrder},
-    {"MELVARKEDITORDodakInit", Step::Opening, c_CloseNote},
-    {"MELVARKEDITORDodObjInit", Step::Opening, c_CloseOrder},
-    {"MELVARKEDITORDodakObnovData", Step::AboutWork, c_CloseNote},
-    {"MELVARKEDITORDodObjObnovData", Step::AboutWork, c_CloseOrder},
-};
-
-Call callOf(std::string_view procedure) {
-    const auto* const found =
-        std::ranges::find_if(c_Calls, [procedure](const Call& call) { return SameDbName(call.Procedure, procedure); });
-    return found == std::end(c_Calls) ? Call{procedure, Step::Other, {}} : *found;
-}
 
 /// With its length, so that two texts are never taken for one.
 void addText(QCryptographicHash& hash, std::string_view text) {
@@ -102,26 +72,26 @@ TResultTable IdentifiedSaves::Query(const AnsiString& sql) {
 
 TCallResult IdentifiedSaves::Execute(const TProcedureCall& call) {
     forgetDeclined();
-    const Call known = callOf(call.Name);
+    const SaveCall known = saveCallOf(call.Name);
     switch (known.Is) {
-    case Step::Begin:
+    case SaveStep::Begin:
         database_.Describe(call.Name); // opens a lost link anew, which the next question must not
         areIdentified();               // asked while no save is under way
         sent_.reset();
         break;
-    case Step::Row:
+    case SaveStep::Row:
         addSent(call);
         break;
-    case Step::Closing:
+    case SaveStep::Closing:
         return close(known.Closing, call);
-    case Step::AboutWork:
+    case SaveStep::AboutWork:
         return answerAboutWork(known.Closing, call);
-    case Step::Opening: {
+    case SaveStep::Opening: {
         TCallResult result = database_.Execute(call);
         giveUpUnknown(); // the editor that they belong to is closed, its clerk was told
         return result;
     }
-    case Step::Other:
+    case SaveStep::Other:
         break;
     }
     return database_.Execute(call);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Connection.h"
+#include "refhost/database/StopSignal.h"
 
 #include <functional>
 #include <span>
@@ -60,6 +61,13 @@ public:
 
     /// The engine and its version ("SQLite 3.40.1"), as whoever looks for the cause of a problem wants to know it.
     virtual std::string engine() const = 0;
+
+    /// While it is requested, calls fail instead of taking their time, as they would for a failure of the database. The
+    /// one thing here that another thread may use, also during a call.
+    StopSignal& stopSignal() { return stopSignal_; }
+
+private:
+    StopSignal stopSignal_;
 };
 
 /// Refuses a query that is not one reading statement.

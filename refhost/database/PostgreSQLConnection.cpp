@@ -53,6 +53,7 @@ void raiseSequence(PostgreSQLSession& session, const std::string& table) {
 
 PostgreSQLConnection::PostgreSQLConnection(const std::string& address, const TFormatSettings& settings)
     : session_(address, settings) {
+    session_.heed(stopSignal());
     if (hasSchema()) { // another program's is refused at once
         refreshCollation(session_);
     }
@@ -231,6 +232,7 @@ void PostgreSQLConnection::throwRowFailure() {
 
 void PostgreSQLConnection::refuseStaging() {
     if (!session_.isLost()) {
+        stopSignal().clear(); // or it would stop this, too
         session_.execute("select set_config('melvark.staging', 'refused', false) "
                          "where current_setting('melvark.staging', true) = 'open'");
     }

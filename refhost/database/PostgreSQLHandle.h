@@ -8,6 +8,7 @@ namespace refhost {
 struct PostgreSQLDeleter {
     void operator()(PGconn* connection) const { PQfinish(connection); }
     void operator()(PGresult* result) const { PQclear(result); }
+    void operator()(PGcancel* cancel) const { PQfreeCancel(cancel); }
     void operator()(PQconninfoOption* options) const { PQconninfoFree(options); }
     void operator()(PGnotify* news) const { PQfreemem(news); }
     /// Texts that the client library made.

@@ -80,10 +80,8 @@ void PostgreSQLPipeline::endPortion() {
 void PostgreSQLPipeline::handOver() {
     int left = PQflush(session_.handle());
     while (left == 1) {
-        pollfd link{PQsocket(session_.handle()), POLLIN | POLLOUT, 0};
-        poll(&link, 1, -1);
         // The server may be unable to take more before its answers are taken.
-        if ((link.revents & POLLIN) != 0 && PQconsumeInput(session_.handle()) != 1) {
+        if ((session_.awaitLink(POLLIN | POLLOUT) & POLLIN) != 0 && PQconsumeInput(session_.handle()) != 1) {
             break;
         }
         left = PQflush(session_.handle());
@@ -102,6 +100,7 @@ void PostgreSQLPipeline::takeArrived() {
 void PostgreSQLPipeline::takeAnswer() {
     const Sent statement = std::move(unanswered_.front());
     unanswered_.pop_front();
+    session_.awaitResult();
     // A statement's answer ends with none, a mark's is itself.
     while (PGresult* result = PQgetResult(session_.handle())) {
         if (PQresultStatus(result) == PGRES_PIPELINE_SYNC) {

@@ -77,6 +77,13 @@ bool waitForLink(PGconn* connection, PostgresPollingStatusType wanted, steady_cl
     return left.count() > 0 && poll(&link, 1, static_cast<int>(left.count())) > 0;
 }
 
+/// Asks the server to give up what it does for the session. When this returns it has heard, or cannot be reached.
+void requestCancel(PGconn* connection) {
+    const std::unique_ptr<PGcancel, PostgreSQLDeleter> cancel(PQgetCancel(connection));
+    std::array<char, 256> words{};
+    PQcancel(cancel.get(), words.data(), static_cast<int>(words.size()));
+}
+
 /// Parameters as the client library takes them: texts or null.
 class ParameterTexts {
 public:
@@ -246,8 +253,45 @@ PostgreSQLResult PostgreSQLSession::checked(PGresult* result, std::string_view s
     }
 }
 
+PGresult* PostgreSQLSession::awaited(int isSent) const {
+    PostgreSQLResult last;
+    while (isSent == 1) {
+        awaitResult();
+        PGresult* const result = PQgetResult(handle());
+        if (result == nullptr) {
+            break;
+        }
+        last.reset(result);
+        if (isLost()) {
+            break;
+        }
+    }
+    return last.release();
+}
+
+void PostgreSQLSession::awaitResult() const {
+    while (PQisBusy(handle()) == 1) {
+        awaitLink(POLLIN);
+        if (PQconsumeInput(handle()) != 1) {
+            return;
+        }
+    }
+}
+
+// A request that comes when the server is between two statements does nothing, so that it is made again.
+short PostgreSQLSession::awaitLink(short events) const {
+    constexpr int c_MillisecondsBetweenLooks = 100;
+    pollfd link{PQsocket(handle()), events, 0};
+    while (link.fd >= 0 && poll(&link, 1, c_MillisecondsBetweenLooks) <= 0) {
+        if (stop_ != nullptr && stop_->isRequested()) {
+            requestCancel(handle());
+        }
+    }
+    return link.revents;
+}
+
 PostgreSQLResult PostgreSQLSession::execute(const std::string& sql) {
-    return checked(PQexec(handle(), sql.c_str()), sql);
+    return checked(awaited(PQsendQuery(handle(), sql.c_str())), sql);
 }
 
 void PostgreSQLSession::prepare(const std::string& sql) {
@@ -255,15 +299,13 @@ void PostgreSQLSession::prepare(const std::string& sql) {
         return;
     }
     const std::string name = "melvark_" + std::to_string(prepared_.size());
-    checked(PQprepare(handle(), name.c_str(), sql.c_str(), 0, nullptr), sql);
+    checked(awaited(PQsendPrepare(handle(), name.c_str(), sql.c_str(), 0, nullptr)), sql);
     prepared_.emplace(sql, name);
 }
 
 PostgreSQLResult PostgreSQLSession::execute(const std::string& sql, std::span<const TDbValue> parameters) {
     prepare(sql);
-    const ParameterTexts texts(parameters);
-    return checked(
-        PQexecPrepared(handle(), prepared_.at(sql).c_str(), texts.count(), texts.values(), nullptr, nullptr, 0), sql);
+    return checked(awaited(send(sql, parameters) ? 1 : 0), sql);
 }
 
 bool PostgreSQLSession::send(const std::string& sql, std::span<const TDbValue> parameters) {
@@ -273,12 +315,12 @@ bool PostgreSQLSession::send(const std::string& sql, std::span<const TDbValue> p
 }
 
 PostgreSQLResult PostgreSQLSession::describe(const std::string& sql) {
-    checked(PQprepare(handle(), "", sql.c_str(), 0, nullptr), sql);
-    return checked(PQdescribePrepared(handle(), ""), sql);
+    checked(awaited(PQsendPrepare(handle(), "", sql.c_str(), 0, nullptr)), sql);
+    return checked(awaited(PQsendDescribePrepared(handle(), "")), sql);
 }
 
 PostgreSQLResult PostgreSQLSession::executeDescribed(const std::string& sql) {
-    return checked(PQexecPrepared(handle(), "", 0, nullptr, nullptr, nullptr, 0), sql);
+    return checked(awaited(PQsendQueryPrepared(handle(), "", 0, nullptr, nullptr, nullptr, 0)), sql);
 }
 
 void PostgreSQLSession::sendCopyData(std::string_view text, std::string_view statement) const {

@@ -4,6 +4,7 @@
 #include "host/FormatSettings.h"
 #include "refhost/database/OpenMode.h"
 #include "refhost/database/PostgreSQLHandle.h"
+#include "refhost/database/StopSignal.h"
 
 #include <map>
 #include <span>
@@ -23,6 +24,10 @@ class PostgreSQLSession {
 public:
     /// `address` are words as the client library takes them ("host=… dbname=…"). Throws EDatabaseError.
     PostgreSQLSession(std::string address, const TFormatSettings& settings, OpenMode mode = OpenMode::Existing);
+
+    /// From now on statements are cancelled and fail with EStopped as long as this is requested. It outlives the
+    /// session.
+    void heed(const StopSignal& signal) { stop_ = &signal; }
 
     PGconn* handle() const { return handle_.get(); }
     const std::string& database() const { return database_; }
@@ -50,6 +55,10 @@ public:
     void prepare(const std::string& sql);
     /// Hands a prepared statement to the client library without waiting for its answer; false when the link is lost.
     bool send(const std::string& sql, std::span<const TDbValue> parameters);
+    /// Waits until a result of what was sent is there or the link is lost.
+    void awaitResult() const;
+    /// Waits for one of the events of the link (POLLIN, POLLOUT); those that have come.
+    short awaitLink(short events) const;
     /// The result of a statement, owned. Throws EDatabaseError when it failed or the link is lost.
     PostgreSQLResult checked(PGresult* result, std::string_view statement) const;
     /// Prepares a statement for this one time, so that its columns are known before it runs.
@@ -65,6 +74,8 @@ public:
 private:
     void open();
     void setUp();
+    /// The last result of what was sent; null when it could not be sent.
+    PGresult* awaited(int isSent) const;
     void sendCopyData(std::string_view text, std::string_view statement) const;
 
     std::string address_;
@@ -72,6 +83,7 @@ private:
     OpenMode mode_;
     std::string database_;
     std::string user_;
+    const StopSignal* stop_ = nullptr;
     PostgreSQLHandle handle_;
     bool isUpgraded_ = false;
     std::map<std::string, std::string, std::less<>> prepared_; ///< Names of prepared statements by their texts.

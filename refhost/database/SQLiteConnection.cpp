@@ -58,6 +58,7 @@ private:
 SQLiteConnection::SQLiteConnection(const std::string& file, const std::string& user, const TFormatSettings& settings,
                                    OpenMode mode, std::chrono::milliseconds patience)
     : session_(file, user, settings, mode, patience) {
+    session_.heed(stopSignal());
     checkOwner(mode);
     registerFunctions();
     createSessionTables();
@@ -210,6 +211,7 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
     } catch (const EDatabaseError&) {
         // The rollback took back what the call itself could have noted.
         if (called.script().Save.FailureRefusesStaging) {
+            stopSignal().clear(); // or it would stop this, too
             session_.execute(c_RefuseStaging);
         }
         throw;

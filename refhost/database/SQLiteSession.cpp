@@ -71,6 +71,13 @@ void SQLiteSession::execute(const std::string& sql) {
     }
 }
 
+void SQLiteSession::heed(StopSignal& signal) {
+    constexpr int c_StepsBetweenLooks = 1000; // much less than a millisecond
+    sqlite3_progress_handler(
+        handle(), c_StepsBetweenLooks,
+        [](void* heeded) { return static_cast<const StopSignal*>(heeded)->isRequested() ? 1 : 0; }, &signal);
+}
+
 void SQLiteSession::fail(int code, std::string_view statement) {
     if (const auto failure = std::exchange(failure_, std::nullopt)) {
         throw *failure;

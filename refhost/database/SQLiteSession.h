@@ -4,6 +4,7 @@
 #include "host/FormatSettings.h"
 #include "refhost/database/OpenMode.h"
 #include "refhost/database/SQLiteHandle.h"
+#include "refhost/database/StopSignal.h"
 
 #include <chrono>
 #include <optional>
@@ -43,6 +44,9 @@ public:
     [[noreturn]] void fail(int code, std::string_view statement);
     /// Keeps what a function of ours threw until the engine has left its own code and `fail` is called.
     void keepFailure(const EDatabaseError& error) { failure_ = error; }
+
+    /// From now on statements fail as long as this is requested. It outlives the session.
+    void heed(StopSignal& signal);
 
     /// What the statements that are prepared from now on may do; one that may not fails to prepare.
     void setAccess(Access access) { access_ = access; }
