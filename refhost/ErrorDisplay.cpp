@@ -3,6 +3,7 @@
 #include "host/Exceptions.h"
 #include "refhost/Languages.h"
 #include "refhost/Refusals.h"
+#include "refhost/database/StopSignal.h"
 
 #include <ostream>
 
@@ -47,6 +48,8 @@ ErrorReport describeDatabaseError(const EDatabaseError& error, const Languages& 
 ErrorReport describeError(const std::exception_ptr& error, const Languages& languages) {
     try {
         std::rethrow_exception(error);
+    } catch (const EStopped&) {
+        return {.sentence = languages.text(texts::workStopped), .details = {}};
     } catch (const EDatabaseError& databaseError) {
         return describeDatabaseError(databaseError, languages);
     } catch (const Exception& exception) {

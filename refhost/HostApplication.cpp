@@ -3,6 +3,7 @@
 #include "refhost/ErrorDisplay.h"
 #include "refhost/Languages.h"
 #include "refhost/Trace.h"
+#include "refhost/database/StopSignal.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -10,6 +11,20 @@
 #include <cstdio>
 
 namespace refhost {
+
+namespace {
+
+bool wasStopped(const std::exception_ptr& error) {
+    try {
+        std::rethrow_exception(error);
+    } catch (const EStopped&) {
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+} // namespace
 
 TDateTime systemNow() {
     const QDateTime now = QDateTime::currentDateTime();
@@ -29,6 +44,9 @@ std::string_view HostApplication::ImageData(std::string_view image, std::string_
 
 void HostApplication::ShowError(std::exception_ptr error) noexcept {
     try {
+        if (wasStopped(error)) {
+            return; // by the user himself; the trace of the call tells it
+        }
         const ErrorReport report = describeError(error, parts_.languages);
         parts_.trace.error(report.sentence, report.code);
         parts_.errors.show(report);

@@ -42,6 +42,7 @@ public:
     std::optional<AnsiString> Translation(std::string_view key, std::string_view builtIn) const override;
     std::string_view ImageData(std::string_view image, std::string_view group) const override;
     TDateTime Now() const override { return parts_.clock(); }
+    /// Says nothing of a work that the user has stopped.
     void ShowError(std::exception_ptr error) noexcept override;
     AnsiString DatabaseDigest() const override;
 

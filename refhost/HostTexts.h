@@ -79,6 +79,14 @@ inline constexpr HostText errorOriginal{"MELVARKHOST\\ERROR\\ORIGINAL", "Původn
 inline constexpr HostText errorLine{"MELVARKHOST\\ERROR\\LINE", "Řádek %1: %2"};
 inline constexpr HostText errorKind{"MELVARKHOST\\ERROR\\KIND", "Druh: %1"};
 
+inline constexpr HostText progressTitle{"MELVARKHOST\\PROGRESS\\TITLE", "Prosím čekejte"};
+inline constexpr HostText progressWaiting{"MELVARKHOST\\PROGRESS\\WAITING", "Databáze ještě pracuje."};
+inline constexpr HostText progressRows{"MELVARKHOST\\PROGRESS\\ROWS", "Ukládají se řádky, odesláno: %1"};
+inline constexpr HostText progressClosing{"MELVARKHOST\\PROGRESS\\CLOSING", "Doklad se ukládá. To už nejde zastavit."};
+inline constexpr HostText progressStopping{"MELVARKHOST\\PROGRESS\\STOPPING", "Zastavuje se…"};
+inline constexpr HostText progressStop{"MELVARKHOST\\PROGRESS\\STOP", "&Zastavit"};
+inline constexpr HostText workStopped{"MELVARKHOST\\PROGRESS\\STOPPED", "Práce byla zastavena."};
+
 inline constexpr HostText pluginNotFound{"MELVARKHOST\\PLUGIN\\NOTFOUND",
                                          "Modul „%1“ nebyl nalezen. Nainstalujte jej znovu vedle programu."};
 inline constexpr HostText pluginUnsafe{"MELVARKHOST\\PLUGIN\\UNSAFE",

@@ -8,6 +8,8 @@
 #include "refhost/HostLibraryManager.h"
 #include "refhost/IdentifiedSaves.h"
 #include "refhost/PackageLoader.h"
+#include "refhost/WorkProgress.h"
+#include "refhost/database/ThreadedConnection.h"
 
 #include <memory>
 #include <optional>
@@ -51,6 +53,8 @@ private:
     std::string engine_; ///< Asked for while the server is there.
     DialogErrorDisplay errors_;
     IdentifiedSaves saves_;
+    WorkProgress progress_;
+    ThreadedConnection threaded_;
     HostApplication services_;
     TScopedHost scope_;
     HostLibraryManager manager_;

@@ -199,6 +199,34 @@
         <source>Druh: %1</source>
         <translation>Kind: %1</translation>
     </message>
+    <message id="MELVARKHOST\PROGRESS\TITLE">
+        <source>Prosím čekejte</source>
+        <translation>Please wait</translation>
+    </message>
+    <message id="MELVARKHOST\PROGRESS\WAITING">
+        <source>Databáze ještě pracuje.</source>
+        <translation>The database is still working.</translation>
+    </message>
+    <message id="MELVARKHOST\PROGRESS\ROWS">
+        <source>Ukládají se řádky, odesláno: %1</source>
+        <translation>Saving the lines, sent: %1</translation>
+    </message>
+    <message id="MELVARKHOST\PROGRESS\CLOSING">
+        <source>Doklad se ukládá. To už nejde zastavit.</source>
+        <translation>The document is being saved. It cannot be stopped any more.</translation>
+    </message>
+    <message id="MELVARKHOST\PROGRESS\STOPPING">
+        <source>Zastavuje se…</source>
+        <translation>Stopping…</translation>
+    </message>
+    <message id="MELVARKHOST\PROGRESS\STOP">
+        <source>&amp;Zastavit</source>
+        <translation>&amp;Stop</translation>
+    </message>
+    <message id="MELVARKHOST\PROGRESS\STOPPED">
+        <source>Práce byla zastavena.</source>
+        <translation>The work was stopped.</translation>
+    </message>
     <message id="MELVARKHOST\PLUGIN\NOTFOUND">
         <source>Modul „%1“ nebyl nalezen. Nainstalujte jej znovu vedle programu.</source>
         <translation>The module “%1” was not found. Install it again beside the program.</translation>

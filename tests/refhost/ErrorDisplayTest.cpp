@@ -2,6 +2,7 @@
 
 #include "host/Exceptions.h"
 #include "refhost/Languages.h"
+#include "refhost/database/StopSignal.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -35,6 +36,13 @@ TEST(ErrorDisplay, HasNoDetailsWhereThereIsNothingToAdd) {
     EXPECT_EQ(describe(EDatabaseError("Server neodpovídá.")).details, "");
     EXPECT_EQ(describe(EHostError("Seznam tu není.")).details, "");
     EXPECT_EQ(describe(EHostError("Seznam tu není.")).sentence, "Seznam tu není.");
+}
+
+TEST(ErrorDisplay, TellsWhoAsksThatHeHasStoppedTheWork) {
+    const ErrorReport report = describeError(std::make_exception_ptr(EStopped("SQLite 9")), Languages("en"));
+
+    EXPECT_EQ(report.sentence, "The work was stopped.");
+    EXPECT_EQ(report.details, "");
 }
 
 TEST(ErrorDisplay, HidesTheWordsOfAnErrorThatWasNotMeantForPeople) {

@@ -4,6 +4,7 @@
 #include "refhost/ErrorDisplay.h"
 #include "refhost/Languages.h"
 #include "refhost/Trace.h"
+#include "refhost/database/StopSignal.h"
 #include "tests/support/RecordingHost.h"
 
 #include <QDateTime>
@@ -53,6 +54,13 @@ TEST_F(HostApplicationTest, ShowsAnErrorOnItsOneDisplayAndTracesWhatItShows) {
 
     EXPECT_THAT(errors_.sentences, testing::ElementsAre("Doklad je uzavřený."));
     EXPECT_EQ(output_->str(), "{\"error\":\"Doklad je uzavřený.\"}\n");
+}
+
+TEST_F(HostApplicationTest, SaysNothingOfAWorkThatTheUserHasStopped) {
+    host_.ShowError(std::make_exception_ptr(EStopped("PostgreSQL 57014")));
+
+    EXPECT_THAT(errors_.sentences, testing::IsEmpty());
+    EXPECT_EQ(output_->str(), "");
 }
 
 TEST_F(HostApplicationTest, AnErrorThatCannotBeShownEndsNothing) {
