@@ -64,6 +64,15 @@ TEST_F(NamedSettings, WithoutADefaultNothingChanges) {
     EXPECT_EQ(settings.SettingsId(), 3);
 }
 
+TEST_F(NamedSettings, AStoreThatAnswersNothingHasNoDefaultAndNothingToLoad) {
+    settings.PutInForce(3);
+    script("NactiDef", {"a_TYPEDITACE"}).returns({});
+    script("Nacti", {"a_ID"}).returns({});
+    EXPECT_EQ(settings.LoadDefault(), std::nullopt);
+    EXPECT_EQ(settings.SettingsId(), 3);
+    EXPECT_EQ(settings.Load(), "");
+}
+
 TEST_F(NamedSettings, WorksOnTheOneInForce) {
     settings.PutInForce(3);
     EXPECT_EQ(settings.Load(), "<settings/>");

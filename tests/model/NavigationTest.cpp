@@ -59,6 +59,7 @@ const TraversalRow forwardRows[] = {
     {"a single cell finds itself", {"E"}, {1, 1}, "1,1"},
     {"no cell to stop at", {"...", "..."}, {0, 1}, "stays"},
     {"from the header the first row is entered", {"E..", "..."}, {2, 0}, "1,1"},
+    {"from a row that is gone row 1 is entered", {"E..", "..."}, {2, 7}, "1,1"},
     {"no columns at all", {"", ""}, {0, 1}, "stays"},
     {"no rows at all", {}, {0, 0}, "stays"},
 };
@@ -82,6 +83,8 @@ const TraversalRow backwardRows[] = {
     {"only the row before is looked at", {".E.", "...", "E.."}, {1, 3}, "stays"},
     {"a single row goes on in itself, columns to the right", {".EE"}, {2, 1}, "3,1"},
     {"from before the first opening to the last row", {".E", ".E"}, {0, 1}, "2,2"},
+    {"from the header the last row is entered", {".E.", "..E"}, {3, 0}, "3,2"},
+    {"from a row that is gone the last row is entered", {".E.", "..E"}, {3, 7}, "3,2"},
     {"no columns at all", {"", ""}, {0, 1}, "stays"},
     {"no rows at all", {}, {0, 0}, "stays"},
 };
