@@ -12,6 +12,7 @@ using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 
@@ -52,9 +53,11 @@ TEST_F(DodObjEditorOpening, AnOrderAndATemplateDifferInTitleAndInTheNumbersOfSet
     }
 }
 
-TEST_F(DodObjEditorOpening, ThePricePanelIsNotThere) {
+TEST_F(DodObjEditorOpening, ThePricePanelIsNotThereAndNoLayoutCarriesItsSwitch) {
     const auto editor = open();
     EXPECT_FALSE(melvark::Visible(*editor->TopPanel));
+    EXPECT_THAT(editor->GetColumnSettingsXML(),
+                AllOf(HasSubstr("<name>MNOZSTVIHL</name>"), Not(HasSubstr("prepocet"))));
 }
 
 TEST_F(DodObjEditorOpening, ASourceWithoutRowsGivesOneEmptyRowInWhichNoQuantityCanBeTyped) {
