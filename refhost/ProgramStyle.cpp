@@ -28,19 +28,20 @@ ProgramStyle::ProgramStyle() : QProxyStyle(QString::fromUtf16(c_base)) {
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const bool isCheck = element == PE_IndicatorCheckBox;
-    if ((!isCheck && element != PE_IndicatorRadioButton) || !isDark(option->palette) || hasMarkedFrame(*option)) {
+    const bool isRound = element == PE_IndicatorRadioButton;
+    const bool isSquare = element == PE_IndicatorCheckBox || element == PE_PanelMenu;
+    if ((!isRound && !isSquare) || !isDark(option->palette) || hasMarkedFrame(*option)) {
         return;
     }
     painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, !isCheck);
+    painter->setRenderHint(QPainter::Antialiasing, isRound);
     painter->setBrush(Qt::NoBrush);
     painter->setPen(option->palette.color(QPalette::PlaceholderText));
     const QRectF frame = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
-    if (isCheck) {
-        painter->drawRect(frame);
-    } else {
+    if (isRound) {
         painter->drawEllipse(frame);
+    } else {
+        painter->drawRect(frame);
     }
     painter->restore();
 }

@@ -4,8 +4,8 @@
 
 namespace refhost {
 
-/// The style of the program's windows: Fusion, whose check boxes and radio buttons have a frame that is seen on a dark
-/// desktop, too. Its own is a shade darker than the window, whatever the window's colour.
+/// The style of the program's windows: Fusion, whose check boxes, radio buttons and menus have a frame that is seen on
+/// a dark desktop, too. Its own is a shade darker than the window, whatever the window's colour.
 class ProgramStyle : public QProxyStyle {
     Q_OBJECT
 public:

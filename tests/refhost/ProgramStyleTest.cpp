@@ -63,9 +63,10 @@ double frameContrast(const QImage& image, const QPalette& palette) {
     return most;
 }
 
-constexpr QStyle::PrimitiveElement c_Elements[] = {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton};
+constexpr QStyle::PrimitiveElement c_Elements[] = {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton,
+                                                   QStyle::PE_PanelMenu};
 
-TEST(ProgramStyle, BoxesAndRadioButtonsAreSeenOnADarkDesktop) {
+TEST(ProgramStyle, BoxesRadioButtonsAndMenusAreSeenOnADarkDesktop) {
     const ProgramStyle style;
     for (const QStyle::PrimitiveElement element : c_Elements) {
         for (const QStyle::StateFlag state : {QStyle::State_Off, QStyle::State_On}) {
