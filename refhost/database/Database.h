@@ -1,9 +1,11 @@
 #pragma once
 
 #include "host/Connection.h"
+#include "refhost/database/RowReader.h"
 #include "refhost/database/StopSignal.h"
 
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,6 +35,10 @@ public:
     /// Waits for the answers to rows of a save that were sent without waiting (TCallResult::Answered). Throws
     /// EDatabaseError as a later row would.
     virtual void awaitAnswers() = 0;
+
+    /// Begins to read the rows of a query like TConnection::Query, a portion at a time; one reading after the other. A
+    /// call of the contract meanwhile has it read its rest first. Throws EDatabaseError.
+    virtual std::shared_ptr<RowReader> openRows(const AnsiString& sql) = 0;
 
     /// Replaces procedures by scripts of a folder, "NAME.sql" each, for this connection. Throws EDatabaseError when a
     /// script is no procedure's, has a mistake in its header, or the engine keeps its procedures itself.

@@ -4,6 +4,7 @@
 #include "refhost/database/EmbeddedSql.h"
 #include "refhost/database/PostgreSQLCollation.h"
 #include "refhost/database/PostgreSQLErrors.h"
+#include "refhost/database/PostgreSQLReader.h"
 #include "refhost/database/PostgreSQLRows.h"
 #include "refhost/database/PostgreSQLSchema.h"
 #include "refhost/database/RefusalTable.h"
@@ -66,6 +67,7 @@ void PostgreSQLConnection::refuseAfterUpgrade() {
 }
 
 void PostgreSQLConnection::restoreLink() {
+    endReading();
     endRows();
     refuseAfterUpgrade();
     if (!session_.isLost()) {
@@ -157,6 +159,7 @@ TCallResult PostgreSQLConnection::executeAgainstConflicts(const TProcedureCall& 
 }
 
 TCallResult PostgreSQLConnection::Execute(const TProcedureCall& call) {
+    endReading();
     const SqlScript::SaveRole role = saveRole(call.Name);
     if (role.AnswerMayComeLater) {
         refuseAfterUpgrade();
@@ -238,15 +241,12 @@ void PostgreSQLConnection::refuseStaging() {
     }
 }
 
-TResultTable PostgreSQLConnection::Query(const AnsiString& sql) {
+template <typename Work>
+auto PostgreSQLConnection::reading(const AnsiString& sql, Work work) {
     parameterValue(ParameterKind::Text, "sql", sql);
     restoreLink();
     try {
-        const PostgreSQLTransaction transaction(session_, PostgreSQLTransaction::Kind::Reading);
-        if (PQnfields(session_.describe(sql).get()) == 0) {
-            refuseQuery(sql);
-        }
-        return resultTable(session_.executeDescribed(sql).get());
+        return work();
     } catch (const EPostgreSQLError& error) {
         if (error.isNoReadingStatement()) {
             refuseQuery(sql);
@@ -255,6 +255,28 @@ TResultTable PostgreSQLConnection::Query(const AnsiString& sql) {
             throw refusal("ML922", {session_.database()}, error.Details());
         }
         throw;
+    }
+}
+
+TResultTable PostgreSQLConnection::Query(const AnsiString& sql) {
+    return reading(sql, [&] {
+        const PostgreSQLTransaction transaction(session_, PostgreSQLTransaction::Kind::Reading);
+        if (PQnfields(session_.describe(sql).get()) == 0) {
+            refuseQuery(sql);
+        }
+        return resultTable(session_.executeDescribed(sql).get());
+    });
+}
+
+std::shared_ptr<RowReader> PostgreSQLConnection::openRows(const AnsiString& sql) {
+    auto reader = reading(sql, [&] { return std::make_shared<PostgreSQLReader>(session_, sql); });
+    reading_ = reader;
+    return reader;
+}
+
+void PostgreSQLConnection::endReading() {
+    if (const std::shared_ptr<RowReader> reader = reading_.lock()) {
+        reader->takeRest();
     }
 }
 

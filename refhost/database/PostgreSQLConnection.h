@@ -31,6 +31,7 @@ public:
     void createSchema() override;
     void inOneTransaction(const std::function<void()>& work) override;
     void awaitAnswers() override;
+    std::shared_ptr<RowReader> openRows(const AnsiString& sql) override;
     void useProcedures(const std::string& folder) override;
     void insertRows(std::string_view table, std::span<const std::string> columns,
                     std::span<const std::vector<TDbValue>> rows) override;
@@ -47,6 +48,11 @@ private:
     /// Waits for the rows under way, so that the session can be used for something else. Throws nothing about them.
     void endRows();
     void throwRowFailure();
+    /// Has the open reading take its rest.
+    void endReading();
+    /// A query's work; what the server says when the statement does not only read, or there is no company, is told so.
+    template <typename Work>
+    auto reading(const AnsiString& sql, Work work);
     void refuseStaging();
     /// Opens a lost link anew, and refuses to go on with a database that was upgraded meanwhile.
     void restoreLink();
@@ -56,6 +62,7 @@ private:
     std::map<std::string, PostgreSQLProcedure> procedures_; ///< By lower-case name.
     PostgreSQLPipeline rows_{session_};
     int rowsOfSave_ = 0; ///< Sent since the save began.
+    std::weak_ptr<RowReader> reading_;
 };
 
 } // namespace refhost

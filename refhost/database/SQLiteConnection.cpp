@@ -6,6 +6,7 @@
 #include "refhost/database/RefusalTable.h"
 #include "refhost/database/SQLiteCollation.h"
 #include "refhost/database/SQLiteFunctions.h"
+#include "refhost/database/SQLiteReader.h"
 #include "refhost/database/SQLiteSchema.h"
 #include "refhost/database/SchemaVersion.h"
 
@@ -200,6 +201,7 @@ TProcedureInfo SQLiteConnection::Describe(const AnsiString& name) {
 }
 
 TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
+    endReading();
     SQLiteProcedure& called = procedure(call.Name);
     try {
         SQLiteTransaction transaction(session_, called.isWriting() ? SQLiteTransaction::Kind::Writing
@@ -219,6 +221,7 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
 }
 
 SQLiteStatement SQLiteConnection::readingStatement(const AnsiString& sql) {
+    endReading();
     parameterValue(ParameterKind::Text, "sql", sql);
     std::string_view text = sql;
     const bool isCompany = hasSchema();
@@ -250,6 +253,18 @@ TResultTable SQLiteConnection::Query(const AnsiString& sql) {
         table.Rows.push_back(statement.row());
     }
     return table;
+}
+
+std::shared_ptr<RowReader> SQLiteConnection::openRows(const AnsiString& sql) {
+    auto reader = std::make_shared<SQLiteReader>(readingStatement(sql));
+    reading_ = reader;
+    return reader;
+}
+
+void SQLiteConnection::endReading() {
+    if (const std::shared_ptr<RowReader> reader = reading_.lock()) {
+        reader->takeRest();
+    }
 }
 
 std::vector<AnsiString> SQLiteConnection::columns(const AnsiString& sql) {

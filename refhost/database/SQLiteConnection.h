@@ -36,6 +36,7 @@ public:
     void createSchema() override;
     void inOneTransaction(const std::function<void()>& work) override;
     void awaitAnswers() override {} // this engine answers at once
+    std::shared_ptr<RowReader> openRows(const AnsiString& sql) override;
     void useProcedures(const std::string& folder) override;
     void insertRows(std::string_view table, std::span<const std::string> columns,
                     std::span<const std::vector<TDbValue>> rows) override;
@@ -59,12 +60,15 @@ private:
     void useWriteAheadLog();
     SQLiteProcedure& procedure(const AnsiString& name);
     SQLiteStatement readingStatement(const AnsiString& sql);
+    /// Has the open reading take its rest.
+    void endReading();
 
     std::optional<ProcedureFolder> ownProcedures_;
     SQLiteSession session_; // First: statements of functions and procedures are gone before it closes.
     std::vector<std::unique_ptr<SQLiteScriptFunction>> functions_;
     std::map<std::string, std::unique_ptr<SQLiteProcedure>> procedures_; ///< By lower-case name.
     std::optional<SQLiteStatement> version_; ///< Asks for the version; prepared when there is one.
+    std::weak_ptr<RowReader> reading_;
 };
 
 } // namespace refhost

@@ -32,6 +32,7 @@ public:
     void createSchema() override { database_.createSchema(); }
     void inOneTransaction(const std::function<void()>& work) override { database_.inOneTransaction(work); }
     void awaitAnswers() override { database_.awaitAnswers(); }
+    std::shared_ptr<RowReader> openRows(const AnsiString& sql) override { return database_.openRows(sql); }
     void useProcedures(const std::string& folder) override { database_.useProcedures(folder); }
     void insertRows(std::string_view table, std::span<const std::string> columns,
                     std::span<const std::vector<TDbValue>> rows) override {
