@@ -29,20 +29,20 @@ void HostLibraryManager::Message(const AnsiString& text, const AnsiString& style
 
 std::optional<TLookupPick> HostLibraryManager::LookupList(const AnsiString& form, const AnsiString& displayColumn,
                                                           const AnsiString& keyColumn, const AnsiString& condition) {
-    TResultTable rows = parts_.connection.Query(lookupQuery(form, condition, parts_.languages));
-    checkColumns(rows, form, displayColumn, keyColumn);
-    LookupDialog dialog(std::move(rows), displayColumn, keyColumn, parts_.settings, parts_.languages,
-                        QApplication::activeWindow());
+    const std::string query = lookupQuery(form, condition, parts_.languages);
+    checkColumns(parts_.openRows(query)->columns(), form, displayColumn, keyColumn);
+    LookupDialog dialog(parts_.openRows(inOrderOf(displayColumn, query)), displayColumn, keyColumn, parts_.settings,
+                        parts_.languages, QApplication::activeWindow());
     dialog.exec();
     std::optional<TLookupPick> pick = dialog.pick();
     parts_.trace.lookup(form, displayColumn, keyColumn, condition, pick);
     return pick;
 }
 
-void HostLibraryManager::checkColumns(const TResultTable& rows, const AnsiString& form, const AnsiString& displayColumn,
-                                      const AnsiString& keyColumn) const {
+void HostLibraryManager::checkColumns(const std::vector<AnsiString>& columns, const AnsiString& form,
+                                      const AnsiString& displayColumn, const AnsiString& keyColumn) const {
     for (const AnsiString& column : {displayColumn, keyColumn}) {
-        const bool isThere = std::any_of(rows.Columns.begin(), rows.Columns.end(),
+        const bool isThere = std::any_of(columns.begin(), columns.end(),
                                          [&](const AnsiString& each) { return SameDbName(each, column); });
         if (!isThere) {
             throw EHostError(parts_.languages.label(texts::lookupNoColumn)

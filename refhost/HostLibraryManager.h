@@ -1,8 +1,12 @@
 #pragma once
 
-#include "host/Connection.h"
 #include "host/FormatSettings.h"
 #include "host/LibraryManager.h"
+#include "refhost/database/RowReader.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
 
 namespace refhost {
 
@@ -17,7 +21,8 @@ inline constexpr int c_NoteFlags = 64;
 class HostLibraryManager : public TLibraryManager {
 public:
     struct Parts {
-        TConnection& connection;
+        /// Begins to read a lookup list (Database::openRows).
+        std::function<std::shared_ptr<RowReader>(const AnsiString& sql)> openRows;
         TFormatSettings settings;
         const Languages& languages;
         Trace& trace;
@@ -34,7 +39,7 @@ public:
     void LocalizeForm(TLocalizableForm& form, const AnsiString& section) override;
 
 private:
-    void checkColumns(const TResultTable& rows, const AnsiString& form, const AnsiString& displayColumn,
+    void checkColumns(const std::vector<AnsiString>& columns, const AnsiString& form, const AnsiString& displayColumn,
                       const AnsiString& keyColumn) const;
 
     Parts parts_;

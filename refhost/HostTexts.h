@@ -53,6 +53,7 @@ inline constexpr HostText unknownDocument{"MELVARKHOST\\SCREEN\\UNKNOWNDOCUMENT"
 inline constexpr HostText searchPlaceholder{"MELVARKHOST\\LIST\\SEARCHPLACEHOLDER", "Hledejte psaním…"};
 inline constexpr HostText searchName{"MELVARKHOST\\LIST\\SEARCHNAME", "Hledaný text"};
 inline constexpr HostText rowCount{"MELVARKHOST\\LIST\\ROWCOUNT", "%1 z %2"};
+inline constexpr HostText rowCountSoFar{"MELVARKHOST\\LIST\\ROWCOUNTSOFAR", "%1 z %2, další se načítají…"};
 
 inline constexpr HostText lookupTitle{"MELVARKHOST\\LOOKUP\\TITLE", "Výběr ze seznamu"};
 inline constexpr HostText lookupList{"MELVARKHOST\\LOOKUP\\LIST", "Nabízené záznamy"};

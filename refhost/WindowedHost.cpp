@@ -44,7 +44,10 @@ WindowedHost::WindowedHost(const CommandLine& commandLine, Database& database, c
                  .errors = errors_,
                  .clock = systemNow}),
       scope_(services_),
-      manager_({.connection = database, .settings = settings, .languages = languages, .trace = records.trace()}) {}
+      manager_({.openRows = [&database](const AnsiString& sql) { return database.openRows(sql); },
+                .settings = settings,
+                .languages = languages,
+                .trace = records.trace()}) {}
 
 void WindowedHost::loadModule() {
     package_.emplace(findPackage(QApplication::applicationDirPath().toStdString()), languages_);

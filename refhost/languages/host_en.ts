@@ -119,6 +119,10 @@
         <source>%1 z %2</source>
         <translation>%1 of %2</translation>
     </message>
+    <message id="MELVARKHOST\LIST\ROWCOUNTSOFAR">
+        <source>%1 z %2, další se načítají…</source>
+        <translation>%1 of %2, more are being read…</translation>
+    </message>
     <message id="MELVARKHOST\LOOKUP\TITLE">
         <source>Výběr ze seznamu</source>
         <translation>Choose from the list</translation>

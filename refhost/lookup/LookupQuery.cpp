@@ -23,4 +23,8 @@ std::string lookupQuery(std::string_view form, std::string_view condition, const
     return sql;
 }
 
+std::string inOrderOf(std::string_view column, std::string query) {
+    return std::move(query.append(" order by ").append(column));
+}
+
 } // namespace refhost

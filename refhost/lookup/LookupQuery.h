@@ -12,4 +12,7 @@ class Languages;
 /// Throws EHostError naming the identifier when it does not have that form.
 std::string lookupQuery(std::string_view form, std::string_view condition, const Languages& languages);
 
+/// The same in the order of a column, which the view has.
+std::string inOrderOf(std::string_view column, std::string query);
+
 } // namespace refhost

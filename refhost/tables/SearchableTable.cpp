@@ -73,8 +73,13 @@ void SearchableTable::applySearch(const QString& typed) {
 }
 
 void SearchableTable::updateCount() {
-    count_->setText(languages_.label(texts::rowCount)
+    count_->setText(languages_.label(moreToCome_ ? texts::rowCountSoFar : texts::rowCount)
                         .arg(QString::number(table_->shownRowCount()), QString::number(table_->result().rowCount())));
+}
+
+void SearchableTable::setMoreToCome(bool moreToCome) {
+    moreToCome_ = moreToCome;
+    updateCount();
 }
 
 bool SearchableTable::eventFilter(QObject* watched, QEvent* event) {

@@ -27,6 +27,8 @@ public:
     QLineEdit& search() { return *search_; }
     /// Shows how many rows match; called after the table got a new result.
     void updateCount();
+    /// Whether the table has but the first rows of a list that is still being read; said beside their number.
+    void setMoreToCome(bool moreToCome);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -40,6 +42,7 @@ private:
     ResultTable* table_;
     QLineEdit* search_;
     QLabel* count_;
+    bool moreToCome_ = false;
 };
 
 } // namespace refhost

@@ -11,6 +11,7 @@
 #include "select/MelvarkEditorSelectWin.h"
 #include "tests/languages/TranslatingHost.h"
 #include "tests/refhost/ScreenRows.h"
+#include "tests/refhost/TableRows.h"
 #include "tests/support/DodObjScripts.h"
 #include "tests/support/DodakScripts.h"
 #include "tests/widgets/ModalDriver.h"
@@ -126,7 +127,7 @@ void WindowTexts::forEachWindow(const std::function<void(const std::string& name
                               .moduleMissing = {}});
     main.start();
     shown("main window", main, look);
-    refhost::LookupDialog list(deliveryNotes(), "CISLO", "_ID", settings_, host_.languages(), nullptr);
+    refhost::LookupDialog list(rowsOf(deliveryNotes()), "CISLO", "_ID", settings_, host_.languages(), nullptr);
     shown("lookup list", list, look);
     refhost::ErrorDialog error({.sentence = "Sentence.", .details = "Details."}, host_.languages(), nullptr);
     shown("error", error, look);

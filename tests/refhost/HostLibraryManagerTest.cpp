@@ -6,6 +6,7 @@
 #include "refhost/Trace.h"
 #include "tests/refhost/FocusedWidget.h"
 #include "tests/refhost/ScreenRows.h"
+#include "tests/refhost/TableRows.h"
 #include "tests/support/RecordingHost.h"
 #include "tests/widgets/ModalDriver.h"
 
@@ -36,12 +37,19 @@ public:
 
 class HostLibraryManagerTest : public testing::Test {
 protected:
+    std::shared_ptr<RowReader> openRows(const AnsiString& sql) { return rowsOf(host_.connection.Query(sql)); }
+    /// The view's answer to a condition, as the list asks for its columns and as it asks for its rows.
+    void answerList(const AnsiString& query) {
+        host_.connection.answerQuery(query, deliveryNotes());
+        host_.connection.answerQuery(query + " order by CISLO", deliveryNotes());
+    }
+
     RecordingHost host_;
     TScopedHost scope_{host_};
     Languages languages_{"cs"};
     std::ostringstream* output_ = new std::ostringstream; // owned by the trace
     Trace trace_{std::unique_ptr<std::ostream>(output_)};
-    HostLibraryManager manager_{{.connection = host_.connection,
+    HostLibraryManager manager_{{.openRows = [this](const AnsiString& sql) { return openRows(sql); },
                                  .settings = TFormatSettings::Czech(),
                                  .languages = languages_,
                                  .trace = trace_}};
@@ -87,7 +95,7 @@ TEST_F(HostLibraryManagerTest, ANoteIsShownAndTraced) {
 }
 
 TEST_F(HostLibraryManagerTest, ALookupGivesDisplayAndKeyOfThePickedRow) {
-    host_.connection.answerQuery("select * from DODAK_NORMAL_V where _DODVID=3", deliveryNotes());
+    answerList("select * from DODAK_NORMAL_V where _DODVID=3");
     const ModalDriver driver(QStringLiteral("lookupDialog"), [](QWidget&) {
         QTest::keyClicks(focusedWidget(), QStringLiteral("chladek"));
         QTest::keyClick(focusedWidget(), Qt::Key_Return);
@@ -103,7 +111,7 @@ TEST_F(HostLibraryManagerTest, ALookupGivesDisplayAndKeyOfThePickedRow) {
 }
 
 TEST_F(HostLibraryManagerTest, ALookupThatIsLeftGivesNothing) {
-    host_.connection.answerQuery("select * from DODAK_NORMAL_V", deliveryNotes());
+    answerList("select * from DODAK_NORMAL_V");
     const ModalDriver driver(QStringLiteral("lookupDialog"),
                              [](QWidget&) { QTest::keyClick(focusedWidget(), Qt::Key_Escape); });
 
@@ -112,7 +120,7 @@ TEST_F(HostLibraryManagerTest, ALookupThatIsLeftGivesNothing) {
 }
 
 TEST_F(HostLibraryManagerTest, AListThatLacksAColumnIsNamed) {
-    host_.connection.answerQuery("select * from DODAK_NORMAL_V", deliveryNotes());
+    answerList("select * from DODAK_NORMAL_V");
     try {
         manager_.LookupList("Kordan3:DODAK.Normal", "JMENO", "_ID", "");
         FAIL() << "opened";
@@ -128,8 +136,10 @@ TEST_F(HostLibraryManagerTest, AConditionThatTheDatabaseRefusesReachesTheCaller)
 
 TEST_F(HostLibraryManagerTest, ReplacesTheTextsOfAFormThatTheLanguageHas) {
     const Languages english("en");
-    HostLibraryManager manager(
-        {.connection = host_.connection, .settings = TFormatSettings::Czech(), .languages = english, .trace = trace_});
+    HostLibraryManager manager({.openRows = [this](const AnsiString& sql) { return openRows(sql); },
+                                .settings = TFormatSettings::Czech(),
+                                .languages = english,
+                                .trace = trace_});
     TestForm form;
 
     manager.LocalizeForm(form, R"(KORDAN30\MelvarkEditorSelectWin)");

@@ -4,6 +4,7 @@
 #include "refhost/tables/ResultTable.h"
 #include "tests/refhost/FocusedWidget.h"
 #include "tests/refhost/ScreenRows.h"
+#include "tests/refhost/TableRows.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -21,7 +22,8 @@ namespace {
 
 class LookupDialogTest : public testing::Test {
 protected:
-    void open(TResultTable rows) {
+    void open(TResultTable rows) { open(rowsOf(std::move(rows))); }
+    void open(std::shared_ptr<RowReader> rows) {
         dialog_ = std::make_unique<LookupDialog>(std::move(rows), "CISLO", "_ID", TFormatSettings::Czech(), languages_,
                                                  nullptr);
         dialog_->show();

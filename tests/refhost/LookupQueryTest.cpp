@@ -18,6 +18,11 @@ TEST(LookupQuery, ReadsTheNamedViewRestrictedByTheCondition) {
     EXPECT_EQ(lookupQuery("Kordan3:SKUPSPOL.SKUPSPOL1", "", languages), "select * from SKUPSPOL_SKUPSPOL1_V");
 }
 
+TEST(LookupQuery, IsPutInTheOrderOfAColumn) {
+    EXPECT_EQ(inOrderOf("CISLO", "select * from DODAK_NORMAL_V where _DODVID=3"),
+              "select * from DODAK_NORMAL_V where _DODVID=3 order by CISLO");
+}
+
 class StrangeIdentifier : public testing::TestWithParam<const char*> {};
 
 TEST_P(StrangeIdentifier, IsRefusedByName) {

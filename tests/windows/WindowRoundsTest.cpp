@@ -10,6 +10,7 @@
 #include "select/MelvarkEditorMultiSelectWin.h"
 #include "select/MelvarkEditorSelectWin.h"
 #include "tests/refhost/ScreenRows.h"
+#include "tests/refhost/TableRows.h"
 #include "tests/support/DodObjScripts.h"
 #include "tests/support/DodakScripts.h"
 #include "tests/support/RecordingHost.h"
@@ -160,7 +161,8 @@ TEST_F(WindowRounds, OfTheErrorLeaveNothingBehind) {
 
 TEST_F(WindowRounds, OfTheLookupListLeaveNothingBehind) {
     expectNoGrowth([this] {
-        refhost::LookupDialog dialog(deliveryNotes(), "CISLO", "_ID", TFormatSettings::Czech(), languages_, nullptr);
+        refhost::LookupDialog dialog(rowsOf(deliveryNotes()), "CISLO", "_ID", TFormatSettings::Czech(), languages_,
+                                     nullptr);
         show(dialog);
     });
 }
