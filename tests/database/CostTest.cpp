@@ -1,6 +1,9 @@
 // How the work grows, counted by the engines themselves. Each test stands for a cause of cost that once was there.
 
+#include "refhost/database/EmbeddedSql.h"
+#include "refhost/database/SqlScript.h"
 #include "tests/database/ContractCompany.h"
+#include "tests/database/CountedAllocations.h"
 #include "tests/database/CountedEffort.h"
 
 #include <algorithm>
@@ -261,6 +264,28 @@ TEST(CostOnSQLite, CarriedPricesAreNotComputed) {
     const Effort carried = company.of([&] { company.noteFromNote(true); });
     const Effort listed = company.of([&] { company.noteFromNote(false); });
     EXPECT_GT(listed.Steps, 3 * carried.Steps);
+}
+
+// What kind of procedure is called was read from its text for each saved row.
+TEST(CostOnPostgreSQL, TheTextOfAProcedureIsNotReadForEachRow) {
+    LongCompany company(Engine::PostgreSQL, c_Few);
+    company.database().Execute({"MELVARKEDITORResetTemp", {}, false});
+    const auto row = [&] {
+        company.stageNoteRow({}, itemName(1));
+        company.database().awaitAnswers();
+    };
+    row();
+    const std::string text = builtInScript("procedures/MELVARKEDITORDodakInsertToTemp.sql", postgresqlFiles()).Text;
+    EXPECT_LT(allocationsOf(row), std::ranges::count(text, '\n')); // a reader of lines asks for memory once a line
+}
+
+// Joined by "is not distinct from", rows can only be compared each with each.
+TEST(CostOnPostgreSQL, NoJoinComparesEachRowWithEach) {
+    LongCompany company(Engine::PostgreSQL, c_Few);
+    const TResultTable routines =
+        company.database().Query("select p.proname::text from pg_proc p where p.pronamespace = 'melvark'::regnamespace "
+                                 "and p.prosrc ~* 'join[^;]* on [^;]*is not distinct from'");
+    EXPECT_TRUE(routines.Rows.empty()) << std::get<AnsiString>(routines.Rows.front().front());
 }
 
 // A function in SQL that another one calls is planned anew for each line.

@@ -1,5 +1,7 @@
 #include "refhost/database/Decimal.h"
 
+#include "tests/database/CountedAllocations.h"
+
 #include <gtest/gtest.h>
 #include <string>
 
@@ -19,6 +21,19 @@ TEST(Decimal, TextsBecomeCanonical) {
     for (const Row& row : rows) {
         EXPECT_EQ(canonicalDecimal(row.Text), row.Canonical) << row.Text;
     }
+}
+
+// Long integers ask for memory at each step, which cost a recalculation most of its time.
+TEST(Decimal, NumbersOfADocumentAreComputedWithoutMemory) {
+    const auto compute = [] {
+        EXPECT_EQ(decimalSum("1234.56", "-0.07"), "1234.49");
+        EXPECT_EQ(decimalProduct("12.345678", "-7.5"), "-92.592585");
+        EXPECT_EQ(decimalQuotient("100", "1.21", 6), "82.644628");
+        EXPECT_EQ(roundedDecimal("92.592585", 2), "92.59");
+        EXPECT_EQ(canonicalDecimal("0012.500"), "12.5");
+    };
+    compute();
+    EXPECT_EQ(allocationsOf(compute), 0);
 }
 
 TEST(Decimal, WhatIsNoNumberIsRefused) {
