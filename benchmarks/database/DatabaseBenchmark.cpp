@@ -8,6 +8,8 @@
 #include "benchmarks/database/NoteWork.h"
 #include "benchmarks/database/OrderWork.h"
 
+#include <QApplication>
+
 namespace {
 
 void measure(const benchmark::Options& options, benchmark::Report& report) {
@@ -27,5 +29,6 @@ void measure(const benchmark::Options& options, benchmark::Report& report) {
 } // namespace
 
 int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
     return benchmark::runBenchmark(argc, argv, measure);
 }

@@ -5,8 +5,8 @@
 
 namespace benchmark {
 
-/// Finding a source: an order's check by its number, and the lookup lists as the host asks for them, the whole at once.
-/// Each document of the lists passes the condition.
+/// Finding a source: an order's check by its number; the lookup lists' rows, all at once; and the lists of documents in
+/// the host's window, up to the first page and to the last row. Each document of the lists passes the condition.
 void measureLists(Company& company, int rounds, Report& report);
 
 } // namespace benchmark

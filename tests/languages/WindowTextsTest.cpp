@@ -32,8 +32,6 @@
 
 namespace {
 
-using testing::IsEmpty;
-
 /// Every window in one language, shown once on a recording host.
 class WindowTexts : public testing::TestWithParam<const char*> {
 protected:
