@@ -66,6 +66,7 @@ LookupDialog::LookupDialog(std::shared_ptr<RowReader> rows, std::string displayC
                 Qt::QueuedConnection);
         connect(&list_->search(), &QLineEdit::textChanged, this, &LookupDialog::readRest); // one that no key typed
         connect(&readingOn_, &QTimer::timeout, this, &LookupDialog::readOn);
+        connect(this, &QDialog::finished, &readingOn_, &QTimer::stop);
         table.installEventFilter(this);
         list_->search().installEventFilter(this);
         readingOn_.start(0);

@@ -43,6 +43,24 @@ TEST(PostgreSQLLink, ALinkThatWasLostBetweenCallsIsToldOnce) {
     EXPECT_EQ(rowsOf(*database, "select 1"), "1");
 }
 
+TEST(PostgreSQLLink, ALinkThatIsLostAmongTheRowsOfAListIsToldByTheList) {
+    const ServerCompany company;
+    const auto database = company.open();
+    const auto read = [](RowReader& reader) { return failure([&] { reader.read(1); }).Code(); };
+    const auto told = database->openRows("select ID from DODAK order by ID");
+    ASSERT_EQ(told->read(1).size(), 1U);
+    company.cutLinks();
+    EXPECT_EQ(read(*told), "ML916");
+    EXPECT_EQ(rowsOf(*database, "select 1"), "1") << "the next call has a new link";
+
+    const auto interrupted = database->openRows("select ID from DODAK order by ID");
+    ASSERT_EQ(interrupted->read(1).size(), 1U);
+    company.cutLinks();
+    EXPECT_EQ(rowsOf(*database, "select 1"), "1") << "a call that comes first is not to blame";
+    EXPECT_EQ(read(*interrupted), "ML916");
+    EXPECT_EQ(rowsOf(*database, "select 1"), "1");
+}
+
 TEST(PostgreSQLLink, ASaveIsNotCarriedOnInANewSession) {
     const ServerCompany company;
     const auto database = company.open();

@@ -175,7 +175,7 @@ TEST_F(LongLookupList, OneOfTheFirstRowsIsPickedWithoutWaiting) {
 TEST_F(LongLookupList, ThatIsLeftReadsNoFurther) {
     open();
     press(Qt::Key_Escape);
-    dialog_.reset();
+    QTest::qWait(20);
 
     EXPECT_EQ(fetched_, 0U);
 }
