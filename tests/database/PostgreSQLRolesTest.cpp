@@ -20,6 +20,22 @@ TEST(PostgreSQLRoles, AClerkSavesADeliveryNote) {
               "Mléko,Hlavní sklad,2,5");
 }
 
+// After some calls the server keeps a plan, for which functions are no longer called with the owner's rights.
+TEST(PostgreSQLRoles, AClerkOpensManyDocumentsInOneSession) {
+    const ServerCompany company;
+    const auto clerk = clerkOf(company);
+    constexpr int c_Documents = 12;
+    for (int document = 1; document <= c_Documents; ++document) {
+        for (const char* const opening : {"MELVARKEDITORDodakInit", "MELVARKEDITORDodObjInit"}) {
+            EXPECT_EQ(failure([&] { clerk->Execute(serverCall(opening)); }).Details(), "") << opening << document;
+        }
+        for (const char* const reading : {"MELVARKEDITORDodakGetPolozkyByDodak", "MELVARKEDITORDodakCheckMaster"}) {
+            const auto call = serverCall(reading, {{"a_DODKID", std::int64_t{1}}});
+            EXPECT_EQ(failure([&] { clerk->Execute(call); }).Details(), "") << reading << document;
+        }
+    }
+}
+
 TEST(PostgreSQLRoles, AClerkReadsEveryListAndScreen) {
     const ServerCompany company;
     const auto clerk = clerkOf(company);

@@ -3,18 +3,22 @@
 create function MELVARKEDITORDodakInit() returns setof refcursor
 language plpgsql stable as $$
 declare
+    -- The rows of a cursor are made when the procedure has ended, with the rights of its caller, who may call no function
+    -- that only we use.
+    person constant text := current_user_name();
+    day constant date := today();
     company refcursor;
     rates refcursor;
     warehouses refcursor;
 begin
     open company for
-        select current_user_name() as UZIVATEL,
+        select person as UZIVATEL,
                (coalesce(V_GetGlobalParam('DPH', 'DPHBLIC'), '0') = '1')::integer as DPHBLIC;
     return next company;
     open rates for
         select NAZEV
         from DPH
-        where PLATIOD <= today() and (PLATIDO is null or PLATIDO >= today())
+        where PLATIOD <= day and (PLATIDO is null or PLATIDO >= day)
         order by SAZBA;
     return next rates;
     open warehouses for

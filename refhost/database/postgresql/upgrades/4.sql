@@ -1,0 +1,2 @@
+-- From version 3 to 4: nothing in the tables that there were. What is new is in procedures, functions and views, which
+-- every upgrade makes anew from their own files.
