@@ -1,12 +1,11 @@
 #include "tests/refhost/StandbyPair.h"
 
 #include "refhost/database/Databases.h"
+#include "tests/database/KilledServer.h"
 #include "tests/database/OneItemRows.h"
 
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <stdexcept>
 #include <unistd.h>
 
@@ -17,16 +16,22 @@ namespace {
 constexpr const char* c_First = "first";
 constexpr const char* c_Second = "second";
 
+void addOneItem(Database& database) {
+    database.runScript(c_OneItemRows);
+    database.runScript("insert into DODAK (CISLO, DATUM, DODVID, SKLDID) values ('DL1', '2026-03-10', 1, 1)");
+}
+
 } // namespace
 
-StandbyPair::StandbyPair() {
+StandbyPair::StandbyPair() : StandbyPair(addOneItem) {}
+
+StandbyPair::StandbyPair(const std::function<void(Database&)>& fill) {
     std::filesystem::permissions(folder_.path(), std::filesystem::perms(0755)); // the servers' user has to pass
     run("start '" + folderOf(c_First) + "' --standby '" + folderOf(c_Second) + "' --without-fsync --until-exit-of " +
         std::to_string(getpid()));
     const auto database = open();
     database->createSchema();
-    database->runScript(c_OneItemRows);
-    database->runScript("insert into DODAK (CISLO, DATUM, DODVID, SKLDID) values ('DL1', '2026-03-10', 1, 1)");
+    fill(*database);
 }
 
 StandbyPair::~StandbyPair() {
@@ -40,9 +45,9 @@ StandbyPair::~StandbyPair() {
     }
 }
 
-std::string StandbyPair::address() const {
-    return "postgresql:host=" + folderOf(c_First) + "," + folderOf(c_Second) +
-           " dbname=postgres user=postgres target_session_attrs=read-write";
+std::string StandbyPair::address(const std::string& role) const {
+    return "postgresql:host=" + folderOf(c_First) + "," + folderOf(c_Second) + " dbname=postgres user=" + role +
+           " target_session_attrs=read-write";
 }
 
 std::unique_ptr<Database> StandbyPair::open() const {
@@ -50,11 +55,7 @@ std::unique_ptr<Database> StandbyPair::open() const {
 }
 
 void StandbyPair::killFirst() {
-    pid_t server = 0;
-    std::ifstream(folderOf(c_First) + "/data/postmaster.pid") >> server;
-    if (server <= 0 || kill(server, SIGKILL) != 0) {
-        throw std::runtime_error("the first server is not there");
-    }
+    killServer(folderOf(c_First));
     hasFirst_ = false;
 }
 
