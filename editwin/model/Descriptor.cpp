@@ -49,10 +49,11 @@ std::streamsize DescriptorOutput::xsputn(const char* text, std::streamsize count
 }
 
 DescriptorOutput::int_type DescriptorOutput::overflow(int_type character) {
-    const char byte = traits_type::to_char_type(character);
-    return traits_type::eq_int_type(character, traits_type::eof()) || xsputn(&byte, 1) == 1
-               ? traits_type::not_eof(character)
-               : traits_type::eof();
+    if (!traits_type::eq_int_type(character, traits_type::eof())) {
+        const char byte = traits_type::to_char_type(character);
+        xsputn(&byte, 1); // which takes it or throws
+    }
+    return traits_type::not_eof(character);
 }
 
 DescriptorInput::DescriptorInput(const Descriptor& file) : FFile(file), FBlock(c_BlockSize) {}
