@@ -15,12 +15,17 @@ constexpr const char* c_Server = "PostgreSQL";
 } // namespace
 
 void Report::printHeadings() {
-    std::printf("%-11s %-34s %7s %12s    %12s %7s\n", "engine", "work", "size", "cost", "floor", "ratio");
+    std::printf("%-11s %-34s %7s %12s    %12s %7s %12s\n", "engine", "work", "size", "cost", "floor", "ratio",
+                "slowest");
 }
 
 void Report::add(Figure figure) {
-    std::printf("%-11s %-34s %7d %12.1f %s %12.1f %7.2f\n", figure.Engine.c_str(), figure.Work.c_str(), figure.Size,
+    std::printf("%-11s %-34s %7d %12.1f %s %12.1f %7.2f", figure.Engine.c_str(), figure.Work.c_str(), figure.Size,
                 figure.Cost, figure.CountedIn == Unit::Bytes ? "B " : "µs", figure.Floor, figure.Cost / figure.Floor);
+    if (figure.Slowest > 0) {
+        std::printf(" %12.1f", figure.Slowest);
+    }
+    std::printf("\n");
     std::fflush(stdout);
     figures_.push_back(std::move(figure));
 }

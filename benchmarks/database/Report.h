@@ -17,6 +17,7 @@ struct Figure {
     double Cost;  ///< For one line or cell (a list, a call: for the whole), the median of the rounds.
     double Floor; ///< What the floor costs, likewise; where there is none, what the cost should not be above.
     Unit CountedIn = Unit::Microseconds;
+    double Slowest = 0; ///< The dearest of all rounds; 0 where it is not told.
 };
 
 /// Collects figures and shows them.
