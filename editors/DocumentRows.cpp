@@ -7,6 +7,7 @@
 #include "host/ValueText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace melvark {
 
@@ -22,6 +23,7 @@ void LeaveOneEmptyRow(TDataGrid& store) {
 struct FilledColumn {
     int DataColumn;
     std::size_t FieldNumber;
+    std::vector<AnsiString> Texts{};
 };
 
 std::vector<FilledColumn> FilledColumns(const DocumentColumns& columns, const TLiveResult& result,
@@ -70,12 +72,19 @@ void FillStore(TDataGrid& store, const DocumentColumns& columns, TLiveResult& re
     if (result.Eof()) {
         return;
     }
-    const std::vector<FilledColumn> filled = FilledColumns(columns, result, skippedKey);
-    store.SetRowCount(static_cast<int>(result.RowsLeft()));
-    for (int row = 0; !result.Eof(); result.Next(), ++row) {
-        for (const FilledColumn& column : filled) {
-            store.SetCells(column.DataColumn, row, result.TakeString(column.FieldNumber));
+    std::vector<FilledColumn> filled = FilledColumns(columns, result, skippedKey);
+    const std::size_t rows = result.RowsLeft();
+    for (FilledColumn& column : filled) {
+        column.Texts.reserve(rows);
+    }
+    for (; !result.Eof(); result.Next()) {
+        for (FilledColumn& column : filled) {
+            column.Texts.push_back(result.TakeString(column.FieldNumber));
         }
+    }
+    store.SetRowCount(static_cast<int>(rows));
+    for (FilledColumn& column : filled) {
+        store.FillColumn(column.DataColumn, std::move(column.Texts));
     }
 }
 
