@@ -1,5 +1,7 @@
 #include "tests/database/SQLiteFile.h"
 
+#include <chrono>
+#include <future>
 #include <gtest/gtest.h>
 
 namespace refhost {
@@ -113,6 +115,24 @@ TEST(SQLiteSession, WhileAnotherSavesReadingGoesOnAndSavingSaysWhy) {
     insert(*second, "2");
     save(*second, 1);
     EXPECT_EQ(lines(*second), "1,1,2");
+}
+
+// The save takes the file before it asks whether the note is open: what it had read before it waited would be old.
+TEST(SQLiteSession, ASaveWaitsForTheClosingOfItsNoteAndIsRefused) {
+    const SQLiteFile file;
+    const auto first = file.createCompany();
+    const auto second = std::make_unique<SQLiteConnection>(file.path().string(), "dvorak", TFormatSettings::Czech(),
+                                                           OpenMode::Existing, std::chrono::seconds(5));
+    reset(*second);
+    insert(*second, "1");
+    std::future<std::string> saved;
+    first->inOneTransaction([&] {
+        first->runScript("update DODAK set OTEVRENO = 0 where ID = 1");
+        saved = std::async(std::launch::async, [&] { return refusalCode([&] { save(*second, 1); }); });
+        EXPECT_EQ(saved.wait_for(std::chrono::milliseconds(300)), std::future_status::timeout) << "it does not wait";
+    });
+    EXPECT_EQ(saved.get(), "ML011");
+    EXPECT_EQ(lines(*first), "");
 }
 
 TEST(SQLiteSession, AClosedNoteRefusesTheSaveOfAnotherConnection) {
