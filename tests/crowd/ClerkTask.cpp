@@ -31,7 +31,9 @@ struct Screen {
     const char* Condition;
 };
 constexpr Screen c_Notes{"DODAK", "DODAKPOL", "DODKID", "true"};
-constexpr Screen c_Orders{"DODOBJEDNAVKA", "DODOBJPOL", "DDOBID", "VZOR = 0 and DODVID is not null"};
+constexpr Screen c_Orders{"DODOBJEDNAVKA", "DODOBJPOL", "DDOBID",
+                          "VZOR = 0 and DODVID is not null and not exists "
+                          "(select from DODOBJPOL p where p.DDOBID = d.ID and p.DODVID <> d.DODVID)"};
 
 /// A way to fill a document. Delivered from one order may be only once, so that a copy of it is made for each task.
 struct Way {
@@ -142,17 +144,19 @@ std::vector<std::vector<ClerkTask>> makeTasks(refhost::Database& company, int cl
         const Source* shared = nullptr;
         Source lastCopy{};
         for (std::vector<ClerkTask>& tasks : all) {
-            const Way& way = shared ? c_Ways[1] : c_Ways[below(std::size(c_Ways))];
-            const std::vector<Source>& candidates = way.From.Table == c_Notes.Table ? notes : orders;
-            Source source = shared ? *shared : candidates[below(candidates.size())];
             const bool isColleagues = shared != nullptr;
+            const bool isEarly = tasks.size() < std::size(c_Ways);
+            const std::size_t way = isColleagues ? 1 : (isEarly ? tasks.size() : below(std::size(c_Ways)));
+            const auto& [params, target, from, copiesSource] = c_Ways[way];
+            const std::vector<Source>& candidates = from.Table == c_Notes.Table ? notes : orders;
+            Source source = isColleagues ? *shared : candidates[below(candidates.size())];
             shared = nullptr;
-            if (way.CopiesSource && !isColleagues) {
+            if (copiesSource && !isColleagues) {
                 source = lastCopy = documents.copyOf(source);
-                shared = below(c_SharedOneIn) == 0 ? &lastCopy : nullptr;
+                shared = !isEarly && below(c_SharedOneIn) == 0 ? &lastCopy : nullptr;
             }
-            const std::int64_t document = documents.newDocument(way.Target, source);
-            tasks.push_back({way.Params, static_cast<std::int32_t>(document), source.Number, source.Lines});
+            tasks.push_back({params, static_cast<std::int32_t>(documents.newDocument(target, source)), source.Number,
+                             source.Lines, isColleagues || shared != nullptr});
         }
     }
     documents.store();
@@ -172,7 +176,9 @@ std::vector<std::string> wrongDocuments(refhost::Database& company, int clerk, c
                                     screen.Document + " = " + std::to_string(task.Document))
                              .Rows.front();
         // An order's line has three quantities, each of which becomes a line, so that only a note's can be counted.
-        if ((isNote && number(row[0]) != task.Lines) || number(row[1]) != 1 || number(row[2]) != 0) {
+        // What a colleague has left of an order nobody knows.
+        const bool isWhole = task.IsShared || ((!isNote || number(row[0]) == task.Lines) && number(row[1]) == 1);
+        if (!isWhole || number(row[2]) != 0) {
             wrong.push_back(task.Params + " " + std::to_string(task.Document) + " of clerk " + std::to_string(clerk) +
                             ": " + std::to_string(number(row[0])) + " lines of " + std::to_string(task.Lines) + ", " +
                             std::to_string(number(row[1])) + " of his own quantity, " + std::to_string(number(row[2])) +
@@ -185,15 +191,16 @@ std::vector<std::string> wrongDocuments(refhost::Database& company, int clerk, c
 void writeTasks(const std::filesystem::path& file, const std::vector<ClerkTask>& tasks) {
     std::ofstream out(file);
     for (const ClerkTask& task : tasks) {
-        out << task.Params << ' ' << task.Document << ' ' << task.Lines << ' ' << task.Source << '\n';
+        out << task.Params << ' ' << task.Document << ' ' << task.Lines << ' ' << task.IsShared << ' ' << task.Source
+            << '\n';
     }
 }
 
 std::vector<ClerkTask> readTasks(const std::filesystem::path& file) {
     std::vector<ClerkTask> tasks;
     std::ifstream in(file);
-    for (ClerkTask task;
-         in >> task.Params >> task.Document >> task.Lines >> std::ws && std::getline(in, task.Source);) {
+    for (ClerkTask task; in >> task.Params >> task.Document >> task.Lines >> task.IsShared >> std::ws &&
+                         std::getline(in, task.Source);) {
         tasks.push_back(task);
     }
     return tasks;

@@ -43,6 +43,7 @@ public:
         refhost::createSampleCompany(*owner, 0);
         const auto each = static_cast<int>(orders.Seconds / c_ShortestDocument) + 2;
         tasks_ = makeTasks(*owner, orders.Clerks, each, orders.Seed);
+        begin_ = steady_clock::now(); // before the first one looks at his clock, so that none has gone home at the end
         for (int clerk = 1; clerk <= orders.Clerks; ++clerk) {
             PrivateServer::instance().addRole(roleOf(clerk), "melvark_clerk");
             std::filesystem::create_directory(folderOf(clerk));
@@ -61,6 +62,7 @@ public:
     }
 
     const std::vector<pid_t>& processes() const { return processes_; }
+    steady_clock::time_point begin() const { return begin_; }
 
     /// Waits until each has finished his document.
     void finish() {
@@ -96,6 +98,7 @@ private:
     TemporaryFolder folder_{"crowd"};
     std::vector<std::vector<ClerkTask>> tasks_;
     std::vector<pid_t> processes_;
+    steady_clock::time_point begin_;
 };
 
 pid_t serverProcess() {
@@ -126,10 +129,9 @@ CrowdResult runCrowd(const CrowdOrders& orders) {
     CrowdResult result;
     const std::string url = refhost::newDatabaseUrl(refhost::Engine::PostgreSQL);
     Clerks clerks(orders, url);
-    const auto begin = steady_clock::now();
     const auto at = [&](double seconds) {
-        std::this_thread::sleep_until(
-            begin + std::chrono::duration_cast<steady_clock::duration>(std::chrono::duration<double>(seconds)));
+        std::this_thread::sleep_until(clerks.begin() + std::chrono::duration_cast<steady_clock::duration>(
+                                                           std::chrono::duration<double>(seconds)));
         return momentAt(seconds, clerks.processes());
     };
     result.Early = at(orders.Seconds / 5);

@@ -70,7 +70,7 @@ double quantile(std::vector<double> latencies, double share) {
 
 void writeServiceTimes(const std::filesystem::path& file, const Diary& diary) {
     std::ofstream out(file);
-    out << "# What one clerk alone waited for, and how much of it the calls took; milliseconds. Written by "
+    out << "# What a few clerks waited for, and how much of it the calls took; milliseconds. Written by "
            "many_clerks.\n";
     for (const auto& [place, latencies] : {std::pair("everything", diary.Waits), std::pair("server", diary.Served)}) {
         for (const auto& [work, values] : latencies) {
