@@ -8,6 +8,7 @@
 #include "tests/database/Engines.h"
 
 #include <algorithm>
+#include <deque>
 #include <libpq-fe.h>
 #include <map>
 #include <sqlite3.h>
@@ -169,7 +170,8 @@ private:
 
 class BarePostgreSQLCalls : public BareCalls {
 public:
-    explicit BarePostgreSQLCalls(const std::string& address) : session_(address, TFormatSettings::Czech()) {}
+    BarePostgreSQLCalls(const std::string& address, int goesAhead)
+        : session_(address, TFormatSettings::Czech()), goesAhead_(static_cast<std::size_t>(goesAhead)) {}
 
     std::size_t run(const TProcedureCall& call) override {
         const std::string& statement = prepared(call);
@@ -192,8 +194,18 @@ public:
         const std::string& statement = prepared(rows.front());
         session_.execute("begin");
         PQenterPipelineMode(session_.handle());
+        std::deque<std::size_t> unanswered; // how many rows each go has
         for (std::size_t first = 0; first < rows.size(); first += c_Together) {
-            sendTogether(statement, rows.subspan(first, std::min(c_Together, rows.size() - first)));
+            const auto together = rows.subspan(first, std::min(c_Together, rows.size() - first));
+            sendTogether(statement, together);
+            unanswered.push_back(together.size());
+            if (unanswered.size() == goesAhead_) {
+                takeAnswers(unanswered.front());
+                unanswered.pop_front();
+            }
+        }
+        for (const std::size_t count : unanswered) {
+            takeAnswers(count);
         }
         PQexitPipelineMode(session_.handle());
         session_.execute("commit");
@@ -233,7 +245,9 @@ private:
                                 0);
         }
         PQpipelineSync(session_.handle());
-        for (const TProcedureCall& row [[maybe_unused]] : rows) {
+    }
+    void takeAnswers(std::size_t count) {
+        for (std::size_t row = 0; row < count; ++row) {
             PGresult* const result = PQgetResult(session_.handle());
             check(result);
             PQclear(result);
@@ -265,16 +279,17 @@ private:
     }
 
     refhost::PostgreSQLSession session_; // its formats are those in which the texts come
+    std::size_t goesAhead_;
     std::map<std::string, std::string> prepared_;
 };
 
 } // namespace
 
-std::unique_ptr<BareCalls> openBareCalls(const std::string& url, const std::string& user) {
+std::unique_ptr<BareCalls> openBareCalls(const std::string& url, const std::string& user, int goesAhead) {
     if (url.starts_with(c_SQLite)) {
         return std::make_unique<BareSQLiteCalls>(url, user);
     }
-    return std::make_unique<BarePostgreSQLCalls>(url.substr(c_PostgreSQL.size()) + " user=" + user);
+    return std::make_unique<BarePostgreSQLCalls>(url.substr(c_PostgreSQL.size()) + " user=" + user, goesAhead);
 }
 
 } // namespace benchmark

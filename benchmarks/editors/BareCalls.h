@@ -19,13 +19,14 @@ public:
     /// How many bytes of text came.
     virtual std::size_t run(const TProcedureCall& call) = 0;
     /// All calls of a save: its beginning, its rows, its closing call. Where rows need not be waited for, they travel
-    /// together in one transaction.
+    /// together in one transaction, in goes of two hundred.
     virtual void save(std::span<const TProcedureCall> calls) = 0;
     /// The server's process that runs the calls; 0 when there is no server.
     virtual std::int64_t process() const = 0;
 };
 
-/// A further connection to the database at `url` (Databases.h). Throws EDatabaseError.
-std::unique_ptr<BareCalls> openBareCalls(const std::string& url, const std::string& user);
+/// A further connection to the database at `url` (Databases.h). So many goes of rows are on their way before the first
+/// one's answers are waited for. Throws EDatabaseError.
+std::unique_ptr<BareCalls> openBareCalls(const std::string& url, const std::string& user, int goesAhead = 1);
 
 } // namespace benchmark
