@@ -74,9 +74,9 @@ void writeServiceTimes(const std::filesystem::path& file, const Diary& diary) {
            "many_clerks.\n";
     for (const auto& [place, latencies] : {std::pair("everything", diary.Waits), std::pair("server", diary.Served)}) {
         for (const auto& [work, values] : latencies) {
-            out << place << '\t' << work;
+            out << place << ';' << work;
             for (const double value : values) {
-                out << '\t' << value;
+                out << ';' << value;
             }
             out << '\n';
         }
