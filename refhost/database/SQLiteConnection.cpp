@@ -213,7 +213,6 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
     } catch (const EDatabaseError&) {
         // The rollback took back what the call itself could have noted.
         if (called.script().Save.FailureRefusesStaging) {
-            stopSignal().clear(); // or it would stop this, too
             session_.execute(c_RefuseStaging);
         }
         throw;

@@ -108,6 +108,9 @@ void ThreadedConnection::enter(SaveStep step) {
     if (CallThread::Clock::now() >= watcher_.nextLook()) { // rows are quick: none of them would wait so long
         look();
     }
+    if (step == SaveStep::Closing && save_ == Save::Open) {
+        runStoppable([this] { database_.awaitAnswers(); }); // while there still is a stop
+    }
     if (isStopWanted_ && goesOnWithSave) {
         settleRows();
         throw EStopped();
