@@ -271,6 +271,7 @@ TEST_P(ThreadedConnectionTest, ACallThatALookLeadsToWaitsForTheOneUnderWay) {
 TEST_P(ThreadedConnectionTest, AStoppedSaveLeavesNoRowUnderWay) {
     watcher_.patience = 0ms;
     begin();
+    send("2");
     watcher_.wantsStop = true;
     EXPECT_THROW(
         {
