@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <pwd.h>
 #include <unistd.h>
+#include <vector>
 
 namespace refhost {
 
@@ -42,17 +43,19 @@ CLI::Option* addTextOption(CLI::App& app, const char* name, std::string& target,
 void declareCompanyOptions(CLI::App& app, CompanyOptions& options, const CompanyMeanings& meanings) {
     struct Row {
         const char* option;
-        const char* operand;
+        std::string operand;
         std::string& target;
         const char* meaning;
         CLI::Validator allowed;
     };
+    const std::vector<std::string> languages(c_languages.begin(), c_languages.end());
     const Row rows[] = {
         {"--database", "sqlite:FILE | postgresql:CONNINFO", options.database, meanings.database, databaseName()},
         {"--user", "NAME", options.user, meanings.user, anyText()},
         {"--locale", "cs_CZ | en_GB", options.locale, "how numbers and dates are written",
          CLI::IsMember({"cs_CZ", "en_GB"})},
-        {"--language", "cs | en", options.language, meanings.language, CLI::IsMember({"cs", "en"})},
+        {"--language", CLI::detail::join(languages, " | "), options.language, meanings.language,
+         CLI::IsMember(languages)},
         {"--procedures", "FOLDER", options.procedures,
          "scripts there replace the procedures of an SQLite\ndatabase that bear their names", anyText()},
     };

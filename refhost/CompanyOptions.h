@@ -2,6 +2,7 @@
 
 #include "host/FormatSettings.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -13,13 +14,17 @@ class Validator;
 
 namespace refhost {
 
+/// The languages that a program can be told to speak. The first is built in; each other one has its three catalogues in
+/// refhost/languages.
+inline constexpr std::array<const char*, 2> c_languages{"cs", "en"};
+
 /// Which company a program works with, and how: what all programs are told by the same options. Texts are UTF-8 as they
 /// came.
 struct CompanyOptions {
     std::string database; ///< "sqlite:FILE" or "postgresql:CONNINFO"; empty when none was named.
     std::string user;     ///< Empty for the system's user.
     std::string locale = "cs_CZ";
-    std::string language = "cs";
+    std::string language = c_languages.front();
     std::string procedures; ///< A folder whose scripts replace procedures of the embedded engine; empty for none.
 };
 

@@ -25,8 +25,8 @@ CatalogueEntry readEntry(QXmlStreamReader& xml) {
 
 } // namespace
 
-std::vector<CatalogueEntry> readCatalogue(const QString& name) {
-    QFile file(QStringLiteral(MELVARK_SOURCES "/refhost/languages/%1.ts").arg(name));
+std::vector<CatalogueEntry> readCatalogue(const std::string& name, const std::string& language) {
+    QFile file(QString::fromStdString(MELVARK_SOURCES "/refhost/languages/" + name + "_" + language + ".ts"));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
     QXmlStreamReader xml(&file);
     std::vector<CatalogueEntry> entries;

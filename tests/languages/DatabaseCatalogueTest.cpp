@@ -35,24 +35,26 @@ std::set<std::string> codesOfTheDatabase() {
     return codes;
 }
 
-TEST(DatabaseCatalogue, HasEveryCodeOfTheDatabaseAndNoOther) {
+class DatabaseCatalogue : public testing::TestWithParam<std::string> {};
+
+TEST_P(DatabaseCatalogue, HasEveryCodeOfTheDatabaseAndNoOther) {
     std::set<std::string> translated;
-    for (const CatalogueEntry& entry : readCatalogue(QStringLiteral("database_en"))) {
+    for (const CatalogueEntry& entry : readCatalogue("database", GetParam())) {
         EXPECT_TRUE(entry.id.starts_with(c_keyStart)) << entry.id;
         translated.insert(codeOf(entry));
     }
     EXPECT_EQ(translated, codesOfTheDatabase());
 }
 
-TEST(DatabaseCatalogue, NamesInEachSentenceTheThingsThatTheCzechOneNames) {
-    for (const CatalogueEntry& entry : readCatalogue(QStringLiteral("database_en"))) {
+TEST_P(DatabaseCatalogue, NamesInEachSentenceTheThingsThatTheCzechOneNames) {
+    for (const CatalogueEntry& entry : readCatalogue("database", GetParam())) {
         EXPECT_EQ(placeholders(entry.translation), placeholders(entry.source)) << entry.id;
         EXPECT_NE(entry.translation, entry.source) << entry.id;
     }
 }
 
-TEST(DatabaseCatalogue, FormsOfOneCodeBearTheirCzechPatternInTheId) {
-    for (const CatalogueEntry& entry : readCatalogue(QStringLiteral("database_en"))) {
+TEST_P(DatabaseCatalogue, FormsOfOneCodeBearTheirCzechPatternInTheId) {
+    for (const CatalogueEntry& entry : readCatalogue("database", GetParam())) {
         const std::size_t bar = entry.id.find('|');
         if (bar == std::string::npos) {
             continue;
@@ -67,17 +69,17 @@ EDatabaseError sentOf(const refhost::RefusalRow& row) {
     return refhost::refusal(row.Key, {"první", "druhý", "třetí", "čtvrtý", "pátý", "šestý", "sedmý", "osmý", "devátý"});
 }
 
-TEST(DatabaseCatalogue, TellsEveryRefusalOfTheTable) {
-    const refhost::Languages english("en");
+TEST_P(DatabaseCatalogue, TellsEveryRefusalOfTheTable) {
+    const refhost::Languages language(GetParam());
     for (const refhost::RefusalRow& row : refhost::refusalRows()) {
         // What kind of thing "{1}" is stands in the sentence, and each kind has a text of its own.
-        EXPECT_TRUE(row.Sentence.starts_with("{1} ") || refhost::translateRefusal(sentOf(row), english)) << row.Key;
+        EXPECT_TRUE(row.Sentence.starts_with("{1} ") || refhost::translateRefusal(sentOf(row), language)) << row.Key;
     }
 }
 
-TEST(DatabaseCatalogue, TellsTheFormsOfACodeApart) {
+TEST_P(DatabaseCatalogue, TellsTheFormsOfACodeApart) {
     std::set<std::string> ids;
-    for (const CatalogueEntry& entry : readCatalogue(QStringLiteral("database_en"))) {
+    for (const CatalogueEntry& entry : readCatalogue("database", GetParam())) {
         ids.insert(entry.id);
     }
     for (const refhost::RefusalRow& row : refhost::refusalRows()) {
@@ -88,5 +90,8 @@ TEST(DatabaseCatalogue, TellsTheFormsOfACodeApart) {
         }
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, DatabaseCatalogue, testing::ValuesIn(c_translatedLanguages),
+                         [](const auto& row) { return row.param; });
 
 } // namespace

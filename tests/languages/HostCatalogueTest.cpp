@@ -48,12 +48,14 @@ std::vector<FoundText> hostTexts() {
     return found;
 }
 
-TEST(HostCatalogue, HasEveryTextOfTheHostWithTheSamePlaceholders) {
-    const refhost::Languages english("en");
+class HostCatalogue : public testing::TestWithParam<std::string> {};
+
+TEST_P(HostCatalogue, HasEveryTextOfTheHostWithTheSamePlaceholders) {
+    const refhost::Languages language(GetParam());
     const std::vector<FoundText> found = hostTexts();
     ASSERT_GT(found.size(), 80u) << "the sources were not found";
     for (const FoundText& text : found) {
-        const auto translation = english.translation(text.key, text.builtIn);
+        const auto translation = language.translation(text.key, text.builtIn);
         if (!translation) {
             ADD_FAILURE() << "missing: " << text.key;
             continue;
@@ -62,14 +64,17 @@ TEST(HostCatalogue, HasEveryTextOfTheHostWithTheSamePlaceholders) {
     }
 }
 
-TEST(HostCatalogue, HasNoTextThatNobodyShowsAndGivesTheCzechTextAsItIs) {
+TEST_P(HostCatalogue, HasNoTextThatNobodyShowsAndGivesTheCzechTextAsItIs) {
     const std::vector<FoundText> found = hostTexts();
-    for (const CatalogueEntry& entry : readCatalogue(QStringLiteral("host_en"))) {
+    for (const CatalogueEntry& entry : readCatalogue("host", GetParam())) {
         const bool isShown = std::ranges::any_of(found, [&](const FoundText& text) {
             return text.builtIn == entry.source && (entry.id == text.key || entry.id == text.key + "|" + text.builtIn);
         });
         EXPECT_TRUE(isShown) << entry.id << " = " << entry.source;
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, HostCatalogue, testing::ValuesIn(c_translatedLanguages),
+                         [](const auto& row) { return row.param; });
 
 } // namespace

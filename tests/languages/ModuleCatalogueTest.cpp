@@ -173,19 +173,17 @@ const std::set<AskedText>& askedTexts() {
     return asked;
 }
 
-const refhost::Languages& english() {
-    static const refhost::Languages languages("en");
-    return languages;
-}
-
 bool hasMnemonic(const std::string& text) {
     return text.find('&') != std::string::npos;
 }
 
-TEST(ModuleCatalogue, HasEveryTextThatTheModuleAsksForWithTheSamePlaceholders) {
+class ModuleCatalogue : public testing::TestWithParam<std::string> {};
+
+TEST_P(ModuleCatalogue, HasEveryTextThatTheModuleAsksForWithTheSamePlaceholders) {
+    const refhost::Languages language(GetParam());
     ASSERT_GT(askedTexts().size(), 100u);
     for (const auto& [key, builtIn] : askedTexts()) {
-        const auto translation = english().translation(key, builtIn);
+        const auto translation = language.translation(key, builtIn);
         if (!translation) {
             ADD_FAILURE() << "missing: " << key << " = " << builtIn;
             continue;
@@ -195,8 +193,8 @@ TEST(ModuleCatalogue, HasEveryTextThatTheModuleAsksForWithTheSamePlaceholders) {
     }
 }
 
-TEST(ModuleCatalogue, HasNoTextThatNobodyAsksForAndGivesTheCzechTextAsItIs) {
-    for (const CatalogueEntry& entry : readCatalogue(QStringLiteral("module_en"))) {
+TEST_P(ModuleCatalogue, HasNoTextThatNobodyAsksForAndGivesTheCzechTextAsItIs) {
+    for (const CatalogueEntry& entry : readCatalogue("module", GetParam())) {
         const bool isAsked = std::ranges::any_of(askedTexts(), [&](const AskedText& text) {
             const auto& [key, builtIn] = text;
             return builtIn == entry.source && (entry.id == key || entry.id == key + "|" + builtIn);
@@ -205,12 +203,13 @@ TEST(ModuleCatalogue, HasNoTextThatNobodyAsksForAndGivesTheCzechTextAsItIs) {
     }
 }
 
-TEST(ModuleCatalogue, TellsEntriesThatShareAKeyApart) {
+TEST_P(ModuleCatalogue, TellsEntriesThatShareAKeyApart) {
+    const refhost::Languages language(GetParam());
     std::map<std::string, std::map<std::string, std::string>> byKey; // key, translation, built-in text
     std::size_t shared = 0;
     for (const auto& [key, builtIn] : askedTexts()) {
         auto& texts = byKey[key];
-        const auto [other, isNew] = texts.emplace(english().translation(key, builtIn).value_or(""), builtIn);
+        const auto [other, isNew] = texts.emplace(language.translation(key, builtIn).value_or(""), builtIn);
         EXPECT_TRUE(isNew) << key << ": “" << builtIn << "” reads like “" << other->second << "”";
         shared += texts.size() == 2 ? 1 : 0;
     }
@@ -248,7 +247,7 @@ std::set<std::string> literalKeys() {
     return keys;
 }
 
-TEST(ModuleCatalogue, KnowsEveryKeyThatStandsInTheSources) {
+TEST(ModuleKeys, AreAllKnownThatStandInTheSources) {
     const std::set<std::string> keys = literalKeys();
     ASSERT_GT(keys.size(), 15u) << "the sources were not found";
     std::vector<std::string> unknown;
@@ -257,5 +256,8 @@ TEST(ModuleCatalogue, KnowsEveryKeyThatStandsInTheSources) {
     });
     EXPECT_THAT(unknown, IsEmpty()) << "use them in askedTexts()";
 }
+
+INSTANTIATE_TEST_SUITE_P(Languages, ModuleCatalogue, testing::ValuesIn(c_translatedLanguages),
+                         [](const auto& row) { return row.param; });
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "editors/MelvarkEditorDodakEditWin.h"
 #include "host/Exceptions.h"
 #include "host/widgets/MessageBox.h"
+#include "refhost/CompanyOptions.h"
 #include "refhost/ErrorDialog.h"
 #include "refhost/lookup/LookupDialog.h"
 #include "refhost/screens/MainWindow.h"
@@ -217,7 +218,7 @@ TEST_P(WindowTexts, EveryControlHasAnAccessibleName) {
     EXPECT_GT(controls, 40u);
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, WindowTexts, testing::Values("cs", "en"),
+INSTANTIATE_TEST_SUITE_P(Languages, WindowTexts, testing::ValuesIn(refhost::c_languages),
                          [](const auto& row) { return row.param; });
 
 } // namespace

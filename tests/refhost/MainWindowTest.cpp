@@ -1,6 +1,7 @@
 #include "refhost/screens/MainWindow.h"
 
 #include "host/Exceptions.h"
+#include "refhost/CompanyOptions.h"
 #include "refhost/tables/ResultModel.h"
 #include "tests/refhost/MainWindowFixture.h"
 
@@ -397,7 +398,7 @@ TEST_P(MainWindowLanguage, EveryMenuEntryHasALetterOfItsOwn) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, MainWindowLanguage, testing::Values("cs", "en"),
+INSTANTIATE_TEST_SUITE_P(Languages, MainWindowLanguage, testing::ValuesIn(refhost::c_languages),
                          [](const auto& row) { return row.param; });
 
 } // namespace
