@@ -1,3 +1,4 @@
+#include "tests/database/PrivateServer.h"
 #include "tests/database/ServerCompany.h"
 
 #include <gtest/gtest.h>
@@ -39,6 +40,16 @@ protected:
                                "where relnamespace = pg_my_temp_schema() and relkind = 'r'");
     }
 
+    /// What the server's process keeps for the pages of these tables. Only an administrator may ask.
+    int kilobytesOfBuffers() {
+        PrivateServer::instance()
+            .administrator(company_.name())
+            .execute("grant select on pg_backend_memory_contexts to novakova;"
+                     "grant execute on function pg_get_backend_memory_contexts() to novakova");
+        return std::stoi(rowsOf(*clerk_, "select (sum(total_bytes) / 1024)::integer from pg_backend_memory_contexts "
+                                         "where name = 'LocalBufferContext'"));
+    }
+
     ServerCompany company_;
     std::unique_ptr<PostgreSQLConnection> clerk_;
 };
@@ -77,6 +88,17 @@ TEST_F(PostgreSQLStaging, ASaveThatSucceedsLeavesNothing) {
     EXPECT_EQ(close().Code(), "");
     EXPECT_EQ(bytes(), "0");
     EXPECT_EQ(rowsOf(*clerk_, "select count(*) from DODOBJEDNAVKA"), "2");
+}
+
+// By default each save takes pages that the session has not used before, until it has 8 MB of them.
+TEST_F(PostgreSQLStaging, ManySavesDoNotTakeMoreAndMoreOfTheServersMemory) {
+    for (int i = 0; i < 60; ++i) {
+        begin();
+        stageNoteRow();
+        stageForTheOther();
+        ASSERT_EQ(close().Code(), "");
+    }
+    EXPECT_LT(kilobytesOfBuffers(), 1000);
 }
 
 } // namespace
