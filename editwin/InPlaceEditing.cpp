@@ -8,6 +8,7 @@
 #include "host/HostServices.h"
 #include "host/widgets/Fonts.h"
 #include "host/widgets/Guard.h"
+#include "host/widgets/Later.h"
 #include "host/widgets/StringGrid.h"
 #include "host/widgets/Text.h"
 
@@ -276,8 +277,7 @@ void InPlaceEditing::QueueSettle() {
     if (std::exchange(FSettleQueued, true)) {
         return;
     }
-    QMetaObject::invokeMethod(
-        this, [this] { Settle(); }, Qt::QueuedConnection);
+    CallLater(this, [this] { Settle(); });
 }
 
 void InPlaceEditing::Settle() {

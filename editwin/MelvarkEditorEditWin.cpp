@@ -16,6 +16,7 @@
 #include "host/widgets/ButtonGlyphs.h"
 #include "host/widgets/Buttons.h"
 #include "host/widgets/Guard.h"
+#include "host/widgets/Later.h"
 #include "host/widgets/StringGrid.h"
 
 #include <QAction>
@@ -190,8 +191,7 @@ void TEditBox::TellAutosaveFailure(const EInOutError& failure) {
 
 // A note has an event loop of its own, which a show event or a tick must not wait for.
 void TEditBox::TellNotesSoon() {
-    QMetaObject::invokeMethod(
-        this, [this] { Guarded([this] { TellNotes(); }); }, Qt::QueuedConnection);
+    CallLater(this, [this] { Guarded([this] { TellNotes(); }); });
 }
 
 void TEditBox::TellNotes() {

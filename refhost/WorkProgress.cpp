@@ -1,5 +1,6 @@
 #include "refhost/WorkProgress.h"
 
+#include "host/widgets/Later.h"
 #include "refhost/ProgressWindow.h"
 
 #include <QApplication>
@@ -78,20 +79,29 @@ void WorkProgress::deliverEvents(QEventLoop::ProcessEventsFlags flags) {
 }
 
 bool WorkProgress::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::Timer || !waits(watched)) {
-        return false;
+    if (event->type() == QEvent::Timer && hangsInOtherWindow(watched)) {
+        hold({watched, QEvent::Timer, static_cast<QTimerEvent*>(event)->timerId()});
+        return true;
     }
-    const int id = static_cast<QTimerEvent*>(event)->timerId();
-    const bool isHeld =
-        std::ranges::any_of(held_, [&](const HeldTimer& timer) { return timer.Receiver == watched && timer.Id == id; });
-    if (!isHeld) {
-        held_.push_back({watched, id});
+    if (event->type() == melvark::LaterCallEvent()) {
+        hold({watched, event->type(), 0});
+        return true;
     }
-    return true;
+    return false;
 }
 
-/// What hangs in a window waits. Qt's own timers hang in none, and move the bar.
-bool WorkProgress::waits(const QObject* receiver) const {
+/// A timer that ticks again and again is made up for once.
+void WorkProgress::hold(const HeldEvent& event) {
+    const bool isHeld = std::ranges::any_of(held_, [&](const HeldEvent& held) {
+        return held.Receiver == event.Receiver && held.Type == event.Type && held.TimerId == event.TimerId;
+    });
+    if (!isHeld) {
+        held_.push_back(event);
+    }
+}
+
+/// Qt's own timers hang in none, and move the bar.
+bool WorkProgress::hangsInOtherWindow(const QObject* receiver) const {
     bool hangsInWindow = false;
     for (const QObject* object = receiver; object != nullptr; object = object->parent()) {
         if (object == window_.get()) {
@@ -112,9 +122,10 @@ void WorkProgress::ends() {
     if (wasActive) {
         giveFocusBack();
     }
-    for (const HeldTimer& timer : std::exchange(held_, {})) {
-        if (timer.Receiver) {
-            QCoreApplication::postEvent(timer.Receiver, new QTimerEvent(timer.Id));
+    for (const HeldEvent& event : std::exchange(held_, {})) {
+        if (event.Receiver) {
+            QCoreApplication::postEvent(event.Receiver, event.Type == QEvent::Timer ? new QTimerEvent(event.TimerId)
+                                                                                    : new QEvent(event.Type));
         }
     }
 }

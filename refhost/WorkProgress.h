@@ -2,6 +2,7 @@
 
 #include "refhost/database/ThreadedConnection.h"
 
+#include <QEvent>
 #include <QEventLoop>
 #include <QObject>
 #include <QPointer>
@@ -20,7 +21,7 @@ class ProgressWindow;
 
 /// Shows the user a work that takes longer than a second, and hears whether he stops it. It gets its turns from whoever
 /// waits for the work; in them Qt paints all windows and brings keys and clicks to the progress window alone. What the
-/// timers of other windows have to do waits until the work is over.
+/// timers of other windows have to do, and what forms wanted to do later, waits until the work is over.
 class WorkProgress : public QObject, public WorkWatcher {
     Q_OBJECT
 public:
@@ -35,16 +36,19 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct HeldTimer {
+    /// A tick of a timer or a queued call of a form.
+    struct HeldEvent {
         QPointer<QObject> Receiver;
-        int Id;
+        QEvent::Type Type;
+        int TimerId; ///< 0 for a call.
     };
 
     void open();
     void deliverEvents(QEventLoop::ProcessEventsFlags flags);
     void endWhenIdle();
     void giveFocusBack();
-    bool waits(const QObject* receiver) const;
+    void hold(const HeldEvent& event);
+    bool hangsInOtherWindow(const QObject* receiver) const;
 
     const Languages& languages_;
     std::chrono::milliseconds patience_;
@@ -54,7 +58,7 @@ private:
     bool wasIdle_ = false; ///< While it looked.
     std::unique_ptr<ProgressWindow> window_;
     QPointer<QWidget> before_; ///< The window that was active before.
-    std::vector<HeldTimer> held_;
+    std::vector<HeldEvent> held_;
 };
 
 } // namespace refhost

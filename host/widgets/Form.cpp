@@ -3,6 +3,7 @@
 #include "host/widgets/Fonts.h"
 #include "host/widgets/FormTexts.h"
 #include "host/widgets/Guard.h"
+#include "host/widgets/Later.h"
 #include "host/widgets/Text.h"
 
 #include <QAbstractEventDispatcher>
@@ -150,8 +151,7 @@ void TForm::showEvent(QShowEvent* event) {
     try {
         FormShow();
     } catch (...) { // reported once the form is on the screen: an error box cannot stand above a half-shown window
-        QMetaObject::invokeMethod(
-            this, [error = std::current_exception()] { ReportError(error); }, Qt::QueuedConnection);
+        CallLater(this, [error = std::current_exception()] { ReportError(error); });
     }
 }
 
@@ -200,7 +200,7 @@ void TForm::LookWhenLoopReturns() {
 }
 
 void TForm::QueueLook() {
-    QMetaObject::invokeMethod(this, &TForm::LookAtModalResult, Qt::QueuedConnection);
+    CallLater(this, [this] { LookAtModalResult(); });
 }
 
 void TForm::CloseWith(int result) {

@@ -4,6 +4,7 @@
 #include "host/widgets/GridCellDelegate.h"
 #include "host/widgets/GridHeader.h"
 #include "host/widgets/Guard.h"
+#include "host/widgets/Later.h"
 #include "host/widgets/StringGridModel.h"
 #include "host/widgets/Text.h"
 
@@ -234,8 +235,7 @@ TCellLook TStringGrid::Look(int col, int row) const {
         }
     } catch (...) { // once is enough: every repaint would report it again
         FPresentation = nullptr;
-        QMetaObject::invokeMethod(
-            qApp, [error = std::current_exception()] { ReportError(error); }, Qt::QueuedConnection);
+        CallLater(qApp, [error = std::current_exception()] { ReportError(error); });
     }
     return {.Text = Cells(col, row), .Align = Qt::AlignLeft, .Bold = false};
 }
@@ -344,15 +344,12 @@ void TStringGrid::WantEditor() {
         return;
     }
     FEditorRequestQueued = true;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            FEditorRequestQueued = false;
-            if (hasFocus() && currentIndex().isValid()) {
-                Q_EMIT EditorWanted(Col(), Row());
-            }
-        },
-        Qt::QueuedConnection);
+    CallLater(this, [this] {
+        FEditorRequestQueued = false;
+        if (hasFocus() && currentIndex().isValid()) {
+            Q_EMIT EditorWanted(Col(), Row());
+        }
+    });
 }
 
 void TStringGrid::ShowHint(const QPoint& globalPos) {

@@ -1,5 +1,6 @@
 #include "refhost/WorkProgress.h"
 
+#include "host/widgets/Later.h"
 #include "refhost/Languages.h"
 #include "refhost/ProgressWindow.h"
 #include "tests/refhost/FocusedWidget.h"
@@ -194,6 +195,32 @@ TEST_F(WorkProgressTest, ATimerOfAnotherWindowWaitsAndTicksOnceAfterTheWork) {
     EXPECT_EQ(ticks, 0) << "not inside the call that has ended";
     QCoreApplication::sendPostedEvents(&timer);
     EXPECT_EQ(ticks, 1);
+}
+
+TEST_F(WorkProgressTest, WhatAFormWantedToDoLaterWaitsAndIsDoneInItsOrderAfterTheWork) {
+    std::string done;
+    progress_.goesOn();
+    ASSERT_TRUE(lookUntilActive());
+    melvark::CallLater(edit_, [&] { done += "open the cell, "; });
+    melvark::CallLater(qApp, [&] { done += "show the error"; });
+    lookFor(100ms);
+    progress_.ends();
+    EXPECT_EQ(done, "") << "not inside the call that has ended";
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(done, "open the cell, show the error");
+}
+
+TEST_F(WorkProgressTest, AFormThatIsGoneAfterTheWorkDoesNothingLater) {
+    bool isDone = false;
+    auto form = std::make_unique<QWidget>();
+    progress_.goesOn();
+    ASSERT_TRUE(lookUntilActive());
+    melvark::CallLater(form.get(), [&] { isDone = true; });
+    lookFor(100ms);
+    form.reset();
+    progress_.ends();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_FALSE(isDone);
 }
 
 TEST_F(WorkProgressTest, AWorkThatNobodyGoesOnWithBlocksNoWindow) {
