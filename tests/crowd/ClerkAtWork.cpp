@@ -11,7 +11,6 @@
 #include "tests/crowd/Diary.h"
 #include "tests/crowd/ModalClerk.h"
 
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -43,8 +42,6 @@ void note(DiaryPen& diary, const std::string& line) {
 
 int workAsClerk(const ClerkOrders& orders) {
     DiaryPen diary(orders.Folder / "diary");
-    QElapsedTimer clock;
-    clock.start();
     std::mt19937 random(orders.Seed * 1000 + static_cast<unsigned>(orders.Clerk));
 
     refhost::CommandLine commandLine{};
@@ -60,7 +57,7 @@ int workAsClerk(const ClerkOrders& orders) {
         refhost::WindowedHost host(commandLine, *database, settings, languages, records);
         for (const ClerkTask& task : readTasks(orders.Folder / "tasks")) {
             pause(static_cast<int>(500 + random() % 4000)); // he takes the next sheet of paper
-            if (static_cast<double>(clock.elapsed()) >= orders.Seconds * 1000) {
+            if (std::filesystem::exists(orders.Evening)) {
                 return 0;
             }
             commandLine.subject = task.Params;

@@ -10,7 +10,7 @@ struct ClerkOrders {
     std::string Database;         ///< The address, as the host's command line takes it.
     std::filesystem::path Folder; ///< Has the file "tasks"; the diary is written there.
     int Clerk = 1;
-    double Seconds = 0; ///< No document is begun later.
+    std::filesystem::path Evening; ///< Once this file is there, no document is begun.
     unsigned Seed = 1;
 };
 

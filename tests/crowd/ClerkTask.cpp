@@ -75,28 +75,28 @@ std::vector<Source> sourcesOf(refhost::Database& company, const Screen& screen) 
     return sources;
 }
 
-/// Makes documents with identifiers of its own, behind those that are there.
+/// Makes documents with identifiers of its own, behind those that are there; no note has that of an order.
 class Documents {
 public:
     explicit Documents(refhost::Database& company) : company_(company) {
-        const auto row = company_
-                             .Query("select (select max(ID) from DODAK), (select max(ID) from DODOBJEDNAVKA), "
-                                    "current_date::text")
-                             .Rows.front();
-        lastNote_ = number(row[0]);
-        lastOrder_ = number(row[1]);
-        today_ = std::get<AnsiString>(row[2]);
+        const auto row =
+            company_
+                .Query("select greatest((select max(ID) from DODAK), (select max(ID) from DODOBJEDNAVKA)), "
+                       "current_date::text")
+                .Rows.front();
+        last_ = number(row[0]);
+        today_ = std::get<AnsiString>(row[1]);
     }
 
     std::int64_t newDocument(const Screen& screen, const Source& like) {
+        const AnsiString own = "Z" + std::to_string(++last_);
         if (screen.Table == c_Notes.Table) {
-            notes_.push_back(
-                {++lastNote_, "Z" + std::to_string(lastNote_), AnsiString(today_), like.Supplier, like.Warehouse});
-            return lastNote_;
+            notes_.push_back({last_, own, AnsiString(today_), like.Supplier, like.Warehouse});
+        } else {
+            orders_.push_back(
+                {last_, std::int64_t{0}, own, AnsiString(today_ + " 08:00:00"), like.Supplier, like.Warehouse});
         }
-        orders_.push_back({++lastOrder_, std::int64_t{0}, "Z" + std::to_string(lastOrder_),
-                           AnsiString(today_ + " 08:00:00"), like.Supplier, like.Warehouse});
-        return lastOrder_;
+        return last_;
     }
     /// An order with the same lines, nothing of which is delivered.
     Source copyOf(const Source& order) {
@@ -119,8 +119,7 @@ public:
 
 private:
     refhost::Database& company_;
-    std::int64_t lastNote_ = 0;
-    std::int64_t lastOrder_ = 0;
+    std::int64_t last_ = 0;
     std::string today_;
     std::vector<std::vector<TDbValue>> notes_;
     std::vector<std::vector<TDbValue>> orders_;

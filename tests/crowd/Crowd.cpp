@@ -25,6 +25,9 @@ using std::chrono::steady_clock;
 
 /// A clerk needs at least so many seconds for a document.
 constexpr double c_ShortestDocument = 8;
+constexpr int c_QuickBesideSlow = 8;
+constexpr std::chrono::minutes c_LongestBefore{5};
+constexpr std::chrono::milliseconds c_BetweenLooks{200};
 /// What a clerk of this crowd may be told, and understands.
 constexpr std::string_view c_Understood[] = {
     "ML021", // he mistyped the number of the source
@@ -41,9 +44,10 @@ public:
     Clerks(const CrowdOrders& orders, const std::string& url) : orders_(orders) {
         const auto owner = refhost::openAs(url, "novakova");
         refhost::createSampleCompany(*owner, 0);
-        const auto each = static_cast<int>(orders.Seconds / c_ShortestDocument) + 2;
+        // The quick ones go on while the slow ones have not yet saved those before.
+        const auto each =
+            static_cast<int>(orders.Seconds / c_ShortestDocument) + 2 + orders.DocumentsBefore * c_QuickBesideSlow;
         tasks_ = makeTasks(*owner, orders.Clerks, each, orders.Seed);
-        begin_ = steady_clock::now(); // before the first one looks at his clock, so that none has gone home at the end
         for (int clerk = 1; clerk <= orders.Clerks; ++clerk) {
             PrivateServer::instance().addRole(roleOf(clerk), "melvark_clerk");
             std::filesystem::create_directory(folderOf(clerk));
@@ -62,10 +66,23 @@ public:
     }
 
     const std::vector<pid_t>& processes() const { return processes_; }
-    steady_clock::time_point begin() const { return begin_; }
 
-    /// Waits until each has finished his document.
+    /// Waits until each has saved so many documents.
+    void awaitSaved(int documents) const {
+        const auto end = steady_clock::now() + c_LongestBefore;
+        for (int clerk = 1; clerk <= orders_.Clerks; ++clerk) {
+            while (diaryOf(clerk).Saved.size() < static_cast<std::size_t>(documents)) {
+                if (steady_clock::now() >= end) {
+                    throw std::runtime_error(roleOf(clerk) + " has not saved " + std::to_string(documents) +
+                                             " documents");
+                }
+                std::this_thread::sleep_for(c_BetweenLooks);
+            }
+        }
+    }
+    /// Lets each finish his document.
     void finish() {
+        std::ofstream{evening()};
         for (const pid_t process : processes_) {
             waitpid(process, nullptr, 0);
         }
@@ -76,6 +93,7 @@ public:
     const std::vector<ClerkTask>& tasksOf(int clerk) const { return tasks_[static_cast<std::size_t>(clerk) - 1]; }
 
 private:
+    std::filesystem::path evening() const { return folder_.path() / "evening"; }
     std::filesystem::path folderOf(int clerk) const { return folder_.path() / roleOf(clerk); }
 
     pid_t start(int clerk, const std::string& database) const {
@@ -89,8 +107,7 @@ private:
         }
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
         execl(orders_.Program.c_str(), orders_.Program.c_str(), "--clerk", std::to_string(clerk).c_str(),
-              database.c_str(), folder.c_str(), std::to_string(orders_.Seconds).c_str(),
-              std::to_string(orders_.Seed).c_str(), nullptr);
+              database.c_str(), folder.c_str(), evening().c_str(), std::to_string(orders_.Seed).c_str(), nullptr);
         _exit(127);
     }
 
@@ -98,7 +115,6 @@ private:
     TemporaryFolder folder_{"crowd"};
     std::vector<std::vector<ClerkTask>> tasks_;
     std::vector<pid_t> processes_;
-    steady_clock::time_point begin_;
 };
 
 pid_t serverProcess() {
@@ -129,9 +145,11 @@ CrowdResult runCrowd(const CrowdOrders& orders) {
     CrowdResult result;
     const std::string url = refhost::newDatabaseUrl(refhost::Engine::PostgreSQL);
     Clerks clerks(orders, url);
+    clerks.awaitSaved(orders.DocumentsBefore);
+    const auto begin = steady_clock::now();
     const auto at = [&](double seconds) {
-        std::this_thread::sleep_until(clerks.begin() + std::chrono::duration_cast<steady_clock::duration>(
-                                                           std::chrono::duration<double>(seconds)));
+        std::this_thread::sleep_until(
+            begin + std::chrono::duration_cast<steady_clock::duration>(std::chrono::duration<double>(seconds)));
         return momentAt(seconds, clerks.processes());
     };
     result.Early = at(orders.Seconds / 5);

@@ -13,6 +13,7 @@ struct CrowdOrders {
     std::filesystem::path Program; ///< Becomes a clerk when it is called with the words of his orders.
     int Clerks = 50;
     double Seconds = 300;
+    int DocumentsBefore = 0; ///< Which each has saved when the time begins; the first three are of all three ways.
     unsigned Seed = 1;
 };
 

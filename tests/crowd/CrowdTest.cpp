@@ -16,7 +16,8 @@ using testing::Pair;
 
 // A short share of what tests/fifty-clerks does.
 TEST(Crowd, OfFourClerksSavesWhatEachHasTypedAndIsToldNothingStrange) {
-    const crowd::CrowdResult result = crowd::runCrowd({.Program = MANY_CLERKS, .Clerks = 4, .Seconds = 12, .Seed = 3});
+    const crowd::CrowdResult result =
+        crowd::runCrowd({.Program = MANY_CLERKS, .Clerks = 4, .Seconds = 5, .DocumentsBefore = 1, .Seed = 3});
     EXPECT_THAT(result.Wrong, IsEmpty());
     EXPECT_GE(result.All.Saved.size(), 4U);
     EXPECT_THAT(result.All.Waits, IsSupersetOf({Key("cell"), Key("opening"), Key("saving")}));
