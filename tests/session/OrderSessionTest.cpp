@@ -22,9 +22,24 @@ using testing::ElementsAreArray;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::StartsWith;
+
+/// What the database tells the clerk, as he reads it.
+struct Sentence {
+    const char* czech;
+    const char* english;
+
+    const char* in(const SessionWords& words) const { return &words == &c_Czech ? czech : english; }
+};
+
+constexpr Sentence c_OrderIsClosed{"Objednávka „OBJ-1“ je uzavřená. Otevřete ji, nebo vyberte jinou.",
+                                   "Order “OBJ-1” is closed. Open it, or choose another one."};
+constexpr Sentence c_TemplateIsClosed{"Vzor objednávky „VZ-1“ je uzavřený. Otevřete jej, nebo vyberte jiný.",
+                                      "Order template “VZ-1” is closed. Open it, or choose another one."};
+constexpr Sentence c_UnitIsGone{"Jednotka „kg“ nepatří k položce „Ovesné vločky“. Načtěte řádek znovu.",
+                                "Unit “kg” is not a unit of item “Ovesné vločky”. Load the line again."};
 
 const QString c_OrderTitle = QString::fromUtf8(c_Czech.OrderEditor);
-const QString c_ErrorTitle = QString::fromUtf8(c_Czech.Error);
 
 void openFromTheMenu(HostSession& session, const SourceCase& source, const SessionWords& words) {
     session.start(words.arguments());
@@ -119,25 +134,26 @@ TEST_P(OrderSessionIn, RowsOfThreeSuppliersAreSavedFromOneOrderIntoThree) {
 
 TEST_P(OrderSessionIn, AClosedDocumentIsRefusedInWordsBeforeAnythingIsAsked) {
     const auto& [engine, words] = GetParam();
-    const bool isCzech = words == &c_Czech;
     const struct {
         const char* params;
         int document;
-        const char* sentence;
+        Sentence sentence;
     } cases[] = {
-        {"DODOBJ,OBJEDNAVKA", 6,
-         isCzech ? "Objednávka „OBJ-6“ je uzavřená. Otevřete ji, nebo vyberte jinou."
-                 : "Order “OBJ-6” is closed. Open it, or choose another one."},
-        {"DODOBJVZOR,OBJEDNAVKA", 8,
-         isCzech ? "Vzor objednávky „VZ-2“ je uzavřený. Otevřete jej, nebo vyberte jiný."
-                 : "Order template “VZ-2” is closed. Open it, or choose another one."},
+        {"DODOBJ,OBJEDNAVKA",
+         6,
+         {"Objednávka „OBJ-6“ je uzavřená. Otevřete ji, nebo vyberte jinou.",
+          "Order “OBJ-6” is closed. Open it, or choose another one."}},
+        {"DODOBJVZOR,OBJEDNAVKA",
+         8,
+         {"Vzor objednávky „VZ-2“ je uzavřený. Otevřete jej, nebo vyberte jiný.",
+          "Order template “VZ-2” is closed. Open it, or choose another one."}},
     };
     const std::string company = companyOn(engine);
     for (const auto& [params, document, sentence] : cases) {
         HostSession session(company);
         session.startEditor(QString::fromLatin1(params), document, words->arguments());
         EXPECT_EQ(session.finish(), 2);
-        EXPECT_THAT(session.standardError(), HasSubstr(sentence));
+        EXPECT_THAT(session.standardError(), HasSubstr(sentence.in(*words)));
         EXPECT_THAT(session.trace(), Not(Contains(HasSubstr("CheckZdroj"))));
     }
 }
@@ -197,10 +213,11 @@ struct PricedDocument {
     const char* name;
     const char* params;
     int document;
-    const char* title;
+    const char* SessionWords::*title;
     const char* firstItem;
     int stopsBeforeFlakes; ///< Quantities in the lines above the flakes, which are last.
     int storedPlace;
+    Sentence whenClosed;
 };
 
 void PrintTo(const PricedDocument& document, std::ostream* out) {
@@ -209,25 +226,27 @@ void PrintTo(const PricedDocument& document, std::ostream* out) {
 
 // The sugar's list of the order's day is over today, for which a template is filled.
 constexpr PricedDocument c_PricedDocuments[] = {
-    {"Order", "DODOBJ,DODAVATEL", 1, c_Czech.OrderEditor, "Cukr krystal", 7, 4},
-    {"Template", "DODOBJVZOR,DODAVATEL", 7, c_Czech.TemplateEditor, "Mouka hladká", 5, 3},
+    {"Order", "DODOBJ,DODAVATEL", 1, &SessionWords::OrderEditor, "Cukr krystal", 7, 4, c_OrderIsClosed},
+    {"Template", "DODOBJVZOR,DODAVATEL", 7, &SessionWords::TemplateEditor, "Mouka hladká", 5, 3, c_TemplateIsClosed},
 };
 
-class ChangedMeanwhile : public testing::TestWithParam<std::tuple<Engine, PricedDocument>> {
+class ChangedMeanwhile : public testing::TestWithParam<std::tuple<Engine, const SessionWords*, PricedDocument>> {
 protected:
-    static const PricedDocument& document() { return std::get<1>(GetParam()); }
-    static QString title() { return QString::fromUtf8(document().title); }
+    static const SessionWords& words() { return *std::get<1>(GetParam()); }
+    static const PricedDocument& document() { return std::get<2>(GetParam()); }
+    static QString title() { return QString::fromUtf8(words().*document().title); }
 
     void open() {
-        session_.startEditor(QString::fromLatin1(document().params), document().document);
+        session_.startEditor(QString::fromLatin1(document().params), document().document, words().arguments());
         session_.waitForWindow(title());
     }
-    /// Saves, which is refused in words that the clerk reads.
-    void saveInVain() {
+    /// Saves, which is refused in words that the clerk reads in his language.
+    void saveInVain(const Sentence& sentence) {
         session_.press({QStringLiteral("ctrl+Return")});
-        session_.waitForWindow(c_ErrorTitle);
+        session_.waitForWindow(QString::fromUtf8(words().Error));
         session_.press({QStringLiteral("Return")});
         session_.waitForWindow(title());
+        EXPECT_THAT(session_.trace(), Contains(AllOf(StartsWith("{\"error\":"), HasSubstr(sentence.in(words())))));
         EXPECT_THAT(lines(), IsEmpty());
     }
     void save() {
@@ -247,7 +266,7 @@ TEST_P(ChangedMeanwhile, AClosedDocumentIsRefusedAndTheWorkIsStillThere) {
     open();
     session_.type(QStringLiteral("8"));
     setOpen("0");
-    saveInVain();
+    saveInVain(document().whenClosed);
     setOpen("1");
     save();
     EXPECT_THAT(lines(),
@@ -260,9 +279,7 @@ TEST_P(ChangedMeanwhile, ADeletedUnitIsRefusedInWordsAtItsLineAndTheWorkIsStillT
     session_.type(QStringLiteral("3"));
     session_.press({QStringLiteral("shift+Return"), QStringLiteral("shift+Return")}); // to a line above
     session_.changeDatabase("delete from SKPL where ID = 81");
-    saveInVain();
-    EXPECT_THAT(session_.trace(),
-                Contains(HasSubstr("Jednotka „kg“ nepatří k položce „Ovesné vločky“. Načtěte řádek znovu.")));
+    saveInVain(c_UnitIsGone);
     session_.changeDatabase("insert into SKPL (ID, SKLPID, PORADI, NAZEV, FAKTOR) values (81, 8, 0, 'kg', '1')");
     session_.press({QStringLiteral("End")});
     session_.type(QStringLiteral("5")); // behind the 3 that is still there, in the line that was refused
@@ -271,8 +288,11 @@ TEST_P(ChangedMeanwhile, ADeletedUnitIsRefusedInWordsAtItsLineAndTheWorkIsStillT
 }
 
 INSTANTIATE_TEST_SUITE_P(Documents, ChangedMeanwhile,
-                         testing::Combine(c_BothEngines, testing::ValuesIn(c_PricedDocuments)), [](const auto& row) {
-                             return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param).name;
+                         testing::Combine(c_BothEngines, testing::Values(&c_Czech, &c_English),
+                                          testing::ValuesIn(c_PricedDocuments)),
+                         [](const auto& row) {
+                             return refhost::engineName(std::get<0>(row.param)) + std::get<1>(row.param)->Language +
+                                    std::get<2>(row.param).name;
                          });
 
 } // namespace
