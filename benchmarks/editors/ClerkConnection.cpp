@@ -9,7 +9,7 @@
 namespace benchmark {
 
 std::vector<TProcedureCall> ClerkConnection::take() {
-    keeps_ = false;
+    keeps_ = isRehearsal_ = false;
     return std::exchange(kept_, {});
 }
 
@@ -29,7 +29,7 @@ TCallResult ClerkConnection::Execute(const TProcedureCall& call) {
     }
     if (keeps_) {
         kept_.push_back(std::move(sent));
-        return target_.Execute(kept_.back());
+        return isRehearsal_ ? TCallResult{} : target_.Execute(kept_.back());
     }
     return target_.Execute(sent);
 }

@@ -21,7 +21,9 @@ public:
     void chooses(std::string parameter, std::int64_t id) { choice_ = {std::move(parameter), id}; }
     /// From now on calls are kept.
     void keep() { keeps_ = true; }
-    /// What was kept since; nothing is kept any more.
+    /// From now on calls are kept and not passed on; each of them succeeds and brings nothing.
+    void rehearse() { keeps_ = isRehearsal_ = true; }
+    /// What was kept since; nothing is kept any more, and calls are passed on again.
     std::vector<TProcedureCall> take();
 
     TProcedureInfo Describe(const AnsiString& procedure) override { return target_.Describe(procedure); }
@@ -32,6 +34,7 @@ private:
     TConnection& target_;
     std::pair<std::string, std::int64_t> choice_;
     bool keeps_ = false;
+    bool isRehearsal_ = false;
     std::vector<TProcedureCall> kept_;
 };
 

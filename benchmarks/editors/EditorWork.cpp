@@ -174,14 +174,16 @@ void EditorWork::pressKeys(TEditBox& editor, int row) {
     }));
 }
 
+/// The floor's calls are kept beforehand: a copy of each would be a part of the measured save.
 void EditorWork::save(TEditBox& editor) {
-    clerk_.keep();
+    clerk_.rehearse();
+    editor.SaveData();
+    std::vector<TProcedureCall> calls = clerk_.take();
     bool isSaved = false;
     saving_.Costs.push_back(cost([&] { isSaved = editor.SaveData(); }));
     if (!isSaved) {
         throw std::runtime_error("the document was not saved");
     }
-    std::vector<TProcedureCall> calls = clerk_.take();
     for (TDbParam& param : calls.back().Params) {
         if (param.Name == kind_.Target) {
             param.Value = newDocument();
