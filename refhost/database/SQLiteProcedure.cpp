@@ -43,42 +43,47 @@ bool isGuard(const std::vector<std::string>& columns) {
     return columns.size() == 1 && columns.front() == c_RefusalColumn;
 }
 
-bool areOutputs(const SqlScript& script, const std::vector<std::string>& columns) {
-    return !columns.empty() && std::ranges::equal(script.Outputs, columns, SameDbName);
+TProcedureInfo infoOf(const SqlScript& script) {
+    TProcedureInfo info;
+    for (const SqlScript::Parameter& input : script.Inputs) {
+        info.Inputs.push_back(input.Name);
+    }
+    info.Outputs = script.Outputs;
+    return info;
 }
 
 } // namespace
 
-SQLiteProcedure::SQLiteProcedure(SQLiteSession& session, SqlScript script) : script_(std::move(script)) {
+SQLiteProcedure::SQLiteProcedure(SQLiteSession& session, SqlScript script)
+    : script_(std::move(script)), info_(infoOf(script_)) {
     session.takeWrites();
     for (SQLiteStatement& statement : prepareStatements(session, script_.Text)) {
         std::vector<std::size_t> inputs = statementInputs(script_, statement);
         std::vector<std::string> columns = statement.columns();
-        steps_.push_back({std::move(statement), std::move(inputs), std::move(columns)});
+        const Rows brings = broughtBy(columns);
+        steps_.push_back({std::move(statement), std::move(inputs), std::move(columns), brings});
     }
     isWriting_ = session.takeWrites();
     checkResults();
 }
 
+SQLiteProcedure::Rows SQLiteProcedure::broughtBy(const std::vector<std::string>& columns) const {
+    if (columns.empty() || isGuard(columns)) {
+        return Rows::Nothing;
+    }
+    return std::ranges::equal(script_.Outputs, columns, SameDbName) ? Rows::Outputs : Rows::ResultSet;
+}
+
 void SQLiteProcedure::checkResults() const {
     std::vector<std::vector<std::string>> results;
     for (const Step& step : steps_) {
-        if (!step.Columns.empty() && !isGuard(step.Columns) && !areOutputs(script_, step.Columns)) {
+        if (step.Brings == Rows::ResultSet) {
             results.push_back(step.Columns);
         }
     }
     if (results != script_.Results) {
         throw std::logic_error(script_.Name + " declares other result sets than it brings");
     }
-}
-
-TProcedureInfo SQLiteProcedure::info() const {
-    TProcedureInfo info;
-    for (const SqlScript::Parameter& input : script_.Inputs) {
-        info.Inputs.push_back(input.Name);
-    }
-    info.Outputs = script_.Outputs;
-    return info;
 }
 
 std::vector<TDbValue> SQLiteProcedure::inputValues(const TProcedureCall& call) const {
@@ -109,15 +114,16 @@ void SQLiteProcedure::runStep(Step& step, std::span<const TDbValue> inputs, bool
         step.Statement.bind(static_cast<int>(i) + 1, inputs[step.Inputs[i]]);
     }
 
+    if (step.Brings == Rows::Nothing) {
+        while (step.Statement.step()) {
+        }
+        return;
+    }
     TResultTable table{step.Columns, {}};
     while (step.Statement.step()) {
         table.Rows.push_back(step.Statement.row());
     }
-
-    if (step.Columns.empty() || isGuard(step.Columns)) {
-        return;
-    }
-    if (areOutputs(script_, step.Columns)) {
+    if (step.Brings == Rows::Outputs) {
         for (std::size_t i = 0; i < script_.Outputs.size() && !table.Rows.empty(); ++i) {
             result.Outputs.push_back({script_.Outputs[i], table.Rows.front()[i]});
         }

@@ -19,23 +19,28 @@ public:
     const SqlScript& script() const { return script_; }
     /// Whether it writes to the company's tables, not only to the session's temporary ones.
     bool isWriting() const { return isWriting_; }
-    TProcedureInfo info() const;
+    const TProcedureInfo& info() const { return info_; }
 
     /// Result sets are dropped unless the call is to open them. Throws EDatabaseError.
     TCallResult run(const TProcedureCall& call);
 
 private:
+    /// What a step's rows are. Those of a statement that only refuses are nothing.
+    enum class Rows { Nothing, Outputs, ResultSet };
     struct Step {
         SQLiteStatement Statement;
         std::vector<std::size_t> Inputs; ///< The script's input for each parameter of the statement.
         std::vector<std::string> Columns;
+        Rows Brings;
     };
 
+    Rows broughtBy(const std::vector<std::string>& columns) const;
     void checkResults() const;
     std::vector<TDbValue> inputValues(const TProcedureCall& call) const;
     void runStep(Step& step, std::span<const TDbValue> inputs, bool open, TCallResult& result);
 
     SqlScript script_;
+    TProcedureInfo info_;
     bool isWriting_;
     std::vector<Step> steps_;
 };

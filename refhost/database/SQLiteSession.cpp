@@ -71,6 +71,22 @@ void SQLiteSession::execute(const std::string& sql) {
     }
 }
 
+void SQLiteSession::executeAgain(const std::string& sql) {
+    SQLiteStatementHandle& statement = prepared_[sql];
+    if (!statement) {
+        sqlite3_stmt* prepared = nullptr;
+        const int status = sqlite3_prepare_v3(handle(), sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &prepared, nullptr);
+        statement.reset(prepared);
+        if (status != SQLITE_OK) {
+            fail(status, sql);
+        }
+    }
+    sqlite3_step(statement.get());
+    if (const int status = sqlite3_reset(statement.get()); status != SQLITE_OK) {
+        fail(status, sql);
+    }
+}
+
 void SQLiteSession::heed(StopSignal& signal) {
     constexpr int c_StepsBetweenLooks = 1000; // much less than a millisecond
     sqlite3_progress_handler(
@@ -101,7 +117,7 @@ int SQLiteSession::authorize(void* session, int action, const char* /*first*/, c
 SQLiteTransaction::SQLiteTransaction(SQLiteSession& session, Kind kind)
     : session_(session), isOuter_(sqlite3_get_autocommit(session.handle()) != 0) {
     if (isOuter_) {
-        session_.execute(kind == Kind::Writing ? "begin immediate" : "begin");
+        session_.executeAgain(kind == Kind::Writing ? "begin immediate" : "begin");
     }
 }
 
@@ -114,7 +130,7 @@ SQLiteTransaction::~SQLiteTransaction() {
 
 void SQLiteTransaction::commit() {
     if (isOuter_) {
-        session_.execute("commit");
+        session_.executeAgain("commit");
     }
 }
 

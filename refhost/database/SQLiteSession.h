@@ -7,6 +7,7 @@
 #include "refhost/database/StopSignal.h"
 
 #include <chrono>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,6 +39,8 @@ public:
 
     /// Runs statements that bring no rows. Throws EDatabaseError.
     void execute(const std::string& sql);
+    /// As execute for one statement that is run again and again: it is prepared once.
+    void executeAgain(const std::string& sql);
 
     /// Throws the failure that the engine reported with `code`: the refusal of a function of ours when one stands
     /// behind it, else a sentence about the file.
@@ -64,7 +67,8 @@ private:
     Access access_ = Access::Everything;
     bool writes_ = false;
     std::optional<EDatabaseError> failure_;
-    SQLiteHandle handle_; // Last: closing it may still call the functions above.
+    SQLiteHandle handle_; // Behind what the functions above use: closing it may still call them.
+    std::map<std::string, SQLiteStatementHandle> prepared_; ///< By their texts.
 };
 
 /// Rolls back what was done in its scope unless it was committed.
