@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace melvark {
 
@@ -15,6 +16,8 @@ namespace {
 
 constexpr std::string_view c_VatRateKey = "DPH";
 
+// The cells of a row that take part, in the order in which they are sent and read back. "DPH" is a text (the VAT rate's
+// name), all others are numbers.
 constexpr std::array<std::string_view, 19> c_PriceKeys{
     "JEDNCENABBEZSLEVY",
     "JEDNDPHABEZSLEVY",
@@ -84,10 +87,6 @@ AnsiString ChangedKeys(std::span<const int> priceColumns, const TDataGrid& store
 }
 
 } // namespace
-
-std::span<const std::string_view> DodakPriceKeys() {
-    return c_PriceKeys;
-}
 
 AnsiString ChangedCells(const DocumentColumns& columns, const TDataGrid& store, int row) {
     return ChangedKeys(PriceColumns(columns), store, row);

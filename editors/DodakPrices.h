@@ -5,7 +5,6 @@
 #include "host/Types.h"
 
 #include <optional>
-#include <span>
 #include <string_view>
 #include <vector>
 
@@ -15,11 +14,8 @@ class TDataGrid;
 /// clerk changed and the switch, and gives the whole row back.
 namespace melvark {
 
-/// The 19 cells of a row that take part, in the order in which they are sent and read back. "DPH" is a text (the VAT
-/// rate's name), all others are numbers.
-std::span<const std::string_view> DodakPriceKeys();
-
-/// The keys of the row's cells that are marked as modified, each closed by ";", in the order of DodakPriceKeys.
+/// The keys of the row's cells that take part and are marked as modified, each closed by ";", in the order in which the
+/// cells are sent and read back.
 AnsiString ChangedCells(const DocumentColumns& columns, const TDataGrid& store, int row);
 
 /// A cell's number, written with point or comma; nothing for a blank text. Throws EConvertError, whose message names
