@@ -298,6 +298,12 @@ TEST(CostOnPostgreSQL, TheLocalRateIsLookedUpOnceAFill) {
     EXPECT_LE(company.callsOf("recalculation_local_rate", [&] { company.noteFromOrder(); }), 1);
 }
 
+// A function that is called for each line costs more than all that it does.
+TEST(CostOnPostgreSQL, TheRowsOfAnOrderAreMadeWithoutACallForEach) {
+    LongCompany company(Engine::PostgreSQL, c_Few);
+    EXPECT_EQ(company.callsOf("order_row_of", [&] { company.orderFromPriceList(); }), 0);
+}
+
 // To take a text apart by a pattern with captures cost most of a row; plain numbers are all read at a glance.
 TEST(CostOnPostgreSQL, PlainNumbersOfARowAreNotTakenApart) {
     LongCompany company(Engine::PostgreSQL, c_Few);

@@ -17,12 +17,14 @@ begin
 
     return query
     select r.*
-    from order_rows(array(
-        select row(i.SKLPID, o.SKLDID, c.DODVID, null, null, null, null)::order_fill
-        from PRICE_V c
-        join ITEM_V i on i.SKLPID = c.SKLPID
-        join DODOBJEDNAVKA o on o.ID = a_DDOBIDMASTER
-        where c.DODVID = a_DODVID and (select order_moment(a_DDOBIDMASTER)::date) between c.FIRSTDAY and c.LASTDAY
-        order by i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, i.SKLPID)) r;
+    from PRICE_V c
+    join ITEM_V i on i.SKLPID = c.SKLPID
+    join GROUP_PLACE_V g on g.SSP3ID = i.SSP3ID
+    join DODOBJEDNAVKA o on o.ID = a_DDOBIDMASTER
+    join SKLAD s on s.ID = o.SKLDID
+    join DODAVATEL v on v.ID = c.DODVID
+    cross join order_row_of(i, s.NAZEV, v.JMENO, null, null, null, null) r
+    where c.DODVID = a_DODVID and (select order_moment(a_DDOBIDMASTER)::date) between c.FIRSTDAY and c.LASTDAY
+    order by g.PLACE, i.SKLADPOL, i.SKLPID;
 end
 $$;

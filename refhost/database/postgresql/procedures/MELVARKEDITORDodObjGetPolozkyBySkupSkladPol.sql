@@ -19,14 +19,16 @@ begin
 
     return query
     select r.*
-    from order_rows(array(
-        select row(i.SKLPID, o.SKLDID, o.DODVID, null, null, null, null)::order_fill
-        from ITEM_V i
-        join DODOBJEDNAVKA o on o.ID = a_DDOBIDMASTER
-        where i.AKTIVNI = 1
-          and (coalesce(a_SSP1ID, 0) <= 0 or i.SSP1ID = a_SSP1ID)
-          and (coalesce(a_SSP2ID, 0) <= 0 or i.SSP2ID = a_SSP2ID)
-          and (coalesce(a_SSP3ID, 0) <= 0 or i.SSP3ID = a_SSP3ID)
-        order by i.SKUPSPOL1, i.SKUPSPOL2, i.SKUPSPOL3, i.SKLADPOL, i.SKLPID)) r;
+    from ITEM_V i
+    join GROUP_PLACE_V g on g.SSP3ID = i.SSP3ID
+    join DODOBJEDNAVKA o on o.ID = a_DDOBIDMASTER
+    join SKLAD s on s.ID = o.SKLDID
+    left join DODAVATEL v on v.ID = o.DODVID
+    cross join order_row_of(i, s.NAZEV, v.JMENO, null, null, null, null) r
+    where i.AKTIVNI = 1
+      and (coalesce(a_SSP1ID, 0) <= 0 or i.SSP1ID = a_SSP1ID)
+      and (coalesce(a_SSP2ID, 0) <= 0 or i.SSP2ID = a_SSP2ID)
+      and (coalesce(a_SSP3ID, 0) <= 0 or i.SSP3ID = a_SSP3ID)
+    order by g.PLACE, i.SKLADPOL, i.SKLPID;
 end
 $$;
