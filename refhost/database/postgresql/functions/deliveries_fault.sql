@@ -12,11 +12,15 @@ begin
         when not exists (select from melvark.DODAVATEL v where v.ID = dodvid) then 'ML021'
         when document > 0 and not exists (select from melvark.DODOBJEDNAVKA o where o.ID = document) then 'ML012'
         when supplier > 0 and dodvid <> supplier then 'ML024'
+        -- The limit keeps the planner from reading the lines of everybody's notes for as long as none is his.
         when not exists (select
-                         from melvark.DELIVERY_V v
-                         where v.DODVID = $1
-                           and (coalesce(warehouse, 0) <= 0 or v.SKLDID = warehouse)
-                           and v.DATUM between (select melvark.deliveries_since(until, months)) and until::date)
+                         from melvark.DODAK d
+                         where d.DODVID = $1
+                           and d.DATUM between (select melvark.deliveries_since(until, months)) and until::date
+                           and (select true
+                                from melvark.DELIVERY_V v
+                                where v.DODKID = d.ID and (coalesce(warehouse, 0) <= 0 or v.SKLDID = warehouse)
+                                limit 1))
             then 'ML029'
     end;
 end
