@@ -85,6 +85,15 @@ TEST_P(OrderSavingContract, ARowThatIsWrongIsRefusedInWords) {
          "ML047 Jednotka „kus“ nepatří k položce „Chléb“. Načtěte řádek znovu."},
         {{{"a_SKLADPOL", "Chléb"}, {"a_JEDNOTKYV1", "bedna"}}, // without a quantity too
          "ML047 Jednotka „bedna“ nepatří k položce „Chléb“. Načtěte řádek znovu."},
+        {with(flour("1"),
+              {{"a_SKPLID", "21"}, {"a_MNOZSTVIV2", "1"}}), // that a unit is missing comes before a wrong one
+         "ML048 Množství položky „Mouka hladká“ nemá jednotku. Množství vymažte, nebo vyberte položku, která tu "
+         "jednotku "
+         "má."},
+        {with(flour("1"), {{"a_SKPLID", "21"}, {"a_MNOZSTVIV2", "dva"}}), // and both after the numbers
+         "ML001 Množství ve vedlejší jednotce 2 „dva“ není číslo. Použijte jen číslice a nejvýše jednu desetinnou "
+         "čárku."},
+        {{{"a_JEDNOTKYV1", "bedna"}}, "ML042 Řádek nemá skladovou položku. Doplňte ji, nebo řádek vyprázdněte."},
         {with(flour("tři", "Pekárna"), {{"a_SKLAD", "Sklep"}}), // in the order item, warehouse, supplier, numbers
          "ML044 Sklad „Sklep“ neexistuje. Vyberte sklad ze seznamu."},
     };

@@ -25,6 +25,10 @@ create function MELVARKEDITORDodObjInsertToTemp(
 returns void
 language plpgsql as $$
 declare
+    -- Names are read once, not again for each row that they are compared with.
+    item_name constant text := typed(a_SKLADPOL);
+    warehouse_name constant text := typed(a_SKLAD);
+    supplier_name constant text := typed(a_DODAVATEL);
     -- Mostly one slot has something: no function is called for what is empty.
     unit_ids constant text[] := array[
         case when a_SKPLID is not null then typed_id(a_SKPLID) end,
@@ -39,9 +43,9 @@ declare
     is_open boolean;
 begin
     -- All that a good row needs is looked up at once; what was not found is looked at again, for its refusal.
-    select (select i.ID from SKLADPOL i where i.NAZEV = typed(a_SKLADPOL)),
-           (select s.ID from SKLAD s where s.NAZEV = typed(a_SKLAD)),
-           (select v.ID from DODAVATEL v where v.JMENO = typed(a_DODAVATEL)),
+    select (select i.ID from SKLADPOL i where i.NAZEV = item_name),
+           (select s.ID from SKLAD s where s.NAZEV = warehouse_name),
+           (select v.ID from DODAVATEL v where v.JMENO = supplier_name),
            (select t.IS_OPEN from STAGING_TABLE t where t.NAME = 'order_staged')
     into item, warehouse, supplier, is_open;
     if is_open is not true then
@@ -53,9 +57,9 @@ begin
     end if;
 
     if item is null or warehouse is null or supplier is null then
-        perform refuse_unknown_item(typed(a_SKLADPOL));
-        perform refuse_unknown_warehouse(typed(a_SKLAD));
-        perform refuse_unknown_supplier_name(typed(a_DODAVATEL));
+        perform refuse_unknown_item(item_name);
+        perform refuse_unknown_warehouse(warehouse_name);
+        perform refuse_unknown_supplier_name(supplier_name);
     end if;
 
     quantities := array[
@@ -72,13 +76,15 @@ begin
     if fitting_units <> num_nonnulls(coalesce(unit_ids[1], unit_names[1], quantities[1]::text),
                                      coalesce(unit_ids[2], unit_names[2], quantities[2]::text),
                                      coalesce(unit_ids[3], unit_names[3], quantities[3]::text)) then
-        perform refuse_wrong_unit(item, typed(a_SKLADPOL), quantities, unit_ids, unit_names);
+        perform refuse_wrong_unit(item, item_name, quantities, unit_ids, unit_names);
     end if;
 
-    insert into pg_temp.ORDER_STAGED (SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)
-    select item, as_integer(q.UNIT_ID), warehouse, supplier, q.QUANTITY, typed(a_POPIS), typed(a_KOMENTAR)
-    from unnest(quantities, unit_ids) with ordinality q (QUANTITY, UNIT_ID, SLOT)
-    where q.QUANTITY <> 0
-    order by q.SLOT;
+    for slot in 1..3 loop
+        if quantities[slot] <> 0 then
+            insert into pg_temp.ORDER_STAGED (SKLPID, SKPLID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)
+            values (item, as_integer(unit_ids[slot]), warehouse, supplier, quantities[slot], typed(a_POPIS),
+                    typed(a_KOMENTAR));
+        end if;
+    end loop;
 end
 $$;

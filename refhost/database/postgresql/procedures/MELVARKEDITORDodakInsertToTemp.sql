@@ -36,6 +36,10 @@ create function MELVARKEDITORDodakInsertToTemp(
 returns void
 language plpgsql as $$
 declare
+    -- Names are read once, not again for each row that they are compared with.
+    item_name constant text := typed(a_SKLADPOL);
+    warehouse_name constant text := typed(a_SKLAD);
+    rate_name constant text := typed(a_DPH);
     texts constant text[] := array[
         a_MNOZSTVI, a_SLEVA, a_JEDNCENABSL, a_JEDNDPHASL, a_JEDNDPHBSL, a_JEDNCENASSL,
         a_JEDNCENAB, a_JEDNDPHA, a_JEDNDPHB, a_JEDNCENAS, a_CENABSL, a_DPHASL, a_DPHBSL, a_CENASSL,
@@ -52,9 +56,9 @@ declare
 begin
     -- All that a good row needs is looked up at once; what was not found is looked at again, for its refusal. Calls of
     -- other functions cost a row most of its time here.
-    select (select i.ID from SKLADPOL i where i.NAZEV = typed(a_SKLADPOL)),
-           (select s.ID from SKLAD s where s.NAZEV = typed(a_SKLAD)),
-           (select r.ID from DPH r where r.NAZEV = typed(a_DPH)),
+    select (select i.ID from SKLADPOL i where i.NAZEV = item_name),
+           (select s.ID from SKLAD s where s.NAZEV = warehouse_name),
+           (select r.ID from DPH r where r.NAZEV = rate_name),
            (select t.IS_OPEN from STAGING_TABLE t where t.NAME = 'note_staged')
     into item, warehouse, rate, is_open;
     if is_open is not true then
@@ -66,9 +70,9 @@ begin
     end if;
 
     if item is null or warehouse is null or rate is null then
-        perform refuse_unknown_item(typed(a_SKLADPOL));
-        perform refuse_unknown_warehouse(typed(a_SKLAD));
-        perform refuse_unknown_rate(typed(a_DPH));
+        perform refuse_unknown_item(item_name);
+        perform refuse_unknown_warehouse(warehouse_name);
+        perform refuse_unknown_rate(rate_name);
     end if;
     if order_line_id is not null then
         order_line := note_line_order_line(order_line_id, item);

@@ -26,23 +26,13 @@ select refuse_closed_staging() as refusal;
 delete from ORDER_SENT;
 delete from ORDER_SENT_QUANTITY;
 
--- Of a row that the editor fills one slot has something; the empty ones cost nothing more than this.
-insert into ORDER_SENT_QUANTITY (SLOT, LABEL, MNOZSTVI, SKPLID, JEDNOTKY)
-select *
-from (values
-    (0, 'Množství', typed(:a_MNOZSTVI), typed_id(:a_SKPLID), typed(:a_JEDNOTKY)),
-    (1, 'Množství ve vedlejší jednotce 1', typed(:a_MNOZSTVIV1), typed_id(:a_SKPLIDV1), typed(:a_JEDNOTKYV1)),
-    (2, 'Množství ve vedlejší jednotce 2', typed(:a_MNOZSTVIV2), typed_id(:a_SKPLIDV2), typed(:a_JEDNOTKYV2)))
-where coalesce(column3, column4, column5) is not null;
-
 insert into ORDER_SENT (SKLADPOL, SKLAD, DODAVATEL, POPIS, KOMENTAR, SKLPID, SKLDID, DODVID)
-values (typed(:a_SKLADPOL), typed(:a_SKLAD), typed(:a_DODAVATEL), typed(:a_POPIS), typed(:a_KOMENTAR),
-        (select ID from SKLADPOL where NAZEV = typed(:a_SKLADPOL)), (select ID from SKLAD where NAZEV = typed(:a_SKLAD)),
-        (select ID from DODAVATEL where JMENO = typed(:a_DODAVATEL)));
-
-delete from ORDER_SENT
-where coalesce(SKLADPOL, SKLAD, DODAVATEL, POPIS, KOMENTAR) is null
-  and not exists (select 1 from ORDER_SENT_QUANTITY);
+select typed(:a_SKLADPOL), typed(:a_SKLAD), typed(:a_DODAVATEL), typed(:a_POPIS), typed(:a_KOMENTAR),
+       (select ID from SKLADPOL where NAZEV = typed(:a_SKLADPOL)), (select ID from SKLAD where NAZEV = typed(:a_SKLAD)),
+       (select ID from DODAVATEL where JMENO = typed(:a_DODAVATEL))
+where coalesce(typed(:a_SKLADPOL), typed(:a_SKLAD), typed(:a_DODAVATEL), typed(:a_POPIS), typed(:a_KOMENTAR),
+               typed(:a_MNOZSTVI), typed_id(:a_SKPLID), typed(:a_JEDNOTKY), typed(:a_MNOZSTVIV1), typed_id(:a_SKPLIDV1),
+               typed(:a_JEDNOTKYV1), typed(:a_MNOZSTVIV2), typed_id(:a_SKPLIDV2), typed(:a_JEDNOTKYV2)) is not null;
 
 select case
            when SKLPID is null then refuse_unknown_item(SKLADPOL)
@@ -51,21 +41,29 @@ select case
        end as refusal
 from ORDER_SENT;
 
-update ORDER_SENT_QUANTITY
-set MNOZSTVI = coalesce(parse_number(MNOZSTVI, LABEL, 6), '0');
+-- Of a row that the editor fills one slot has something; the empty ones cost nothing more than this.
+insert into ORDER_SENT_QUANTITY (SLOT, MNOZSTVI, SKPLID, JEDNOTKY)
+select column1, coalesce(parse_number(column3, column2, 6), '0'), column4, column5
+from (values
+    (0, 'Množství', typed(:a_MNOZSTVI), typed_id(:a_SKPLID), typed(:a_JEDNOTKY)),
+    (1, 'Množství ve vedlejší jednotce 1', typed(:a_MNOZSTVIV1), typed_id(:a_SKPLIDV1), typed(:a_JEDNOTKYV1)),
+    (2, 'Množství ve vedlejší jednotce 2', typed(:a_MNOZSTVIV2), typed_id(:a_SKPLIDV2), typed(:a_JEDNOTKYV2)))
+where coalesce(column3, column4, column5) is not null;
 
-select refuse('ML048', s.SKLADPOL) as refusal
+-- A quantity without a unit is told before a unit that is not the item's.
+select case
+           when q.MNOZSTVI <> '0' and q.SKPLID is null then refuse('ML048', s.SKLADPOL)
+           when not exists (select 1 from ORDER_SENT_QUANTITY where MNOZSTVI <> '0' and SKPLID is null)
+               then refuse('ML047', coalesce(q.JEDNOTKY, q.SKPLID), s.SKLADPOL)
+       end as refusal
 from ORDER_SENT s
-join ORDER_SENT_QUANTITY q on q.MNOZSTVI <> '0' and q.SKPLID is null
-order by q.SLOT;
-
-select refuse('ML047', coalesce(q.JEDNOTKY, q.SKPLID), s.SKLADPOL) as refusal
-from ORDER_SENT s
-join ORDER_SENT_QUANTITY q on coalesce(q.SKPLID, q.JEDNOTKY) is not null
-where not exists (select 1
-                  from SKPL u
-                  where u.SKLPID = s.SKLPID and (q.SKPLID is null or u.ID = as_integer(q.SKPLID))
-                    and (q.JEDNOTKY is null or u.NAZEV = q.JEDNOTKY))
+join ORDER_SENT_QUANTITY q
+where (q.MNOZSTVI <> '0' and q.SKPLID is null)
+   or (coalesce(q.SKPLID, q.JEDNOTKY) is not null
+       and not exists (select 1
+                       from SKPL u
+                       where u.SKLPID = s.SKLPID and (q.SKPLID is null or u.ID = as_integer(q.SKPLID))
+                         and (q.JEDNOTKY is null or u.NAZEV = q.JEDNOTKY)))
 order by q.SLOT;
 
 insert into ORDER_STAGED (SKLPID, UNITID, SKLDID, DODVID, MNOZSTVI, POPIS, KOMENTAR)

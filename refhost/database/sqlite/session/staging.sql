@@ -69,7 +69,7 @@ create temp table ORDER_SENT (
 
 -- Its quantities with their units, in the order of the editor's columns; none for a slot without a text.
 create temp table ORDER_SENT_QUANTITY (
-    SLOT integer primary key, LABEL text, MNOZSTVI text, SKPLID text, JEDNOTKY text
+    SLOT integer primary key, MNOZSTVI text, SKPLID text, JEDNOTKY text
 );
 
 -- Checked quantities that are not 0, each of which becomes a line, in the order in which they came.
