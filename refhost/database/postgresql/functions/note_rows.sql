@@ -20,14 +20,14 @@ begin
            written_number(coalesce(source.JEDNDPHABEZSLEVY, (p.unit_before).dpha), separator),
            written_number(coalesce(source.JEDNDPHBBEZSLEVY, (p.unit_before).dphb), separator),
            written_number(coalesce(source.JEDNCENASBEZSLEVY, (p.unit_before).cenas), separator),
-           written_total(coalesce(total.CENABSESLEVOU, (p.total_after).cenab), separator),
-           written_total(coalesce(total.DPHASESLEVOU, (p.total_after).dpha), separator),
-           written_total(coalesce(total.DPHBSESLEVOU, (p.total_after).dphb), separator),
-           written_total(coalesce(total.CENASSESLEVOU, (p.total_after).cenas), separator),
-           written_total(coalesce(total.CENABBEZSLEVY, (p.total_before).cenab), separator),
-           written_total(coalesce(total.DPHABEZSLEVY, (p.total_before).dpha), separator),
-           written_total(coalesce(total.DPHBBEZSLEVY, (p.total_before).dphb), separator),
-           written_total(coalesce(total.CENASBEZSLEVY, (p.total_before).cenas), separator),
+           written_total(coalesce(source.CENABSESLEVOU, (p.total_after).cenab), total.MARK),
+           written_total(coalesce(source.DPHASESLEVOU, (p.total_after).dpha), total.MARK),
+           written_total(coalesce(source.DPHBSESLEVOU, (p.total_after).dphb), total.MARK),
+           written_total(coalesce(source.CENASSESLEVOU, (p.total_after).cenas), total.MARK),
+           written_total(coalesce(source.CENABBEZSLEVY, (p.total_before).cenab), total.MARK),
+           written_total(coalesce(source.DPHABEZSLEVY, (p.total_before).dpha), total.MARK),
+           written_total(coalesce(source.DPHBBEZSLEVY, (p.total_before).dphb), total.MARK),
+           written_total(coalesce(source.CENASBEZSLEVY, (p.total_before).cenas), total.MARK),
            date_text(d.DATUM + i.TRVANLIVOSTDNU)
     from unnest(fills) with ordinality f (DOBSID, SKLPID, SKLDID, DPHID, MNOZSTVI, SOURCEID, CENA, SLEVA, LINE)
     join DODAK d on d.ID = note
@@ -35,7 +35,8 @@ begin
     join SKLAD s on s.ID = f.SKLDID
     left join DPH r on r.ID = f.DPHID
     left join DODAKPOL source on source.ID = f.SOURCEID
-    left join DODAKPOL total on total.ID = f.SOURCEID and f.MNOZSTVI is not null
+    -- Where nothing can separate its decimals, a total has no text.
+    cross join lateral (select case when f.MNOZSTVI is not null then separator end as MARK) total
     left join lateral (
         select list.*
         from recalculated_line(
