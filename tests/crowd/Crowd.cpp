@@ -82,7 +82,7 @@ public:
     }
     /// Lets each finish his document.
     void finish() {
-        std::ofstream{evening()};
+        const std::ofstream evening(eveningFile());
         for (const pid_t process : processes_) {
             waitpid(process, nullptr, 0);
         }
@@ -93,7 +93,7 @@ public:
     const std::vector<ClerkTask>& tasksOf(int clerk) const { return tasks_[static_cast<std::size_t>(clerk) - 1]; }
 
 private:
-    std::filesystem::path evening() const { return folder_.path() / "evening"; }
+    std::filesystem::path eveningFile() const { return folder_.path() / "evening"; }
     std::filesystem::path folderOf(int clerk) const { return folder_.path() / roleOf(clerk); }
 
     pid_t start(int clerk, const std::string& database) const {
@@ -107,7 +107,7 @@ private:
         }
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
         execl(orders_.Program.c_str(), orders_.Program.c_str(), "--clerk", std::to_string(clerk).c_str(),
-              database.c_str(), folder.c_str(), evening().c_str(), std::to_string(orders_.Seed).c_str(), nullptr);
+              database.c_str(), folder.c_str(), eveningFile().c_str(), std::to_string(orders_.Seed).c_str(), nullptr);
         _exit(127);
     }
 

@@ -55,7 +55,7 @@ Diary readDiary(const std::filesystem::path& file);
 /// The value below which that share of the latencies lies (0.5: the median).
 double quantile(std::vector<double> latencies, double share);
 
-/// Writes the waits and what of them was served as benchmarks/scale reads them.
+/// Writes the waits and what of them was served as benchmarks/scale reads them: of many every n-th.
 void writeServiceTimes(const std::filesystem::path& file, const Diary& diary);
 
 /// A table of the latencies: how many, median, 95th and 99th percentile, the longest.

@@ -44,7 +44,7 @@ protected:
         return isSo();
     }
     bool lookUntilActive(const LongWork& work = {}) {
-        return lookUntil([this] { return shown() != nullptr && shown()->isActiveWindow(); }, work);
+        return lookUntil([] { return shown() != nullptr && shown()->isActiveWindow(); }, work);
     }
     void lookFor(std::chrono::milliseconds time) {
         const auto end = Clock::now() + time;
