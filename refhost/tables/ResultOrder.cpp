@@ -13,8 +13,16 @@ void ResultOrder::setSearch(const QString& typed) {
     invalidateFilter();
 }
 
+// Rows that are alike stand as the database brought them in either direction, and come back to their places when a
+// search lets them in again. Downwards Qt asks whether the right one is less.
 bool ResultOrder::lessThan(const QModelIndex& left, const QModelIndex& right) const {
-    return model_.isLess(left.row(), right.row(), left.column());
+    if (model_.isLess(left.row(), right.row(), left.column())) {
+        return true;
+    }
+    if (model_.isLess(right.row(), left.row(), left.column())) {
+        return false;
+    }
+    return sortOrder() == Qt::AscendingOrder ? left.row() < right.row() : left.row() > right.row();
 }
 
 bool ResultOrder::filterAcceptsRow(int sourceRow, const QModelIndex&) const {

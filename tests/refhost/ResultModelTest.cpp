@@ -116,6 +116,24 @@ TEST_F(ResultModelTest, SortsByWhatTheValuesMean) {
     EXPECT_EQ(order_.index(1, 2).data().toString(), u"Chládek"); // between Č and Ž
 }
 
+TEST_F(ResultModelTest, RowsThatAreAlikeComeBackToTheirPlacesAfterASearch) {
+    model_.setTable({.Columns = {"CISLO", "DATUM"},
+                     .Rows = {{AnsiString("EXP-280"), AnsiString("22.11.2026")},
+                              {AnsiString("EXP-185"), AnsiString("22.11.2026")},
+                              {AnsiString("DL-577"), AnsiString("22.11.2026")},
+                              {AnsiString("DL-900"), AnsiString("23.11.2026")}}});
+    const std::vector<std::string> alike{"EXP-280 | 22.11.2026", "EXP-185 | 22.11.2026", "DL-577 | 22.11.2026"};
+    for (const Qt::SortOrder direction : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+        std::vector<std::string> expected = alike;
+        expected.insert(direction == Qt::AscendingOrder ? expected.end() : expected.begin(), "DL-900 | 23.11.2026");
+        order_.sort(1, direction);
+        EXPECT_EQ(rows(order_), expected);
+        order_.setSearch(QStringLiteral("185"));
+        order_.setSearch({});
+        EXPECT_EQ(rows(order_), expected) << "after a search";
+    }
+}
+
 TEST_F(ResultModelTest, SearchesTheShownColumnsOnly) {
     model_.setTable(deliveryNotes());
 
