@@ -117,6 +117,25 @@ TEST(SQLiteSession, WhileAnotherSavesReadingGoesOnAndSavingSaysWhy) {
     EXPECT_EQ(lines(*second), "1,1,2");
 }
 
+TEST(SQLiteSession, ATransactionThatCannotEndIsToldAndTakenBackAndTheNextOneEnds) {
+    SQLiteSession session(SQLiteSession::c_InMemory, "novakova", TFormatSettings::Czech(), OpenMode::Create,
+                          std::chrono::milliseconds(0));
+    session.execute("create table PARENT (ID integer primary key);"
+                    "create table CHILD (PARENTID references PARENT (ID) deferrable initially deferred)");
+    {
+        SQLiteTransaction transaction(session, SQLiteTransaction::Kind::Writing);
+        session.execute("insert into CHILD values (7)"); // whose parent never comes
+        EXPECT_THROW(transaction.commit(), EDatabaseError);
+    }
+    EXPECT_NE(sqlite3_get_autocommit(session.handle()), 0) << "the transaction is over";
+    {
+        SQLiteTransaction transaction(session, SQLiteTransaction::Kind::Writing);
+        session.execute("insert into CHILD values (8); insert into PARENT values (8)");
+        transaction.commit();
+    }
+    EXPECT_NE(sqlite3_get_autocommit(session.handle()), 0);
+}
+
 // The save takes the file before it asks whether the note is open: what it had read before it waited would be old.
 TEST(SQLiteSession, ASaveWaitsForTheClosingOfItsNoteAndIsRefused) {
     const SQLiteFile file;
