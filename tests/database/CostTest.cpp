@@ -170,7 +170,8 @@ protected:
     void expectLinear(const char* name, Work work) {
         expectLinear(name, effort(few_, work), effort(many_, work));
     }
-    static void expectLinear(const char* name, const Effort& few, const Effort& many, int times = c_Many / c_Few) {
+    static void expectLinear(const char* name, const Effort& few, const Effort& many,
+                             std::int64_t times = c_Many / c_Few) {
         EXPECT_GT(few.Steps, c_Few) << name << ": nothing is counted";
         EXPECT_LT(2 * many.Steps, 3 * times * few.Steps) << name << ": " << few.Steps;
     }
