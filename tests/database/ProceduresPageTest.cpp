@@ -99,7 +99,7 @@ TEST(ProceduresPageSettings, AreThoseOfASession) {
     for (int row = 0; row < PQntuples(set.get()); ++row) {
         EXPECT_TRUE(toldSettings().contains(PQgetvalue(set.get(), row, 0))) << PQgetvalue(set.get(), row, 0);
     }
-    EXPECT_EQ(toldSettings().size(), 8U);
+    EXPECT_EQ(toldSettings().size(), 9U);
     for (const auto& [name, value] : toldSettings()) {
         const std::vector<TDbValue> parameters{AnsiString(name), AnsiString(value)};
         const bool isTime = name.ends_with("_timeout"); // 60s and 1min are the same one
