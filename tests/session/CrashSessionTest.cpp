@@ -4,6 +4,7 @@
 #include "tests/session/DeliveryNoteTrace.h"
 #include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
+#include "tests/session/WindowTitles.h"
 
 #include <QPoint>
 
@@ -22,7 +23,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-const QString c_NoteTitle = QStringLiteral("Vložení položek dodacího listu");
 const QString c_NoteTitleOfHost = QStringLiteral("Upozornění");
 const QString c_FromTemplate = QStringLiteral("DODAK,SABLONA");
 /// Of the settings menu, in a window of its design size.
@@ -179,7 +179,7 @@ TEST_P(CrashStory, ACrashRightAfterALayoutChangeLosesNothing) {
     workAndTick(session);
     // The last item brings the built-in layout back, once it is confirmed.
     session.pickFromMenu(c_MenuButton, 1, {QStringLiteral("Up"), QStringLiteral("Return")});
-    session.waitForWindow(QStringLiteral("Potvrzení"));
+    session.waitForWindow(c_QuestionTitle);
     session.press({QStringLiteral("Return")});
     session.waitForUnsavedWork({std::string(editor().file) + ".kept"});
     session.crash();

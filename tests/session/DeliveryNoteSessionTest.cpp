@@ -2,6 +2,7 @@
 #include "tests/session/HostSession.h"
 #include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
+#include "tests/session/WindowTitles.h"
 
 #include <gmock/gmock.h>
 
@@ -13,7 +14,6 @@ using testing::IsEmpty;
 using testing::Not;
 using tinycompany::c_OpenNote;
 
-const QString c_EditorTitle = QStringLiteral("Vložení položek dodacího listu");
 const QString c_FromTemplate = QStringLiteral("DODAK,SABLONA");
 
 using DeliveryNoteSession = OnBothEngines;
@@ -21,7 +21,7 @@ using DeliveryNoteSession = OnBothEngines;
 TEST_P(DeliveryNoteSession, FromTheTemplateAsksAndStoresJustThis) {
     HostSession session(tinycompany::on(GetParam()));
     session.startEditor(c_FromTemplate, c_OpenNote);
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.type(QStringLiteral("7,5"));
     session.press({QStringLiteral("Return")});
     session.waitForTrace("MELVARKEDITORDodakVypocetCen");
@@ -68,7 +68,7 @@ TEST_P(DeliveryNoteSession, FromATypedOrderNumberCarriesTheOrderLinesToTheDocume
     session.waitForWindow(QStringLiteral("Výběr objednávky"));
     session.type(QString::fromLatin1(tinycompany::c_OrderNumber));
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.press({QStringLiteral("ctrl+Return")});
     EXPECT_EQ(session.finish(), 0);
 
@@ -117,7 +117,7 @@ TEST_P(DeliveryNoteSession, FromAPickedDeliveryNoteTravelsByItsIdAndLeavesOutWha
     session.waitForTrace(R"("lookup":)");
     // From the edit past the list button (which takes no focus) to "množství".
     session.press({QStringLiteral("Tab"), QStringLiteral("space"), QStringLiteral("Return")});
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.press({QStringLiteral("Escape"), QStringLiteral("alt+F4")});
     EXPECT_EQ(session.finish(), 1);
 
@@ -147,7 +147,7 @@ TEST_P(DeliveryNoteSession, ACancelledSourceEndsQuietly) {
 TEST_P(DeliveryNoteSession, ALineThatTheDatabaseRefusesKeepsTheEditorOpenWithWhatWasTyped) {
     HostSession session(tinycompany::on(GetParam()));
     session.startEditor(c_FromTemplate, c_OpenNote);
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     // Without recalculation the total of 20.00 no longer belongs to 3 pieces at 10.00.
     session.press({QStringLiteral("alt+c")});
     session.type(QStringLiteral("3"));
@@ -156,7 +156,7 @@ TEST_P(DeliveryNoteSession, ALineThatTheDatabaseRefusesKeepsTheEditorOpenWithWha
     EXPECT_TRUE(session.isRunning());
     EXPECT_THAT(storedLines(session), IsEmpty());
     session.press({QStringLiteral("Return")}); // the message is read
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     // With recalculation on again the same quantity is typed once more and the line agrees.
     session.press({QStringLiteral("alt+p")});
     session.press({QStringLiteral("shift+Return"), QStringLiteral("Return")});
@@ -169,14 +169,14 @@ TEST_P(DeliveryNoteSession, ALineThatTheDatabaseRefusesKeepsTheEditorOpenWithWha
 TEST_P(DeliveryNoteSession, ANoteClosedMeanwhileIsRefusedAndTheWorkIsStillThere) {
     HostSession session(tinycompany::on(GetParam()));
     session.startEditor(c_FromTemplate, c_OpenNote);
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.changeDatabase("update DODAK set OTEVRENO = 0 where ID = 2");
     session.press({QStringLiteral("ctrl+Return")});
     session.waitForTrace(R"({"error":)");
     EXPECT_TRUE(session.isRunning());
     EXPECT_THAT(storedLines(session), IsEmpty());
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.changeDatabase("update DODAK set OTEVRENO = 1 where ID = 2");
     session.press({QStringLiteral("ctrl+Return")});
     EXPECT_EQ(session.finish(), 0);
@@ -189,7 +189,7 @@ TEST_P(DeliveryNoteSession, ALineThatOnlyTheClosingCallRefusesIsNamedAndBecomesT
     session.waitForWindow(QStringLiteral("Výběr objednávky"));
     session.type(QString::fromLatin1(tinycompany::c_OrderNumber));
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.changeDatabase("update DODOBJPOL set KOMPLETNI = 1 where ID = 2");
     session.press({QStringLiteral("ctrl+Return")});
     session.waitForTrace(R"({"error":)");
@@ -198,7 +198,7 @@ TEST_P(DeliveryNoteSession, ALineThatOnlyTheClosingCallRefusesIsNamedAndBecomesT
                          "objednávky znovu."));
     EXPECT_THAT(storedLines(session), IsEmpty());
     session.press({QStringLiteral("Return")}); // the message is read
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.changeDatabase("update DODOBJPOL set KOMPLETNI = 0 where ID = 2");
     session.type(QStringLiteral("1")); // into the quantity of the line where the cursor stands
     session.press({QStringLiteral("ctrl+Return")});

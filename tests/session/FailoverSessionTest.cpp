@@ -2,6 +2,7 @@
 #include "tests/refhost/StandbyPair.h"
 #include "tests/session/DeliveryNoteTrace.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/WindowTitles.h"
 
 #include <gmock/gmock.h>
 
@@ -11,8 +12,6 @@ namespace {
 using testing::Contains;
 using testing::HasSubstr;
 
-const QString c_Title = QStringLiteral("Vložení položek dodacího listu");
-const QString c_ErrorTitle = QStringLiteral("Chyba");
 constexpr const char* c_Recalculation = "MELVARKEDITORDodakVypocetCen";
 constexpr const char* c_NobodyThere = "není dostupný. Zkontrolujte jeho adresu a zda běží.";
 
@@ -26,7 +25,7 @@ protected:
     /// The template's lines, the first one with 2.5, which is being typed over: 7 stands in the open cell.
     void typeOneQuantityAndBeginAnother() {
         session_.startEditor(QStringLiteral("DODAK,SABLONA"), refhost::c_OpenNote);
-        session_.waitForWindow(c_Title);
+        session_.waitForWindow(c_NoteTitle);
         session_.press({QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return")});
         session_.type(QStringLiteral("2,5"));
         session_.press({QStringLiteral("Return")});
@@ -37,7 +36,7 @@ protected:
     void readError() {
         session_.waitForWindow(c_ErrorTitle);
         session_.press({QStringLiteral("Return")});
-        session_.waitForWindow(c_Title);
+        session_.waitForWindow(c_NoteTitle);
     }
     /// How many lines with this quantity the note has where it can be written to.
     std::int64_t linesWith(const std::string& quantity) const {

@@ -6,6 +6,7 @@
 #include "tests/session/HostSession.h"
 #include "tests/session/OnBothEngines.h"
 #include "tests/session/SecondDisplay.h"
+#include "tests/session/WindowTitles.h"
 
 #include <QTest>
 
@@ -26,11 +27,8 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-const QString c_Title = QStringLiteral("Vložení položek dodacího listu");
 const QString c_LayoutTitle = QStringLiteral("Uložení nastavení");
 const QString c_ColumnTitle = QStringLiteral("Vlastnosti sloupce");
-const QString c_ErrorTitle = QStringLiteral("Chyba");
-const QString c_QuestionTitle = QStringLiteral("Potvrzení");
 
 constexpr int c_Width = 790;
 constexpr int c_SettingsType = 3; ///< Delivery notes from the template.
@@ -133,12 +131,12 @@ protected:
 
     static void openEditor(HostSession& session) {
         session.startEditor(QStringLiteral("DODAK,SABLONA"), 2);
-        session.waitForWindow(c_Title);
+        session.waitForWindow(c_NoteTitle);
         session.waitForTrace("NactiNastaveniOkna");
     }
 
     static void closeEditor(HostSession& session) {
-        session.waitForWindow(c_Title);
+        session.waitForWindow(c_NoteTitle);
         session.press({QStringLiteral("alt+F4")});
         EXPECT_EQ(session.finish(), 1);
     }
@@ -176,7 +174,7 @@ void shape(HostSession& session) {
     session.press({QStringLiteral("ctrl+a")});
     session.type(QStringLiteral("Kusů"));
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(c_Title);
+    session.waitForWindow(c_NoteTitle);
     session.drag(header(550), header(345));
     session.drag(header(479), header(439)); // the right edge of the item, which begins at 378 now
     const QStringList hide = {QStringLiteral("Down"), QStringLiteral("Down"), QStringLiteral("Return")};
@@ -202,7 +200,7 @@ TEST_P(LayoutSession, AShapedLayoutIsFoundTheNextDayAndPickedByAColleague) {
     first.type(QStringLiteral("kusy vlevo"));
     first.press({QStringLiteral("Tab"), QStringLiteral("space"), QStringLiteral("Return")});
     first.waitForTrace("NASTAVENIGetList", 2);
-    first.waitForWindow(c_Title);
+    first.waitForWindow(c_NoteTitle);
     first.placeWindow(QRect(150, 120, 900, 500));
     closeEditor(first);
 
@@ -239,7 +237,7 @@ TEST_P(LayoutSession, AShapedLayoutIsFoundTheNextDayAndPickedByAColleague) {
     colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
     colleague.pickFromMenu(menuButton(), c_Left, c_Save);
     readError(colleague);
-    colleague.waitForWindow(c_Title);
+    colleague.waitForWindow(c_NoteTitle);
     colleague.pickFromMenu(menuButton(), c_Left, c_SaveAsNewInForce);
     nameIt(colleague, QStringLiteral("Moje zelenina"));
     colleague.waitForTrace("NASTAVENIGetList", 2);
@@ -264,9 +262,9 @@ TEST_P(LayoutSession, WhatTheOwnerDoesWhileAColleagueHasTheMenuOpenIsMetWhenHePi
     openEditor(owner);     // with the one that was kept last in force
     owner.pickFromMenu(menuButton(), c_Left, c_FirstSaved);
     owner.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
-    owner.waitForWindow(c_Title);
+    owner.waitForWindow(c_NoteTitle);
     const auto pickFirst = [&](const std::function<void()>& meanwhile) {
-        colleague.waitForWindow(c_Title);
+        colleague.waitForWindow(c_NoteTitle);
         colleague.openMenuAt(menuButton(), c_Left);
         meanwhile();
         colleague.press(c_FirstSaved);
@@ -280,10 +278,10 @@ TEST_P(LayoutSession, WhatTheOwnerDoesWhileAColleagueHasTheMenuOpenIsMetWhenHePi
         owner.waitForTrace(R"("MELVARKEDITORNASTAVENIUloz")");
     });
     colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")");
-    colleague.waitForWindow(c_Title);
+    colleague.waitForWindow(c_NoteTitle);
     colleague.pickFromMenu(menuButton(), c_Left, c_Save);
     readError(colleague); // it is not his, nor his to rename
-    colleague.waitForWindow(c_Title);
+    colleague.waitForWindow(c_NoteTitle);
     colleague.pickFromMenu(menuButton(), c_Left, c_Rename);
     nameIt(colleague, QStringLiteral("Moje"));
     readError(colleague);
@@ -297,7 +295,7 @@ TEST_P(LayoutSession, WhatTheOwnerDoesWhileAColleagueHasTheMenuOpenIsMetWhenHePi
         owner.pickFromMenu(menuButton(), c_Left, c_Rename);
         nameIt(owner, QStringLiteral("Jinak"));
         owner.waitForTrace("NASTAVENIPremenuj");
-        owner.waitForWindow(c_Title);
+        owner.waitForWindow(c_NoteTitle);
     });
     colleague.waitForTrace(R"("MELVARKEDITORNASTAVENINacti")", 2);
 
@@ -308,7 +306,7 @@ TEST_P(LayoutSession, WhatTheOwnerDoesWhileAColleagueHasTheMenuOpenIsMetWhenHePi
             owner.waitForWindow(c_LayoutTitle);
             owner.press(c_TurnSharing);
             owner.waitForTrace("NASTAVENIPremenuj", count);
-            owner.waitForWindow(c_Title);
+            owner.waitForWindow(c_NoteTitle);
         });
         if (count == 2) {
             readError(colleague);
@@ -324,9 +322,9 @@ TEST_P(LayoutSession, WhatTheOwnerDoesWhileAColleagueHasTheMenuOpenIsMetWhenHePi
         owner.waitForTrace(R"("MELVARKEDITORNASTAVENISmaz")");
     });
     readError(colleague);
-    colleague.waitForWindow(c_Title);
+    colleague.waitForWindow(c_NoteTitle);
     colleague.openMenuAt(menuButton(), c_Left);
-    owner.waitForWindow(c_Title);
+    owner.waitForWindow(c_NoteTitle);
     owner.pickFromMenu(menuButton(), c_Left, c_SaveAsNew);
     owner.waitForWindow(c_LayoutTitle);
     owner.type(QStringLiteral("Akce"));
@@ -370,7 +368,7 @@ TEST_P(LayoutSession, TheBuiltInLayoutIsRestoredAndFoundTheNextDay) {
     first.pickFromMenu(menuButton(), c_Left, c_Restore);
     first.waitForWindow(c_QuestionTitle);
     first.press({QStringLiteral("alt+n")}); // not yet
-    first.waitForWindow(c_Title);
+    first.waitForWindow(c_NoteTitle);
     first.pickFromMenu(menuButton(), c_Left, c_Restore);
     first.waitForWindow(c_QuestionTitle);
     first.press({QStringLiteral("alt+a")});
@@ -414,7 +412,7 @@ TEST_P(LayoutSession, ATakenNameIsToldAndAskedForAgainWithItsTexts) {
     session.type(QStringLiteral(" 2"));
     session.press({QStringLiteral("Return")});
     session.waitForTrace("NASTAVENIGetList", 2);
-    session.waitForWindow(c_Title);
+    session.waitForWindow(c_NoteTitle);
     session.pickFromMenu(menuButton(), c_Left, c_Rename);
     nameIt(session, QStringLiteral("Můj"));
     readError(session);
@@ -456,7 +454,7 @@ TEST(LayoutSessionLink, ALinkLostWhileThePlaceIsStoredIsToldAndTheWindowCloses) 
     company.open();
     HostSession session("postgresql:" + refhost::PrivateServer::instance().address(company.name(), "novakova"));
     session.startEditor(QStringLiteral("DODAK,SABLONA"), 1);
-    session.waitForWindow(c_Title);
+    session.waitForWindow(c_NoteTitle);
     session.waitForTrace("NactiNastaveniOkna");
     company.cutLinks();
     session.press({QStringLiteral("alt+F4")});
@@ -475,7 +473,7 @@ TEST(LayoutSessionLink, ALinkLostAfterOkIsToldAndTheWindowClosesWithItsResult) {
                      "select pg_terminate_backend(pg_backend_pid()) $$");
     HostSession session(url + " user=novakova");
     session.startEditor(QStringLiteral("DODAK,SABLONA"), 2);
-    session.waitForWindow(c_Title);
+    session.waitForWindow(c_NoteTitle);
     session.waitForTrace("NactiNastaveniOkna");
     session.press({QStringLiteral("ctrl+Return")});
     session.waitForWindow(c_ErrorTitle);

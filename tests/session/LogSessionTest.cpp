@@ -1,6 +1,7 @@
 #include "tests/session/HostSession.h"
 #include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
+#include "tests/session/WindowTitles.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -21,8 +22,6 @@ using testing::IsEmpty;
 using testing::IsSupersetOf;
 using testing::Not;
 
-const QString c_EditorTitle = QStringLiteral("Vložení položek dodacího listu");
-
 std::filesystem::path logFile() {
     return std::filesystem::path(std::getenv("XDG_STATE_HOME")) / "melvark" / "host.log";
 }
@@ -42,7 +41,7 @@ void work(HostSession& session) {
     session.waitForWindow(QStringLiteral("Výběr objednávky"));
     session.type(QStringLiteral("OV2027-000009"));
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(QStringLiteral("Chyba"));
+    session.waitForWindow(c_ErrorTitle);
     session.press({QStringLiteral("Return")});
     session.waitForWindow(QStringLiteral("Výběr objednávky"));
     session.press({QStringLiteral("F5")});
@@ -52,7 +51,7 @@ void work(HostSession& session) {
     session.waitForTrace(R"("lookup":)");
     session.waitForWindow(QStringLiteral("Výběr objednávky"));
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.type(QStringLiteral("7391,25"));
     session.press({QStringLiteral("Return")});
     session.waitForTrace("MELVARKEDITORDodakVypocetCen");

@@ -6,6 +6,7 @@
 #include "tests/database/SlowCalls.h"
 #include "tests/session/DeliveryNoteTrace.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/WindowTitles.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <QLayout>
@@ -22,10 +23,7 @@ using testing::Contains;
 using testing::HasSubstr;
 using testing::Not;
 
-const QString c_Main = QStringLiteral("Melvark – nákup a sklad");
-const QString c_Editor = QStringLiteral("Vložení položek dodacího listu");
 const QString c_Progress = QStringLiteral("Prosím čekejte");
-const QString c_Error = QStringLiteral("Chyba");
 const QString c_FromTemplate = QStringLiteral("DODAK,SABLONA");
 constexpr std::string_view c_Fill = "MELVARKEDITORDodakGetPolozkyByDodak";
 constexpr std::string_view c_Recalculation = "MELVARKEDITORDodakVypocetCen";
@@ -49,11 +47,12 @@ protected:
                    : QStringList{QStringLiteral("--procedures"), QString::fromStdString(folder_.path().string())};
     }
     void open() { session_.startEditor(c_FromTemplate, refhost::c_OpenNote, procedures()); }
-    /// The template's lines with a quantity in the first one, three editable cells behind the one that is open.
+    /// The template's lines with a quantity in the second one, three editable cells behind the one that is open.
     void openAndType(const QString& quantity) {
         open();
-        session_.waitForWindow(c_Editor);
-        session_.press({QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return")});
+        session_.waitForWindow(c_NoteTitle);
+        session_.press(
+            {QStringLiteral("Down"), QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return")});
         session_.type(quantity);
         session_.press({QStringLiteral("Return")});
     }
@@ -93,7 +92,7 @@ TEST_P(LongWorkSession, AFillThatTakesLongIsShownAndGoesOn) {
     slow_->take(c_Long);
     open();
     session_.waitForWindow(c_Progress);
-    session_.waitForWindow(c_Editor);
+    session_.waitForWindow(c_NoteTitle);
     leaveUnsaved();
     EXPECT_THAT(session_.trace(), Not(Contains(boxOrError())));
 }
@@ -120,7 +119,7 @@ TEST_P(LongWorkSession, AFillFromTheMainWindowIsStoppedByAClickAndTheWindowGoesO
     slowDown(c_Fill);
     slow_->takeForever();
     session_.start(procedures());
-    session_.waitForWindow(c_Main);
+    session_.waitForWindow(c_MainTitle);
     session_.openMenu(QStringLiteral("F8"));
     session_.press({QStringLiteral("Up"), QStringLiteral("Return")});
     session_.waitForWindow(c_Progress);
@@ -131,16 +130,16 @@ TEST_P(LongWorkSession, AFillFromTheMainWindowIsStoppedByAClickAndTheWindowGoesO
     likeTheHosts.adjustSize();
     session_.click(likeTheHosts.findChild<QPushButton*>(QStringLiteral("stopButton"))->geometry().center());
     session_.waitForTrace(c_Stopped);
-    session_.waitForWindow(c_Main);
+    session_.waitForWindow(c_MainTitle);
     EXPECT_THAT(session_.trace(), Not(Contains(boxOrError())));
 
     slow_->take(1);
     session_.openMenu(QStringLiteral("F8"));
     session_.press({QStringLiteral("Up"), QStringLiteral("Return")});
-    session_.waitForWindow(c_Editor);
+    session_.waitForWindow(c_NoteTitle);
     session_.press({QStringLiteral("Escape"), QStringLiteral("alt+F4")});
     session_.waitForTrace("MELVARKEDITORNASTAVENIUlozNastaveniOkna");
-    session_.waitForWindow(c_Main);
+    session_.waitForWindow(c_MainTitle);
     session_.press({QStringLiteral("ctrl+q")});
     EXPECT_EQ(session_.finish(), 0);
 }
@@ -153,7 +152,7 @@ TEST_P(LongWorkSession, KeysThatAreTypedMeanwhileDoNothing) {
     session_.type(QStringLiteral("77"));
     session_.press({QStringLiteral("Down"), QStringLiteral("Down")});
     session_.waitForTrace(std::string(c_Recalculation));
-    session_.waitForWindow(c_Editor);
+    session_.waitForWindow(c_NoteTitle);
     slow_->take(1);
     save();
     EXPECT_EQ(session_.finish(), 0);
@@ -169,7 +168,7 @@ TEST_P(LongWorkSession, AStoppedRecalculationLeavesTheValueInItsCellToBeCheckedA
     session_.waitForWindow(c_Progress);
     session_.press({QStringLiteral("Escape")});
     session_.waitForTrace(c_Stopped);
-    session_.waitForWindow(c_Editor);
+    session_.waitForWindow(c_NoteTitle);
     slow_->take(1);
     session_.press({QStringLiteral("Return")});
     session_.waitForTrace(std::string(c_Recalculation), 2);
@@ -189,7 +188,7 @@ TEST_P(LongWorkSession, ASaveIsStoppedBeforeItsClosingCallAndTheNextOneSavesOnce
     session_.waitForWindow(c_Progress);
     session_.press({QStringLiteral("Escape")});
     session_.waitForTrace(c_Stopped);
-    session_.waitForWindow(c_Editor);
+    session_.waitForWindow(c_NoteTitle);
     EXPECT_EQ(count("1 = 1"), before);
     EXPECT_THAT(session_.trace(), Not(Contains(boxOrError())));
     EXPECT_EQ(calls("MELVARKEDITORResetTemp"), 1);
@@ -222,9 +221,9 @@ TEST_P(LongWorkSession, ARefusalAfterALongWaitIsShownAsEver) {
     session_.changeDatabase("update DODAK set OTEVRENO = 0 where ID = 2");
     save();
     session_.waitForWindow(c_Progress);
-    session_.waitForWindow(c_Error);
+    session_.waitForWindow(c_ErrorTitle);
     session_.press({QStringLiteral("Return")});
-    session_.waitForWindow(c_Editor);
+    session_.waitForWindow(c_NoteTitle);
     leaveUnsaved();
     EXPECT_EQ(linesWith("2.5"), "0");
     EXPECT_THAT(session_.trace(),
@@ -243,10 +242,10 @@ TEST_P(LongWorkOnServerSession, ALinkThatIsLostMeanwhileIsToldAndTheValueIsCheck
     session_.waitForWindow(c_Progress);
     session_.changeDatabase("select pg_terminate_backend(pid) from pg_stat_activity "
                             "where usename = 'novakova' and datname = current_database() and pid <> pg_backend_pid()");
-    session_.waitForWindow(c_Error);
+    session_.waitForWindow(c_ErrorTitle);
     slow_->take(1);
     session_.press({QStringLiteral("Return")});
-    session_.waitForWindow(c_Editor);
+    session_.waitForWindow(c_NoteTitle);
     session_.press({QStringLiteral("Return")});
     session_.waitForTrace(std::string(c_Recalculation), 2);
     save();

@@ -4,6 +4,7 @@
 #include "tests/database/PrivateServer.h"
 #include "tests/session/DeliveryNoteTrace.h"
 #include "tests/session/HostSession.h"
+#include "tests/session/WindowTitles.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -16,8 +17,6 @@ using refhost::Engine;
 using testing::Contains;
 using testing::HasSubstr;
 
-const QString c_Title = QStringLiteral("Vložení položek dodacího listu");
-const QString c_ErrorTitle = QStringLiteral("Chyba");
 constexpr const char* c_Fill = "melvarkeditordodakgetpolozkybydodak(";
 constexpr const char* c_Recalculate = "melvarkeditordodakvypocetcen(";
 constexpr const char* c_Row = "melvarkeditordodakinserttotemp(";
@@ -43,7 +42,7 @@ protected:
     /// The template's lines with a quantity in the first one's cell, three editable cells behind the one that is open.
     void type(const QString& quantity) {
         start();
-        session_.waitForWindow(c_Title);
+        session_.waitForWindow(c_NoteTitle);
         session_.press({QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return")});
         session_.type(quantity);
         session_.press({QStringLiteral("Return")});
@@ -59,7 +58,7 @@ protected:
     void readError() {
         session_.waitForWindow(c_ErrorTitle);
         session_.press({QStringLiteral("Return")});
-        session_.waitForWindow(c_Title);
+        session_.waitForWindow(c_NoteTitle);
     }
     void save() {
         session_.press({QStringLiteral("ctrl+Return")});

@@ -2,6 +2,7 @@
 #include "tests/session/HostSession.h"
 #include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
+#include "tests/session/WindowTitles.h"
 
 #include <gmock/gmock.h>
 
@@ -11,10 +12,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-const QString c_MainTitle = QStringLiteral("Melvark – nákup a sklad");
-const QString c_EditorTitle = QStringLiteral("Vložení položek dodacího listu");
-const QString c_ErrorTitle = QStringLiteral("Chyba");
 
 /// F8, and the last entry of the menu: the template of the latest delivery notes.
 void insertFromTemplate(HostSession& session) {
@@ -41,7 +38,7 @@ TEST_P(MainWindowSession, ANoteIsFoundByTypingFilledByKeysAndStillCurrentAfterwa
     session.type(QStringLiteral("dl2"));
     session.press({QStringLiteral("Return"), QStringLiteral("Escape")}); // all notes again, the found one current
     insertFromTemplate(session);
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.press({QStringLiteral("ctrl+Return")});
     session.waitForTrace("MELVARKEDITORNASTAVENIUlozNastaveniOkna");
     session.waitForWindow(c_MainTitle);
@@ -50,7 +47,7 @@ TEST_P(MainWindowSession, ANoteIsFoundByTypingFilledByKeysAndStillCurrentAfterwa
     session.press({QStringLiteral("F5")});
     insertFromTemplate(session);
     session.waitForTrace("MELVARKEDITORNASTAVENINactiNastaveniOkna", 2);
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.press({QStringLiteral("alt+F4")});
     session.waitForTrace("MELVARKEDITORNASTAVENIUlozNastaveniOkna", 2);
     session.waitForWindow(c_MainTitle);

@@ -3,6 +3,7 @@
 #include "tests/session/HostSession.h"
 #include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
+#include "tests/session/WindowTitles.h"
 
 #include <filesystem>
 #include <fstream>
@@ -41,12 +42,12 @@ TEST(ProblemReportSession, FromAnErrorHasNeitherPasswordNorConnectionNorWhatWasT
     session.waitForWindow(QStringLiteral("Výběr objednávky"));
     session.type(QStringLiteral("OV7777-123456"));
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(QStringLiteral("Chyba"));
+    session.waitForWindow(c_ErrorTitle);
     session.press({QStringLiteral("alt+h")});
     session.waitForWindow(QStringLiteral("Upozornění"));
     const std::string report = onlyReport(session.home());
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(QStringLiteral("Chyba"));
+    session.waitForWindow(c_ErrorTitle);
     session.press({QStringLiteral("Return")});
     session.waitForWindow(QStringLiteral("Výběr objednávky"));
     session.press({QStringLiteral("Escape")});
@@ -67,11 +68,11 @@ TEST_P(ReportFromMainWindow, IsWrittenByItsKeyAndNamesTheEngine) {
     const std::string company = tinycompany::on(GetParam());
     HostSession session(company);
     session.start({});
-    session.waitForWindow(QStringLiteral("Melvark – nákup a sklad"));
+    session.waitForWindow(c_MainTitle);
     session.press({QStringLiteral("ctrl+shift+h")});
     session.waitForWindow(QStringLiteral("Upozornění"));
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(QStringLiteral("Melvark – nákup a sklad"));
+    session.waitForWindow(c_MainTitle);
     session.press({QStringLiteral("ctrl+q")});
     EXPECT_EQ(session.finish(), 0);
     const std::string report = onlyReport(session.home());

@@ -2,6 +2,7 @@
 #include "tests/session/HostSession.h"
 #include "tests/session/OnBothEngines.h"
 #include "tests/session/TinyCompany.h"
+#include "tests/session/WindowTitles.h"
 
 #include <gmock/gmock.h>
 
@@ -11,9 +12,6 @@ using refhost::Engine;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 using tinycompany::c_OpenNote;
-
-const QString c_EditorTitle = QStringLiteral("Vložení položek dodacího listu");
-const QString c_ErrorTitle = QStringLiteral("Chyba");
 
 /// One way to name a source: what the session asks when it is checked and read.
 struct SourceKind {
@@ -97,7 +95,7 @@ TEST_P(SourceSession, ARefusedSourceIsToldAndItsTextCorrectedInTheOpenDialog) {
     // The text is still there: its last letter alone is typed anew.
     session.waitForWindow(QString::fromUtf8(kind.title));
     session.press({QStringLiteral("End"), QStringLiteral("BackSpace"), QStringLiteral("1"), QStringLiteral("Return")});
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.press({QStringLiteral("alt+F4")});
     EXPECT_EQ(session.finish(), 1);
 
@@ -133,7 +131,7 @@ TEST_P(SourceSessionOfNothing, NeitherTextNorPickIsRefusedAndAPickFromTheListThe
     session.waitForTrace(R"("lookup":)");
     session.waitForWindow(QStringLiteral("Výběr objednávky"));
     session.press({QStringLiteral("Return")});
-    session.waitForWindow(c_EditorTitle);
+    session.waitForWindow(c_NoteTitle);
     session.press({QStringLiteral("alt+F4")});
     EXPECT_EQ(session.finish(), 1);
 

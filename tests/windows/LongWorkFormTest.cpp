@@ -44,8 +44,9 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(editor_.get()));
     }
 
-    /// To the third editable cell behind the first one: a quantity.
+    /// To the quantity of the second line: the third editable cell behind the first one.
     void goToQuantity() const {
+        QTest::keyClick(focusedWidget(), Qt::Key_Down);
         for (int i = 0; i < 3; ++i) {
             QTest::keyClick(focusedWidget(), Qt::Key_Return);
         }
@@ -69,6 +70,7 @@ INSTANTIATE_TEST_SUITE_P(Engines, LongWorkForm, testing::ValuesIn(c_BothEngines)
 
 TEST_P(LongWorkForm, UnsavedWorkIsNotWrittenMeanwhileButAsSoonAsTheWorkIsOver) {
     goToQuantity();
+    ASSERT_EQ(editor_->findChild<TStringGrid*>()->Row(), 2);
     QTest::keyClicks(focusedWidget(), QStringLiteral("2,5"));
     slow_->take(4'000'000);
     std::filesystem::remove(editor_->TempFileName());
