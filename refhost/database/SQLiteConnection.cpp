@@ -97,9 +97,8 @@ void SQLiteConnection::createSessionTables() {
 }
 
 void SQLiteConnection::useWriteAheadLog() {
-    std::string_view sql = "pragma journal_mode = wal";
-    SQLiteStatement statement(session_, sql);
-    statement.step();
+    // The engine turns a file with all others shut out, and does not wait for one who is writing in it.
+    session_.executePatiently("pragma journal_mode = wal");
 }
 
 bool SQLiteConnection::hasSchema() {

@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 namespace refhost {
@@ -40,7 +41,7 @@ bool isWriting(int action) {
 
 SQLiteSession::SQLiteSession(std::string file, std::string user, const TFormatSettings& settings, OpenMode mode,
                              std::chrono::milliseconds patience)
-    : file_(std::move(file)), user_(std::move(user)), settings_(settings) {
+    : file_(std::move(file)), user_(std::move(user)), settings_(settings), patience_(patience) {
     const bool create = mode == OpenMode::Create;
     checkPlace(file_, create);
     if (create && file_ != c_InMemory) {
@@ -83,6 +84,19 @@ void SQLiteSession::executeAgain(const std::string& sql) {
     }
     sqlite3_step(statement.get());
     if (const int status = sqlite3_reset(statement.get()); status != SQLITE_OK) {
+        fail(status, sql);
+    }
+}
+
+void SQLiteSession::executePatiently(const std::string& sql) {
+    constexpr std::chrono::milliseconds c_Pause{10};
+    const auto end = std::chrono::steady_clock::now() + patience_;
+    int status = sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr);
+    while ((status & 0xFF) == SQLITE_BUSY && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(c_Pause);
+        status = sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr);
+    }
+    if (status != SQLITE_OK) {
         fail(status, sql);
     }
 }

@@ -41,6 +41,9 @@ public:
     void execute(const std::string& sql);
     /// As execute for one statement that is run again and again: it is prepared once.
     void executeAgain(const std::string& sql);
+    /// As execute for what the engine refuses at once while another connection is writing: tries again for as long as a
+    /// statement waits.
+    void executePatiently(const std::string& sql);
 
     /// Throws the failure that the engine reported with `code`: the refusal of a function of ours when one stands
     /// behind it, else a sentence about the file.
@@ -64,6 +67,7 @@ private:
     std::string file_;
     std::string user_;
     TFormatSettings settings_;
+    std::chrono::milliseconds patience_;
     Access access_ = Access::Everything;
     bool writes_ = false;
     std::optional<EDatabaseError> failure_;

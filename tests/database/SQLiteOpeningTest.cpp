@@ -4,6 +4,7 @@
 #include <fstream>
 #include <gmock/gmock.h>
 #include <sqlite3.h>
+#include <thread>
 #include <unistd.h>
 
 namespace refhost {
@@ -21,6 +22,11 @@ std::string openingError(const SQLiteFile& file, bool create = false) {
     return "opened";
 }
 
+/// Opens the file as the host does, which waits for others.
+void openForPatientClerk(const SQLiteFile& file) {
+    openDatabase("sqlite:" + file.path().string(), "novakova", TFormatSettings::Czech(), OpenMode::Existing);
+}
+
 /// Another program's own connection to the file.
 class OtherProgram {
 public:
@@ -30,6 +36,13 @@ public:
         handle_.reset(opened);
     }
     void run(const char* sql) { ASSERT_EQ(sqlite3_exec(handle_.get(), sql, nullptr, nullptr, nullptr), SQLITE_OK); }
+    std::string text(const char* sql) {
+        sqlite3_stmt* prepared = nullptr;
+        EXPECT_EQ(sqlite3_prepare_v2(handle_.get(), sql, -1, &prepared, nullptr), SQLITE_OK);
+        const SQLiteStatementHandle handle(prepared);
+        EXPECT_EQ(sqlite3_step(prepared), SQLITE_ROW) << sql;
+        return reinterpret_cast<const char*>(sqlite3_column_text(prepared, 0));
+    }
 
 private:
     SQLiteHandle handle_;
@@ -107,6 +120,34 @@ TEST(SQLiteOpening, AFileThatAnotherProgramLocks) {
     other.run("pragma journal_mode = delete");
     other.run("begin exclusive");
     EXPECT_THAT(openingError(file), HasSubstr("ML910"));
+}
+
+TEST(SQLiteOpening, TurningAFileToTheLogWaitsForAnotherProgramThatReadsOrWritesInIt) {
+    const SQLiteFile file;
+    file.createCompany();
+    for (const char* work : {"begin; select * from SKLAD", "begin immediate"}) {
+        OtherProgram other(file);
+        other.run("pragma journal_mode = delete");
+        other.run(work);
+        std::thread end([&] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(300));
+            other.run("commit");
+        });
+        EXPECT_EQ(refusalCode([&] { openForPatientClerk(file); }), "none") << work;
+        end.join();
+        EXPECT_EQ(OtherProgram(file).text("pragma journal_mode"), "wal") << work;
+    }
+}
+
+TEST(SQLiteOpening, AFileThatCannotBeTurnedToTheLogIsRefusedAndOpensAfterwards) {
+    const SQLiteFile file;
+    file.createCompany();
+    OtherProgram other(file);
+    other.run("pragma journal_mode = delete");
+    other.run("begin immediate");
+    EXPECT_THAT(openingError(file), HasSubstr("ML910"));
+    other.run("commit");
+    EXPECT_EQ(openingError(file), "opened");
 }
 
 TEST(SQLiteOpening, AReadOnlyFileIsRefusedAtOnce) {
