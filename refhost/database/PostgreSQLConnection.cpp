@@ -67,7 +67,7 @@ void PostgreSQLConnection::refuseAfterUpgrade() {
 }
 
 void PostgreSQLConnection::restoreLink() {
-    endReading();
+    reading_.end();
     endRows();
     refuseAfterUpgrade();
     if (!session_.isLost()) {
@@ -159,7 +159,7 @@ TCallResult PostgreSQLConnection::executeAgainstConflicts(const TProcedureCall& 
 }
 
 TCallResult PostgreSQLConnection::Execute(const TProcedureCall& call) {
-    endReading();
+    reading_.end();
     const SqlScript::SaveRole role = saveRole(call.Name);
     if (role.AnswerMayComeLater) {
         refuseAfterUpgrade();
@@ -270,14 +270,8 @@ TResultTable PostgreSQLConnection::Query(const AnsiString& sql) {
 
 std::shared_ptr<RowReader> PostgreSQLConnection::openRows(const AnsiString& sql) {
     auto reader = reading(sql, [&] { return std::make_shared<PostgreSQLReader>(session_, sql); });
-    reading_ = reader;
+    reading_.begin(reader);
     return reader;
-}
-
-void PostgreSQLConnection::endReading() {
-    if (const std::shared_ptr<RowReader> reader = reading_.lock()) {
-        reader->takeRest();
-    }
 }
 
 } // namespace refhost

@@ -48,8 +48,6 @@ private:
     /// Waits for the rows under way, so that the session can be used for something else. Throws nothing about them.
     void endRows();
     void throwRowFailure();
-    /// Has the open reading take its rest.
-    void endReading();
     /// A query's work; what the server says when the statement does not only read, or there is no company, is told so.
     template <typename Work>
     auto reading(const AnsiString& sql, Work work);
@@ -62,7 +60,7 @@ private:
     std::map<std::string, PostgreSQLProcedure> procedures_; ///< By lower-case name.
     PostgreSQLPipeline rows_{session_};
     int rowsOfSave_ = 0; ///< Sent since the save began.
-    std::weak_ptr<RowReader> reading_;
+    ReadingUnderWay reading_;
 };
 
 } // namespace refhost

@@ -52,4 +52,10 @@ RowReader::Rows RowReader::fetchWhileOpen(std::size_t most) {
     }
 }
 
+void ReadingUnderWay::end() {
+    if (const std::shared_ptr<RowReader> reader = reader_.lock()) {
+        reader->takeRest();
+    }
+}
+
 } // namespace refhost

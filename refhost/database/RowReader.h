@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <deque>
 #include <exception>
+#include <memory>
+#include <utility>
 #include <vector>
 
 namespace refhost {
@@ -44,6 +46,17 @@ private:
     bool isOpen_ = true;
     std::deque<std::vector<TDbValue>> taken_;
     std::exception_ptr failure_;
+};
+
+/// The reading that a connection has under way, of which there is one at most.
+class ReadingUnderWay {
+public:
+    void begin(std::weak_ptr<RowReader> reader) { reader_ = std::move(reader); }
+    /// Frees the connection for other work. The reader brings the rest all the same.
+    void end();
+
+private:
+    std::weak_ptr<RowReader> reader_;
 };
 
 } // namespace refhost

@@ -200,7 +200,7 @@ TProcedureInfo SQLiteConnection::Describe(const AnsiString& name) {
 }
 
 TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
-    endReading();
+    reading_.end();
     SQLiteProcedure& called = procedure(call.Name);
     try {
         SQLiteTransaction transaction(session_, called.isWriting() ? SQLiteTransaction::Kind::Writing
@@ -219,7 +219,7 @@ TCallResult SQLiteConnection::Execute(const TProcedureCall& call) {
 }
 
 SQLiteStatement SQLiteConnection::readingStatement(const AnsiString& sql) {
-    endReading();
+    reading_.end();
     parameterValue(ParameterKind::Text, "sql", sql);
     std::string_view text = sql;
     const bool isCompany = hasSchema();
@@ -255,14 +255,8 @@ TResultTable SQLiteConnection::Query(const AnsiString& sql) {
 
 std::shared_ptr<RowReader> SQLiteConnection::openRows(const AnsiString& sql) {
     auto reader = std::make_shared<SQLiteReader>(readingStatement(sql));
-    reading_ = reader;
+    reading_.begin(reader);
     return reader;
-}
-
-void SQLiteConnection::endReading() {
-    if (const std::shared_ptr<RowReader> reader = reading_.lock()) {
-        reader->takeRest();
-    }
 }
 
 std::vector<AnsiString> SQLiteConnection::columns(const AnsiString& sql) {

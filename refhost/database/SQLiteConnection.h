@@ -60,15 +60,13 @@ private:
     void useWriteAheadLog();
     SQLiteProcedure& procedure(const AnsiString& name);
     SQLiteStatement readingStatement(const AnsiString& sql);
-    /// Has the open reading take its rest.
-    void endReading();
 
     std::optional<ProcedureFolder> ownProcedures_;
     SQLiteSession session_; // First: statements of functions and procedures are gone before it closes.
     std::vector<std::unique_ptr<SQLiteScriptFunction>> functions_;
     std::map<std::string, std::unique_ptr<SQLiteProcedure>> procedures_; ///< By lower-case name.
     std::optional<SQLiteStatement> version_; ///< Asks for the version; prepared when there is one.
-    std::weak_ptr<RowReader> reading_;
+    ReadingUnderWay reading_;
 };
 
 } // namespace refhost
