@@ -40,14 +40,28 @@ Interruption interruptedAt(int point, const std::string& url, const std::functio
     return result;
 }
 
-std::vector<int> pointsUpTo(int last) {
+void atManyPoints(int last, const std::function<bool(int point)>& isDoneAfter) {
     constexpr int c_Spread = 12;
-    constexpr int c_LastOnes = 6;
-    std::vector<int> points;
-    for (int point = 1; point <= last; point += point > last - c_LastOnes ? 1 : std::max(1, last / c_Spread)) {
-        points.push_back(point);
+    constexpr int c_Around = 5;
+    int before = 1;
+    int after = last + 1;
+    const auto interrupt = [&](int point) {
+        if (isDoneAfter(point)) {
+            after = std::min(after, point);
+        } else {
+            before = std::max(before, point);
+        }
+    };
+    for (int point = 1; point <= last; point += std::max(1, last / c_Spread)) {
+        interrupt(point);
     }
-    return points;
+    while (after - before > 1) {
+        interrupt(before + (after - before) / 2);
+    }
+    const int end = std::min(last, before + c_Around);
+    for (int point = std::max(1, before - c_Around); point <= end; ++point) {
+        isDoneAfter(point);
+    }
 }
 
 } // namespace refhost

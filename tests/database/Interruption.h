@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 namespace refhost {
 
@@ -21,7 +20,9 @@ inline constexpr int c_NoPoint = 0;
 /// server it does so once.
 Interruption interruptedAt(int point, const std::string& url, const std::function<void(const std::string& url)>& work);
 
-/// A dozen points of so many, and each of the last ones, where the work is taken over.
-std::vector<int> pointsUpTo(int last);
+/// Interrupts work that passes so many points at a dozen of them, and at each of those around the one where it is taken
+/// over. `isDoneAfter` does so at a point, counted from 1, and tells whether the work was done then; at the last points
+/// it may have been.
+void atManyPoints(int last, const std::function<bool(int point)>& isDoneAfter);
 
 } // namespace refhost

@@ -70,16 +70,17 @@ TEST_P(MakingCompany, WhereverItIsKilledItLeavesNothingThatOpensAsACompanyOrTheW
     ASSERT_GT(whole.Passed, 20) << "the points are not counted";
     std::string url = emptyUrl(GetParam());
     int empty = 0;
-    for (const int point : pointsUpTo(whole.Passed)) {
+    atManyPoints(whole.Passed, [&](int point) {
         interruptedAt(point, url, makeCompany); // the last ones may come too late
         if (schemaVersionOf(url) == 0) {
             EXPECT_FALSE(opened(url)->hasSchema()) << point;
             ++empty;
-            continue; // the next one is made in what this one has left
+            return false; // the next one is made in what this one has left
         }
         EXPECT_EQ(opened(url)->Query("select * from SKLAD_V").Rows.size(), 1U) << point;
         url = emptyUrl(GetParam());
-    }
+        return true;
+    });
     EXPECT_GT(empty, 5);
     makeCompany(url);
     EXPECT_EQ(opened(url)->Query("select * from SKLAD_V").Rows.size(), 1U);

@@ -34,6 +34,7 @@ public:
     /// A session of the server's administrator.
     PostgreSQLSession administrator(const std::string& database) const;
     const std::filesystem::path& folder() const { return folder_.path(); }
+    std::filesystem::path logFile() const { return folder() / "log"; }
 
     /// Kills the server in the middle of whatever it does, and starts it again: what was not committed is gone.
     void crash() const;

@@ -118,24 +118,26 @@ TEST(SQLiteUpgrade, ARowThatBreaksTheNewRulesNamesItsTableAndNothingChanges) {
 
 TEST(SQLiteUpgrade, AFullDiskIsToldChangesNothingAndLeavesNoCopy) {
     constexpr int c_ToldSo = 31;
-    const std::string url = versionOneUrl(Engine::SQLite);
+    std::string url = versionOneUrl(Engine::SQLite);
     const auto schema = schemaOf(url);
     const auto rows = contentsOf(url);
     const int writes = interruptedAt(c_NoPoint, versionOneUrl(Engine::SQLite), [](const std::string& other) {
                            upgradeDatabase(other);
                        }).Passed;
     int told = 0;
-    for (const int point : pointsUpTo(writes)) {
+    atManyPoints(writes, [&](int point) {
         const int status = statusOnFullDisk(point, [&] { return failureOf(url).Code() == "ML923" ? c_ToldSo : 0; });
-        if (schemaVersionOf(url) == c_SchemaVersion) {
-            break; // the last writes need no more room
+        if (schemaVersionOf(url) == c_SchemaVersion) { // the last writes need no more room
+            url = versionOneUrl(Engine::SQLite);
+            return true;
         }
         EXPECT_EQ(status, c_ToldSo) << point;
         EXPECT_EQ(schemaOf(url), schema) << point;
         EXPECT_EQ(contentsOf(url), rows) << point;
         EXPECT_FALSE(std::filesystem::exists(pathOf(url) + ".version-1")) << point;
         ++told;
-    }
+        return false;
+    });
     EXPECT_GT(told, 5);
     EXPECT_EQ(contentsOf(url), rows);
 }

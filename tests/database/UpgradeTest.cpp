@@ -138,9 +138,18 @@ TEST_P(Upgrade, PricesThatOverlapAreNamedByTheirTable) {
 TEST_P(Upgrade, ASecondUpgradeHasNothingToDo) {
     const std::string url = versionOneUrl(GetParam());
     upgraded(url);
+    const auto routines = [&] {
+        return GetParam() == Engine::SQLite
+                   ? std::vector<std::string>{}
+                   : BareConnection(url).rows("select oid from pg_proc where pronamespace = 'melvark'::regnamespace");
+    };
+    const auto before = routines();
+
     const UpgradeReport again = upgraded(url);
+
     EXPECT_EQ(again.From, c_SchemaVersion);
     EXPECT_EQ(again.Copy, "");
+    EXPECT_EQ(routines(), before) << "they were made anew";
 }
 
 INSTANTIATE_TEST_SUITE_P(Engines, Upgrade, testing::Values(Engine::SQLite, Engine::PostgreSQL),
