@@ -37,13 +37,17 @@ public:
 
 class HostLibraryManagerTest : public testing::Test {
 protected:
-    std::shared_ptr<RowReader> openRows(const AnsiString& sql) { return rowsOf(host_.connection.Query(sql)); }
+    std::shared_ptr<RowReader> openRows(const AnsiString& sql) {
+        lastOpened_ = sql;
+        return rowsOf(host_.connection.Query(sql));
+    }
     /// The view's answer to a condition, as the list asks for its columns and as it asks for its rows.
     void answerList(const AnsiString& query) {
         host_.connection.answerQuery(query, deliveryNotes());
         host_.connection.answerQuery(query + " order by CISLO", deliveryNotes());
     }
 
+    AnsiString lastOpened_;
     RecordingHost host_;
     TScopedHost scope_{host_};
     Languages languages_{"cs"};
@@ -108,6 +112,16 @@ TEST_F(HostLibraryManagerTest, ALookupGivesDisplayAndKeyOfThePickedRow) {
     EXPECT_EQ(pick->Key, "103");
     EXPECT_EQ(output_->str(), "{\"lookup\":\"Kordan3:DODAK.Normal\",\"display\":\"CISLO\",\"key\":\"_ID\","
                               "\"condition\":\"_DODVID=3\",\"picked\":\"103\"}\n");
+}
+
+TEST_F(HostLibraryManagerTest, ALookupListIsReadInTheOrderInWhichItIsShown) {
+    answerList("select * from DODAK_NORMAL_V where _DODVID=3");
+    const ModalDriver driver(QStringLiteral("lookupDialog"),
+                             [](QWidget&) { QTest::keyClick(focusedWidget(), Qt::Key_Escape); });
+
+    manager_.LookupList("Kordan3:DODAK.Normal", "CISLO", "_ID", "_DODVID=3");
+
+    EXPECT_EQ(lastOpened_, "select * from DODAK_NORMAL_V where _DODVID=3 order by CISLO");
 }
 
 TEST_F(HostLibraryManagerTest, ALookupThatIsLeftGivesNothing) {

@@ -9,11 +9,13 @@
 #include "tests/refhost/ScreenRows.h"
 #include "tests/refhost/TableRows.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -103,6 +105,27 @@ TEST_F(LongLookupList, FillsItselfAndLeavesRowAndViewWhereTheyAre) {
     EXPECT_EQ(bar.value(), scrolled);
     EXPECT_EQ(count(), "3500 z 3500");
     EXPECT_EQ(number(c_Rows - 1), "DL-4499");
+}
+
+TEST_F(LongLookupList, FillsItselfAndLeavesAViewThatTheWheelTookAwayFromItsRow) {
+    open();
+    press(Qt::Key_Down);
+    const std::string key = table().currentKey();
+    const QScrollBar& bar = *table().verticalScrollBar();
+    for (int i = 0; i < 20; ++i) {
+        const QPoint place = table().viewport()->rect().center();
+        QWheelEvent wheel(place, table().viewport()->mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(table().viewport(), &wheel);
+    }
+    const int scrolled = bar.value();
+    ASSERT_GT(scrolled, bar.pageStep()) << "the row is still to be seen";
+    ASSERT_EQ(table().result().rowCount(), c_FirstRows);
+
+    waitForAll();
+
+    EXPECT_EQ(table().currentKey(), key);
+    EXPECT_EQ(bar.value(), scrolled);
 }
 
 TEST_F(LongLookupList, ASearchFindsWhatHadNotBeenRead) {
