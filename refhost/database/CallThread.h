@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <exception>
@@ -10,7 +11,8 @@
 namespace refhost {
 
 /// A thread that runs one call at a time, for callers that have something else to do while they wait. It ends with this
-/// object, after the call that it runs.
+/// object, after the call that it runs. Before either side goes to sleep it looks out for the other for a moment: to be
+/// woken takes longer than most calls of a save.
 class CallThread {
 public:
     using Clock = std::chrono::steady_clock;
@@ -35,7 +37,7 @@ public:
         CallThread& thread_;
         const std::function<void()>& work_;
         std::exception_ptr error_;
-        bool hasEnded_ = false;
+        std::atomic<bool> hasEnded_ = false;
     };
 
     CallThread();
@@ -49,7 +51,7 @@ private:
     std::mutex mutex_;
     std::condition_variable begins_;
     std::condition_variable ends_;
-    Call* call_ = nullptr; ///< Under way.
+    std::atomic<Call*> call_ = nullptr; ///< Under way.
     bool isClosing_ = false;
     std::thread thread_; // Last: it uses all of the others.
 };
