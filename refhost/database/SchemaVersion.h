@@ -10,7 +10,7 @@ namespace refhost {
 /// The version of the tables, views, functions and procedures that this program brings, the same on both engines. A
 /// database remembers the version that it was made or upgraded by. It rises with every release that changes the SQL;
 /// tests/schema-digest holds it against the files.
-inline constexpr std::int64_t c_SchemaVersion = 4;
+inline constexpr std::int64_t c_SchemaVersion = 5;
 
 /// The refusal of a database of another version, which says what to do: an older one is to be upgraded, a newer one
 /// needs a newer program.

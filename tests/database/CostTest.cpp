@@ -153,6 +153,20 @@ private:
     int lines_;
 };
 
+/// Items with two units each, of which the server has not counted any yet.
+void addUncountedItems(Database& database, int count) {
+    std::vector<std::vector<TDbValue>> items;
+    std::vector<std::vector<TDbValue>> units;
+    for (int i = 0; i < count; ++i) {
+        const std::int64_t item = c_FirstItem + i;
+        items.push_back({item, itemName(i), std::int64_t{1}, std::int64_t{2}});
+        units.push_back({item, std::int64_t{0}, "ks", "1"});
+        units.push_back({item, std::int64_t{1}, "karton", "12"});
+    }
+    database.insertRows("SKLADPOL", std::vector<std::string>{"ID", "NAZEV", "SSP3ID", "DPHID"}, items);
+    database.insertRows("SKPL", std::vector<std::string>{"SKLPID", "PORADI", "NAZEV", "FAKTOR"}, units);
+}
+
 class Cost : public testing::TestWithParam<Engine> {
 protected:
     LongCompany few_{GetParam(), c_Few};
@@ -302,6 +316,33 @@ TEST(CostOnPostgreSQL, TheLocalRateIsLookedUpOnceAFill) {
     EXPECT_LE(company.callsOf("recalculation_local_rate", [&] { company.noteFromOrder(); }), 1);
 }
 
+// Rows without a warehouse or supplier of their own asked two functions of refusals, which planned their questions anew
+// each time; and until the server had counted its rows, so did the look-up of an order row's units.
+TEST(CostOnPostgreSQL, TheRowsOfASaveKeepTheirPlans) {
+    CountedDatabase company(Engine::PostgreSQL);
+    addContractCompany(company.database());
+    addUncountedItems(company.database(), 2'000);
+    const auto row = [&](const char* procedure, const std::vector<TDbParam>& parameters) {
+        company.database().Execute({procedure, parameters, false});
+    };
+    const auto rows = [&] {
+        row("MELVARKEDITORDodakInsertToTemp",
+            {{"a_SKLADPOL", "Sirup"}, {"a_MNOZSTVI", "2"}, {"a_DPH", "12 %"}, {"a_TRVANLIVOST", "1.2.2027"}});
+        row("MELVARKEDITORDodObjInsertToTemp",
+            {{"a_SKLADPOL", "Sirup"}, {"a_SKPLID", "71"}, {"a_MNOZSTVI", "2"}, {"a_JEDNOTKY", "l"}});
+    };
+    row("MELVARKEDITORResetTemp", {});
+    for (int i = 0; i < 10; ++i) {
+        rows(); // the first runs of a statement are planned for their values, to see whether that is better
+    }
+    EXPECT_EQ(company.plansOf(rows), 0);
+    const auto anotherSave = [&] {
+        row("MELVARKEDITORResetTemp", {});
+        rows();
+    };
+    EXPECT_GT(company.plansOf(anotherSave), 0) << "the plans are not counted";
+}
+
 // A function that is called for each line costs more than all that it does.
 TEST(CostOnPostgreSQL, TheRowsOfAnOrderAreMadeWithoutACallForEach) {
     LongCompany company(Engine::PostgreSQL, c_Few);
@@ -314,6 +355,19 @@ TEST(CostOnPostgreSQL, PlainNumbersOfARowAreNotTakenApart) {
     company.database().Execute({"MELVARKEDITORResetTemp", {}, false});
     EXPECT_EQ(company.callsOf("parse_number", [&] { company.stageNoteRow({}, itemName(1)); }), 0);
     EXPECT_EQ(company.callsOf("note_line_numbers", [&] { company.stageNoteRow({}, itemName(1)); }), 0);
+}
+
+// To take a date apart by patterns cost a third of a note's row.
+TEST(CostOnPostgreSQL, APlainDateOfARowIsNotTakenApart) {
+    LongCompany company(Engine::PostgreSQL, c_Few);
+    company.database().Execute({"MELVARKEDITORResetTemp", {}, false});
+    const auto row = [&](const char* shelfLife) {
+        company.database().Execute({"MELVARKEDITORDodakInsertToTemp",
+                                    {{"a_SKLADPOL", itemName(1)}, {"a_MNOZSTVI", "2"}, {"a_TRVANLIVOST", shelfLife}},
+                                    false});
+    };
+    EXPECT_EQ(company.callsOf("date_parts", [&] { row("31.12.2027"); }), 0);
+    EXPECT_GT(company.callsOf("date_parts", [&] { row("31. 12. 27"); }), 0) << "the calls are not counted";
 }
 
 // The rule of a list is asked for every document that it shows. In SQL it was planned anew each time.

@@ -2,7 +2,9 @@
 
 #include "refhost/database/PostgreSQLRows.h"
 #include "refhost/database/PostgreSQLSession.h"
+#include "tests/database/PrivateServer.h"
 
+#include <fstream>
 #include <sqlite3.h>
 
 namespace refhost {
@@ -102,6 +104,24 @@ std::int64_t CountedDatabase::callsOf(const std::string& function, const std::fu
     const std::int64_t before = calls();
     work();
     return calls() - before;
+}
+
+std::int64_t CountedDatabase::plansOf(const std::function<void()>& work) {
+    const auto plans = [] {
+        std::ifstream log(PrivateServer::instance().logFile());
+        std::int64_t count = 0;
+        for (std::string line; std::getline(log, line);) {
+            count += line.ends_with("LOG:  plan:") ? 1 : 0;
+        }
+        return count;
+    };
+    database().runScript("set debug_print_plan = on");
+    const std::int64_t before = plans();
+    work();
+    database().awaitAnswers();
+    const std::int64_t after = plans();
+    database().runScript("set debug_print_plan = off");
+    return after - before;
 }
 
 } // namespace refhost

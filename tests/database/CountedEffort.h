@@ -32,6 +32,8 @@ public:
     Effort of(const std::function<void()>& work);
     /// How often the work calls a function of the server.
     std::int64_t callsOf(const std::string& function, const std::function<void()>& work);
+    /// How many statements the server plans for the work.
+    std::int64_t plansOf(const std::function<void()>& work);
 
 private:
     struct Counter;

@@ -83,6 +83,8 @@ TEST_P(OrderSavingContract, ARowThatIsWrongIsRefusedInWords) {
          "ML047 Jednotka „pytel“ nepatří k položce „Mouka hladká“. Načtěte řádek znovu."},
         {{{"a_SKLADPOL", "Chléb"}, {"a_SKPLID", "kus"}},
          "ML047 Jednotka „kus“ nepatří k položce „Chléb“. Načtěte řádek znovu."},
+        {{{"a_SKLADPOL", "Sirup"}, {"a_SKPLID", "71 malá"}, {"a_MNOZSTVI", "1"}, {"a_JEDNOTKY", "lahev"}},
+         "ML047 Jednotka „lahev“ nepatří k položce „Sirup“. Načtěte řádek znovu."},
         {{{"a_SKLADPOL", "Chléb"}, {"a_JEDNOTKYV1", "bedna"}}, // without a quantity too
          "ML047 Jednotka „bedna“ nepatří k položce „Chléb“. Načtěte řádek znovu."},
         {with(flour("1"),
@@ -98,6 +100,7 @@ TEST_P(OrderSavingContract, ARowThatIsWrongIsRefusedInWords) {
          "ML044 Sklad „Sklep“ neexistuje. Vyberte sklad ze seznamu."},
     };
     const auto database = ownCompany();
+    database->runScript("update SKPL set NAZEV = 'malá lahev' where ID = 71"); // a name with a blank
     const std::string before = digest(*database);
     for (const Refusal& refusal : refusals) {
         beginSave(*database);

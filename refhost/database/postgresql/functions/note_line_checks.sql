@@ -50,15 +50,22 @@ end
 $$;
 
 -- Whether every text that is not null is so plain a number that it can be read without a closer look: digits, perhaps a
--- minus before and one point or comma between them, within the decimals of note_line_numbers. Said of all of them at
--- once, for asked one by one they cost most of a row's time. Stable as array_to_string is: else the planner would not put
--- it into the caller's expression.
-create function are_plain_note_numbers(texts text[]) returns boolean
+-- minus before and one point or comma between them, as many as the tables hold. Said of all of them at once, for asked one
+-- by one they cost most of a row's time. Stable as array_to_string is: else the planner would not put it into the caller's
+-- expression.
+create function are_plain_numbers(texts text[]) returns boolean
 language sql stable as $$
-    select array_to_string(texts, ';', '0') || ';' ~ '^(?:-?[0-9]+(?:[.,][0-9]+)?;)*$'
-       and array_to_string(texts, ';', '0') !~ '[0-9]{16}|[.,][0-9]{7}'
-       and strpos(array_to_string(texts, ''), ';') = 0
-       and concat_ws(';', texts[2], array_to_string(texts[11:18], ';')) !~ '[.,][0-9]{3}'
+    select array_to_string(texts, ';', '0') || ';' ~ '^(?:-?[0-9]{1,15}(?:[.,][0-9]{1,6})?;)*$'
+$$;
+
+-- Whether numbers that were read so are one for each text of a row, and its discount and totals have the decimals of
+-- note_line_numbers. A text with a semicolon was read as more than one.
+create function fit_note_line(numbers numeric[]) returns boolean
+language sql immutable as $$
+    select cardinality(numbers) = 18
+       and coalesce(greatest(scale(numbers[2]), scale(numbers[11]), scale(numbers[12]), scale(numbers[13]),
+                             scale(numbers[14]), scale(numbers[15]), scale(numbers[16]), scale(numbers[17]),
+                             scale(numbers[18])) <= 2, true)
 $$;
 
 -- How far a total may be from quantity times unit price: both prices are rounded to their decimals.

@@ -11,6 +11,14 @@ begin
 end
 $$;
 
+-- The unit of a slot of the row: its identifier, a blank and its name; null for an empty slot. A blank in what came for an
+-- identifier becomes another sign: no identifier has one, and the first blank ends it.
+create function order_slot_unit(unit_id text, unit_name text, quantity numeric) returns text
+language sql stable as $$
+    select case when num_nonnulls(unit_id, unit_name, quantity) > 0
+                then concat(replace(unit_id, ' ', '?'), ' ', unit_name) end
+$$;
+
 -- Refuses the first quantity without a unit (ML048), then the first unit that is not the item's or whose name and
 -- identifier do not go together (ML047). `item_name` is the name of the item with the identifier; the arrays have one
 -- element for each quantity of the row.

@@ -36,27 +36,31 @@ declare
         case when a_SKPLIDV2 is not null then typed_id(a_SKPLIDV2) end];
     unit_names constant text[] := array[typed(a_JEDNOTKY), typed(a_JEDNOTKYV1), typed(a_JEDNOTKYV2)];
     quantities numeric[];
-    fitting_units integer;
+    units text[];
     item integer;
     warehouse integer;
     supplier integer;
     is_open boolean;
 begin
-    -- All that a good row needs is looked up at once; what was not found is looked at again, for its refusal.
-    select (select i.ID from SKLADPOL i where i.NAZEV = item_name),
-           (select s.ID from SKLAD s where s.NAZEV = warehouse_name),
-           (select v.ID from DODAVATEL v where v.JMENO = supplier_name),
-           (select t.IS_OPEN from STAGING_TABLE t where t.NAME = 'order_staged')
-    into item, warehouse, supplier, is_open;
+    -- All that a good row needs is looked up at once; what was not found is looked at again, for its refusal. Joined, for a
+    -- subquery of each own costs more.
+    select i.ID, s.ID, v.ID, t.IS_OPEN into item, warehouse, supplier, is_open
+    from (values (null)) one_row
+    left join SKLADPOL i on i.NAZEV = item_name
+    left join SKLAD s on s.NAZEV = warehouse_name
+    left join DODAVATEL v on v.JMENO = supplier_name
+    left join STAGING_TABLE t on t.NAME = 'order_staged';
     if is_open is not true then
         perform refuse_closed_staging();
     end if;
-    if typed(concat(a_SKLADPOL, a_SKLAD, a_DODAVATEL, array_to_string(unit_ids, ''), a_MNOZSTVI, a_JEDNOTKY,
-                    a_MNOZSTVIV1, a_JEDNOTKYV1, a_MNOZSTVIV2, a_JEDNOTKYV2, a_POPIS, a_KOMENTAR)) is null then
+    if item_name is null
+       and typed(concat(a_SKLAD, a_DODAVATEL, array_to_string(unit_ids, ''), a_MNOZSTVI, a_JEDNOTKY, a_MNOZSTVIV1,
+                        a_JEDNOTKYV1, a_MNOZSTVIV2, a_JEDNOTKYV2, a_POPIS, a_KOMENTAR)) is null then
         return;
     end if;
 
-    if item is null or warehouse is null or supplier is null then
+    if item is null or (warehouse is null and warehouse_name is not null)
+       or (supplier is null and supplier_name is not null) then
         perform refuse_unknown_item(item_name);
         perform refuse_unknown_warehouse(warehouse_name);
         perform refuse_unknown_supplier_name(supplier_name);
@@ -68,14 +72,12 @@ begin
              then parse_number(typed(a_MNOZSTVIV1), 'Množství ve vedlejší jednotce 1', 6) end,
         case when a_MNOZSTVIV2 is not null
              then parse_number(typed(a_MNOZSTVIV2), 'Množství ve vedlejší jednotce 2', 6) end];
-    -- Mostly each slot that has something names a unit of the item in full; only the others need the closer look.
-    select count(*) into fitting_units
-    from SKPL u
-    where u.SKLPID = item and (u.ID::text, u.NAZEV) in ((unit_ids[1], unit_names[1]), (unit_ids[2], unit_names[2]),
-                                                        (unit_ids[3], unit_names[3]));
-    if fitting_units <> num_nonnulls(coalesce(unit_ids[1], unit_names[1], quantities[1]::text),
-                                     coalesce(unit_ids[2], unit_names[2], quantities[2]::text),
-                                     coalesce(unit_ids[3], unit_names[3], quantities[3]::text)) then
+    -- Mostly each slot that has something names a unit of the item in full; only the others need the closer look. The
+    -- item's units are few and read whole: counting those that fit, or a condition on them, costs more.
+    units := array(select concat(u.ID, ' ', u.NAZEV) from SKPL u where u.SKLPID = item);
+    if not array_remove(array[order_slot_unit(unit_ids[1], unit_names[1], quantities[1]),
+                              order_slot_unit(unit_ids[2], unit_names[2], quantities[2]),
+                              order_slot_unit(unit_ids[3], unit_names[3], quantities[3])], null) <@ units then
         perform refuse_wrong_unit(item, item_name, quantities, unit_ids, unit_names);
     end if;
 

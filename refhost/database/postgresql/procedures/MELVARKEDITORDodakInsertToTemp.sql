@@ -65,11 +65,13 @@ begin
         perform refuse_closed_staging();
     end if;
     place := set_config('melvark.last_row', (current_setting('melvark.last_row')::integer + 1)::text, false);
-    if typed(concat(order_line_id, a_SKLADPOL, a_SKLAD, a_DPH, a_TRVANLIVOST, array_to_string(texts, ''))) is null then
+    if item_name is null
+       and typed(concat(order_line_id, a_SKLAD, a_DPH, a_TRVANLIVOST, array_to_string(texts, ''))) is null then
         return;
     end if;
 
-    if item is null or warehouse is null or rate is null then
+    if item is null or (warehouse is null and warehouse_name is not null)
+       or (rate is null and rate_name is not null) then
         perform refuse_unknown_item(item_name);
         perform refuse_unknown_warehouse(warehouse_name);
         perform refuse_unknown_rate(rate_name);
@@ -78,9 +80,10 @@ begin
         order_line := note_line_order_line(order_line_id, item);
     end if;
 
-    if are_plain_note_numbers(texts) then
+    if are_plain_numbers(texts) then
         numbers := ('{' || translate(array_to_string(texts, ';', 'null'), ',;', '.,') || '}')::numeric[];
-    else
+    end if;
+    if numbers is null or not fit_note_line(numbers) then
         numbers := note_line_numbers(texts);
     end if;
     if not is_discount(numbers[2]) then

@@ -9,12 +9,12 @@ begin
     -- was sent, so that a refusal of the closing call names the row that the editor sent. NUMBERS as note_line_numbers
     -- gives them.
     create temporary table if not exists NOTE_STAGED (
-        PLACE integer primary key,
+        PLACE integer,
         DOBSID integer, SKLPID integer, SKLDID integer, DPHID integer, NUMBERS numeric[], TRVANLIVOST date
     );
     -- Checked quantities of an order or template, each of which becomes a line.
     create temporary table if not exists ORDER_STAGED (
-        PLACE integer generated always as identity primary key,
+        PLACE integer generated always as identity,
         SKLPID integer, SKPLID integer, SKLDID integer, DODVID integer, MNOZSTVI numeric, POPIS text, KOMENTAR text
     );
     -- Into which order the lines of each supplier go; a null supplier is that of lines without one.

@@ -1,0 +1,2 @@
+-- From version 4 to 5: nothing in the tables that there were. What is new is in procedures, functions and views, which
+-- every upgrade makes anew from their own files.
