@@ -22,11 +22,12 @@ void fill(refhost::Database& database) {
 
 class FailoverSession : public testing::Test {
 protected:
-    /// The template's lines, the first one with 2.5, which is being typed over: 7 stands in the open cell.
+    /// The template's lines, the second one with 2.5, which is being typed over: 7 stands in the open cell.
     void typeOneQuantityAndBeginAnother() {
         session_.startEditor(QStringLiteral("DODAK,SABLONA"), refhost::c_OpenNote);
         session_.waitForWindow(c_NoteTitle);
-        session_.press({QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return")});
+        session_.press(
+            {QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Down")});
         session_.type(QStringLiteral("2,5"));
         session_.press({QStringLiteral("Return")});
         session_.waitForTrace(c_Recalculation);
