@@ -26,7 +26,7 @@ public:
         Call& operator=(const Call&) = delete;
         ~Call();
 
-        /// Waits for the end of the call, but no longer than until then: whether it has ended.
+        /// Waits for the end of the call, but hardly longer than until then: whether it has ended.
         bool hasEndedBy(Clock::time_point moment);
         /// Waits for the end of the call and throws the very exception that it threw.
         void finish();

@@ -42,7 +42,7 @@ public:
     /// As execute for one statement that is run again and again: it is prepared once.
     void executeAgain(const std::string& sql);
     /// As execute for what the engine refuses at once while another connection is writing: tries again for as long as a
-    /// statement waits.
+    /// statement waits; the last try may wait as long itself.
     void executePatiently(const std::string& sql);
 
     /// Throws the failure that the engine reported with `code`: the refusal of a function of ours when one stands

@@ -141,7 +141,8 @@ TEST_P(Upgrade, ASecondUpgradeHasNothingToDo) {
     const auto routines = [&] {
         return GetParam() == Engine::SQLite
                    ? std::vector<std::string>{}
-                   : BareConnection(url).rows("select oid from pg_proc where pronamespace = 'melvark'::regnamespace");
+                   : BareConnection(url).rows(
+                         "select oid from pg_proc where pronamespace = 'melvark'::regnamespace order by oid");
     };
     const auto before = routines();
 
