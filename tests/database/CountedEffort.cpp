@@ -4,7 +4,6 @@
 #include "refhost/database/PostgreSQLSession.h"
 #include "tests/database/PrivateServer.h"
 
-#include <fstream>
 #include <sqlite3.h>
 
 namespace refhost {
@@ -107,14 +106,7 @@ std::int64_t CountedDatabase::callsOf(const std::string& function, const std::fu
 }
 
 std::int64_t CountedDatabase::plansOf(const std::function<void()>& work) {
-    const auto plans = [] {
-        std::ifstream log(PrivateServer::instance().logFile());
-        std::int64_t count = 0;
-        for (std::string line; std::getline(log, line);) {
-            count += line.ends_with("LOG:  plan:") ? 1 : 0;
-        }
-        return count;
-    };
+    const auto plans = [] { return PrivateServer::instance().loggedLines("LOG:  plan:"); };
     database().runScript("set debug_print_plan = on");
     const std::int64_t before = plans();
     work();

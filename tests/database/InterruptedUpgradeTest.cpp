@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <optional>
 #include <sys/wait.h>
@@ -88,14 +87,9 @@ int copiesOf(const std::filesystem::path& file) {
                               [&](const auto& entry) { return entry.path().filename().string().starts_with(begin); }));
 }
 
-/// How often an upgrade has told the programs that are connected to the server, as its log has it.
-int timesNotified() {
-    std::ifstream log(PrivateServer::instance().logFile());
-    int times = 0;
-    for (std::string line; std::getline(log, line);) {
-        times += line.ends_with("notify " + std::string(c_UpgradeChannel)) ? 1 : 0;
-    }
-    return times;
+/// How often an upgrade has told the programs that are connected to the server.
+std::int64_t timesNotified() {
+    return PrivateServer::instance().loggedLines("notify " + std::string(c_UpgradeChannel));
 }
 
 /// The exit status of a process whose upgrade had something to do, and of one whose had nothing.
@@ -152,7 +146,7 @@ TEST_P(TwoUpgradesAtOnce, AreOneAndTheOtherFindsItDone) {
             "do $$ begin execute format('alter database %I set log_statement = %L', current_database(), 'all'); "
             "end $$");
     }
-    const int notified = isFile ? 0 : timesNotified();
+    const std::int64_t notified = isFile ? 0 : timesNotified();
     holder->run(isFile ? "begin immediate" : "begin; lock table melvark.uzivatel in share mode");
     openGateForBoth();
     waitForBoth(url);

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <stdexcept>
 #include <unistd.h>
 
@@ -46,6 +47,15 @@ PrivateServer::~PrivateServer() {
 
 void PrivateServer::start() const {
     run("start '" + folder().string() + "' " + options_ + " --until-exit-of " + std::to_string(getpid()));
+}
+
+std::int64_t PrivateServer::loggedLines(std::string_view end) const {
+    std::ifstream log(folder() / "log");
+    std::int64_t count = 0;
+    for (std::string line; std::getline(log, line);) {
+        count += line.ends_with(end) ? 1 : 0;
+    }
+    return count;
 }
 
 void PrivateServer::crash() const {

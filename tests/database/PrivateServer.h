@@ -2,9 +2,11 @@
 
 #include "tests/support/TemporaryFolder.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace refhost {
 
@@ -34,7 +36,8 @@ public:
     /// A session of the server's administrator.
     PostgreSQLSession administrator(const std::string& database) const;
     const std::filesystem::path& folder() const { return folder_.path(); }
-    std::filesystem::path logFile() const { return folder() / "log"; }
+    /// How many lines of the server's log end so.
+    std::int64_t loggedLines(std::string_view end) const;
 
     /// Kills the server in the middle of whatever it does, and starts it again: what was not committed is gone.
     void crash() const;

@@ -39,11 +39,12 @@ protected:
         return address.replace(address.find(server), server.size(), link_.folder());
     }
     void start() { session_.startEditor(QStringLiteral("DODAK,SABLONA"), refhost::c_OpenNote); }
-    /// The template's lines with a quantity in the first one's cell, three editable cells behind the one that is open.
+    /// The template's lines with a quantity in the second one's cell, three editable cells behind the one that is open.
     void type(const QString& quantity) {
         start();
         session_.waitForWindow(c_NoteTitle);
-        session_.press({QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return")});
+        session_.press(
+            {QStringLiteral("Down"), QStringLiteral("Return"), QStringLiteral("Return"), QStringLiteral("Return")});
         session_.type(quantity);
         session_.press({QStringLiteral("Return")});
     }
